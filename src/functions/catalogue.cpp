@@ -1,0 +1,93 @@
+#include "functions/catalogue.h"
+
+#include "functions/general/settings.h"
+#include "functions/general/switches.h"
+
+namespace quillfen {
+
+const FolderCatalogue& folderCatalogue()
+{
+    static const FolderCatalogue catalogue = {
+        {{"CustomiseUser"}},
+        {{R"(CustomiseUser\CustomRightClick)"}},
+        {{R"(CustomiseUser\DescriptionTags)"}},
+        {{R"(CustomiseUser\HideShare)"}},
+        {{R"(CustomiseUser\IntroOutro)", R"(CustomiseUser\IntroOutro\Ascii)"}},
+
+        {{"Communication"}},
+        {{R"(Communication\AutoCorrect)"}},
+        {{R"(Communication\ChatRooms)"}},
+        {{R"(Communication\Clock)"}},
+        {{R"(Communication\KickBarChanger)"}},
+        {{R"(Communication\MassMessage)"}},
+        {{R"(Communication\MOTD)", R"(Communication\MOTD\MOTDs)"}},
+        {{R"(Communication\Mute)"}},
+        {{R"(Communication\RotatingMainMessage)", R"(Communication\RotatingMainMessage\Files)"}},
+        {{R"(Communication\RotatingPrivateMessage)", R"(Communication\RotatingPrivateMessage\Files)"}},
+        {{R"(Communication\Talk)"}},
+        {{R"(Communication\TopicChanger)"}},
+        {{R"(Communication\WelcomeInfo)"}},
+        {{R"(Communication\Whisper)"}},
+
+        {{"Games"}},
+        {{R"(Games\Anagrams)", R"(Games\Anagrams\ScoresArchive)"}},
+        {{R"(Games\CodeBreaker)", R"(Games\CodeBreaker\ScoresArchive)"}},
+        {{R"(Games\Globals)"}},
+        {{R"(Games\GuessTheNumber)", R"(Games\GuessTheNumber\ScoresArchive)"}},
+        {{R"(Games\Hangman)", R"(Games\Hangman\ScoresArchive)", R"(Games\Hangman\Ascii)"}},
+        {{R"(Games\Numbers)", R"(Games\Numbers\ScoresArchive)"}},
+        {{R"(Games\RussianRoulette)"}},
+        {{R"(Games\SlotMachine)"}},
+        {{R"(Games\ThreeCardMonty)"}},
+        {{R"(Games\Trivia)", R"(Games\Trivia\ScoresArchive)", R"(Games\Trivia\QuestionFiles)"}},
+
+        {{"General"}},
+        {{R"(General\Bots)"}},
+        {{R"(General\Globals)"}, {buildGeneralSettings, buildSwitches, buildEnabledRightClicks}},
+        {{R"(General\PtokaX)"}}, // holds the saved copy of the hub's profile file
+
+        {{"Language", R"(Language\Commands)", R"(Language\Commands\Files)", R"(Language\Messages)",
+          R"(Language\Messages\Files)", R"(Language\RightClick)", R"(Language\RightClick\Files)"}},
+
+        {{"Security"}},
+        {{R"(Security\AntiAdvertise)"}},
+        {{R"(Security\AntiVirus)"}},
+        {{R"(Security\BadNickBlocker)"}},
+        {{R"(Security\ClientChecker)"}},
+        {{R"(Security\CloneBlocker)"}},
+        {{R"(Security\CommandSpy)"}},
+        {{R"(Security\Flood)"}},
+        {{R"(Security\Kick)", R"(Security\Kick\Logs)"}},
+        {{R"(Security\MainBlock)"}},
+        {{R"(Security\MainCleaner)"}},
+        {{R"(Security\MainLock)"}},
+        {{R"(Security\PrivateHub)"}},
+        {{R"(Security\ProfileRules)", R"(Security\ProfileRules\Logs)"}},
+        {{R"(Security\PtokaX)"}},
+        {{R"(Security\Registration)", R"(Security\Registration\Logs)"}},
+        {{R"(Security\Report)"}},
+        {{R"(Security\Rules)", R"(Security\Rules\Ascii)"}},
+        {{R"(Security\SearchSpy)"}},
+        {{R"(Security\UserLog)", R"(Security\UserLog\Logs)"}},
+
+        {{"UserActions"}},
+        {{R"(UserActions\Ascii)", R"(UserActions\Ascii\Ascii)"}},
+        {{R"(UserActions\Attacks)"}},
+        {{R"(UserActions\Calculator)"}},
+        {{R"(UserActions\DoAction)"}},
+        {{R"(UserActions\Insults)"}},
+        {{R"(UserActions\Jokes)"}},
+        {{R"(UserActions\Limericks)"}},
+        {{R"(UserActions\Proverbs)"}},
+        {{R"(UserActions\Quotations)"}},
+        {{R"(UserActions\Spells)", R"(UserActions\Spells\Spells)"}},
+        {{R"(UserActions\NickSpells)", R"(UserActions\NickSpells\NickSpells)"}},
+
+        {{"TheArchive"}},
+        {{R"(TheArchive\Bookshelf)", R"(TheArchive\DVDRack)", R"(TheArchive\Jukebox)",
+          R"(TheArchive\Songbook)", R"(TheArchive\Arcade)", R"(TheArchive\Hyperlink)"}},
+    };
+    return catalogue;
+}
+
+} // namespace quillfen

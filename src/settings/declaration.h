@@ -1,0 +1,88 @@
+#pragma once
+
+#include <map>
+#include <string>
+#include <vector>
+
+namespace quillfen {
+
+class HubProfiles;
+class SettingsFiles;
+class TableIndex;
+
+/// One setting of a table file: its key there, its control on the form, its default and how it is written.
+struct Setting
+{
+    enum class Kind
+    {
+        Flag,     ///< 0 or 1, bare; a check box
+        Number,   ///< an integer, bare; a number box whose arrows keep the range
+        Text,     ///< quoted; a text box
+        Entry,    ///< quoted; a combo box with entries to pick, and any other text
+        Profiles, ///< a nested table of one flag per hub profile; a check list
+    };
+
+    Kind kind;
+    std::string key;
+    std::string control;
+    std::string label;
+    std::string standard{}; ///< the default, as text
+    int minimum = 0;
+    int maximum = 0;
+    std::vector<std::string> entries{};
+};
+
+Setting flag(std::string key, std::string control, std::string label, std::string standard);
+Setting number(std::string key, std::string control, std::string label, std::string standard, int minimum,
+               int maximum);
+Setting text(std::string key, std::string control, std::string label, std::string standard);
+Setting entry(std::string key, std::string control, std::string label, std::string standard,
+              std::vector<std::string> entries);
+Setting profileFlags(std::string key, std::string control, std::string label);
+
+/// A settings file: one table, its settings in the order of the form's save, and the order of the rebuild
+/// where it is another.
+struct TableFile
+{
+    std::string path;
+    std::string table;
+    std::vector<Setting> settings;
+    std::vector<std::string> rebuildOrder{};
+};
+
+/// The texts of a file's settings by key; the row of a profile stands under profileRow().
+using SettingValues = std::map<std::string, std::string>;
+
+/// The name of one profile's flag among the values; the row is counted from 0, "Unregistered" first.
+std::string profileRow(const Setting& setting, std::size_t row);
+
+/// What the form shows of a file: each key as it stands, wherever it is; a profile's flag is "0" when it is
+/// missing.
+SettingValues loaded(const TableFile& file, const TableIndex& index, const HubProfiles& profiles);
+
+/// The defaults, as RESTORE shows them: no profile is ticked.
+SettingValues restored(const TableFile& file, const HubProfiles& profiles);
+
+/// What a rebuild writes: each value that the file's table holds, and the default of each that is missing or
+/// empty.
+SettingValues rebuilt(const TableFile& file, const TableIndex& index, const HubProfiles& profiles);
+
+enum class RowOrder
+{
+    Save,
+    Rebuild
+};
+
+/// The text of the whole file, without the writer's last line end. Nothing is escaped.
+std::string composed(const TableFile& file, const SettingValues& values, RowOrder order,
+                     const HubProfiles& profiles);
+
+/// The build routine of a declared file: rebuilt() values, in the rebuild's order, written. Throws
+/// StoreError.
+void rebuildTableFile(const TableFile& file, const SettingsFiles& files, const HubProfiles& profiles);
+
+/// What is wrong with a declaration: a key named twice, a rebuild order that misses a key. Empty if nothing
+/// is.
+std::vector<std::string> faults(const TableFile& file);
+
+} // namespace quillfen

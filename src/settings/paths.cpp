@@ -1,0 +1,70 @@
+#include "settings/paths.h"
+
+#include "settings/codepage.h"
+
+#include <algorithm>
+
+namespace quillfen {
+namespace {
+
+#ifdef _WIN32
+constexpr char separator = '\\';
+constexpr std::string_view separators = "\\/";
+constexpr bool rootIsAbsolute = false;
+#else
+constexpr char separator = '/';
+constexpr std::string_view separators = "/";
+constexpr bool rootIsAbsolute = true;
+#endif
+
+std::string platformPath(std::string_view told)
+{
+    std::string path = codepage::toUtf8(told);
+    std::replace(path.begin(), path.end(), '\\', separator);
+    return path;
+}
+
+} // namespace
+
+bool isAbsolutePath(std::string_view told)
+{
+    return told.substr(std::min<std::size_t>(told.size(), 1), 2) == ":\\" ||
+           (rootIsAbsolute && told.starts_with(separator));
+}
+
+SettingsPaths::SettingsPaths(std::string programFolder) : m_programFolder(std::move(programFolder)) {}
+
+std::string SettingsPaths::resolve(std::string_view told, bool bAppRelative) const
+{
+    if (isAbsolutePath(told))
+        return platformPath(told);
+    return bAppRelative ? inProgramFolder(told) : inSettings(told);
+}
+
+std::string SettingsPaths::inSettings(std::string_view told) const
+{
+    return settingsRoot() + separator + platformPath(told);
+}
+
+std::string SettingsPaths::inProgramFolder(std::string_view told) const
+{
+    return m_programFolder + separator + platformPath(told);
+}
+
+std::string SettingsPaths::inHubFolder(std::string_view told) const
+{
+    const auto last = m_programFolder.find_last_of(separators);
+    return m_programFolder.substr(0, last == std::string::npos ? 0 : last + 1) + platformPath(told);
+}
+
+std::string SettingsPaths::scriptFolder() const
+{
+    return inProgramFolder("Morvaleth's Quillfen");
+}
+
+std::string SettingsPaths::settingsRoot() const
+{
+    return inProgramFolder(R"(Morvaleth's Quillfen\Settings)");
+}
+
+} // namespace quillfen

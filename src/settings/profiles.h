@@ -1,0 +1,39 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace quillfen {
+
+class FileStore;
+class SettingsPaths;
+
+/// The hub's profiles in the order of its own file, behind the pseudo profile of users without a
+/// registration.
+class HubProfiles
+{
+public:
+    HubProfiles() : m_names{"Unregistered"} {}
+
+    void add(std::string_view name) { m_names.emplace_back(name); }
+
+    std::size_t count() const { return m_names.size(); }
+    const std::vector<std::string>& names() const { return m_names; }
+
+    /// The profile key of a row counted from 0, as the settings bear it: "-1" for "Unregistered", "0" for the
+    /// hub's first profile. A key is a place in the list and never a name.
+    static std::string key(std::size_t row) { return std::to_string(static_cast<long long>(row) - 1); }
+
+private:
+    std::vector<std::string> m_names;
+};
+
+/// Adds the profiles of a hub file, told relative to the hub folder. The file is read as lines, not as XML: a
+/// name must stand alone on its line. Returns the lines as read, a CR LF before each; empty if the file can't
+/// be read.
+std::string ReadProfileFile(const FileStore& store, const SettingsPaths& paths, std::string_view file,
+                            HubProfiles& profiles);
+
+} // namespace quillfen

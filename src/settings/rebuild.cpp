@@ -1,0 +1,81 @@
+#include "settings/rebuild.h"
+
+#include "settings/profiles.h"
+#include "settings/tablefile.h"
+
+namespace quillfen {
+namespace {
+
+constexpr std::string_view versionFile = R"(General\Globals\Version.tbl)";
+constexpr std::string_view hubProfileFile = R"(cfg\Profiles.xml)";
+constexpr std::string_view oldProfileFile =
+    R"(scripts\Morvaleth's Quillfen\Settings\General\PtokaX\Profiles.xml)";
+constexpr std::string_view savedProfileFile = R"(General\PtokaX\Profiles.xml)";
+
+void makeIfMissing(FileStore& store, const std::string& folder)
+{
+    if (!store.exists(folder))
+        store.makeFolder(folder);
+}
+
+void makeNewsFolders(const SettingsFiles& files)
+{
+    for (const auto* folder : {"Morvaleth's Scripts", R"(Morvaleth's Scripts\News)"})
+        makeIfMissing(files.store(), files.paths().inProgramFolder(folder));
+}
+
+void build(const Reconciliation& start, const HubProfiles& profiles)
+{
+    const auto& paths = start.files.paths();
+    makeIfMissing(start.files.store(), paths.settingsRoot());
+    for (const CatalogueRow& row : start.catalogue) {
+        for (const auto folder : row.folders)
+            makeIfMissing(start.files.store(), paths.inSettings(folder));
+        for (const BuildRoutine routine : row.routines)
+            routine(start.files, profiles);
+    }
+    start.files.WriteSettingsFile(versionFile,
+                                  "tVersion = {\r\n\tsVersion = \"" + start.version + "\",\r\n}");
+}
+
+/// The script's folder comes with the hub script. Without it the program stands in the wrong place, and
+/// nothing must be made there.
+void requireScriptFolder(const SettingsFiles& files)
+{
+    const auto folder = files.paths().scriptFolder();
+    if (!files.store().exists(folder))
+        throw StoreError(folder, "The hub script's folder is missing");
+}
+
+} // namespace
+
+StartResult CheckSettingsRebuild(const Reconciliation& start, char rebuildCase, const HubProfiles& profiles)
+{
+    const bool forVersion = rebuildCase == 'V';
+    if (forVersion && start.files.ReadTableValue(versionFile, "sVersion") == start.version)
+        return StartResult::Current;
+    if (!start.confirm(forVersion ? versionQuestion : profileQuestion))
+        return StartResult::Refused;
+    build(start, profiles);
+    return StartResult::Rebuilt;
+}
+
+StartResult reconcileSettings(const Reconciliation& start, HubProfiles& profiles)
+{
+    const auto& files = start.files;
+    requireScriptFolder(files);
+    const auto hubText = ReadProfileFile(files.store(), files.paths(), hubProfileFile, profiles);
+    HubProfiles oldProfiles;
+    ReadProfileFile(files.store(), files.paths(), oldProfileFile, oldProfiles);
+    makeNewsFolders(files);
+
+    auto result = CheckSettingsRebuild(start, 'V', profiles);
+    // Only a rise counts: a profile that went, or got another name, asks for nothing.
+    if (result == StartResult::Current && profiles.count() > oldProfiles.count())
+        result = CheckSettingsRebuild(start, 'P', profiles);
+    if (result == StartResult::Rebuilt && !hubText.empty())
+        files.WriteSettingsFile(savedProfileFile, hubText);
+    return result;
+}
+
+} // namespace quillfen

@@ -1,0 +1,64 @@
+#pragma once
+
+#include <functional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace quillfen {
+
+class HubProfiles;
+class SettingsFiles;
+
+/// Writes the files of one function. Throws StoreError.
+using BuildRoutine = void (*)(const SettingsFiles& files, const HubProfiles& profiles);
+
+/// A step of the build: folders below the settings root, each made if it is missing, and behind them the
+/// routines that fill them.
+struct CatalogueRow
+{
+    std::vector<std::string_view> folders;
+    std::vector<BuildRoutine> routines{};
+};
+
+using FolderCatalogue = std::vector<CatalogueRow>;
+
+/// The question that comes before a rebuild.
+struct RebuildQuestion
+{
+    std::string_view title;
+    std::string_view text;
+};
+
+inline constexpr RebuildQuestion versionQuestion = {
+    "Morvaleth's Quillfen: Version Change Detected",
+    "New version detected. Settings must be rebuilt; continue?"};
+inline constexpr RebuildQuestion profileQuestion = {
+    "Morvaleth's Quillfen: PtokaX Profile Change Detected",
+    "PtokaX Profile change detected. Settings must be rebuilt; continue?"};
+
+/// All that a start needs to bring the settings tree up to date.
+struct Reconciliation
+{
+    const SettingsFiles& files;
+    const FolderCatalogue& catalogue;
+    std::string version;                                 ///< the program's own, "major.minor.revision"
+    std::function<bool(const RebuildQuestion&)> confirm; ///< true for OK
+};
+
+enum class StartResult
+{
+    Current,
+    Rebuilt,
+    Refused
+};
+
+/// Case "V" rebuilds when the tree's version is another than the program's; case "P" always. Each asks first,
+/// and a refusal changes nothing. Throws StoreError.
+StartResult CheckSettingsRebuild(const Reconciliation& start, char rebuildCase, const HubProfiles& profiles);
+
+/// The start in its whole order: hub profiles, saved profiles, news folders, rebuild for the version or for
+/// more profiles, saved copy of the hub's profile file. Fills `profiles`. Throws StoreError.
+StartResult reconcileSettings(const Reconciliation& start, HubProfiles& profiles);
+
+} // namespace quillfen

@@ -1,0 +1,94 @@
+#pragma once
+
+#include "settings/filestore.h"
+#include "settings/paths.h"
+#include "settings/tableindex.h"
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace quillfen {
+
+/// The line end of every file that is written.
+inline constexpr std::string_view lineEnd = "\r\n";
+
+/// One row of a list, as the list readers fill it.
+struct ListRow
+{
+    std::string text;
+    std::string second{};
+    bool checked = false;
+
+    bool operator==(const ListRow&) const = default;
+};
+
+/// Strips the key side of a line: tabs, quotes, commas and blanks at both ends, `[` in front and `]` behind.
+/// A key's own leading bracket never survives: `["[OP]Name"]` becomes `OP]Name`.
+void TrimTableKey(std::string& text);
+
+/// Strips the value side of a line: tabs, quotes, commas and blanks at both ends. Brackets stay.
+void TrimTableValue(std::string& text);
+
+/// The same two on views into a file's bytes.
+std::string_view trimmedTableKey(std::string_view text);
+std::string_view trimmedTableValue(std::string_view text);
+
+/// Whether ReadTableToList ticks its rows or fills their second column.
+enum class Rows
+{
+    Plain,
+    Checked
+};
+
+/// The readers and the writer of the settings tree. Readers are silent: what can't be read is empty. File
+/// names are told paths (see SettingsPaths).
+class SettingsFiles
+{
+public:
+    SettingsFiles(FileStore& store, SettingsPaths paths);
+
+    FileStore& store() const { return m_store; }
+    const SettingsPaths& paths() const { return m_paths; }
+
+    /// The file, indexed for many calls of TableIndex::value; an empty index if it can't be read.
+    TableIndex index(std::string_view file, bool bAppRelative = false) const;
+
+    /// One value: the index's answer, for callers that need no second one of the same file.
+    std::string ReadTableValue(std::string_view file, std::string_view key, std::string_view table = {},
+                               bool bAppRelative = false) const;
+
+    /// One value of a nested table, cut at a second `=`. The table's end doesn't end it. With bAsFlag the
+    /// result is "1" when the value is the number 1, else "0".
+    std::string ReadTableSubValue(std::string_view file, std::string_view table, std::string_view key,
+                                  bool bAsFlag = false) const;
+
+    /// Adds the rows of a table, or of the whole file if no table is named. An empty delimiter takes whole
+    /// lines;
+    /// "=" takes key rows and "*" the rows of list files, each with its first two pieces only.
+    void ReadTableToList(std::string_view file, std::vector<ListRow>& list, std::string_view delimiter,
+                         std::string_view table = {}, Rows rows = Rows::Plain,
+                         bool bAppRelative = false) const;
+
+    /// Puts each value of the file into the second column of the first row that bears its key.
+    void ReadListColumn(std::string_view file, std::string_view table, std::vector<ListRow>& list) const;
+
+    /// Adds the names of a table of files, without their ".lst", ".tbl" or ".txt". At most 5000 lines are
+    /// read.
+    void ReadFileList(std::string_view file, std::vector<ListRow>& list, std::string_view table) const;
+
+    /// A whole file, each line followed by CR LF, so one line end longer than what was composed and written;
+    /// empty if it has more than 5000 lines.
+    std::string ReadTextFile(std::string_view file) const;
+
+    /// Replaces a file by a text and one line end. Makes no folder. Throws StoreError.
+    void WriteSettingsFile(std::string_view file, std::string_view text, bool bAppRelative = false) const;
+
+private:
+    std::string bytesOf(const std::string& path) const;
+
+    FileStore& m_store;
+    SettingsPaths m_paths;
+};
+
+} // namespace quillfen

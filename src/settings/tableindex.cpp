@@ -1,0 +1,46 @@
+#include "settings/tableindex.h"
+
+#include "settings/lines.h"
+#include "settings/tablefile.h"
+
+#include <algorithm>
+
+namespace quillfen {
+
+TableIndex::TableIndex(std::string bytes) : m_bytes(std::make_unique<const std::string>(std::move(bytes)))
+{
+    LineCursor cursor(*m_bytes);
+    for (std::size_t number = 1; number <= lineLimit; ++number) {
+        const auto line = cursor.next();
+        if (!line)
+            break;
+        const auto [left, right, found] = splitOnce(*line, '=');
+        const auto key = trimmedTableKey(trimBlanks(left));
+        if (line->empty() || key == "}")
+            continue;
+        const auto value = trimmedTableValue(right);
+        if (value == "{")
+            m_openings.try_emplace(key, number);
+        else
+            m_rows[key].push_back({number, value});
+    }
+}
+
+std::string TableIndex::value(std::string_view key, std::string_view table) const
+{
+    const auto rows = m_rows.find(key);
+    if (rows == m_rows.end())
+        return {};
+    std::size_t from = 0;
+    if (!table.empty()) {
+        const auto opening = m_openings.find(table);
+        if (opening == m_openings.end())
+            return {};
+        from = opening->second;
+    }
+    const auto row = std::partition_point(rows->second.begin(), rows->second.end(),
+                                          [from](const Row& candidate) { return candidate.line < from; });
+    return row == rows->second.end() ? std::string() : std::string(row->value);
+}
+
+} // namespace quillfen

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <cstddef>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <vector>
+
+namespace quillfen {
+
+/// One file of settings, read and indexed once, so that a form's twenty values or a grid's thousands of cells
+/// cost one scan. Each answer is what a scan from the start of the file would find.
+class TableIndex
+{
+public:
+    /// Indexes the bytes of a table file. Only the first 5000 lines count: a key behind them reads as empty.
+    explicit TableIndex(std::string bytes);
+
+    /// The value of the first row with this key behind the first line that opens the table, or anywhere if no
+    /// table is named; empty if there is none. A closing brace doesn't end a table: rows behind it stay
+    /// visible. Files in the field depend on it.
+    std::string value(std::string_view key, std::string_view table = {}) const;
+
+private:
+    struct Row
+    {
+        std::size_t line;
+        std::string_view value;
+    };
+
+    // The views below point into the text, which must not move with the index.
+    std::unique_ptr<const std::string> m_bytes;
+    std::unordered_map<std::string_view, std::vector<Row>> m_rows;
+    std::unordered_map<std::string_view, std::size_t> m_openings;
+};
+
+} // namespace quillfen

@@ -1,0 +1,137 @@
+#include "settings/declaration.h"
+#include "support/hub.h"
+
+#include <gtest/gtest.h>
+
+namespace quillfen {
+namespace {
+
+TableFile sample()
+{
+    return {"A.tbl",
+            "tSample",
+            {flag("bFlag", "chkCheckBox(0)", "Flag", "1"),
+             number("iNumber", "txtUpDown(0)", "Number", "5", 1, 50),
+             text("sText", "txtTextBox(0)", "Text", "x"),
+             entry("sEntry", "cboComboBox", "Entry", "+", {"+", "-"}),
+             profileFlags("tEnabledProfiles", "lvwEnabledProfiles", "Enabled Profiles")},
+            {"sEntry", "bFlag", "tEnabledProfiles", "iNumber", "sText"}};
+}
+
+class Declaration : public testing::Test
+{
+protected:
+    Declaration() { hub.profiles.add("Master"); }
+
+    std::string saved(const std::string& bytes)
+    {
+        return composed(sample(), loaded(sample(), TableIndex(bytes), hub.profiles), RowOrder::Save,
+                        hub.profiles);
+    }
+
+    std::string built(const std::string& bytes)
+    {
+        hub.file("A.tbl") = bytes;
+        rebuildTableFile(sample(), hub.files, hub.profiles);
+        return hub.file("A.tbl");
+    }
+
+    test::Hub hub;
+};
+
+TEST_F(Declaration, SaveWritesTheDeclaredOrder)
+{
+    EXPECT_EQ(
+        saved("tSample = {\r\n\tsText = \"t\",\r\n\tsEntry = \"-\",\r\n\tbFlag = 1,\r\n\tiNumber = 77,\r\n"
+              "\ttEnabledProfiles = {\r\n\t\t[0] = 1,\r\n\t},\r\n}\r\n"),
+        "tSample = {\r\n\tbFlag = 1,\r\n\tiNumber = 77,\r\n\tsText = \"t\",\r\n\tsEntry = \"-\",\r\n"
+        "\ttEnabledProfiles = {\r\n\t\t[-1] = 0,\r\n\t\t[0] = 1,\r\n\t},\r\n}");
+}
+
+TEST_F(Declaration, LoadFindsAKeyWhereverItStands)
+{
+    EXPECT_EQ(loaded(sample(), TableIndex("tOther = {\r\n\tsText = \"t\",\r\n}"), hub.profiles).at("sText"),
+              "t");
+}
+
+TEST_F(Declaration, AProfileListIsReadFromItsOwnTable)
+{
+    const TableIndex index(
+        "tSample = {\r\n\t[0] = 1,\r\n\ttEnabledProfiles = {\r\n\t\t[-1] = 1,\r\n\t},\r\n}");
+    const auto values = loaded(sample(), index, hub.profiles);
+    EXPECT_EQ(values.at("tEnabledProfiles/-1"), "1");
+    EXPECT_EQ(values.at("tEnabledProfiles/0"), "0");
+}
+
+TEST_F(Declaration, RestoreGivesTheDefaultsAndTicksNoProfile)
+{
+    EXPECT_EQ(restored(sample(), hub.profiles), (SettingValues{{"bFlag", "1"},
+                                                               {"iNumber", "5"},
+                                                               {"sText", "x"},
+                                                               {"sEntry", "+"},
+                                                               {"tEnabledProfiles/-1", "0"},
+                                                               {"tEnabledProfiles/0", "0"}}));
+}
+
+TEST_F(Declaration, ABuildOfNothingWritesTheDefaultsInTheRebuildsOrder)
+{
+    EXPECT_EQ(
+        built(""),
+        "tSample = {\r\n\tsEntry = \"+\",\r\n\tbFlag = 1,\r\n\ttEnabledProfiles = {\r\n\t\t[-1] = 0,\r\n"
+        "\t\t[0] = 0,\r\n\t},\r\n\tiNumber = 5,\r\n\tsText = \"x\",\r\n}\r\n");
+}
+
+TEST_F(Declaration, ARebuildKeepsZeroAndRefillsAnEmptyText)
+{
+    const std::string bytes = built("tSample = {\r\n\tbFlag = 0,\r\n\tsText = \"\",\r\n}");
+    EXPECT_NE(bytes.find("\tbFlag = 0,\r\n"), std::string::npos);
+    EXPECT_NE(bytes.find("\tsText = \"x\",\r\n"), std::string::npos);
+}
+
+TEST_F(Declaration, ARebuildDropsUnknownKeysAndComments)
+{
+    const std::string bytes = built("-- mine\r\ntSample = {\r\n\tiOld = 3,\r\n}");
+    EXPECT_EQ(bytes.find("iOld"), std::string::npos);
+    EXPECT_EQ(bytes.find("mine"), std::string::npos);
+}
+
+TEST_F(Declaration, ARebuildLooksOnlyInTheFilesOwnTable)
+{
+    const std::string bytes = built("\tiNumber = 9,\r\ntSample = {\r\n}");
+    EXPECT_NE(bytes.find("\tiNumber = 5,"), std::string::npos);
+}
+
+TEST_F(Declaration, ANewProfileJoinsARebuildWithZeroAndTheOthersKeepTheirFlags)
+{
+    hub.profiles.add("VIP");
+    const std::string bytes =
+        built("tSample = {\r\n\ttEnabledProfiles = {\r\n\t\t[-1] = 1,\r\n\t\t[0] = 1,\r\n\t},\r\n}");
+    EXPECT_NE(bytes.find("\t\t[-1] = 1,\r\n\t\t[0] = 1,\r\n\t\t[1] = 0,\r\n"), std::string::npos);
+}
+
+TEST_F(Declaration, OddAndOutOfRangeTextsSurviveARebuild)
+{
+    const std::string bytes = built("tSample = {\r\n\tiNumber = abc=9,\r\n\tsEntry = \"\xA3\x80\",\r\n}");
+    EXPECT_NE(bytes.find("\tiNumber = abc=9,"), std::string::npos);
+    EXPECT_NE(bytes.find("\tsEntry = \"\xA3\x80\","), std::string::npos);
+}
+
+TEST_F(Declaration, ReadsItsFileOnceForAllItsSettings)
+{
+    built("");
+    EXPECT_EQ(hub.store.readings[hub.root + "/A.tbl"], 1);
+}
+
+TEST_F(Declaration, FaultsAreFound)
+{
+    EXPECT_TRUE(faults(sample()).empty());
+    TableFile twice = sample();
+    twice.settings.push_back(twice.settings.front());
+    EXPECT_EQ(faults(twice).size(), 2U);
+    TableFile shortOrder = sample();
+    shortOrder.rebuildOrder.pop_back();
+    EXPECT_EQ(faults(shortOrder).size(), 1U);
+}
+
+} // namespace
+} // namespace quillfen

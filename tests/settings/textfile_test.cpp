@@ -1,0 +1,89 @@
+#include "settings/tablefile.h"
+#include "support/hub.h"
+
+#include <gtest/gtest.h>
+
+namespace quillfen {
+namespace {
+
+TEST(TextFile, ComesBackWithOneMoreLineEndThanWasComposed)
+{
+    const test::Hub hub;
+    hub.files.WriteSettingsFile("A.txt", "one\r\ntwo");
+    EXPECT_EQ(hub.files.ReadTextFile("A.txt"), "one\r\ntwo\r\n");
+}
+
+TEST(TextFile, EveryLineEndBecomesCrLf)
+{
+    test::Hub hub;
+    hub.file("A.txt") = "a\nb\rc\r\n\nd";
+    EXPECT_EQ(hub.files.ReadTextFile("A.txt"), "a\r\nb\r\nc\r\n\r\nd\r\n");
+}
+
+TEST(TextFile, Of5000LinesIsReadWholeAndOf5001IsEmpty)
+{
+    test::Hub hub;
+    std::string lines;
+    for (int line = 0; line < 5000; ++line)
+        lines += "x\r\n";
+    hub.file("A.txt") = lines;
+    EXPECT_EQ(hub.files.ReadTextFile("A.txt"), lines);
+    hub.file("A.txt") = lines + "y";
+    EXPECT_EQ(hub.files.ReadTextFile("A.txt"), "");
+}
+
+TEST(TextFile, EveryByteSurvivesWritingAndReading)
+{
+    const test::Hub hub;
+    std::string bytes;
+    for (int byte = 0; byte < 256; ++byte) {
+        if (byte != '\r' && byte != '\n')
+            bytes += static_cast<char>(byte);
+    }
+    hub.files.WriteSettingsFile("A.txt", bytes);
+    EXPECT_EQ(hub.files.ReadTextFile("A.txt"), bytes + "\r\n");
+}
+
+TEST(Writer, AddsOneLineEndBehindTheClosingBrace)
+{
+    test::Hub hub;
+    hub.files.WriteSettingsFile("A.tbl", "t = {\r\n}");
+    EXPECT_EQ(hub.file("A.tbl"), "t = {\r\n}\r\n");
+}
+
+TEST(Writer, ReplacesTheWholeFileAndTwoWritesAreTheSame)
+{
+    test::Hub hub;
+    hub.file("A.tbl") = "a much longer text than the one to come";
+    hub.files.WriteSettingsFile("A.tbl", "x");
+    const std::string once = hub.file("A.tbl");
+    hub.files.WriteSettingsFile("A.tbl", "x");
+    EXPECT_EQ(once, "x\r\n");
+    EXPECT_EQ(hub.file("A.tbl"), once);
+}
+
+TEST(Writer, EscapesNothing)
+{
+    test::Hub hub;
+    hub.files.WriteSettingsFile("A.tbl", "\ts = \"a\"b\\c\",");
+    EXPECT_EQ(hub.file("A.tbl"), "\ts = \"a\"b\\c\",\r\n");
+}
+
+TEST(Writer, WritesBelowTheProgramFolderOrToAnAbsolutePath)
+{
+    test::Hub hub;
+    hub.store.folders.insert("/elsewhere");
+    hub.files.WriteSettingsFile("A.tbl", "x", true);
+    hub.files.WriteSettingsFile("/elsewhere/A.tbl", "y");
+    EXPECT_EQ(hub.store.files["/hub/scripts/A.tbl"], "x\r\n");
+    EXPECT_EQ(hub.store.files["/elsewhere/A.tbl"], "y\r\n");
+}
+
+TEST(Writer, MakesNoFolderAndItsFailureReachesTheCaller)
+{
+    const test::Hub hub;
+    EXPECT_THROW(hub.files.WriteSettingsFile(R"(Gone\A.tbl)", "x"), StoreError);
+}
+
+} // namespace
+} // namespace quillfen

@@ -1,0 +1,81 @@
+#include "settings/tablefile.h"
+
+#include <gtest/gtest.h>
+
+namespace quillfen {
+namespace {
+
+std::string key(std::string text)
+{
+    TrimTableKey(text);
+    return text;
+}
+
+std::string value(std::string text)
+{
+    TrimTableValue(text);
+    return text;
+}
+
+TEST(TrimTableKey, StripsTabsQuotesCommasBlanksAndBrackets)
+{
+    EXPECT_EQ(key("\tsBorder "), "sBorder");
+    EXPECT_EQ(key("[\"abc\"]"), "abc");
+    EXPECT_EQ(key("\"abc\","), "abc");
+    EXPECT_EQ(key("\t\t[-1]"), "-1");
+    EXPECT_EQ(key("\t, \"[[abc]] \",\t"), "abc");
+}
+
+TEST(TrimTableKey, LosesAKeysOwnLeadingBracket)
+{
+    EXPECT_EQ(key("[\"[abc]\"]"), "abc");
+    EXPECT_EQ(key("[\"[Bot]\"]"), "Bot");
+    EXPECT_EQ(key("[\"[Bot]Name\"]"), "Bot]Name");
+    EXPECT_EQ(key("[\"[OP]Name\"]"), "OP]Name");
+}
+
+TEST(TrimTableKey, TheBracketTripleCostsThreeInFrontAndOneAtTheEnd)
+{
+    EXPECT_EQ(key("[\"[abX"), "ab");
+    EXPECT_EQ(key("[\"["), "");
+    EXPECT_EQ(key("[\"[x"), "");
+}
+
+TEST(TrimTableKey, ACharacterOfTheFrontOnlyStaysBehindAndTheOtherWayRound)
+{
+    EXPECT_EQ(key("]abc["), "]abc[");
+}
+
+TEST(TrimTableKey, AnEmptyStringEndsBothLoops)
+{
+    EXPECT_EQ(key(""), "");
+    EXPECT_EQ(key("\t\" ,[["), "");
+    EXPECT_EQ(key("]]],"), "");
+    EXPECT_EQ(key("\" ]]]"), "");
+}
+
+TEST(TrimTableValue, StripsTheSameButLeavesBrackets)
+{
+    EXPECT_EQ(value(" \"+\","), "+");
+    EXPECT_EQ(value(" [5], "), "[5]");
+    EXPECT_EQ(value("\t{ "), "{");
+}
+
+TEST(TrimTableValue, ABlankTextBecomesEmpty)
+{
+    EXPECT_EQ(value("\"  \""), "");
+    EXPECT_EQ(value(""), "");
+}
+
+TEST(TrimTableValue, LosesABlankOrCommaThatTheTextEndsIn)
+{
+    EXPECT_EQ(value("\"hello, \","), "hello");
+}
+
+TEST(TrimTableValue, KeepsWhatStandsInside)
+{
+    EXPECT_EQ(value("\"a \"b\", c\","), "a \"b\", c");
+}
+
+} // namespace
+} // namespace quillfen

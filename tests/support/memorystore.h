@@ -1,0 +1,60 @@
+#pragma once
+
+#include "settings/filestore.h"
+
+#include <map>
+#include <set>
+#include <vector>
+
+namespace quillfen::test {
+
+/// A disk in memory. It tells what was written and made, in that order, and can fail any such call.
+class MemoryStore : public FileStore
+{
+public:
+    std::map<std::string, std::string> files;
+    std::set<std::string> folders;
+    std::vector<std::string> log;                ///< "write <path>" and "make <path>"
+    mutable std::map<std::string, int> readings; ///< how often each file was read
+    int failingCall = -1;                        ///< the write or make of this number, from 0, fails
+
+    std::optional<std::string> read(const std::string& path) const override
+    {
+        ++readings[path];
+        const auto file = files.find(path);
+        return file == files.end() ? std::nullopt : std::optional(file->second);
+    }
+
+    void write(const std::string& path, std::string_view bytes) override
+    {
+        note("write ", path);
+        if (folders.count(parent(path)) == 0)
+            throw StoreError(path, "No such file or directory");
+        files[path] = bytes;
+    }
+
+    bool exists(const std::string& path) const override
+    {
+        return files.count(path) > 0 || folders.count(path) > 0;
+    }
+
+    void makeFolder(const std::string& path) override
+    {
+        note("make ", path);
+        if (folders.count(parent(path)) == 0)
+            throw StoreError(path, "No such file or directory");
+        folders.insert(path);
+    }
+
+private:
+    static std::string parent(const std::string& path) { return path.substr(0, path.find_last_of('/')); }
+
+    void note(const std::string& what, const std::string& path)
+    {
+        if (static_cast<int>(log.size()) == failingCall)
+            throw StoreError(path, "No space left on device");
+        log.push_back(what + path);
+    }
+};
+
+} // namespace quillfen::test
