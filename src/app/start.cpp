@@ -1,0 +1,35 @@
+#include "app/start.h"
+
+#include "functions/catalogue.h"
+#include "functions/forms.h"
+#include "settings/rebuild.h"
+#include "shell/kit/codepagetext.h"
+#include "shell/kit/messages.h"
+
+namespace quillfen {
+
+Program::Program(FileStore& store, const QString& programFolder, ProgramInfo info)
+    : m_info(std::move(info)),
+      m_files(store, SettingsPaths(programFolder.toStdString()))
+{
+}
+
+std::optional<int> Program::start()
+{
+    // The navigator comes before the rebuild and shows the tree's switches as they stand now.
+    m_window = std::make_unique<MainWindow>(m_info, FormContext{m_files, m_profiles}, formCatalogue());
+    const auto ask = [](const RebuildQuestion& question) {
+        return confirm(nullptr, fromBytes(question.title), fromBytes(question.text));
+    };
+    try {
+        const Reconciliation reconciliation{m_files, folderCatalogue(), m_info.version.toStdString(), ask};
+        if (reconcileSettings(reconciliation, m_profiles) == StartResult::Refused)
+            return 0;
+    } catch (const StoreError& error) {
+        tellFailure(nullptr, m_info.product, error);
+        return 1;
+    }
+    return std::nullopt;
+}
+
+} // namespace quillfen

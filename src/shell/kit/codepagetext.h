@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QString>
+#include <QValidator>
+
+#include <string>
+#include <string_view>
+
+namespace quillfen {
+
+/// The one place where code page bytes become screen text, and back, without a loss.
+QString fromBytes(std::string_view bytes);
+
+/// A character that the code page does not have becomes a question mark; CodePageValidator keeps such out of
+/// fields.
+std::string toBytes(const QString& text);
+
+/// Drops what the code page does not have as it is typed or pasted: what the user sees is what is stored.
+class CodePageValidator : public QValidator
+{
+    Q_OBJECT
+
+public:
+    using QValidator::QValidator;
+
+    State validate(QString& text, int& cursor) const override;
+};
+
+} // namespace quillfen

@@ -1,0 +1,119 @@
+#include "shell/kit/editorform.h"
+
+#include "settings/filestore.h"
+#include "shell/kit/messages.h"
+#include "shell/kit/toolbars.h"
+#include "shell/kit/units.h"
+
+#include <QCloseEvent>
+#include <QFrame>
+#include <QScopedValueRollback>
+#include <QStatusBar>
+#include <QVBoxLayout>
+
+namespace quillfen {
+
+EditorForm::EditorForm(const FormDescription& description)
+    : m_description(description),
+      m_toolbar(new QToolBar),
+      m_frame(new QFrame),
+      m_statusBar(new QStatusBar)
+{
+    setObjectName(description.name);
+    setWindowTitle(description.caption);
+    setMinimumSize(twips(description.minimumTwips.width(), description.minimumTwips.height()));
+    m_toolbar->setObjectName("tlbFormToolbar");
+    m_frame->setObjectName("fraFrame(0)");
+    m_statusBar->setObjectName("stsStatusBar");
+    m_statusBar->setSizeGripEnabled(false);
+    new QVBoxLayout(m_frame);
+
+    int index = 0;
+    BuildFormToolbar(*m_toolbar, index);
+    PlaceChildForm(*m_statusBar);
+    addAction(button(*m_toolbar, "SAVE")); // its shortcut works in the whole form
+    connect(button(*m_toolbar, "SAVE"), &QAction::triggered, this, &EditorForm::save);
+    connect(button(*m_toolbar, "DISCARD"), &QAction::triggered, this, &EditorForm::discard);
+    connect(button(*m_toolbar, "RESTORE"), &QAction::triggered, this, &EditorForm::restore);
+
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins({});
+    layout->setSpacing(0);
+    layout->addWidget(m_toolbar);
+    layout->addWidget(m_frame, 1);
+    layout->addWidget(m_statusBar);
+}
+
+void EditorForm::add(FormPart* part)
+{
+    part->setParent(this);
+    m_parts.push_back(part);
+    m_frame->layout()->addWidget(part->widget());
+    connect(part, &FormPart::changed, this, &EditorForm::markDirty);
+}
+
+void EditorForm::open()
+{
+    load();
+    bDirty = SetControlsClean(*m_toolbar, *m_statusBar);
+}
+
+void EditorForm::markDirty()
+{
+    if (!m_loading)
+        bDirty = SetControlsDirty(*m_toolbar, *m_statusBar);
+}
+
+void EditorForm::load()
+{
+    const QScopedValueRollback loading(m_loading, true);
+    for (FormPart* part : m_parts)
+        part->load();
+}
+
+void EditorForm::save()
+{
+    try {
+        for (FormPart* part : m_parts)
+            part->save();
+        bDirty = SetControlsClean(*m_toolbar, *m_statusBar);
+    } catch (const StoreError& error) {
+        // The form stays dirty and complete, so that nothing typed is lost.
+        tellFailure(this, m_description.caption, error);
+    }
+}
+
+bool EditorForm::confirmDiscard()
+{
+    return confirm(this, "Discard changes?", "Discard all unsaved changes?");
+}
+
+void EditorForm::discard()
+{
+    if (!confirmDiscard())
+        return;
+    load();
+    if (m_description.afterDiscard == FormDescription::AfterDiscard::Clean)
+        bDirty = SetControlsClean(*m_toolbar, *m_statusBar);
+}
+
+void EditorForm::restore()
+{
+    if (!confirm(this, "Restore defaults?", "Restore to defaults?"))
+        return;
+    for (FormPart* part : m_parts)
+        part->restore();
+    markDirty();
+}
+
+void EditorForm::closeEvent(QCloseEvent* event)
+{
+    if (bDirty && !confirmDiscard()) {
+        event->ignore();
+        return;
+    }
+    event->accept();
+    emit closed();
+}
+
+} // namespace quillfen

@@ -1,0 +1,90 @@
+#pragma once
+
+#include "shell/kit/formpart.h"
+
+#include <QSize>
+#include <QString>
+#include <QWidget>
+
+#include <functional>
+#include <vector>
+
+class QFrame;
+class QStatusBar;
+class QToolBar;
+
+namespace quillfen {
+
+/// What a form is called, and how it differs from the cycle that all editors share.
+struct FormDescription
+{
+    /// What becomes of the dirty state when the user discards the changes.
+    enum class AfterDiscard
+    {
+        Clean,
+        AsItStood
+    };
+
+    QString name; ///< frm...
+    QString caption;
+    QSize minimumTwips{};
+    AfterDiscard afterDiscard = AfterDiscard::Clean;
+};
+
+/// An editor form: its toolbar, its parts in a frame, its status bar, and the cycle of load, change, save,
+/// discard, restore and close. It alone knows whether the controls differ from the files.
+class EditorForm : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit EditorForm(const FormDescription& description);
+
+    /// Takes the part over and places it behind the ones before.
+    void add(FormPart* part);
+
+    /// Loads every part; the form is clean.
+    void open();
+
+    bool isDirty() const { return bDirty; }
+    QString caption() const { return m_description.caption; }
+
+    /// The caption under which the open-window registry knows the form, where it isn't the form's own.
+    QString tag() const { return m_tag; }
+    void setTag(const QString& tag) { m_tag = tag; }
+
+signals:
+    void closed();
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+
+private:
+    void load();
+    void save();
+    void discard();
+    void restore();
+    void markDirty();
+    bool confirmDiscard();
+
+    FormDescription m_description;
+    QString m_tag;
+    QToolBar* m_toolbar;
+    QFrame* m_frame;
+    QStatusBar* m_statusBar;
+    std::vector<FormPart*> m_parts;
+    bool bDirty = false;
+    bool m_loading = false;
+};
+
+/// Makes the form of a name; the caller owns it.
+struct FormMaker
+{
+    QString name;
+    std::function<EditorForm*(const FormContext&)> make;
+};
+
+/// Every form that is built.
+using FormCatalogue = std::vector<FormMaker>;
+
+} // namespace quillfen

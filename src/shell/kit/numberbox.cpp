@@ -1,0 +1,62 @@
+#include "shell/kit/numberbox.h"
+
+#include "shell/kit/codepagetext.h"
+
+#include <QWheelEvent>
+
+#include <algorithm>
+#include <limits>
+
+namespace quillfen {
+
+NumberBox::NumberBox(const QString& control, int minimum, int maximum, QWidget* parent)
+    : QAbstractSpinBox(parent),
+      m_minimum(minimum),
+      m_maximum(maximum)
+{
+    setObjectName(QStringLiteral("upd") + control.mid(3));
+    lineEdit()->setObjectName(control);
+    lineEdit()->setValidator(new CodePageValidator(this));
+    lineEdit()->setMaxLength(std::numeric_limits<int>::max());
+    setFocusPolicy(Qt::StrongFocus);
+    connect(lineEdit(), &QLineEdit::textChanged, this, &NumberBox::textChanged);
+}
+
+void NumberBox::setText(const QString& text)
+{
+    lineEdit()->setText(text);
+}
+
+void NumberBox::stepBy(int steps)
+{
+    const auto stepped = text().trimmed().toLongLong() + steps;
+    setText(QString::number(std::clamp(stepped, m_minimum, m_maximum)));
+}
+
+QSize NumberBox::sizeHint() const
+{
+    const QSize base = QAbstractSpinBox::sizeHint();
+    return {std::max(base.width(),
+                     fontMetrics().horizontalAdvance(QStringLiteral("00000000")) + base.height() * 2),
+            base.height()};
+}
+
+QAbstractSpinBox::StepEnabled NumberBox::stepEnabled() const
+{
+    const auto value = text().trimmed().toLongLong();
+    StepEnabled enabled = StepNone;
+    enabled.setFlag(StepUpEnabled, value < m_maximum);
+    enabled.setFlag(StepDownEnabled, value > m_minimum);
+    return enabled;
+}
+
+void NumberBox::wheelEvent(QWheelEvent* event)
+{
+    // A wheel over a box that isn't in use scrolls the page, not the number.
+    if (hasFocus())
+        QAbstractSpinBox::wheelEvent(event);
+    else
+        event->ignore();
+}
+
+} // namespace quillfen

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QAbstractSpinBox>
+#include <QLineEdit>
+
+namespace quillfen {
+
+/// A text box for a number with its up-down. What is typed or loaded stands as it is, also outside the range
+/// or when it is no number at all; only the arrows keep the range.
+class NumberBox : public QAbstractSpinBox
+{
+    Q_OBJECT
+
+public:
+    /// `control` is the text box's name, "txtUpDown(0)"; the up-down's is the same with "upd",
+    /// "updUpDown(0)".
+    NumberBox(const QString& control, int minimum, int maximum, QWidget* parent = nullptr);
+
+    QString text() const { return lineEdit()->text(); }
+    void setText(const QString& text);
+
+    void stepBy(int steps) override;
+    QSize sizeHint() const override;
+
+signals:
+    void textChanged(const QString& text);
+
+protected:
+    StepEnabled stepEnabled() const override;
+    void wheelEvent(QWheelEvent* event) override;
+
+private:
+    long long m_minimum;
+    long long m_maximum;
+};
+
+} // namespace quillfen

@@ -1,0 +1,157 @@
+#include "shell/kit/toolbars.h"
+
+#include "shell/icons/icons.h"
+#include "shell/kit/messages.h"
+#include "shell/kit/units.h"
+
+#include <QLabel>
+#include <QStatusBar>
+#include <QTreeView>
+
+namespace quillfen {
+namespace {
+
+void insertAction(QToolBar& toolbar, int& index, QAction* action)
+{
+    const auto actions = toolbar.actions();
+    toolbar.insertAction(index < actions.size() ? actions.at(index) : nullptr, action);
+    ++index;
+}
+
+void setState(const QToolBar& toolbar, const QStatusBar& statusBar, bool dirty)
+{
+    toolbar.actions().at(1)->setEnabled(dirty);
+    // Button 3 is a separator on a form's toolbar, where this changes nothing; other toolbars have a button
+    // there.
+    toolbar.actions().at(2)->setEnabled(false);
+    statusBar.findChildren<QLabel*>(Qt::FindDirectChildrenOnly)
+        .constFirst()
+        ->setText(dirty ? QStringLiteral("Controls = Dirty") : QStringLiteral("Controls = Clean"));
+}
+
+} // namespace
+
+QAction* addButton(QToolBar& toolbar, int& index, const QString& key, const QString& toolTip,
+                   const QString& icon)
+{
+    auto* action = new QAction(themedIcon(icon), toolTip, &toolbar);
+    action->setObjectName(key);
+    action->setToolTip(toolTip);
+    insertAction(toolbar, index, action);
+    return action;
+}
+
+QAction* addSeparator(QToolBar& toolbar, int& index)
+{
+    auto* separator = new QAction(&toolbar);
+    separator->setSeparator(true);
+    insertAction(toolbar, index, separator);
+    return separator;
+}
+
+QAction* button(const QToolBar& toolbar, const QString& key)
+{
+    return toolbar.findChild<QAction*>(key, Qt::FindDirectChildrenOnly);
+}
+
+void BuildFormToolbar(QToolBar& toolbar, int& index)
+{
+    toolbar.setMovable(false);
+    toolbar.setFloatable(false);
+    toolbar.setIconSize({20, 20});
+    addSeparator(toolbar, index);
+    auto* save = addButton(toolbar, index, "SAVE", "Save changes", "save");
+    save->setEnabled(false);
+    save->setShortcut(QKeySequence::Save);
+    save->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+    save->setToolTip("Save changes");
+    addSeparator(toolbar, index);
+    addButton(toolbar, index, "DISCARD", "Discard changes", "discard");
+    addButton(toolbar, index, "RESTORE", "Restore defaults", "restore");
+    addSeparator(toolbar, index);
+}
+
+void AddDeleteButton(QToolBar& toolbar, int& index)
+{
+    addButton(toolbar, index, "DELETE", "Delete", "delete");
+}
+
+void AddEditButton(QToolBar& toolbar, int& index)
+{
+    addButton(toolbar, index, "EDIT", "Edit", "edit");
+}
+
+void AddEditAllButton(QToolBar& toolbar, int& index)
+{
+    addButton(toolbar, index, "EDITALL", "Edit All", "editall");
+}
+
+void AddAmendButton(QToolBar& toolbar, int& index)
+{
+    addButton(toolbar, index, "AMEND", "Amend", "amend");
+}
+
+void BuildListToolbar(QToolBar& toolbar, int& index)
+{
+    addButton(toolbar, index, "NEW", "Add", "new");
+    AddDeleteButton(toolbar, index);
+    AddEditButton(toolbar, index);
+}
+
+void BuildFileListToolbar(QToolBar& toolbar, int& index)
+{
+    addButton(toolbar, index, "NEW", "Create new file", "new");
+    addButton(toolbar, index, "OPEN", "Add existing file", "open");
+    addButton(toolbar, index, "DELETE", "Delete question file", "delete");
+    addButton(toolbar, index, "EDIT", "Edit question file", "edit");
+}
+
+void BuildFileEditToolbar(QToolBar& toolbar, int& index)
+{
+    const auto addDisabled = [&](const char* key, const char* toolTip, const char* icon) {
+        addButton(toolbar, index, key, toolTip, icon)->setEnabled(false);
+    };
+    addDisabled("SAVE", "Save changes", "save");
+    addDisabled("CLOSE", "Discard changes", "close");
+    addDisabled("NEW", "Add new question", "new");
+    addDisabled("EDIT", "Edit question", "edit");
+    addDisabled("DELETE", "Delete question", "delete");
+}
+
+bool SetControlsDirty(QToolBar& toolbar, QStatusBar& statusBar)
+{
+    setState(toolbar, statusBar, true);
+    return true;
+}
+
+bool SetControlsClean(QToolBar& toolbar, QStatusBar& statusBar)
+{
+    setState(toolbar, statusBar, false);
+    return false;
+}
+
+void PlaceChildForm(QStatusBar& statusBar)
+{
+    auto* state = new QLabel(QStringLiteral("Controls = Clean"), &statusBar);
+    state->setMinimumWidth(twips(1500));
+    state->setTextFormat(Qt::PlainText);
+    statusBar.addWidget(state);
+    statusBar.addWidget(new QLabel(&statusBar), 1);
+}
+
+void ConfirmDiscard(QTreeView& list, QToolBar& toolbar, bool& bDiscardNow)
+{
+    if (!bDiscardNow) {
+        bDiscardNow = confirm(list.window(), "Discard changes?",
+                              "Are you sure you want to discard unsaved changes?", QMessageBox::NoIcon);
+    }
+    if (!bDiscardNow)
+        return;
+    list.model()->removeRows(0, list.model()->rowCount());
+    list.setProperty("tag", QString());
+    const auto buttons = toolbar.actions();
+    for (int at = 0; at < 5; ++at)
+        buttons.at(at)->setEnabled(at == 0);
+}
+
+} // namespace quillfen

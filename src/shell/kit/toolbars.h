@@ -1,0 +1,46 @@
+#pragma once
+
+#include <QAction>
+#include <QString>
+#include <QToolBar>
+
+class QStatusBar;
+class QTreeView;
+class QWidget;
+
+namespace quillfen {
+
+/// The builders put their buttons in at a running index, which they move on behind what they added. A button
+/// is a QAction whose object name is its key.
+void BuildFormToolbar(QToolBar& toolbar, int& index);
+void AddDeleteButton(QToolBar& toolbar, int& index);
+void AddEditButton(QToolBar& toolbar, int& index);
+void AddEditAllButton(QToolBar& toolbar, int& index);
+void AddAmendButton(QToolBar& toolbar, int& index);
+void BuildListToolbar(QToolBar& toolbar, int& index);
+void BuildFileListToolbar(QToolBar& toolbar, int& index);
+void BuildFileEditToolbar(QToolBar& toolbar, int& index);
+
+/// One button by its key; the icon is the one of that name.
+QAction* addButton(QToolBar& toolbar, int& index, const QString& key, const QString& toolTip,
+                   const QString& icon);
+QAction* addSeparator(QToolBar& toolbar, int& index);
+
+/// The toolbar's button of that key, or null.
+QAction* button(const QToolBar& toolbar, const QString& key);
+
+/// Button 2 lights ("SAVE" on a form's toolbar) and panel 1 reads "Controls = Dirty". Returns the form's new
+/// bDirty.
+bool SetControlsDirty(QToolBar& toolbar, QStatusBar& statusBar);
+
+/// Button 2 goes out and panel 1 reads "Controls = Clean". Returns the form's new bDirty.
+bool SetControlsClean(QToolBar& toolbar, QStatusBar& statusBar);
+
+/// Lays out a form's status bar with its two panels.
+void PlaceChildForm(QStatusBar& statusBar);
+
+/// Leaves one open list file: asks unless bDiscardNow is set, and sets it on OK. Then the list and its tag
+/// (the file's name) are emptied, button 1 lights and buttons 2 to 5 go out.
+void ConfirmDiscard(QTreeView& list, QToolBar& toolbar, bool& bDiscardNow);
+
+} // namespace quillfen

@@ -1,0 +1,64 @@
+#pragma once
+
+#include "shell/kit/editorform.h"
+#include "shell/window/openwindows.h"
+#include "shell/window/programinfo.h"
+
+#include <QHash>
+#include <QMainWindow>
+
+class QMdiArea;
+class QMdiSubWindow;
+
+namespace quillfen {
+
+class Navigator;
+class PopUpMenus;
+class WindowMenu;
+
+/// The multiple-document main window: navigator, top toolbar, menus, the registry of open windows and the
+/// pop-up menus that child forms borrow.
+class MainWindow : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    /// Builds toolbars and navigator from the settings tree as it stands now; the profiles may be filled
+    /// later, but before the first form opens.
+    MainWindow(const ProgramInfo& program, const FormContext& context, const FormCatalogue& forms);
+
+    /// Opens or brings forward the form of a navigator key; an empty key means the tree's selected node. A
+    /// key without a form opens nothing.
+    void OpenFunctionForm(const QString& key);
+
+    const COpenWindows& openWindows() const { return m_openWindows; }
+
+    /// The borrowed right-click menu of a name.
+    QMenu* popUpMenu(const QString& name) const;
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+
+private:
+    void buildMenus();
+    void addToolbar(bool portalShown);
+    EditorForm* formOf(const QString& key);
+    QMdiSubWindow* subWindowOf(const QString& name) const;
+    void showForm(EditorForm* form);
+    void FindOpenWindow(const QString& caption);
+    void ToggleSideBar();
+    void showAllWindows();
+    void openWebPage(const QString& path);
+    EditorForm* activeForm() const;
+
+    ProgramInfo m_program;
+    FormContext m_context;
+    QHash<QString, FormMaker> m_makers;
+    COpenWindows m_openWindows;
+    Navigator* m_navigator;
+    QMdiArea* m_area;
+    WindowMenu* m_windowMenu;
+    PopUpMenus* m_popUpMenus;
+};
+
+} // namespace quillfen

@@ -1,0 +1,132 @@
+#!/usr/bin/env bash
+# Starts the built program in a copy of the sample hub, on a display of its own, and answers its boxes by keyboard.
+# usage: program_test.sh PROGRAM SAMPLE_HUB WORK_FOLDER VERSION
+set -euo pipefail
+
+if [ -z "${QUILLFEN_ON_DISPLAY:-}" ]; then
+  export QUILLFEN_ON_DISPLAY=1
+  exec xvfb-run -a -s "-screen 0 1400x950x24" "$0" "$@"
+fi
+
+program=$1 sample=$2 work=$3 version=$4
+export QT_QPA_PLATFORM=xcb
+scripts=$work/hub/scripts
+tree="$scripts/Morvaleth's Quillfen/Settings"
+version_box="Morvaleth's Quillfen: Version Change Detected"
+profile_box="Morvaleth's Quillfen: PtokaX Profile Change Detected"
+main_window="Morvaleth's Quillfen $version"
+pid=
+
+fail() {
+  echo "FAILED: $*" >&2
+  [ -n "$pid" ] && kill "$pid" 2>/dev/null
+  exit 1
+}
+
+fresh_hub() {
+  rm -rf "$work/hub"
+  mkdir -p "$work"
+  cp -R "$sample" "$work/hub"
+  cp "$program" "$scripts/quillfen"
+}
+
+begin() {
+  echo "- $*"
+  "$scripts/quillfen" &
+  pid=$!
+}
+
+# The id of the window with exactly this title, once it shows.
+await() {
+  for _ in $(seq 300); do
+    if xdotool search --onlyvisible --name "^$1\$" 2>/dev/null | head -n 1 | grep . ; then return; fi
+    kill -0 "$pid" 2>/dev/null || fail "the program ended before '$1' came"
+    sleep 0.1
+  done
+  fail "no window '$1'"
+}
+
+press() { # TITLE KEY...
+  local window
+  window=$(await "$1")
+  shift
+  xdotool windowfocus --sync "$window"
+  xdotool key --delay 50 "$@"
+}
+
+ends_with() {
+  local code=0
+  wait "$pid" || code=$?
+  pid=
+  [ "$code" -eq "$1" ] || fail "exit code $code, not $1"
+}
+
+close_main() {
+  press "$main_window" alt+f c
+  ends_with 0
+}
+
+state() { (cd "$work/hub" && find . -type f ! -name quillfen -exec md5sum {} + | sort -k 2; find . -type d | sort); }
+
+fresh_hub
+begin "first start builds the tree"
+press "$version_box" Return
+close_main
+grep -q "sVersion = \"$version\"," "$tree/General/Globals/Version.tbl" || fail "no version record"
+[ -f "$tree/General/Globals/GeneralSettings.tbl" ] || fail "no settings"
+[ -d "$tree/TheArchive/Hyperlink" ] || fail "no archive folder"
+[ -d "$scripts/Morvaleth's Scripts/News" ] || fail "no news folder"
+[ "$(head -c 2 "$tree/General/PtokaX/Profiles.xml" | od -An -tx1 | tr -d ' ')" = 0d0a ] || fail "no profile copy"
+
+before=$(state)
+begin "second start asks nothing and changes nothing"
+close_main
+[ "$(state)" = "$before" ] || fail "the second start changed something"
+
+sed -i 's/bFlatRC = 0/bFlatRC = 1/' "$tree/General/Globals/GeneralSettings.tbl"
+sed -i "s/$version/5.1.9/" "$tree/General/Globals/Version.tbl"
+before=$(state)
+begin "refused version change ends the program and changes nothing"
+press "$version_box" Escape
+ends_with 0
+[ "$(state)" = "$before" ] || fail "the refusal changed something"
+
+begin "version change rebuilds and keeps what was set"
+press "$version_box" Return
+close_main
+grep -q "bFlatRC = 1," "$tree/General/Globals/GeneralSettings.tbl" || fail "a setting was lost"
+grep -q "sVersion = \"$version\"," "$tree/General/Globals/Version.tbl" || fail "no version record"
+
+sed -i 's|^</Profiles>|<Profile>\r\n<Name>Guest</Name>\r\n</Profile>\r\n</Profiles>|' "$work/hub/cfg/Profiles.xml"
+begin "more profiles rebuild"
+press "$profile_box" Return
+close_main
+grep -q "<Name>Guest</Name>" "$tree/General/PtokaX/Profiles.xml" || fail "the profile copy is old"
+
+fresh_hub
+rm -rf "$scripts/Morvaleth's Quillfen"
+before=$(state)
+begin "missing script folder is told, and nothing is touched"
+press "Morvaleth's Quillfen" Return
+ends_with 1
+[ "$(state)" = "$before" ] || fail "something was made in a folder without the script"
+
+fresh_hub
+mkdir -p "$tree/General/Globals/GeneralSettings.tbl"
+begin "folder in a file's place is told"
+press "$version_box" Return
+press "Morvaleth's Quillfen" Return
+ends_with 1
+[ ! -e "$tree/General/Globals/Switches.tbl" ] || fail "the build went on"
+
+fresh_hub
+mkdir -p "$tree/General/Globals"
+ln -s /dev/full "$tree/General/Globals/Version.tbl"
+begin "full disk is told"
+press "$version_box" Return
+press "Morvaleth's Quillfen" Return
+ends_with 1
+[ ! -e "$tree/General/PtokaX/Profiles.xml" ] || fail "the start went on"
+
+rm -rf "$work/hub"
+echo "all starts went as they should"

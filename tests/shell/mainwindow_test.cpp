@@ -1,0 +1,437 @@
+#include "shell/window/popupmenus.h"
+#include "support/formtest.h"
+
+#include <QDesktopServices>
+#include <QDialog>
+#include <QMenu>
+#include <QMenuBar>
+#include <QProcess>
+#include <QPushButton>
+#include <QSplitter>
+#include <QTemporaryDir>
+#include <QTreeWidget>
+
+namespace quillfen {
+namespace {
+
+/// Notes which web pages the program asks the platform to open.
+class WebPages : public QObject
+{
+    Q_OBJECT
+
+public:
+    WebPages() { QDesktopServices::setUrlHandler("quillfentest", this, "note"); }
+    ~WebPages() override { QDesktopServices::unsetUrlHandler("quillfentest"); }
+
+    QStringList opened;
+
+    Q_INVOKABLE void note(const QUrl& url) { opened.append(url.toString()); }
+};
+
+class MainWindowTest : public test::FormTest
+{
+protected:
+    QStringList menuCaptions()
+    {
+        QStringList captions;
+        for (auto* entry : find<QMenu>(window(), "mnuWindows").actions()) {
+            if (entry->isVisible() && !entry->isSeparator())
+                captions.append(entry->text());
+        }
+        return captions;
+    }
+
+    /// Forms of no content for keys whose own are not needed here.
+    void fillWithForms()
+    {
+        for (const StandIn& each : standIns) {
+            forms.push_back({each.name, [each](const FormContext&) {
+                                 return new EditorForm({each.name, each.caption});
+                             }});
+        }
+    }
+
+    QMdiArea& area() { return find<QMdiArea>(window(), QString()); }
+    static void closeForm(EditorForm& form) { qobject_cast<QMdiSubWindow*>(form.parentWidget())->close(); }
+
+    struct StandIn
+    {
+        QString key;
+        QString name;
+        QString caption;
+    };
+    const QList<StandIn> standIns = {
+        {"Games~Anagrams", "frmGamesAnagrams", "Games ~ Anagrams"},
+        {"Games~CodeBreaker", "frmGamesCodeBreaker", "Games ~ CodeBreaker"},
+        {"Games~GuessTheNumber", "frmGamesGuessTheNumber", "Games ~ GuessTheNumber"},
+        {"Games~Hangman", "frmGamesHangman", "Games ~ Hangman"},
+        {"Games~Numbers", "frmGamesNumbers", "Games ~ Numbers"},
+        {"Games~RussianRoulette", "frmGamesRussianRoulette", "Games ~ RussianRoulette"},
+        {"Games~SlotMachine", "frmGamesSlotMachine", "Games ~ SlotMachine"},
+        {"Games~ThreeCardMonty", "frmGamesThreeCardMonty", "Games~ ThreeCardMonty"},
+    };
+};
+
+TEST_F(MainWindowTest, IsNamedAndSizedAsTold)
+{
+    EXPECT_EQ(window().objectName(), "frmContainer");
+    EXPECT_EQ(window().windowTitle(), "Morvaleth's Quillfen 5.2.0");
+    EXPECT_EQ(window().minimumSize(), QSize(11790 / 15, 9060 / 15));
+    EXPECT_FALSE(window().windowIcon().isNull());
+    EXPECT_EQ(window().statusBar()->objectName(), "stsContainer");
+    window().resize(10, 10);
+    EXPECT_EQ(window().size(), QSize(786, 604));
+}
+
+TEST_F(MainWindowTest, HasItsMenus)
+{
+    QStringList titles;
+    for (auto* action : window().menuBar()->actions())
+        titles.append(action->menu()->objectName() + '=' + action->text());
+    EXPECT_EQ(titles,
+              (QStringList{"mnuFile=&File", "mnuTools=&Tools", "mnuWindows=&Window", "mnuHelp=&Help"}));
+    const QList<QPair<const char*, const char*>> items = {
+        {"mnuFileClose", "&Close"},
+        {"mnuToolsSideBar", "Show/Hide Functions &Sidebar"},
+        {"mnuWindowsShowAll", "&Show All Windows"},
+        {"mnuWindowsClose", "&Close All Windows"},
+        {"mnuWindows1", "Windows Menu &1"},
+        {"mnuWindows9", "Windows Menu &9"},
+        {"mnuWindows10", "Windows Menu 1&0"},
+        {"mnuHelpVisit", "&Visit Morvaleth's Scripts"},
+        {"mnuHelpDonate", "Make A &Donation"},
+        {"mnuHelpAbout", "&About"},
+    };
+    for (const auto& [name, caption] : items)
+        EXPECT_EQ(find<QAction>(window(), name).text(), caption);
+    EXPECT_TRUE(find<QAction>(window(), "mnuWindowsSplitter").isSeparator());
+}
+
+TEST_F(MainWindowTest, OpensTheMakersPages)
+{
+    WebPages pages;
+    find<QAction>(window(), "mnuHelpVisit").trigger();
+    find<QAction>(window(), "SCRIPTS").trigger();
+    find<QAction>(window(), "mnuHelpDonate").trigger();
+    find<QAction>(window(), "DONATE").trigger();
+    EXPECT_EQ(pages.opened, (QStringList{"quillfentest:///scripts/", "quillfentest:///scripts/",
+                                         "quillfentest:///scripts/donate/Quillfen/",
+                                         "quillfentest:///scripts/donate/Quillfen/"}));
+}
+
+TEST_F(MainWindowTest, SaysSoWhenThereIsNoWebAddress)
+{
+    program.webBase.clear();
+    const auto boxes =
+        test::answering(QMessageBox::Ok, [this] { find<QAction>(window(), "SCRIPTS").trigger(); });
+    ASSERT_EQ(boxes.size(), 1);
+    EXPECT_EQ(boxes[0].text, "The web page scripts/ can't be opened.");
+}
+
+TEST_F(MainWindowTest, TheWindowMenuIsEmptyAtFirst)
+{
+    EXPECT_TRUE(menuCaptions().isEmpty());
+    EXPECT_FALSE(find<QAction>(window(), "mnuWindowsSplitter").isVisible());
+}
+
+TEST_F(MainWindowTest, AnOpenFormStandsInTheWindowMenuOnce)
+{
+    open("General~Settings");
+    open("General~Switches");
+    open("General~Settings");
+    EXPECT_EQ(menuCaptions(),
+              (QStringList{"&1. General ~ Settings", "&2. General ~ Switches", "&Close All Windows"}));
+    EXPECT_TRUE(find<QAction>(window(), "mnuWindowsSplitter").isVisible());
+    EXPECT_EQ(window().openWindows().Count(), 2);
+    EXPECT_EQ(window().openWindows().Item(1).Key(), "General~Settings");
+    EXPECT_EQ(window().openWindows().Item(1).Caption(), "General ~ Settings");
+}
+
+TEST_F(MainWindowTest, ChoosingAnOpenFormBringsItForward)
+{
+    auto& settings = open("General~Settings");
+    open("General~Switches");
+    find<QAction>(window(), "mnuWindows1").trigger();
+    EXPECT_EQ(area().currentSubWindow()->widget(), &settings);
+    qobject_cast<QMdiSubWindow*>(settings.parentWidget())->showMinimized();
+    EXPECT_EQ(&open("General~Settings"), &settings);
+    EXPECT_FALSE(settings.parentWidget()->isMinimized());
+}
+
+TEST_F(MainWindowTest, AClosedFormLeavesTheMenu)
+{
+    auto& settings = open("General~Settings");
+    open("General~Switches");
+    closeForm(settings);
+    EXPECT_EQ(menuCaptions(), (QStringList{"&1. General ~ Switches", "&Close All Windows"}));
+}
+
+TEST_F(MainWindowTest, AFormWhoseCaptionIsAnotherThanItsKeysLeavesTheMenuByItsTag)
+{
+    auto& form = open("General~EnabledRightClicks");
+    EXPECT_EQ(form.windowTitle(), "General ~ Right Clicks");
+    EXPECT_EQ(form.tag(), "General ~ EnabledRightClicks");
+    EXPECT_EQ(menuCaptions().value(0), "&1. General ~ EnabledRightClicks");
+    closeForm(form);
+    EXPECT_EQ(window().openWindows().Count(), 0);
+}
+
+TEST_F(MainWindowTest, ACaptionWithOtherBlanksStillFindsItsEntry)
+{
+    fillWithForms();
+    auto& form = open("Games~ThreeCardMonty");
+    EXPECT_EQ(form.tag(), "");
+    closeForm(form);
+    EXPECT_EQ(window().openWindows().Count(), 0);
+}
+
+TEST_F(MainWindowTest, ElevenOpenFormsShowTenEntriesAndTheWayToAll)
+{
+    fillWithForms();
+    for (const auto& each : standIns)
+        open(each.key.toLatin1());
+    open("General~Settings");
+    open("General~Switches");
+    EXPECT_FALSE(find<QAction>(window(), "mnuWindowsShowAll").isVisible());
+    open("General~EnabledRightClicks");
+    const QStringList captions = menuCaptions();
+    ASSERT_EQ(captions.size(), 12);
+    EXPECT_EQ(captions[8], "&9. General ~ Settings");
+    EXPECT_EQ(captions[9], "1&0. General ~ Switches");
+    EXPECT_EQ(captions[10], "&Show All Windows");
+    EXPECT_EQ(captions[11], "&Close All Windows");
+}
+
+TEST_F(MainWindowTest, CloseAllWindowsDoesNothing)
+{
+    open("General~Settings");
+    find<QAction>(window(), "mnuWindowsClose").trigger();
+    EXPECT_EQ(area().subWindowList().size(), 1);
+}
+
+TEST_F(MainWindowTest, TheListOfAllWindowsOpensTheOneThatIsPicked)
+{
+    auto& settings = open("General~Settings");
+    open("General~Switches");
+    test::withModal([this] { find<QAction>(window(), "mnuWindowsShowAll").trigger(); },
+                    [](QWidget& dialog) {
+                        EXPECT_EQ(dialog.objectName(), "frmContainerWindows");
+                        EXPECT_EQ(dialog.windowTitle(), "Windows");
+                        auto& list = find<QTreeWidget>(dialog, "lvwWindows");
+                        EXPECT_EQ(list.headerItem()->text(0), "window");
+                        ASSERT_EQ(list.topLevelItemCount(), 2);
+                        EXPECT_EQ(list.topLevelItem(0)->text(0), "General ~ Settings");
+                        EXPECT_EQ(find<QPushButton>(dialog, "cmdCancel").text(), "Cancel");
+                        list.setCurrentItem(list.topLevelItem(0));
+                        find<QPushButton>(dialog, "cmdOK").click();
+                    });
+    EXPECT_EQ(area().currentSubWindow()->widget(), &settings);
+}
+
+TEST_F(MainWindowTest, TheListOfAllWindowsChangesNothingWhenItIsCancelled)
+{
+    open("General~Settings");
+    auto& switches = open("General~Switches");
+    test::withModal([this] { find<QAction>(window(), "mnuWindowsShowAll").trigger(); },
+                    [](QWidget& dialog) {
+                        auto& list = find<QTreeWidget>(dialog, "lvwWindows");
+                        list.setCurrentItem(list.topLevelItem(0));
+                        find<QPushButton>(dialog, "cmdCancel").click();
+                    });
+    EXPECT_EQ(area().currentSubWindow()->widget(), &switches);
+}
+
+TEST_F(MainWindowTest, TheHourglassShowsWhileAFormLoadsAndGoesThen)
+{
+    Qt::CursorShape during = Qt::ArrowCursor;
+    forms.push_back({"frmGamesAnagrams", [&during](const FormContext&) {
+                         if (const auto* cursor = QApplication::overrideCursor())
+                             during = cursor->shape();
+                         return new EditorForm({"frmGamesAnagrams", "Games ~ Anagrams"});
+                     }});
+    open("Games~Anagrams");
+    EXPECT_EQ(during, Qt::WaitCursor);
+    EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+}
+
+TEST_F(MainWindowTest, ClosesItsFormsFirstAndACancelKeepsItOpen)
+{
+    auto& settings = open("General~Settings");
+    QTest::keyClicks(&find<QWidget>(settings, "txtTextBox(0)"), "x");
+    auto boxes =
+        test::answering(QMessageBox::Cancel, [this] { find<QAction>(window(), "mnuFileClose").trigger(); });
+    ASSERT_EQ(boxes.size(), 1);
+    EXPECT_EQ(boxes[0].title, "Discard changes?");
+    EXPECT_TRUE(window().isVisible());
+    boxes = test::answering(QMessageBox::Ok, [this] { window().close(); });
+    EXPECT_EQ(boxes.size(), 1);
+    EXPECT_FALSE(window().isVisible());
+    EXPECT_EQ(window().openWindows().Count(), 0);
+}
+
+/// A form that serves the borrowed menus' routines that a test names.
+class ServingForm : public EditorForm
+{
+    Q_OBJECT
+
+public:
+    ServingForm() : EditorForm({"frmGamesAnagrams", "Games ~ Anagrams"}) {}
+
+    QStringList called;
+
+    Q_INVOKABLE void gMenuEditClick() { called.append("gMenuEditClick"); }
+    Q_INVOKABLE void gMenuEditTwoClick() { called.append("gMenuEditTwoClick"); }
+    Q_INVOKABLE void gMenuEditThreeClick() { called.append("gMenuEditThreeClick"); }
+    Q_INVOKABLE void gMenuFirstAddClick() { called.append("gMenuFirstAddClick"); }
+    Q_INVOKABLE void gMenuTrueFalseTrueClick() { called.append("gMenuTrueFalseTrueClick"); }
+    Q_INVOKABLE void gMenuTrueFalseFalseClick() { called.append("gMenuTrueFalseFalseClick"); }
+};
+
+TEST_F(MainWindowTest, ABorrowedMenuCallsTheRoutineOfTheActiveForm)
+{
+    auto* form = new ServingForm;
+    forms.push_back({"frmGamesAnagrams", [form](const FormContext&) { return form; }});
+    open("Games~Anagrams");
+    find<QAction>(window(), "mnuOnlyEditEdit").trigger();
+    find<QAction>(window(), "mnuOnlyEditTwoEdit").trigger();
+    find<QAction>(window(), "mnuOnlyEditThreeEdit").trigger();
+    find<QAction>(window(), "mnuFirstAdd").trigger();
+    EXPECT_EQ(form->called, (QStringList{"gMenuEditClick", "gMenuEditTwoClick", "gMenuEditThreeClick",
+                                         "gMenuFirstAddClick"}));
+}
+
+TEST_F(MainWindowTest, BothEntriesOfTrueFalseCallTheSameRoutine)
+{
+    auto* form = new ServingForm;
+    forms.push_back({"frmGamesAnagrams", [form](const FormContext&) { return form; }});
+    open("Games~Anagrams");
+    find<QAction>(window(), "mnuTrueFalseTrue").trigger();
+    find<QAction>(window(), "mnuTrueFalseFalse").trigger();
+    EXPECT_EQ(form->called, (QStringList{"gMenuTrueFalseTrueClick", "gMenuTrueFalseTrueClick"}));
+}
+
+TEST_F(MainWindowTest, AMissingRoutineIsAnErrorAndNoCrash)
+{
+    open("General~Settings");
+    const auto boxes =
+        test::answering(QMessageBox::Ok, [this] { find<QAction>(window(), "mnuFirstAdd").trigger(); });
+    ASSERT_EQ(boxes.size(), 1);
+    EXPECT_EQ(boxes[0].icon, QMessageBox::Critical);
+    EXPECT_EQ(boxes[0].text, "The active form has no gMenuFirstAddClick.");
+}
+
+TEST_F(MainWindowTest, APopUpItemWithNoFormActiveIsAnErrorToo)
+{
+    EXPECT_EQ(
+        test::answering(QMessageBox::Ok, [this] { find<QAction>(window(), "mnuBotsEdit").trigger(); }).size(),
+        1);
+}
+
+TEST(PopUpMenusTest, EachMenuHasItsItemsAndRoutines)
+{
+    QWidget owner;
+    PopUpMenus menus([] { return nullptr; }, &owner);
+    QStringList missing;
+    QObject::connect(&menus, &PopUpMenus::routineMissing,
+                     [&missing](const QString& name) { missing.append(name); });
+    const auto check = [&](const QString& name, const QStringList& captions, const QStringList& routines) {
+        auto* menu = menus.menu(name);
+        ASSERT_TRUE(menu) << name.toStdString();
+        QStringList seen;
+        missing.clear();
+        for (auto* action : menu->actions()) {
+            seen.append(action->text());
+            action->trigger();
+        }
+        EXPECT_EQ(seen, captions) << name.toStdString();
+        EXPECT_EQ(missing, routines) << name.toStdString();
+    };
+    const QStringList edit = {"&Edit"};
+    const QStringList all = {"&Add", "&Delete", "&Edit"};
+    check("mnuOnlyEdit", edit, {"gMenuEditClick"});
+    check("mnuOnlyEditTwo", edit, {"gMenuEditTwoClick"});
+    check("mnuOnlyEditThree", edit, {"gMenuEditThreeClick"});
+    check("mnuFirst", all, {"gMenuFirstAddClick", "gMenuFirstDeleteClick", "gMenuFirstEditClick"});
+    check("mnuSecond", all, {"gMenuSecondAddClick", "gMenuSecondDeleteClick", "gMenuSecondEditClick"});
+    check("mnuThird", all, {"gMenuThirdAddClick", "gMenuThirdDeleteClick", "gMenuThirdEditClick"});
+    check("mnuFourth", all, {"gMenuFourthAddClick", "gMenuFourthDeleteClick", "gMenuFourthEditClick"});
+    check("mnuTrueFalse", {"&True", "&False"}, {"gMenuTrueFalseTrueClick", "gMenuTrueFalseTrueClick"});
+    check("mnuBots", edit, {"gMenuBotsEditClick"});
+    check("mnuIntro", all, {"gMenuIntroAddClick", "gMenuIntroDeleteClick", "gMenuIntroEditClick"});
+    check("mnuOutro", all, {"gMenuOutroAddClick", "gMenuOutroDeleteClick", "gMenuOutroEditClick"});
+    check("mnuAnagrams", all,
+          {"gMenuAnagramsAddClick", "gMenuAnagramsDeleteClick", "gMenuAnagramsEditClick"});
+    check("mnuHangman", all, {"gMenuHangmanAddClick", "gMenuHangmanDeleteClick", "gMenuHangmanEditClick"});
+    check("mnuNumbers", all, {"gMenuNumbersAddClick", "gMenuNumbersDeleteClick", "gMenuNumbersEditClick"});
+    check("mnuNumbersNumbers", edit, {"gMenuNumbersNumbersEditClick"});
+    check("mnuUserActions", all, {"gMenuAddClick", "gMenuDeleteClick", "gMenuEditClick"});
+    check("mnuTriviaQuestions", all, {});
+    EXPECT_TRUE(menus.menu("mnuTriviaQuestions")->findChild<QAction*>("mnuTriviaQuestionsAdd"));
+    EXPECT_TRUE(menus.menu("mnuTriviaQuestions")->findChild<QAction*>("mnuTriviaQuestionsDelete"));
+    EXPECT_TRUE(menus.menu("mnuTriviaQuestions")->findChild<QAction*>("mnuTriviaQuestionsEdit"));
+}
+
+TEST_F(MainWindowTest, TheAboutBoxTellsProductAndVersion)
+{
+    test::withModal([this] { find<QAction>(window(), "mnuHelpAbout").trigger(); },
+                    [](QWidget& box) {
+                        EXPECT_EQ(box.objectName(), "frmHelpAbout");
+                        EXPECT_EQ(box.windowTitle(), "About Morvaleth's Quillfen");
+                        EXPECT_EQ(find<QLabel>(box, "lblTitle").text(), "Morvaleth's Quillfen");
+                        EXPECT_EQ(find<QLabel>(box, "lblVersion").text(), "Version 5.2.0");
+                        EXPECT_EQ(
+                            find<QLabel>(box, "lblDescription").text(),
+                            "Morvaleth's Quillfen is an All-in-One bot for use with the PtokaX hubsoft. "
+                            "Supplying both Security functions and Games");
+                        find<QPushButton>(box, "cmdOK").click();
+                    });
+}
+
+#ifdef Q_OS_LINUX
+class SystemInformation : public MainWindowTest
+{
+protected:
+    SystemInformation() { qputenv("PATH", folder.path().toLocal8Bit()); }
+    ~SystemInformation() override { qputenv("PATH", path); }
+
+    /// Presses the about box's button, notes what a box on top of it says, and closes both.
+    QString pressed()
+    {
+        QString text;
+        test::withModal([this] { find<QAction>(window(), "mnuHelpAbout").trigger(); },
+                        [&text](QWidget& about) {
+                            const auto boxes = test::answering(QMessageBox::Ok, [&about] {
+                                find<QPushButton>(about, "cmdSysInfo").click();
+                            });
+                            text = boxes.isEmpty() ? QString() : boxes[0].text;
+                            about.close();
+                        });
+        return text;
+    }
+
+    const QByteArray path = qgetenv("PATH");
+    QTemporaryDir folder;
+};
+
+TEST_F(SystemInformation, IsUnavailableWhereThePlatformHasNoTool)
+{
+    EXPECT_EQ(pressed(), "System Information Is Unavailable At This Time");
+}
+
+TEST_F(SystemInformation, StartsThePlatformsTool)
+{
+    const QString tool = folder.filePath("hardinfo");
+    QFile script(tool);
+    ASSERT_TRUE(script.open(QIODevice::WriteOnly));
+    script.write("#!/bin/sh\n: > \"" + folder.filePath("started").toLocal8Bit() + "\"\n");
+    script.close();
+    script.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    EXPECT_EQ(pressed(), "");
+    EXPECT_TRUE(QTest::qWaitFor([this] { return QFile::exists(folder.filePath("started")); }));
+}
+#endif
+
+} // namespace
+} // namespace quillfen
+
+#include "mainwindow_test.moc"

@@ -1,0 +1,59 @@
+#pragma once
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTimer>
+
+#include <functional>
+
+namespace quillfen::test {
+
+/// What a message box showed.
+struct SeenBox
+{
+    QString title;
+    QString text;
+    QMessageBox::StandardButtons buttons;
+    QMessageBox::Icon icon = QMessageBox::NoIcon;
+    Qt::TextFormat format = Qt::AutoText;
+};
+
+/// Runs an action that opens modal windows, and acts on each as a user would: `use` is called once for every
+/// one.
+inline void withModal(const std::function<void()>& action, const std::function<void(QWidget&)>& use)
+{
+    QTimer timer;
+    QWidget* used = nullptr;
+    QObject::connect(&timer, &QTimer::timeout, &timer, [&] {
+        QWidget* modal = QApplication::activeModalWidget();
+        if (!modal || modal == used || !modal->isVisible())
+            return;
+        used = modal;
+        use(*modal);
+        used = nullptr;
+    });
+    timer.start(1);
+    action();
+}
+
+/// Runs an action and answers each message box that it opens with the same button. Returns what they showed.
+inline QList<SeenBox> answering(QMessageBox::StandardButton answer, const std::function<void()>& action)
+{
+    QList<SeenBox> seen;
+    withModal(action, [&](QWidget& modal) {
+        auto* box = qobject_cast<QMessageBox*>(&modal);
+        if (!box)
+            return;
+        seen.append(
+            {box->windowTitle(), box->text(), box->standardButtons(), box->icon(), box->textFormat()});
+        if (auto* button = box->button(answer))
+            button->click();
+        else
+            box->close();
+    });
+    return seen;
+}
+
+} // namespace quillfen::test

@@ -1,0 +1,91 @@
+#pragma once
+
+#include "functions/catalogue.h"
+#include "functions/forms.h"
+#include "settings/rebuild.h"
+#include "shell/window/mainwindow.h"
+#include "support/boxes.h"
+#include "support/hub.h"
+
+#include <QAction>
+#include <QLabel>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QStatusBar>
+#include <QTest>
+#include <QToolBar>
+
+#include <gtest/gtest.h>
+#include <memory>
+
+namespace quillfen::test {
+
+/// A main window over a hub in memory whose tree is built.
+class FormTest : public testing::Test
+{
+protected:
+    FormTest()
+    {
+        hub.store.files["/hub/cfg/Profiles.xml"] =
+            "<Name>Master</Name>\r\n<Name>Operator</Name>\r\n<Name>VIP</Name>\r\n";
+        reconcileSettings(
+            {hub.files, folderCatalogue(), "5.2.0", [](const RebuildQuestion&) { return true; }},
+            hub.profiles);
+    }
+
+    /// The main window, made at the first call.
+    MainWindow& window()
+    {
+        if (!m_window) {
+            m_window = std::make_unique<MainWindow>(program, FormContext{hub.files, hub.profiles}, forms);
+            m_window->show();
+            m_window->activateWindow();
+            EXPECT_TRUE(QTest::qWaitForWindowActive(m_window.get()));
+        }
+        return *m_window;
+    }
+
+    /// Opens the form of a key and returns it.
+    EditorForm& open(const char* key)
+    {
+        window().OpenFunctionForm(key);
+        auto* active = window().findChild<QMdiArea*>()->currentSubWindow();
+        return *qobject_cast<EditorForm*>(active->widget());
+    }
+
+    template <typename Widget>
+    static Widget& find(QObject& parent, const QString& name)
+    {
+        auto* found = parent.findChild<Widget*>(name);
+        if (!found)
+            throw std::runtime_error("no " + name.toStdString());
+        return *found;
+    }
+
+    static QAction& button(EditorForm& form, const char* key, const char* toolbar = "tlbFormToolbar")
+    {
+        return find<QAction>(find<QToolBar>(form, toolbar), key);
+    }
+
+    static QString state(EditorForm& form)
+    {
+        return find<QStatusBar>(form, "stsStatusBar").findChildren<QLabel*>().constFirst()->text();
+    }
+
+    static bool isDirty(EditorForm& form)
+    {
+        const bool dirty = form.isDirty();
+        EXPECT_EQ(button(form, "SAVE").isEnabled(), dirty);
+        EXPECT_EQ(state(form), dirty ? "Controls = Dirty" : "Controls = Clean");
+        return dirty;
+    }
+
+    Hub hub;
+    ProgramInfo program{"5.2.0", "quillfentest:///"};
+    FormCatalogue forms = formCatalogue();
+
+private:
+    std::unique_ptr<MainWindow> m_window;
+};
+
+} // namespace quillfen::test
