@@ -1,0 +1,94 @@
+#include "functions/catalogue.h"
+#include "settings/diskstore.h"
+#include "settings/profiles.h"
+#include "settings/rebuild.h"
+#include "settings/tablefile.h"
+#include "support/plainscan.h"
+
+#include <benchmark/benchmark.h>
+#include <filesystem>
+
+namespace quillfen {
+namespace {
+
+/// One permission file of the heaviest grid: each profile's rights over each profile.
+std::string gridFile(const HubProfiles& profiles)
+{
+    std::string bytes = "tKickCanBan = {\r\n";
+    for (std::size_t by = 0; by < profiles.count(); ++by) {
+        bytes += "\t[" + HubProfiles::key(by) + "] = {\r\n";
+        for (std::size_t on = 0; on < profiles.count(); ++on)
+            bytes += "\t\t[" + HubProfiles::key(on) + "] = " + (by < on ? "1" : "0") + ",\r\n";
+        bytes += "\t},\r\n";
+    }
+    return bytes + "}\r\n";
+}
+
+HubProfiles hubOf(std::size_t count)
+{
+    HubProfiles profiles;
+    while (profiles.count() < count)
+        profiles.add("Profile");
+    return profiles;
+}
+
+constexpr int gridFiles = 6;
+
+void indexedGrid(benchmark::State& state)
+{
+    const auto profiles = hubOf(static_cast<std::size_t>(state.range(0)));
+    const auto bytes = gridFile(profiles);
+    for (auto _ : state) {
+        std::size_t allowed = 0;
+        for (int file = 0; file < gridFiles; ++file) {
+            const TableIndex index(bytes);
+            for (std::size_t by = 0; by < profiles.count(); ++by) {
+                for (std::size_t on = 0; on < profiles.count(); ++on)
+                    allowed += index.value(HubProfiles::key(on), HubProfiles::key(by)) == "1" ? 1U : 0U;
+            }
+        }
+        benchmark::DoNotOptimize(allowed);
+    }
+    state.SetItemsProcessed(state.iterations() * gridFiles * state.range(0) * state.range(0));
+}
+
+void scannedGrid(benchmark::State& state)
+{
+    const auto profiles = hubOf(static_cast<std::size_t>(state.range(0)));
+    const auto bytes = gridFile(profiles);
+    for (auto _ : state) {
+        std::size_t allowed = 0;
+        for (int file = 0; file < gridFiles; ++file) {
+            for (std::size_t by = 0; by < profiles.count(); ++by) {
+                for (std::size_t on = 0; on < profiles.count(); ++on)
+                    allowed +=
+                        test::plainScan(bytes, HubProfiles::key(on), HubProfiles::key(by)) == "1" ? 1U : 0U;
+            }
+        }
+        benchmark::DoNotOptimize(allowed);
+    }
+    state.SetItemsProcessed(state.iterations() * gridFiles * state.range(0) * state.range(0));
+}
+
+void rebuildTree(benchmark::State& state)
+{
+    const auto folder = std::filesystem::temp_directory_path() / "quillfen-bench" / "scripts";
+    std::filesystem::remove_all(folder);
+    std::filesystem::create_directories(folder / "Morvaleth's Quillfen");
+    DiskStore disk;
+    const SettingsFiles files(disk, SettingsPaths(folder.string()));
+    const auto profiles = hubOf(static_cast<std::size_t>(state.range(0)));
+    const Reconciliation start{files, folderCatalogue(), "bench",
+                               [](const RebuildQuestion&) { return true; }};
+    CheckSettingsRebuild(start, 'P', profiles);
+    for (auto _ : state)
+        CheckSettingsRebuild(start, 'P', profiles);
+    std::filesystem::remove_all(folder.parent_path());
+}
+
+BENCHMARK(indexedGrid)->Arg(5)->Arg(20)->Arg(64)->Unit(benchmark::kMillisecond);
+BENCHMARK(scannedGrid)->Arg(5)->Arg(20)->Arg(64)->Unit(benchmark::kMillisecond);
+BENCHMARK(rebuildTree)->Arg(5)->Arg(20)->Arg(64)->Unit(benchmark::kMillisecond);
+
+} // namespace
+} // namespace quillfen
