@@ -24,6 +24,7 @@ std::string rowText(const Setting& setting, const SettingValues& values, const H
     switch (setting.kind) {
     case Setting::Kind::Flag:
     case Setting::Kind::Number:
+    case Setting::Kind::Options:
         return "\t" + setting.key + " = " + values.at(setting.key) + ",\r\n";
     case Setting::Kind::Text:
     case Setting::Kind::Entry:
@@ -97,6 +98,16 @@ Setting entry(std::string key, std::string control, std::string label, std::stri
     return {
         Setting::Kind::Entry, std::move(key), std::move(control), std::move(label), std::move(standard), 0, 0,
         std::move(entries)};
+}
+
+Setting options(std::string key, std::string control, std::string label, std::string standard,
+                int firstOption, std::vector<std::string> entries)
+{
+    Setting setting =
+        entry(std::move(key), std::move(control), std::move(label), std::move(standard), std::move(entries));
+    setting.kind = Setting::Kind::Options;
+    setting.firstOption = firstOption;
+    return setting;
 }
 
 Setting profileFlags(std::string key, std::string control, std::string label)

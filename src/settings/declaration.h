@@ -19,6 +19,7 @@ struct Setting
         Number,   ///< an integer, bare; a number box whose arrows keep the range
         Text,     ///< quoted; a text box
         Entry,    ///< quoted; a combo box with entries to pick, and any other text
+        Options,  ///< an integer, bare: which of the entries is chosen, counted from 0; an option group
         Profiles, ///< a nested table of one flag per hub profile; a check list
     };
 
@@ -30,6 +31,9 @@ struct Setting
     int minimum = 0;
     int maximum = 0;
     std::vector<std::string> entries{};
+    int firstOption = 0;     ///< the place of an option group's first button in its control array
+    int limit = 0;           ///< the most characters that a text box takes; 0 for no limit
+    bool onlyArrows = false; ///< a number that is changed by its arrows and not typed
 };
 
 Setting flag(std::string key, std::string control, std::string label, std::string standard);
@@ -38,6 +42,11 @@ Setting number(std::string key, std::string control, std::string label, std::str
 Setting text(std::string key, std::string control, std::string label, std::string standard);
 Setting entry(std::string key, std::string control, std::string label, std::string standard,
               std::vector<std::string> entries);
+
+/// The control is the array's name, "optOption": its buttons are counted from firstOption on.
+Setting options(std::string key, std::string control, std::string label, std::string standard,
+                int firstOption, std::vector<std::string> entries);
+
 Setting profileFlags(std::string key, std::string control, std::string label);
 
 /// A settings file: one table, its settings in the order of the form's save, and the order of the rebuild

@@ -1,5 +1,6 @@
 #include "functions/general/settings.h"
 #include "functions/general/switches.h"
+#include "settings/listfile.h"
 #include "support/golden.h"
 #include "support/hub.h"
 
@@ -65,10 +66,10 @@ TEST_F(General, ARebuildResetsEverySwitchAndRemovesThePortals)
 TEST_F(General, SwitchesShowWithoutTheirLetterAndAreSavedWithIt)
 {
     switches = "tSwitches = {\r\n\tbAnagrams = 1,\r\n\tbMute = 0,\r\n\tbPortal = 1,\r\n}\r\n";
-    const auto rows = loadSwitches(hub.files, switchesFile);
+    const auto rows = loadList(hub.files, switchesFile());
     EXPECT_EQ(rows,
               (std::vector<ListRow>{{"Anagrams", "", true}, {"Mute", "", false}, {"Portal", "", true}}));
-    saveSwitches(hub.files, switchesFile, rows);
+    saveList(hub.files, switchesFile(), rows);
     EXPECT_TRUE(
         sameBytes(switches, "tSwitches = {\r\n\tbAnagrams = 1,\r\n\tbMute = 0,\r\n\tbPortal = 1,\r\n}\r\n"));
 }

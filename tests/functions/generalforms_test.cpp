@@ -1,4 +1,4 @@
-#include "shell/kit/ticklist.h"
+#include "shell/kit/rowlist.h"
 #include "support/formtest.h"
 #include "support/golden.h"
 
@@ -21,25 +21,12 @@ protected:
     std::string& rightClicks = hub.file("General/Globals/EnabledRightClicks.tbl");
 
     static QLineEdit& box(EditorForm& form, const char* name) { return find<QLineEdit>(form, name); }
-    static TickList& list(EditorForm& form) { return find<TickList>(form, "lvwSwitches"); }
-
-    static QTreeWidgetItem& row(EditorForm& form, const char* text)
-    {
-        return *list(form).findItems(text, Qt::MatchExactly).constFirst();
-    }
-
-    /// A click on a row's tick box.
-    static void tick(EditorForm& form, const char* text)
-    {
-        auto& rows = list(form);
-        rows.scrollToItem(&row(form, text));
-        const QRect place = rows.visualItemRect(&row(form, text));
-        QTest::mouseClick(rows.viewport(), Qt::LeftButton, {}, {place.left() + 9, place.center().y()});
-    }
+    static RowList& list(EditorForm& form) { return find<RowList>(form, "lvwSwitches"); }
+    static void tick(EditorForm& form, const char* text) { clickTick(list(form), rowOf(list(form), text)); }
 
     static bool isTicked(EditorForm& form, const char* text)
     {
-        return row(form, text).checkState(0) == Qt::Checked;
+        return list(form).rows()[static_cast<std::size_t>(rowOf(list(form), text))].checked;
     }
 };
 
@@ -231,9 +218,9 @@ TEST_F(GeneralForms, SwitchesShowEveryFunctionWithoutItsLetter)
     auto& form = open("General~Switches");
     EXPECT_EQ(form.objectName(), "frmGeneralSwitches");
     EXPECT_EQ(form.windowTitle(), "General ~ Switches");
-    EXPECT_EQ(list(form).topLevelItemCount(), 56);
-    EXPECT_EQ(list(form).topLevelItem(0)->text(0), "Anagrams");
-    EXPECT_EQ(list(form).topLevelItem(55)->text(0), "Whisper");
+    EXPECT_EQ(list(form).rows().size(), 56U);
+    EXPECT_EQ(list(form).rows().front().cells[0], "Anagrams");
+    EXPECT_EQ(list(form).rows().back().cells[0], "Whisper");
     EXPECT_TRUE(isTicked(form, "Anagrams"));
     EXPECT_FALSE(isTicked(form, "TopicChanger"));
     EXPECT_FALSE(isDirty(form));
@@ -268,7 +255,7 @@ TEST_F(GeneralForms, ADiscardLeavesTheSwitchesClean)
     tick(form, "Mute");
     answering(QMessageBox::Ok, [&form] { button(form, "DISCARD").trigger(); });
     EXPECT_TRUE(isTicked(form, "Mute"));
-    EXPECT_EQ(list(form).topLevelItemCount(), 56);
+    EXPECT_EQ(list(form).rows().size(), 56U);
     EXPECT_FALSE(isDirty(form));
 }
 
@@ -285,11 +272,7 @@ TEST_F(GeneralForms, APortalSwitchPutInByHandShowsAndIsSavedLikeAnyOther)
 TEST_F(GeneralForms, AClickOnARowShowsItsHelpInABalloon)
 {
     auto& form = open("General~Switches");
-    const auto click = [&form](const char* text) {
-        list(form).scrollToItem(&row(form, text));
-        QTest::mouseClick(list(form).viewport(), Qt::LeftButton, {},
-                          list(form).visualItemRect(&row(form, text)).center());
-    };
+    const auto click = [&form](const char* text) { clickRow(list(form), rowOf(list(form), text)); };
     click("Mute");
     const auto balloons = [&form] { return form.findChildren<QWidget*>("CTooltip"); };
     ASSERT_EQ(balloons().size(), 1);

@@ -1,8 +1,8 @@
 #include "settings/declaration.h"
 #include "shell/kit/codepagetext.h"
 #include "shell/kit/numberbox.h"
+#include "shell/kit/rowlist.h"
 #include "shell/kit/tablefilepart.h"
-#include "shell/kit/ticklist.h"
 #include "shell/kit/toolbars.h"
 #include "shell/kit/tooltip.h"
 #include "support/formtest.h"
@@ -241,18 +241,6 @@ TEST(NumberBoxTest, TheWheelDoesNothingWithoutFocus)
     EXPECT_EQ(box.text(), "5");
 }
 
-TEST(TickListTest, TellsItsTicksAndNoticesTheUsers)
-{
-    TickList list("lvwSwitches", "Functions");
-    list.setRows({{"a", {}, true}, {"b", {}, false}});
-    int changes = 0;
-    QObject::connect(&list, &TickList::tickChanged, [&changes] { ++changes; });
-    list.setCurrentItem(list.topLevelItem(1));
-    QTest::keyClick(&list, Qt::Key_Space);
-    EXPECT_EQ(changes, 1);
-    EXPECT_EQ(list.rows(), (std::vector<ListRow>{{"a", {}, true}, {"b", {}, true}}));
-}
-
 TEST(Tooltip, ShowsTitleAndTextAndReplacesTheOneBefore)
 {
     QWidget parent;
@@ -330,8 +318,8 @@ TEST_F(DeclaredForm, LoadsEachControlFromOneReadingOfTheFile)
     EXPECT_EQ(find<QLineEdit>(form, "txtUpDown(0)").text(), "77");
     EXPECT_EQ(find<QLineEdit>(form, "txtTextBox(0)").text(), QStringLiteral(u"t\u20AC"));
     EXPECT_EQ(find<QComboBox>(form, "cboComboBox").currentText(), "%");
-    EXPECT_EQ(find<TickList>(form, "lvwEnabledProfiles").rows(),
-              (std::vector<ListRow>{{"Unregistered"}, {"Master", {}, true}, {"Operator"}, {"VIP"}}));
+    EXPECT_EQ(find<RowList>(form, "lvwEnabledProfiles").rows(),
+              (std::vector<CellRow>{{{"Unregistered"}}, {{"Master"}, true}, {{"Operator"}}, {{"VIP"}}}));
     EXPECT_FALSE(isDirty(form));
 }
 
@@ -355,15 +343,14 @@ TEST_F(DeclaredForm, EachChangeMakesItDirty)
         dirtyAfter([](EditorForm& form) { QTest::keyClicks(&find<QLineEdit>(form, "txtTextBox(0)"), "y"); }));
     EXPECT_TRUE(
         dirtyAfter([](EditorForm& form) { find<QComboBox>(form, "cboComboBox").setCurrentIndex(1); }));
-    EXPECT_TRUE(dirtyAfter([](EditorForm& form) {
-        find<TickList>(form, "lvwEnabledProfiles").topLevelItem(0)->setCheckState(0, Qt::Checked);
-    }));
+    EXPECT_TRUE(
+        dirtyAfter([](EditorForm& form) { clickTick(find<RowList>(form, "lvwEnabledProfiles"), 0); }));
 }
 
 TEST_F(DeclaredForm, SavesWhatTheControlsHoldOutOfRangeNumbersIncluded)
 {
     auto& form = open("Games~Anagrams");
-    find<TickList>(form, "lvwEnabledProfiles").topLevelItem(3)->setCheckState(0, Qt::Checked);
+    clickTick(find<RowList>(form, "lvwEnabledProfiles"), 3);
     button(form, "SAVE").trigger();
     EXPECT_EQ(
         hub.file("A.tbl"),

@@ -269,45 +269,66 @@ TEST_F(MainWindowTest, ClosesItsFormsFirstAndACancelKeepsItOpen)
     EXPECT_EQ(window().openWindows().Count(), 0);
 }
 
-/// A form that serves the borrowed menus' routines that a test names.
-class ServingForm : public EditorForm
+/// A part that serves the borrowed menus' routines that a test names, and notes their calls.
+class ServingPart : public FormPart
 {
     Q_OBJECT
 
 public:
-    ServingForm() : EditorForm({"frmGamesAnagrams", "Games ~ Anagrams"}) {}
+    explicit ServingPart(QStringList& called) : m_called(called) {}
 
-    QStringList called;
+    QWidget* widget() override { return new QWidget; }
+    void load() override {}
+    void restore() override {}
+    void save() override {}
+    RoutineTable routines() override
+    {
+        RoutineTable table;
+        for (const QString name :
+             {"gMenuEditClick", "gMenuEditTwoClick", "gMenuEditThreeClick", "gMenuFirstAddClick",
+              "gMenuTrueFalseTrueClick", "gMenuTrueFalseFalseClick"})
+            table.insert(name, [this, name] { m_called.append(name); });
+        return table;
+    }
 
-    Q_INVOKABLE void gMenuEditClick() { called.append("gMenuEditClick"); }
-    Q_INVOKABLE void gMenuEditTwoClick() { called.append("gMenuEditTwoClick"); }
-    Q_INVOKABLE void gMenuEditThreeClick() { called.append("gMenuEditThreeClick"); }
-    Q_INVOKABLE void gMenuFirstAddClick() { called.append("gMenuFirstAddClick"); }
-    Q_INVOKABLE void gMenuTrueFalseTrueClick() { called.append("gMenuTrueFalseTrueClick"); }
-    Q_INVOKABLE void gMenuTrueFalseFalseClick() { called.append("gMenuTrueFalseFalseClick"); }
+private:
+    QStringList& m_called;
 };
 
-TEST_F(MainWindowTest, ABorrowedMenuCallsTheRoutineOfTheActiveForm)
+class BorrowedMenus : public MainWindowTest
 {
-    auto* form = new ServingForm;
-    forms.push_back({"frmGamesAnagrams", [form](const FormContext&) { return form; }});
+protected:
+    BorrowedMenus()
+    {
+        forms.push_back({"frmGamesAnagrams", [this](const FormContext&) {
+                             auto* form = new EditorForm({"frmGamesAnagrams", "Games ~ Anagrams"});
+                             form->add(new ServingPart(called));
+                             return form;
+                         }});
+    }
+
+    void choose(const char* item) { find<QAction>(window(), item).trigger(); }
+
+    QStringList called;
+};
+
+TEST_F(BorrowedMenus, CallTheRoutineOfTheActiveForm)
+{
     open("Games~Anagrams");
-    find<QAction>(window(), "mnuOnlyEditEdit").trigger();
-    find<QAction>(window(), "mnuOnlyEditTwoEdit").trigger();
-    find<QAction>(window(), "mnuOnlyEditThreeEdit").trigger();
-    find<QAction>(window(), "mnuFirstAdd").trigger();
-    EXPECT_EQ(form->called, (QStringList{"gMenuEditClick", "gMenuEditTwoClick", "gMenuEditThreeClick",
-                                         "gMenuFirstAddClick"}));
+    choose("mnuOnlyEditEdit");
+    choose("mnuOnlyEditTwoEdit");
+    choose("mnuOnlyEditThreeEdit");
+    choose("mnuFirstAdd");
+    EXPECT_EQ(called, (QStringList{"gMenuEditClick", "gMenuEditTwoClick", "gMenuEditThreeClick",
+                                   "gMenuFirstAddClick"}));
 }
 
-TEST_F(MainWindowTest, BothEntriesOfTrueFalseCallTheSameRoutine)
+TEST_F(BorrowedMenus, BothEntriesOfTrueFalseCallTheSameRoutine)
 {
-    auto* form = new ServingForm;
-    forms.push_back({"frmGamesAnagrams", [form](const FormContext&) { return form; }});
     open("Games~Anagrams");
-    find<QAction>(window(), "mnuTrueFalseTrue").trigger();
-    find<QAction>(window(), "mnuTrueFalseFalse").trigger();
-    EXPECT_EQ(form->called, (QStringList{"gMenuTrueFalseTrueClick", "gMenuTrueFalseTrueClick"}));
+    choose("mnuTrueFalseTrue");
+    choose("mnuTrueFalseFalse");
+    EXPECT_EQ(called, (QStringList{"gMenuTrueFalseTrueClick", "gMenuTrueFalseTrueClick"}));
 }
 
 TEST_F(MainWindowTest, AMissingRoutineIsAnErrorAndNoCrash)

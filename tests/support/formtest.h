@@ -7,6 +7,7 @@
 #include "support/boxes.h"
 #include "support/hub.h"
 
+#include <QAbstractItemView>
 #include <QAction>
 #include <QLabel>
 #include <QMdiArea>
@@ -14,6 +15,7 @@
 #include <QStatusBar>
 #include <QTest>
 #include <QToolBar>
+#include <QTreeView>
 
 #include <gtest/gtest.h>
 #include <memory>
@@ -67,6 +69,49 @@ protected:
         return find<QAction>(find<QToolBar>(form, toolbar), key);
     }
 
+    /// The place of the row whose first cell reads so.
+    static int rowOf(const QAbstractItemView& list, const QString& text)
+    {
+        for (int row = 0; row < list.model()->rowCount(); ++row) {
+            if (list.model()->index(row, 0).data().toString() == text)
+                return row;
+        }
+        throw std::runtime_error("no row " + text.toStdString());
+    }
+
+    /// A click on a row, behind its tick box if it has one.
+    static void clickRow(QAbstractItemView& list, int row, Qt::MouseButton mouse = Qt::LeftButton)
+    {
+        QTest::mouseClick(list.viewport(), mouse, {}, placeOf(list, row).center());
+    }
+
+    /// A click on a row's tick box.
+    static void clickTick(QAbstractItemView& list, int row)
+    {
+        const QRect place = placeOf(list, row);
+        QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, {place.left() + 9, place.center().y()});
+    }
+
+    static void doubleClickRow(QAbstractItemView& list, int row)
+    {
+        QTest::mouseDClick(list.viewport(), Qt::LeftButton, {}, placeOf(list, row).center());
+    }
+
+    /// What a list shows: each row's visible cells, joined by "|".
+    static QStringList shown(const QTreeView& list)
+    {
+        QStringList rows;
+        for (int row = 0; row < list.model()->rowCount(); ++row) {
+            QStringList cells;
+            for (int column = 0; column < list.model()->columnCount(); ++column) {
+                if (!list.isColumnHidden(column))
+                    cells.append(list.model()->index(row, column).data().toString());
+            }
+            rows.append(cells.join('|'));
+        }
+        return rows;
+    }
+
     static QString state(EditorForm& form)
     {
         return find<QStatusBar>(form, "stsStatusBar").findChildren<QLabel*>().constFirst()->text();
@@ -78,6 +123,13 @@ protected:
         EXPECT_EQ(button(form, "SAVE").isEnabled(), dirty);
         EXPECT_EQ(state(form), dirty ? "Controls = Dirty" : "Controls = Clean");
         return dirty;
+    }
+
+    static QRect placeOf(QAbstractItemView& list, int row)
+    {
+        const QModelIndex index = list.model()->index(row, 0);
+        list.scrollTo(index);
+        return list.visualRect(index);
     }
 
     Hub hub;

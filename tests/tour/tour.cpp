@@ -11,7 +11,7 @@
 #include <QScreen>
 #include <QTest>
 #include <QToolBar>
-#include <QTreeWidget>
+#include <QTreeView>
 
 #include <cstdio>
 
@@ -70,9 +70,9 @@ void walk(quillfen::MainWindow& window, Tour& tour)
     trigger(*formOf(window, "frmGeneralGeneral"), "tlbFormToolbar", "SAVE");
 
     window.OpenFunctionForm("General~Switches");
-    auto* list = formOf(window, "frmGeneralSwitches")->findChild<QTreeWidget*>("lvwSwitches");
+    auto* list = formOf(window, "frmGeneralSwitches")->findChild<QTreeView*>("lvwSwitches");
     QTest::mouseClick(list->viewport(), Qt::LeftButton, {},
-                      list->visualItemRect(list->topLevelItem(5)).center());
+                      list->visualRect(list->model()->index(5, 0)).center());
     tour.picture(window, "05-switches-with-help");
     window.OpenFunctionForm("General~EnabledRightClicks");
     tour.picture(window, "06-enabled-right-clicks");

@@ -1,6 +1,6 @@
 #include "functions/general/switches.h"
 
-#include "settings/tablefile.h"
+#include "settings/listfile.h"
 
 #include <algorithm>
 #include <array>
@@ -71,13 +71,13 @@ constexpr std::array functions = {
 /// A rebuild resets every switch without a look at the old file, and the owner's ticks are lost: the one
 /// place where it destroys settings, so that a new version of the hub script starts with its functions as
 /// they were designed.
-void writeBuiltRows(const SettingsFiles& files, const SwitchFile& file)
+void writeBuiltRows(const SettingsFiles& files, const ListFile& file)
 {
     std::vector<ListRow> rows;
     rows.reserve(functions.size());
     for (const SwitchedFunction& function : functions)
         rows.push_back({std::string(function.name), {}, function.on});
-    saveSwitches(files, file, rows);
+    saveList(files, file, rows);
 }
 
 } // namespace
@@ -95,33 +95,27 @@ std::string_view switchHelp(std::string_view name)
     return function == functions.end() ? std::string_view() : function->help;
 }
 
-std::vector<ListRow> loadSwitches(const SettingsFiles& files, const SwitchFile& file)
+const ListFile& switchesFile()
 {
-    std::vector<ListRow> rows;
-    files.ReadTableToList(file.path, rows, "=", file.table, Rows::Checked);
-    for (ListRow& row : rows) {
-        if (row.text.starts_with('b'))
-            row.text.erase(0, 1);
-    }
-    return rows;
+    static const ListFile file = {R"(General\Globals\Switches.tbl)", "tSwitches", ListFile::Form::Flags};
+    return file;
 }
 
-void saveSwitches(const SettingsFiles& files, const SwitchFile& file, const std::vector<ListRow>& rows)
+const ListFile& enabledRightClicksFile()
 {
-    std::string text = std::string(file.table) + " = {\r\n";
-    for (const ListRow& row : rows)
-        text.append("\tb").append(row.text).append(row.checked ? " = 1,\r\n" : " = 0,\r\n");
-    files.WriteSettingsFile(file.path, text + "}");
+    static const ListFile file = {R"(General\Globals\EnabledRightClicks.tbl)", "tEnabledRightClicks",
+                                  ListFile::Form::Flags};
+    return file;
 }
 
 void buildSwitches(const SettingsFiles& files, const HubProfiles& /*profiles*/)
 {
-    writeBuiltRows(files, switchesFile);
+    writeBuiltRows(files, switchesFile());
 }
 
 void buildEnabledRightClicks(const SettingsFiles& files, const HubProfiles& /*profiles*/)
 {
-    writeBuiltRows(files, enabledRightClicksFile);
+    writeBuiltRows(files, enabledRightClicksFile());
 }
 
 } // namespace quillfen

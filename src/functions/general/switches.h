@@ -1,15 +1,13 @@
 #pragma once
 
 #include <span>
-#include <string>
 #include <string_view>
-#include <vector>
 
 namespace quillfen {
 
 class HubProfiles;
 class SettingsFiles;
-struct ListRow;
+struct ListFile;
 
 /// A function of the hub script that can be switched on and off, and whose right clicks can be.
 struct SwitchedFunction
@@ -25,23 +23,9 @@ std::span<const SwitchedFunction> switchedFunctions();
 /// The help of the function of that name; empty for a name that isn't ours.
 std::string_view switchHelp(std::string_view name);
 
-/// One of the two files of switches.
-struct SwitchFile
-{
-    std::string_view path;
-    std::string_view table;
-};
-
-inline constexpr SwitchFile switchesFile = {R"(General\Globals\Switches.tbl)", "tSwitches"};
-inline constexpr SwitchFile enabledRightClicksFile = {R"(General\Globals\EnabledRightClicks.tbl)",
-                                                      "tEnabledRightClicks"};
-
-/// The rows as the form shows them: a key's leading `b` is cut. A row that was put in by hand shows like any
-/// other.
-std::vector<ListRow> loadSwitches(const SettingsFiles& files, const SwitchFile& file);
-
-/// Writes the rows with their `b`. Throws StoreError.
-void saveSwitches(const SettingsFiles& files, const SwitchFile& file, const std::vector<ListRow>& rows);
+/// The two files of switches; a row that was put in by hand shows and is saved like any other.
+const ListFile& switchesFile();
+const ListFile& enabledRightClicksFile();
 
 void buildSwitches(const SettingsFiles& files, const HubProfiles& profiles);
 void buildEnabledRightClicks(const SettingsFiles& files, const HubProfiles& profiles);

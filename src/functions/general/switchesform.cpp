@@ -8,14 +8,10 @@
 namespace quillfen {
 namespace {
 
-EditorForm* makeForm(const FormDescription& description, const SwitchFile& file, const FormContext& context)
+EditorForm* makeForm(const FormDescription& description, const ListFile& file, const FormContext& context)
 {
     auto* form = new EditorForm(description);
-    form->add(new TickListPart({"lvwSwitches", "Functions",
-                                [file](const SettingsFiles& files) { return loadSwitches(files, file); },
-                                [file](const SettingsFiles& files, const std::vector<ListRow>& rows) {
-                                    saveSwitches(files, file, rows);
-                                },
+    form->add(new TickListPart({"lvwSwitches", "Functions", file,
                                 [](const QString& row) { return fromBytes(switchHelp(toBytes(row))); }},
                                context));
     return form;
@@ -25,13 +21,13 @@ EditorForm* makeForm(const FormDescription& description, const SwitchFile& file,
 
 EditorForm* makeSwitchesForm(const FormContext& context)
 {
-    return makeForm({"frmGeneralSwitches", "General ~ Switches", {3165, 3450}}, switchesFile, context);
+    return makeForm({"frmGeneralSwitches", "General ~ Switches", {3165, 3450}}, switchesFile(), context);
 }
 
 EditorForm* makeEnabledRightClicksForm(const FormContext& context)
 {
-    return makeForm({"frmGeneralRightClicks", "General ~ Right Clicks", {3165, 3450}}, enabledRightClicksFile,
-                    context);
+    return makeForm({"frmGeneralRightClicks", "General ~ Right Clicks", {3165, 3450}},
+                    enabledRightClicksFile(), context);
 }
 
 } // namespace quillfen

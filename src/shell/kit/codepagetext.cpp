@@ -2,6 +2,10 @@
 
 #include "settings/codepage.h"
 
+#include <QLineEdit>
+
+#include <limits>
+
 namespace quillfen {
 
 QString fromBytes(std::string_view bytes)
@@ -32,6 +36,12 @@ QValidator::State CodePageValidator::validate(QString& text, int& cursor) const
             --cursor;
     }
     return Acceptable;
+}
+
+void limitToCodePage(QLineEdit& edit)
+{
+    edit.setValidator(new CodePageValidator(&edit));
+    edit.setMaxLength(std::numeric_limits<int>::max());
 }
 
 } // namespace quillfen

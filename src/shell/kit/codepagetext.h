@@ -6,6 +6,8 @@
 #include <string>
 #include <string_view>
 
+class QLineEdit;
+
 namespace quillfen {
 
 /// The one place where code page bytes become screen text, and back, without a loss.
@@ -25,5 +27,8 @@ public:
 
     State validate(QString& text, int& cursor) const override;
 };
+
+/// Gives a text box that validator, and room for a text of any length.
+void limitToCodePage(QLineEdit& edit);
 
 } // namespace quillfen

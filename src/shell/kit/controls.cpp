@@ -4,13 +4,16 @@
 #include "settings/profiles.h"
 #include "shell/kit/codepagetext.h"
 #include "shell/kit/numberbox.h"
-#include "shell/kit/ticklist.h"
+#include "shell/kit/rowlist.h"
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QGroupBox>
 #include <QLineEdit>
+#include <QRadioButton>
+#include <QVBoxLayout>
 
-#include <limits>
+#include <algorithm>
 
 namespace quillfen {
 namespace {
@@ -28,6 +31,7 @@ Control checkBox(const Setting& setting, const std::function<void()>& changed)
 Control numberBox(const Setting& setting, const std::function<void()>& changed)
 {
     auto* box = new NumberBox(fromBytes(setting.control), setting.minimum, setting.maximum);
+    box->setOnlyArrows(setting.onlyArrows);
     QObject::connect(box, &NumberBox::textChanged, box, changed);
     return {box,
             [box, key = setting.key](const SettingValues& values) {
@@ -37,17 +41,13 @@ Control numberBox(const Setting& setting, const std::function<void()>& changed)
             [box, key = setting.key](SettingValues& values) { values[key] = toBytes(box->text()); }};
 }
 
-void limitToCodePage(QLineEdit& edit)
-{
-    edit.setValidator(new CodePageValidator(&edit));
-    edit.setMaxLength(std::numeric_limits<int>::max());
-}
-
 Control textBox(const Setting& setting, const std::function<void()>& changed)
 {
     auto* box = new QLineEdit;
     box->setObjectName(fromBytes(setting.control));
     limitToCodePage(*box);
+    if (setting.limit > 0)
+        box->setMaxLength(setting.limit);
     QObject::connect(box, &QLineEdit::textChanged, box, changed);
     return {
         box,
@@ -73,21 +73,47 @@ Control comboBox(const Setting& setting, const std::function<void()>& changed)
             [box, key = setting.key](SettingValues& values) { values[key] = toBytes(box->currentText()); }};
 }
 
+Control optionGroup(const Setting& setting, const std::function<void()>& changed)
+{
+    auto* group = new QGroupBox(fromBytes(setting.label));
+    auto* layout = new QVBoxLayout(group);
+    std::vector<QRadioButton*> buttons;
+    for (const auto& each : setting.entries) {
+        auto* button = new QRadioButton(fromBytes(each));
+        const int place = setting.firstOption + static_cast<int>(buttons.size());
+        button->setObjectName(QStringLiteral("%1(%2)").arg(fromBytes(setting.control)).arg(place));
+        QObject::connect(button, &QRadioButton::toggled, button, changed);
+        layout->addWidget(button);
+        buttons.push_back(button);
+    }
+    return {group,
+            [buttons, key = setting.key](const SettingValues& values) {
+                for (std::size_t place = 0; place < buttons.size(); ++place)
+                    buttons[place]->setChecked(values.at(key) == std::to_string(place));
+            },
+            [buttons, key = setting.key](SettingValues& values) {
+                const auto chosen =
+                    std::find_if(buttons.begin(), buttons.end(),
+                                 [](const QRadioButton* button) { return button->isChecked(); });
+                values[key] = std::to_string(chosen == buttons.end() ? 0 : chosen - buttons.begin());
+            }};
+}
+
 Control profileList(const Setting& setting, const HubProfiles& profiles, const std::function<void()>& changed)
 {
-    auto* list = new TickList(fromBytes(setting.control), QString());
-    QObject::connect(list, &TickList::tickChanged, list, changed);
+    auto* list = new RowList(fromBytes(setting.control), {}, true);
+    QObject::connect(list, &RowList::tickChanged, list, changed);
     return {list,
             [list, setting, &profiles](const SettingValues& values) {
-                std::vector<ListRow> rows;
+                std::vector<CellRow> rows;
                 for (std::size_t row = 0; row < profiles.count(); ++row)
-                    rows.push_back({profiles.names()[row], {}, isOne(values.at(profileRow(setting, row)))});
-                list->setRows(rows);
+                    rows.push_back({{profiles.names()[row]}, isOne(values.at(profileRow(setting, row)))});
+                list->setRows(std::move(rows));
             },
             [list, setting](SettingValues& values) {
-                const auto rows = list->rows();
-                for (std::size_t row = 0; row < rows.size(); ++row)
-                    values[profileRow(setting, row)] = rows[row].checked ? "1" : "0";
+                std::size_t place = 0;
+                for (const CellRow& row : list->rows())
+                    values[profileRow(setting, place++)] = row.checked ? "1" : "0";
             }};
 }
 
@@ -103,6 +129,8 @@ Control controlOfKind(const Setting& setting, const HubProfiles& profiles,
         return textBox(setting, changed);
     case Setting::Kind::Entry:
         return comboBox(setting, changed);
+    case Setting::Kind::Options:
+        return optionGroup(setting, changed);
     case Setting::Kind::Profiles:
         return profileList(setting, profiles, changed);
     }

@@ -26,15 +26,18 @@ EditorForm::EditorForm(const FormDescription& description)
     m_frame->setObjectName("fraFrame(0)");
     m_statusBar->setObjectName("stsStatusBar");
     m_statusBar->setSizeGripEnabled(false);
-    new QVBoxLayout(m_frame);
+    new QBoxLayout(description.parts == Qt::Vertical ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight,
+                   m_frame);
 
     int index = 0;
     BuildFormToolbar(*m_toolbar, index);
+    if (!description.hasRestore)
+        removeButton(*m_toolbar, "RESTORE");
     PlaceChildForm(*m_statusBar);
     addAction(button(*m_toolbar, "SAVE")); // its shortcut works in the whole form
     connect(button(*m_toolbar, "SAVE"), &QAction::triggered, this, &EditorForm::save);
-    connect(button(*m_toolbar, "DISCARD"), &QAction::triggered, this, &EditorForm::discard);
-    connect(button(*m_toolbar, "RESTORE"), &QAction::triggered, this, &EditorForm::restore);
+    connectButton(*m_toolbar, "DISCARD", this, &EditorForm::discard);
+    connectButton(*m_toolbar, "RESTORE", this, &EditorForm::restore);
 
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins({});
@@ -48,6 +51,7 @@ void EditorForm::add(FormPart* part)
 {
     part->setParent(this);
     m_parts.push_back(part);
+    m_routines.insert(part->routines());
     m_frame->layout()->addWidget(part->widget());
     connect(part, &FormPart::changed, this, &EditorForm::markDirty);
 }

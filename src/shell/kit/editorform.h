@@ -29,6 +29,8 @@ struct FormDescription
     QString caption;
     QSize minimumTwips{};
     AfterDiscard afterDiscard = AfterDiscard::Clean;
+    bool hasRestore = true;
+    Qt::Orientation parts = Qt::Vertical; ///< how the parts stand to each other
 };
 
 /// An editor form: its toolbar, its parts in a frame, its status bar, and the cycle of load, change, save,
@@ -45,6 +47,9 @@ public:
 
     /// Loads every part; the form is clean.
     void open();
+
+    /// The routine that the form serves to a borrowed right-click menu under this name; empty if it has none.
+    std::function<void()> routine(const QString& name) const { return m_routines.value(name); }
 
     bool isDirty() const { return bDirty; }
     QString caption() const { return m_description.caption; }
@@ -73,6 +78,7 @@ private:
     QFrame* m_frame;
     QStatusBar* m_statusBar;
     std::vector<FormPart*> m_parts;
+    RoutineTable m_routines;
     bool bDirty = false;
     bool m_loading = false;
 };

@@ -1,7 +1,13 @@
 #pragma once
 
-#include <QObject>
+#include "shell/kit/routines.h"
 
+#include <QObject>
+#include <QPoint>
+
+#include <functional>
+
+class QMenu;
 class QWidget;
 
 namespace quillfen {
@@ -14,6 +20,12 @@ struct FormContext
 {
     const SettingsFiles& files;
     const HubProfiles& profiles;
+
+    /// The borrowed right-click menu of a name; null where there is no main window.
+    std::function<QMenu*(const QString&)> popUpMenu = [](const QString&) { return nullptr; };
+
+    /// Shows that menu, if there is one of the name.
+    void showMenu(const QString& name, const QPoint& at) const;
 };
 
 /// A piece of an editor form that loads, restores and saves files of its own. The form owns it and runs the
@@ -34,6 +46,9 @@ public:
 
     /// Controls to files. Throws StoreError.
     virtual void save() = 0;
+
+    /// What it serves to the borrowed right-click menus.
+    virtual RoutineTable routines() { return {}; }
 
 signals:
     /// The user changed a control.

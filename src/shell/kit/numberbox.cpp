@@ -5,7 +5,6 @@
 #include <QWheelEvent>
 
 #include <algorithm>
-#include <limits>
 
 namespace quillfen {
 
@@ -16,8 +15,7 @@ NumberBox::NumberBox(const QString& control, int minimum, int maximum, QWidget* 
 {
     setObjectName(QStringLiteral("upd") + control.mid(3));
     lineEdit()->setObjectName(control);
-    lineEdit()->setValidator(new CodePageValidator(this));
-    lineEdit()->setMaxLength(std::numeric_limits<int>::max());
+    limitToCodePage(*lineEdit());
     setFocusPolicy(Qt::StrongFocus);
     connect(lineEdit(), &QLineEdit::textChanged, this, &NumberBox::textChanged);
 }

@@ -19,6 +19,9 @@ public:
     QString text() const { return lineEdit()->text(); }
     void setText(const QString& text);
 
+    /// Whether the number can be changed by the arrows alone, and not typed.
+    void setOnlyArrows(bool onlyArrows) { lineEdit()->setReadOnly(onlyArrows); }
+
     void stepBy(int steps) override;
     QSize sizeHint() const override;
 

@@ -2,20 +2,20 @@
 
 #include "settings/tablefile.h"
 #include "shell/kit/codepagetext.h"
+#include "shell/kit/labels.h"
 
 #include <QFormLayout>
-#include <QLabel>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 namespace quillfen {
 namespace {
 
-QLabel* labelFor(const Setting& setting, QWidget* field, int number)
+QLabel* numberedLabel(const Setting& setting, QWidget* field, int number)
 {
-    auto* label = new QLabel(fromBytes(setting.label));
+    auto* label = labelFor(fromBytes(setting.label), field);
     label->setObjectName(QStringLiteral("lblLabel(%1)").arg(number));
-    label->setTextFormat(Qt::PlainText);
-    label->setBuddy(field);
     return label;
 }
 
@@ -32,25 +32,35 @@ TableFilePart::TableFilePart(const TableFile& file, const FormContext& context)
 
 QWidget* TableFilePart::placed() const
 {
+    const auto beside =
+        std::count_if(m_file.settings.begin(), m_file.settings.end(),
+                      [](const Setting& setting) { return setting.kind != Setting::Kind::Profiles; });
+    const bool crowded = beside > 12; // then check boxes and options get a column of their own
+    auto* choices = new QFormLayout;
     auto* fields = new QFormLayout;
     auto* lists = new QVBoxLayout;
     int labels = 0;
     for (std::size_t at = 0; at < m_controls.size(); ++at) {
         const Setting& setting = m_file.settings[at];
         QWidget* control = m_controls[at].widget;
-        if (setting.kind == Setting::Kind::Flag) {
-            fields->addRow(control);
+        if (setting.kind == Setting::Kind::Flag || setting.kind == Setting::Kind::Options) {
+            (crowded ? choices : fields)->addRow(control);
         } else if (setting.kind == Setting::Kind::Profiles) {
-            lists->addWidget(labelFor(setting, control, labels++));
+            lists->addWidget(numberedLabel(setting, control, labels++));
             lists->addWidget(control, 1);
         } else {
-            fields->addRow(labelFor(setting, control, labels++), control);
+            fields->addRow(numberedLabel(setting, control, labels++), control);
         }
     }
     auto* widget = new QWidget;
     auto* columns = new QHBoxLayout(widget);
     columns->setContentsMargins({});
-    columns->addLayout(fields, 1);
+    for (auto* column : {choices, fields}) {
+        if (column->rowCount() > 0)
+            columns->addLayout(column, 1);
+        else
+            delete column;
+    }
     if (lists->count() > 0)
         columns->addLayout(lists, 1);
     else

@@ -1,59 +1,56 @@
 #include "shell/kit/ticklistpart.h"
 
-#include "settings/tablefile.h"
+#include "settings/listdeclaration.h"
+#include "shell/kit/rowlist.h"
 
 namespace quillfen {
 
 TickListPart::TickListPart(TickListDescription description, const FormContext& context)
     : m_description(std::move(description)),
       m_context(context),
-      m_list(new TickList(m_description.control, m_description.caption))
+      m_list(new RowList(m_description.control, {m_description.caption}, true))
 {
     m_list->setAccessibleName(m_description.caption);
-    connect(m_list, &TickList::tickChanged, this, &FormPart::changed);
-    connect(m_list, &QTreeWidget::itemClicked, this, [this](QTreeWidgetItem* item) { showHelp(*item); });
+    connect(m_list, &RowList::tickChanged, this, &FormPart::changed);
+    connect(m_list, &RowList::clicked, this, [this](const QModelIndex& index) { showHelp(index.row()); });
+}
+
+QWidget* TickListPart::widget()
+{
+    return m_list;
 }
 
 void TickListPart::load()
 {
-    setRows(m_description.load(m_context.files));
+    m_tooltip.Destroy();
+    m_list->setRows(loadOf(m_description.file)(m_context.files, m_context.profiles));
 }
 
 void TickListPart::restore()
 {
     auto rows = m_list->rows();
-    for (ListRow& row : rows)
+    for (CellRow& row : rows)
         row.checked = true;
-    setRows(rows);
+    m_list->setRows(std::move(rows));
 }
 
 void TickListPart::save()
 {
-    m_description.save(m_context.files, m_list->rows());
+    saveOf(m_description.file)(m_context.files, m_context.profiles, m_list->rows());
 }
 
-void TickListPart::setRows(const std::vector<ListRow>& rows)
+void TickListPart::showHelp(int row)
 {
+    const QModelIndex index = m_list->model()->index(row, 0);
+    const QString name = index.data().toString();
+    const QString help = m_description.help(name);
     m_tooltip.Destroy();
-    m_list->setRows(rows);
-    const QSignalBlocker quiet(m_list);
-    for (int at = 0; at < m_list->topLevelItemCount(); ++at) {
-        auto* item = m_list->topLevelItem(at);
-        item->setData(0, Qt::AccessibleDescriptionRole, m_description.help(item->text(0)));
-    }
-}
-
-void TickListPart::showHelp(const QTreeWidgetItem& item)
-{
-    const QString help = m_description.help(item.text(0));
-    if (help.isEmpty()) {
-        m_tooltip.Destroy();
+    if (help.isEmpty())
         return;
-    }
-    m_tooltip.setTitle(item.text(0));
+    m_tooltip.setTitle(name);
     m_tooltip.setText(help);
-    const QRect row = m_list->visualItemRect(&item);
-    m_tooltip.Create(m_list->viewport(), row.bottomLeft() + QPoint(row.height() * 2, 0));
+    const QRect place = m_list->visualRect(index);
+    m_tooltip.Create(m_list->viewport(), place.bottomLeft() + QPoint(place.height() * 2, 0));
 }
 
 } // namespace quillfen

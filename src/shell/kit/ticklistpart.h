@@ -1,24 +1,22 @@
 #pragma once
 
+#include "settings/listfile.h"
 #include "shell/kit/formpart.h"
-#include "shell/kit/ticklist.h"
 #include "shell/kit/tooltip.h"
 
 #include <functional>
-#include <vector>
-
-class QTreeWidgetItem;
 
 namespace quillfen {
 
-/// What differs between the forms that are one list of ticks.
+class RowList;
+
+/// What differs between the lists of ticks that are one whole file.
 struct TickListDescription
 {
     QString control;
     QString caption;
-    std::function<std::vector<ListRow>(const SettingsFiles&)> load;
-    std::function<void(const SettingsFiles&, const std::vector<ListRow>&)> save; ///< throws StoreError
-    std::function<QString(const QString& row)> help;                             ///< empty for none
+    ListFile file;                                   ///< of the form Flags
+    std::function<QString(const QString& row)> help; ///< empty for none
 };
 
 /// A list of ticks that is one whole file. Restore ticks every row; a click on a row shows its help in a
@@ -30,18 +28,17 @@ class TickListPart : public FormPart
 public:
     TickListPart(TickListDescription description, const FormContext& context);
 
-    QWidget* widget() override { return m_list; }
+    QWidget* widget() override;
     void load() override;
     void restore() override;
     void save() override;
 
 private:
-    void setRows(const std::vector<ListRow>& rows);
-    void showHelp(const QTreeWidgetItem& item);
+    void showHelp(int row);
 
     TickListDescription m_description;
     FormContext m_context;
-    TickList* m_list;
+    RowList* m_list;
     CTooltip m_tooltip;
 };
 

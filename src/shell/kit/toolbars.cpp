@@ -54,6 +54,11 @@ QAction* button(const QToolBar& toolbar, const QString& key)
     return toolbar.findChild<QAction*>(key, Qt::FindDirectChildrenOnly);
 }
 
+void removeButton(QToolBar& toolbar, const QString& key)
+{
+    delete button(toolbar, key);
+}
+
 void BuildFormToolbar(QToolBar& toolbar, int& index)
 {
     toolbar.setMovable(false);

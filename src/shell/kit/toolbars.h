@@ -29,6 +29,17 @@ QAction* addSeparator(QToolBar& toolbar, int& index);
 /// The toolbar's button of that key, or null.
 QAction* button(const QToolBar& toolbar, const QString& key);
 
+/// Takes a button that a builder added off again.
+void removeButton(QToolBar& toolbar, const QString& key);
+
+/// Calls a member of `receiver` at a click on the toolbar's button of that key, if it has one.
+template <typename Receiver, typename Member>
+void connectButton(const QToolBar& toolbar, const QString& key, Receiver* receiver, Member member)
+{
+    if (auto* action = button(toolbar, key))
+        QObject::connect(action, &QAction::triggered, receiver, member);
+}
+
 /// Button 2 lights ("SAVE" on a form's toolbar) and panel 1 reads "Controls = Dirty". Returns the form's new
 /// bDirty.
 bool SetControlsDirty(QToolBar& toolbar, QStatusBar& statusBar);

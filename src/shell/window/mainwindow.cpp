@@ -66,6 +66,7 @@ MainWindow::MainWindow(const ProgramInfo& program, const FormContext& context, c
 {
     for (const FormMaker& maker : forms)
         m_makers.insert(maker.name, maker);
+    m_context.popUpMenu = [this](const QString& name) { return popUpMenu(name); };
     setObjectName("frmContainer");
     setWindowTitle(program.product + ' ' + program.version);
     setMinimumSize(twips(11790, 9060));

@@ -1,41 +1,38 @@
 #include "shell/window/popupmenus.h"
 
-#include <QMetaObject>
+#include "shell/kit/editorform.h"
 
 namespace quillfen {
 namespace {
 
-/// A menu of "&Edit", or of "&Add", "&Delete" and "&Edit". A routine's name is "gMenu", the word, the item's
-/// word and "Click".
+/// A menu of "&Edit", or of "&Add", "&Delete" and "&Edit".
 struct EditMenu
 {
     const char* name;
-    const char* word;
     bool editOnly = false;
 };
 
 constexpr EditMenu editMenus[] = {
-    {"mnuOnlyEdit", "", true},      {"mnuOnlyEditTwo", "", true},
-    {"mnuOnlyEditThree", "", true}, {"mnuFirst", "First"},
-    {"mnuSecond", "Second"},        {"mnuThird", "Third"},
-    {"mnuFourth", "Fourth"},        {"mnuBots", "Bots", true},
-    {"mnuIntro", "Intro"},          {"mnuOutro", "Outro"},
-    {"mnuAnagrams", "Anagrams"},    {"mnuHangman", "Hangman"},
-    {"mnuNumbers", "Numbers"},      {"mnuNumbersNumbers", "NumbersNumbers", true},
-    {"mnuUserActions", ""},
+    {"mnuOnlyEdit", true},
+    {"mnuOnlyEditTwo", true},
+    {"mnuOnlyEditThree", true},
+    {"mnuFirst"},
+    {"mnuSecond"},
+    {"mnuThird"},
+    {"mnuFourth"},
+    {"mnuBots", true},
+    {"mnuIntro"},
+    {"mnuOutro"},
+    {"mnuAnagrams"},
+    {"mnuHangman"},
+    {"mnuNumbers"},
+    {"mnuNumbersNumbers", true},
+    {"mnuUserActions"},
 };
-
-QString routineOf(const EditMenu& menu, const QString& item)
-{
-    const QString name = menu.name;
-    const QString number =
-        name.startsWith("mnuOnlyEdit") ? name.mid(QStringLiteral("mnuOnlyEdit").size()) : QString();
-    return QStringLiteral("gMenu") + menu.word + item + number + QStringLiteral("Click");
-}
 
 } // namespace
 
-PopUpMenus::PopUpMenus(std::function<QObject*()> activeForm, QWidget* parent)
+PopUpMenus::PopUpMenus(std::function<EditorForm*()> activeForm, QWidget* parent)
     : QObject(parent),
       m_activeForm(std::move(activeForm)),
       m_owner(parent)
@@ -44,7 +41,8 @@ PopUpMenus::PopUpMenus(std::function<QObject*()> activeForm, QWidget* parent)
         auto* menu = addMenu(each.name);
         for (const char* item : {"Add", "Delete", "Edit"}) {
             if (!each.editOnly || QString(item) == "Edit")
-                addItem(*menu, menu->objectName() + item, QStringLiteral("&") + item, routineOf(each, item));
+                addItem(*menu, menu->objectName() + item, QStringLiteral("&") + item,
+                        routineName(each.name, item));
         }
     }
     auto* trueFalse = addMenu("mnuTrueFalse");
@@ -78,12 +76,11 @@ QMenu* PopUpMenus::menu(const QString& name) const
 
 void PopUpMenus::call(const QString& routine)
 {
-    QObject* form = m_activeForm();
-    const QByteArray signature = routine.toLatin1() + "()";
-    if (!form || form->metaObject()->indexOfMethod(signature) < 0)
-        emit routineMissing(routine);
+    const EditorForm* form = m_activeForm();
+    if (const auto serve = form ? form->routine(routine) : nullptr)
+        serve();
     else
-        QMetaObject::invokeMethod(form, routine.toLatin1().constData());
+        emit routineMissing(routine);
 }
 
 } // namespace quillfen

@@ -7,6 +7,8 @@
 
 namespace quillfen {
 
+class EditorForm;
+
 /// The right-click menus that the child forms borrow. An item calls the routine of its name on the active
 /// form, which is looked up at that moment.
 class PopUpMenus : public QObject
@@ -15,7 +17,7 @@ class PopUpMenus : public QObject
 
 public:
     /// `activeForm` answers with the active child form, or null; `parent` owns the menus.
-    PopUpMenus(std::function<QObject*()> activeForm, QWidget* parent);
+    PopUpMenus(std::function<EditorForm*()> activeForm, QWidget* parent);
 
     /// The menu of a name such as "mnuFirst", or null.
     QMenu* menu(const QString& name) const;
@@ -29,7 +31,7 @@ private:
     void addItem(QMenu& menu, const QString& name, const QString& caption, const QString& routine);
     void call(const QString& routine);
 
-    std::function<QObject*()> m_activeForm;
+    std::function<EditorForm*()> m_activeForm;
     QWidget* m_owner;
 };
 

@@ -1,0 +1,99 @@
+#pragma once
+
+#include <functional>
+#include <optional>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace quillfen {
+
+class HubProfiles;
+class SettingsFiles;
+struct ListFile;
+
+/// A row of a list view: its columns' texts, and its tick where the list has ticks.
+struct CellRow
+{
+    std::vector<std::string> cells;
+    bool checked = false;
+
+    bool operator==(const CellRow&) const = default;
+};
+
+/// The dialogs that edit a row, by their inputs.
+enum class EditForm
+{
+    OneFields,
+    TwoFields,
+    ThreeFields,
+    FourFields,
+    OneUpDown,
+    TwoUpDowns,
+    TextCombo,
+    TwoTextCombo,
+    OneTextTwoCombo,
+    UpDownCombo,
+    ThreeCombos,
+    FourCombos,
+};
+
+/// How rows are added and edited. A mode tells which fields are required and whether a dialog offers another
+/// round; without one it is what the callers of that dialog use by habit.
+struct RowDialog
+{
+    EditForm form = EditForm::OneFields;
+    std::string addTitle{}; ///< empty: rows are not added
+    std::string editTitle{};
+    std::vector<std::string> labels{};
+    std::optional<int> addMode{};
+    std::optional<int> editMode{};
+    std::vector<std::vector<std::string>> entries{}; ///< for each combo box
+    std::vector<std::pair<int, int>> ranges{};       ///< for each number
+};
+
+/// The question before a row goes, and the refusal of the last row's going.
+struct DeleteWords
+{
+    std::string title{};
+    std::string text{};
+    std::string minimum{}; ///< "There must be a minimum of one ..."; empty: the list may become empty
+};
+
+/// A list with its toolbar, its dialog and its words. All texts are code page bytes.
+struct RowListDeclaration
+{
+    using Load = std::function<std::vector<CellRow>(const SettingsFiles&, const HubProfiles&)>;
+    using Save = std::function<void(const SettingsFiles&, const HubProfiles&, const std::vector<CellRow>&)>;
+
+    std::string list;    ///< lvw...
+    std::string toolbar; ///< tlb...
+    std::string label{}; ///< above the list; may be empty
+    std::vector<std::string> columns{};
+    bool ticks = false;
+    std::string menu{}; ///< the borrowed right-click menu, mnu...
+    RowDialog dialog{};
+    DeleteWords deletion{};
+    Load load{};
+    Save save{}; ///< throws StoreError
+
+    /// The rows that RESTORE shows; without it the list is left alone.
+    std::function<std::vector<CellRow>(const HubProfiles&)> restored{};
+
+    /// The dialog's fields from a row and back; without them the fields are the first cells.
+    std::function<std::vector<std::string>(const CellRow&)> fieldsOf{};
+    std::function<void(const std::vector<std::string>&, CellRow&)> take{};
+
+    /// What stands in the edit dialog's title and labels for a row; without them the dialog's own.
+    std::function<std::string(const CellRow&)> editTitleOf{};
+    std::function<std::vector<std::string>(const CellRow&)> labelsOf{};
+};
+
+/// The loading and saving of a list that is one whole file.
+RowListDeclaration::Load loadOf(const ListFile& file);
+RowListDeclaration::Save saveOf(const ListFile& file);
+
+/// RESTORE empties the list.
+std::vector<CellRow> noRows(const HubProfiles& profiles);
+
+} // namespace quillfen

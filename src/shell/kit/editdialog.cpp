@@ -1,0 +1,239 @@
+#include "shell/kit/editdialog.h"
+
+#include "shell/kit/codepagetext.h"
+#include "shell/kit/numberbox.h"
+
+#include <QComboBox>
+#include <QDialogButtonBox>
+#include <QFormLayout>
+#include <QFrame>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include <algorithm>
+#include <limits>
+
+namespace quillfen {
+namespace {
+
+/// What a mode asks of a dialog: the places of the fields that must not be empty, and whether Add may ever
+/// light.
+struct Mode
+{
+    const char* required;
+    bool bNoAdd = false;
+};
+
+/// A dialog: its name, its inputs in order (T a text, N a number with up-down, C a combo box) and its modes
+/// from 0.
+struct Kind
+{
+    const char* name;
+    const char* inputs;
+    std::vector<Mode> modes;
+};
+
+const Kind& kindOf(EditForm form)
+{
+    static const std::vector<Mode> one = {{"0", true}, {"0"}};
+    static const std::vector<Mode> three = {{"0", true}, {"1"}, {"02"}, {"12"}, {"012"}, {"012", true}};
+    static const Kind kinds[] = {
+        {"frmGlobalEditOneFields", "T", one},
+        {"frmGlobalEditTwoFields", "TT", {{""}, {"01"}, {"01", true}}},
+        {"frmGlobalEditThreeFields", "TTT", three},
+        {"frmGlobalEditFourFields",
+         "TTTT",
+         {{"0", true}, {"1"}, {"02"}, {"12"}, {"012"}, {"0123", true}, {"0123"}}},
+        {"frmGlobalEditOneUpDown", "N", one},
+        {"frmGlobalEditTwoUpDowns", "NN", {{"0", true}, {"01", true}, {"1"}}},
+        {"frmGlobalEditTextCombo", "TC", {{"", true}, {"0"}, {"1"}}},
+        {"frmGlobalEditTwoTextCombo", "TTC", {{"", true}, {"0"}, {"2"}, {"02"}, {"012"}}},
+        {"frmGlobalEditOneTextTwoCombo", "TCC", {{"", true}, {"0"}, {"1"}, {"01"}, {"012"}}},
+        {"frmGlobalEditUpDownCombo", "NC", {{"0", true}, {"01", true}}},
+        {"frmGlobalEditThreeCombos", "CCC", three},
+        {"frmGlobalEditFourCombos",
+         "CCCC",
+         {{"0", true}, {"1"}, {"02"}, {"12"}, {"012"}, {"012", true}, {"0123"}, {"0123", true}}},
+    };
+    return kinds[static_cast<std::size_t>(form)];
+}
+
+/// Modes outside a dialog's own colour nothing.
+Mode modeOf(const EditRequest& request)
+{
+    const auto& modes = kindOf(request.form).modes;
+    const auto mode = static_cast<std::size_t>(request.gEditMode);
+    return mode < modes.size() ? modes[mode] : Mode{""};
+}
+
+template <typename Value>
+Value valueAt(const std::vector<Value>& values, std::size_t at, const Value& otherwise = {})
+{
+    return at < values.size() ? values[at] : otherwise;
+}
+
+/// The colour is the message of a required field: a light red, with a text that can be read on it in every
+/// theme.
+void colourAsRequired(QWidget& input)
+{
+    QPalette palette = input.palette();
+    for (const auto role : {QPalette::Base, QPalette::Button})
+        palette.setColor(role, QColor(0xFF, 0x80, 0x80));
+    for (const auto role : {QPalette::Text, QPalette::ButtonText})
+        palette.setColor(role, Qt::black);
+    input.setPalette(palette);
+}
+
+} // namespace
+
+EditDialog::EditDialog(const EditRequest& request, QWidget* parent)
+    : QDialog(parent),
+      m_mayAdd(request.gEditResult == "A" && !modeOf(request).bNoAdd)
+{
+    const Kind& kind = kindOf(request.form);
+    setObjectName(kind.name);
+    setWindowTitle(fromBytes(request.title));
+    auto* frame = new QFrame;
+    frame->setObjectName("fraFrame");
+    frame->setLayout(new QFormLayout);
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(frame, 1);
+    std::size_t number = 0;
+    for (const char* input = kind.inputs; *input != '\0'; ++input)
+        addField(request, number++, *input);
+    addButtons();
+    setMinimumWidth(420);
+    follow();
+    m_fields.front().input->setFocus();
+}
+
+void EditDialog::addField(const EditRequest& request, std::size_t number, char kind)
+{
+    const auto value = valueAt(request.values, number);
+    Field field = kind == 'T'   ? textField(value)
+                  : kind == 'N' ? numberField(request, value)
+                                : comboField(request, value);
+    const std::string required = modeOf(request).required;
+    field.required = required.find(static_cast<char>('0' + number)) != std::string::npos;
+    if (field.required)
+        colourAsRequired(*field.input);
+
+    auto* label = new QLabel(fromBytes(valueAt(request.labels, number)));
+    label->setObjectName(QStringLiteral("lblLabel(%1)").arg(number));
+    label->setTextFormat(Qt::PlainText);
+    label->setBuddy(field.input);
+    field.input->setAccessibleName(label->text());
+    qobject_cast<QFormLayout*>(findChild<QFrame*>("fraFrame")->layout())->addRow(label, field.input);
+    m_fields.push_back(std::move(field));
+}
+
+EditDialog::Field EditDialog::textField(const std::string& value)
+{
+    auto* box = new QLineEdit(fromBytes(value));
+    box->setObjectName(QStringLiteral("txtTextBox(%1)").arg(m_texts++));
+    limitToCodePage(*box);
+    connect(box, &QLineEdit::textChanged, this, &EditDialog::follow);
+    return {box, [box] { return toBytes(box->text()); }, false};
+}
+
+EditDialog::Field EditDialog::numberField(const EditRequest& request, const std::string& value)
+{
+    const auto range =
+        valueAt(request.ranges, static_cast<std::size_t>(m_numbers), {0, std::numeric_limits<int>::max()});
+    auto* box = new NumberBox(QStringLiteral("txtTextBox(%1)").arg(m_texts++), range.first, range.second);
+    box->setObjectName(QStringLiteral("updUpDown(%1)").arg(m_numbers++));
+    box->setText(fromBytes(value));
+    connect(box, &NumberBox::textChanged, this, &EditDialog::follow);
+    return {box, [box] { return toBytes(box->text()); }, false};
+}
+
+EditDialog::Field EditDialog::comboField(const EditRequest& request, const std::string& value)
+{
+    auto* box = new QComboBox;
+    box->setObjectName(QStringLiteral("cboComboBox(%1)").arg(m_combos));
+    for (const auto& entry : valueAt(request.entries, static_cast<std::size_t>(m_combos++)))
+        box->addItem(fromBytes(entry));
+    box->setCurrentIndex(box->findText(fromBytes(value), Qt::MatchExactly | Qt::MatchCaseSensitive));
+    connect(box, &QComboBox::currentTextChanged, this, &EditDialog::follow);
+    return {box, [box] { return toBytes(box->currentText()); }, false};
+}
+
+void EditDialog::addButtons()
+{
+    auto* buttons = new QDialogButtonBox;
+    m_ok = buttons->addButton(QDialogButtonBox::Ok);
+    m_ok->setObjectName("cmdOK");
+    m_add = buttons->addButton("&Add", QDialogButtonBox::ActionRole);
+    m_add->setObjectName("cmdAdd");
+    m_add->setText("Add");
+    auto* cancel = buttons->addButton(QDialogButtonBox::Cancel);
+    cancel->setObjectName("cmdCancel");
+    cancel->setText("Cancel");
+    m_ok->setDefault(true);
+    connect(m_ok, &QPushButton::clicked, this, [this] { finish("1"); });
+    connect(m_add, &QPushButton::clicked, this, [this] { finish("A"); });
+    connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
+    layout()->addWidget(buttons);
+}
+
+void EditDialog::follow()
+{
+    if (!m_ok) // the fields are still being made
+        return;
+    const bool filled = !m_fields.front().text().empty();
+    m_ok->setEnabled(filled);
+    m_add->setEnabled(filled && m_mayAdd);
+}
+
+void EditDialog::finish(const char* result)
+{
+    for (const Field& field : m_fields) {
+        if (field.required && field.text().empty()) {
+            field.input->setFocus();
+            return;
+        }
+    }
+    m_answer.gEditResult = result;
+    for (const Field& field : m_fields)
+        m_answer.gEditValues.push_back(field.text());
+    accept();
+}
+
+EditAnswer showEditDialog(QWidget* parent, const EditRequest& request)
+{
+    EditDialog dialog(request, parent);
+    dialog.exec();
+    return dialog.answer();
+}
+
+void addRows(QWidget* parent, const EditRequest& request,
+             const std::function<void(const std::vector<std::string>&)>& take)
+{
+    EditAnswer answer{"A", {}};
+    while (answer.gEditResult == "A") {
+        answer = showEditDialog(parent, request);
+        if (!answer.gEditResult.empty())
+            take(answer.gEditValues);
+    }
+}
+
+int habitualAddMode(EditForm form)
+{
+    return form == EditForm::ThreeFields ? 4 : 1;
+}
+
+int habitualEditMode(EditForm form)
+{
+    switch (form) {
+    case EditForm::TwoFields:
+        return 2;
+    case EditForm::ThreeFields:
+        return 5;
+    default:
+        return 0;
+    }
+}
+
+} // namespace quillfen

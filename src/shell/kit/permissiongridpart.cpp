@@ -1,0 +1,245 @@
+#include "shell/kit/permissiongridpart.h"
+
+#include "shell/kit/codepagetext.h"
+#include "shell/kit/labels.h"
+#include "shell/kit/listview.h"
+#include "shell/kit/toolbars.h"
+
+#include <QAbstractTableModel>
+#include <QHeaderView>
+#include <QMenu>
+#include <QToolButton>
+
+namespace quillfen {
+
+/// The cells that pass the filters, each worded as it is painted: 64 profiles make 24,576 rows.
+class PermissionModel : public QAbstractTableModel
+{
+public:
+    PermissionModel(const PermissionGrid& grid, const GridWords& words, const HubProfiles& profiles,
+                    QObject* parent)
+        : QAbstractTableModel(parent),
+          m_words(words),
+          m_profiles(profiles)
+    {
+        for (const GridCommand& command : grid.commands)
+            m_commands.push_back(fromBytes(command.word));
+    }
+
+    const std::vector<PermissionCell>& cells() const { return m_cells; }
+
+    void setCells(std::vector<PermissionCell> cells)
+    {
+        m_cells = std::move(cells);
+        filter();
+    }
+
+    void setCommandFilter(const QString& command)
+    {
+        m_commandFilter = command;
+        filter();
+    }
+
+    void setProfileFilter(const QString& profile)
+    {
+        m_profileFilter = profile;
+        filter();
+    }
+
+    bool isAllowed(int row) const { return shown(row).allowed; }
+
+    void toggle(int row)
+    {
+        PermissionCell& cell = m_cells[m_shown[static_cast<std::size_t>(row)]];
+        cell.allowed = !cell.allowed;
+        emit dataChanged(index(row, 3), index(row, 3));
+    }
+
+    int rowCount(const QModelIndex& parent = {}) const override
+    {
+        return parent.isValid() ? 0 : static_cast<int>(m_shown.size());
+    }
+
+    int columnCount(const QModelIndex& parent = {}) const override
+    {
+        return parent.isValid() ? 0 : static_cast<int>(m_words.columns.size());
+    }
+
+    QVariant data(const QModelIndex& index, int role) const override
+    {
+        return role == Qt::DisplayRole ? text(index.row(), index.column()) : QVariant();
+    }
+
+    QVariant headerData(int section, Qt::Orientation orientation, int role) const override
+    {
+        if (orientation != Qt::Horizontal || role != Qt::DisplayRole)
+            return {};
+        return m_words.columns.value(section);
+    }
+
+    Qt::ItemFlags flags(const QModelIndex& /*index*/) const override
+    {
+        return Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemNeverHasChildren;
+    }
+
+private:
+    const PermissionCell& shown(int row) const { return m_cells[m_shown[static_cast<std::size_t>(row)]]; }
+
+    /// A command or profile is named where it is another than in the row above, so that groups can be seen.
+    QString text(int row, int column) const
+    {
+        const PermissionCell& cell = shown(row);
+        const PermissionCell* above = row > 0 ? &shown(row - 1) : nullptr;
+        const bool newCommand = !above || above->command != cell.command;
+        switch (column) {
+        case 0:
+            return newCommand ? m_commands[cell.command] : QString();
+        case 1:
+            return newCommand || above->by != cell.by ? profile(cell.by) : QString();
+        case 2:
+            return !above || above->on != cell.on ? profile(cell.on) : QString();
+        default:
+            return cell.allowed ? m_words.yes : m_words.no;
+        }
+    }
+
+    QString profile(std::size_t row) const { return fromBytes(m_profiles.names()[row]); }
+
+    void filter()
+    {
+        beginResetModel();
+        m_shown.clear();
+        for (std::size_t at = 0; at < m_cells.size(); ++at) {
+            const PermissionCell& cell = m_cells[at];
+            if ((m_commandFilter.isEmpty() || m_commandFilter == m_commands[cell.command]) &&
+                (m_profileFilter.isEmpty() || m_profileFilter == profile(cell.by)))
+                m_shown.push_back(at);
+        }
+        endResetModel();
+    }
+
+    GridWords m_words;
+    const HubProfiles& m_profiles;
+    std::vector<QString> m_commands;
+    QString m_commandFilter;
+    QString m_profileFilter;
+    std::vector<PermissionCell> m_cells;
+    std::vector<std::size_t> m_shown; ///< the places of the cells that pass the filters
+};
+
+namespace {
+
+/// What tells a command's entry from a profile's: its key begins so.
+const QString commandMark = QStringLiteral("C*");
+
+} // namespace
+
+PermissionGridPart::PermissionGridPart(PermissionGrid grid, GridWords words, const FormContext& context)
+    : m_grid(std::move(grid)),
+      m_words(std::move(words)),
+      m_context(context),
+      m_model(new PermissionModel(m_grid, m_words, context.profiles, this)),
+      m_list(new ListView(m_words.list)),
+      m_toolbar(new QToolBar),
+      m_widget(listWithToolbar(QString(), m_toolbar, m_list))
+{
+    m_list->setModel(m_model);
+    m_list->setAccessibleName("Permissions");
+    m_list->header()->setDefaultSectionSize(m_list->fontMetrics().averageCharWidth() * 22);
+    buildToolbar();
+    connect(m_list, &ListView::editAsked, this, &PermissionGridPart::toggle);
+    connect(m_list, &ListView::menuAsked, this, &PermissionGridPart::showMenu);
+}
+
+void PermissionGridPart::buildToolbar()
+{
+    m_toolbar->setObjectName(m_words.toolbar);
+    m_toolbar->setIconSize({16, 16});
+    int index = 0;
+    AddEditButton(*m_toolbar, index);
+    connectButton(*m_toolbar, "EDIT", this, &PermissionGridPart::toggle);
+    if (!m_words.filters)
+        return;
+    auto* commands = addFilter(index, "COMMAND", "View By Command");
+    for (const GridCommand& command : m_grid.commands) {
+        const QString word = fromBytes(command.word);
+        commands->menu()->addAction(word)->setObjectName(commandMark + word);
+    }
+    auto* profiles = addFilter(index, "PROFILE", "View By Profile");
+    for (const std::string& name : m_context.profiles.names()) {
+        const QString word = fromBytes(name);
+        profiles->menu()->addAction(QString(word).replace('&', "&&"))->setObjectName(word);
+    }
+}
+
+QAction* PermissionGridPart::addFilter(int& index, const QString& key, const QString& toolTip)
+{
+    auto* filter = addButton(*m_toolbar, index, key, toolTip, key.toLower());
+    filter->setCheckable(true);
+    filter->setMenu(new QMenu(m_toolbar));
+    qobject_cast<QToolButton*>(m_toolbar->widgetForAction(filter))
+        ->setPopupMode(QToolButton::MenuButtonPopup);
+    connect(filter, &QAction::triggered, this, [this, filter] { release(filter); });
+    connect(filter->menu(), &QMenu::triggered, this,
+            [this, filter](const QAction* entry) { choose(filter, entry->objectName()); });
+    return filter;
+}
+
+void PermissionGridPart::choose(QAction* filter, const QString& entry)
+{
+    if (entry.startsWith(commandMark))
+        m_model->setCommandFilter(entry.mid(commandMark.size()));
+    else
+        m_model->setProfileFilter(entry);
+    filter->setChecked(true);
+}
+
+void PermissionGridPart::release(QAction* filter)
+{
+    if (filter->objectName() == "COMMAND")
+        m_model->setCommandFilter(QString());
+    else
+        m_model->setProfileFilter(QString());
+    filter->setChecked(false);
+}
+
+void PermissionGridPart::load()
+{
+    m_model->setCells(loadGrid(m_grid, m_context.files, m_context.profiles));
+}
+
+void PermissionGridPart::save()
+{
+    saveGrid(m_grid, m_model->cells(), m_context.files, m_context.profiles);
+    load();
+}
+
+RoutineTable PermissionGridPart::routines()
+{
+    const auto toggleRow = [this] { toggle(); };
+    return {{routineName("mnuTrueFalse", "True"), toggleRow},
+            {routineName("mnuTrueFalse", "False"), toggleRow}};
+}
+
+void PermissionGridPart::toggle()
+{
+    const int row = m_list->currentRow();
+    if (row < 0)
+        return;
+    m_model->toggle(row);
+    emit changed();
+}
+
+void PermissionGridPart::showMenu(const QPoint& at)
+{
+    auto* menu = m_context.popUpMenu("mnuTrueFalse");
+    const int row = m_list->currentRow();
+    if (!menu || row < 0)
+        return;
+    const auto actions = menu->actions();
+    actions.at(0)->setEnabled(!m_model->isAllowed(row));
+    actions.at(1)->setEnabled(m_model->isAllowed(row));
+    menu->popup(at);
+}
+
+} // namespace quillfen

@@ -1,0 +1,16 @@
+#include "shell/kit/routines.h"
+
+namespace quillfen {
+
+QString routineName(const QString& menu, const QString& item)
+{
+    const QString onlyEdit = QStringLiteral("mnuOnlyEdit");
+    const QString word = menu.mid(3);
+    if (menu.startsWith(onlyEdit)) // "mnuOnlyEditTwo": the number stands behind the item
+        return QStringLiteral("gMenu") + item + menu.mid(onlyEdit.size()) + QStringLiteral("Click");
+    if (menu == "mnuUserActions") // its routines bear no word
+        return QStringLiteral("gMenu") + item + QStringLiteral("Click");
+    return QStringLiteral("gMenu") + word + item + QStringLiteral("Click");
+}
+
+} // namespace quillfen

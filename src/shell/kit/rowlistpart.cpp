@@ -1,0 +1,155 @@
+#include "shell/kit/rowlistpart.h"
+
+#include "shell/kit/codepagetext.h"
+#include "shell/kit/editdialog.h"
+#include "shell/kit/labels.h"
+#include "shell/kit/messages.h"
+#include "shell/kit/rowlist.h"
+#include "shell/kit/toolbars.h"
+
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace quillfen {
+namespace {
+
+EditRequest requestOf(const RowDialog& dialog)
+{
+    EditRequest request{dialog.form, dialog.addTitle, "A",
+                        dialog.addMode.value_or(habitualAddMode(dialog.form)), dialog.labels};
+    request.entries = dialog.entries;
+    request.ranges = dialog.ranges;
+    return request;
+}
+
+} // namespace
+
+RowListPart::RowListPart(RowListDeclaration declaration, const FormContext& context)
+    : m_declaration(std::move(declaration)),
+      m_context(context),
+      m_list(new RowList(fromBytes(m_declaration.list), texts(m_declaration.columns), m_declaration.ticks)),
+      m_toolbar(new QToolBar),
+      m_widget(placed())
+{
+    buildToolbar();
+    connect(m_list, &RowList::tickChanged, this, &FormPart::changed);
+    connect(m_list, &RowList::countChanged, this, &RowListPart::followRows);
+    connect(m_list, &RowList::editAsked, this, &RowListPart::edit);
+    connect(m_list, &RowList::deleteAsked, this, &RowListPart::removeSelected);
+    connect(m_list, &RowList::menuAsked, this,
+            [this](const QPoint& at) { m_context.showMenu(fromBytes(m_declaration.menu), at); });
+    followRows();
+}
+
+void RowListPart::buildToolbar()
+{
+    m_toolbar->setObjectName(fromBytes(m_declaration.toolbar));
+    m_toolbar->setIconSize({16, 16});
+    int index = 0;
+    if (m_declaration.dialog.addTitle.empty())
+        AddEditButton(*m_toolbar, index);
+    else
+        BuildListToolbar(*m_toolbar, index);
+    connectButton(*m_toolbar, "NEW", this, &RowListPart::add);
+    connectButton(*m_toolbar, "EDIT", this, &RowListPart::edit);
+    connectButton(*m_toolbar, "DELETE", this, &RowListPart::removeSelected);
+}
+
+QWidget* RowListPart::placed()
+{
+    const QString label = fromBytes(m_declaration.label);
+    m_list->setAccessibleName(label.isEmpty() ? fromBytes(m_declaration.columns.front()) : label);
+    return listWithToolbar(label, m_toolbar, m_list);
+}
+
+void RowListPart::load()
+{
+    m_list->setRows(m_declaration.load(m_context.files, m_context.profiles));
+}
+
+void RowListPart::restore()
+{
+    if (m_declaration.restored)
+        m_list->setRows(m_declaration.restored(m_context.profiles));
+}
+
+void RowListPart::save()
+{
+    m_declaration.save(m_context.files, m_context.profiles, m_list->rows());
+}
+
+RoutineTable RowListPart::routines()
+{
+    return {{routineName(fromBytes(m_declaration.menu), "Add"), [this] { add(); }},
+            {routineName(fromBytes(m_declaration.menu), "Delete"), [this] { removeSelected(); }},
+            {routineName(fromBytes(m_declaration.menu), "Edit"), [this] { edit(); }}};
+}
+
+void RowListPart::add()
+{
+    if (m_declaration.dialog.addTitle.empty())
+        return;
+    addRows(m_list, requestOf(m_declaration.dialog), [this](const std::vector<std::string>& values) {
+        CellRow row{std::vector<std::string>(std::max(m_declaration.columns.size(), values.size()))};
+        if (m_declaration.take)
+            m_declaration.take(values, row);
+        else
+            std::copy(values.begin(), values.end(), row.cells.begin());
+        m_list->append(std::move(row));
+        m_list->select(static_cast<int>(m_list->rows().size()) - 1);
+        emit changed();
+    });
+}
+
+void RowListPart::edit()
+{
+    const int at = m_list->currentRow();
+    if (at < 0)
+        return;
+    CellRow row = m_list->rows()[static_cast<std::size_t>(at)];
+    const RowDialog& dialog = m_declaration.dialog;
+    EditRequest request = requestOf(dialog);
+    request.gEditResult = "E";
+    request.gEditMode = dialog.editMode.value_or(habitualEditMode(dialog.form));
+    request.title = m_declaration.editTitleOf ? m_declaration.editTitleOf(row) : dialog.editTitle;
+    if (m_declaration.labelsOf)
+        request.labels = m_declaration.labelsOf(row);
+    request.values = m_declaration.fieldsOf ? m_declaration.fieldsOf(row) : row.cells;
+
+    const EditAnswer answer = showEditDialog(m_list, request);
+    if (answer.gEditResult != "1")
+        return;
+    if (m_declaration.take)
+        m_declaration.take(answer.gEditValues, row);
+    else
+        std::copy(answer.gEditValues.begin(), answer.gEditValues.end(), row.cells.begin());
+    m_list->replace(at, std::move(row));
+    emit changed();
+}
+
+void RowListPart::removeSelected()
+{
+    const int at = m_list->currentRow();
+    if (at < 0 || m_declaration.dialog.addTitle.empty())
+        return;
+    const DeleteWords& words = m_declaration.deletion;
+    if (!words.minimum.empty() && m_list->rows().size() == 1) {
+        notify(m_list, "Cannot delete", fromBytes(words.minimum), QMessageBox::Critical);
+        return;
+    }
+    if (!confirm(m_list, fromBytes(words.title), fromBytes(words.text)))
+        return;
+    m_list->remove(at);
+    emit changed();
+}
+
+void RowListPart::followRows()
+{
+    for (const char* key : {"DELETE", "EDIT"}) {
+        if (auto* action = button(*m_toolbar, key))
+            action->setEnabled(!m_list->isEmpty());
+    }
+}
+
+} // namespace quillfen
