@@ -18,8 +18,9 @@ foreach(floor settings functions shell/icons shell/kit shell/window app)
       if(NOT include MATCHES "^#include \"(${allowed_${floor}})/")
         message(SEND_ERROR "${source}: ${include}")
       endif()
-      # Nothing of one function includes another function's files: what two share lives below.
-      if(source MATCHES "^functions/([a-z]+)/([a-z]+)(form)?\\.(h|cpp)$")
+      # Nothing of one function includes another function's files: what two share lives below, or in the group's own
+      # folder shared/. Only the group's list of forms names them all.
+      if(source MATCHES "^functions/([a-z]+)/([a-z]+)\\.(h|cpp)$" AND NOT source MATCHES "/forms\\.cpp$")
         set(group ${CMAKE_MATCH_1})
         string(REGEX REPLACE "form$" "" unit ${CMAKE_MATCH_2})
         if(include MATCHES "\"functions/([a-z]+)/([a-z]+)\\.h\"")

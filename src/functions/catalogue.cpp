@@ -1,7 +1,11 @@
 #include "functions/catalogue.h"
 
+#include "functions/communication/changers.h"
+#include "functions/games/trivia.h"
+#include "functions/general/bots.h"
 #include "functions/general/settings.h"
 #include "functions/general/switches.h"
+#include "functions/security/kicks.h"
 
 namespace quillfen {
 
@@ -18,14 +22,14 @@ const FolderCatalogue& folderCatalogue()
         {{R"(Communication\AutoCorrect)"}},
         {{R"(Communication\ChatRooms)"}},
         {{R"(Communication\Clock)"}},
-        {{R"(Communication\KickBarChanger)"}},
+        {{R"(Communication\KickBarChanger)"}, {buildKickBarChanger}},
         {{R"(Communication\MassMessage)"}},
         {{R"(Communication\MOTD)", R"(Communication\MOTD\MOTDs)"}},
         {{R"(Communication\Mute)"}},
         {{R"(Communication\RotatingMainMessage)", R"(Communication\RotatingMainMessage\Files)"}},
         {{R"(Communication\RotatingPrivateMessage)", R"(Communication\RotatingPrivateMessage\Files)"}},
         {{R"(Communication\Talk)"}},
-        {{R"(Communication\TopicChanger)"}},
+        {{R"(Communication\TopicChanger)"}, {buildTopicChanger}},
         {{R"(Communication\WelcomeInfo)"}},
         {{R"(Communication\Whisper)"}},
 
@@ -39,10 +43,11 @@ const FolderCatalogue& folderCatalogue()
         {{R"(Games\RussianRoulette)"}},
         {{R"(Games\SlotMachine)"}},
         {{R"(Games\ThreeCardMonty)"}},
-        {{R"(Games\Trivia)", R"(Games\Trivia\ScoresArchive)", R"(Games\Trivia\QuestionFiles)"}},
+        {{R"(Games\Trivia)", R"(Games\Trivia\ScoresArchive)", R"(Games\Trivia\QuestionFiles)"},
+         {buildTrivia}},
 
         {{"General"}},
-        {{R"(General\Bots)"}},
+        {{R"(General\Bots)"}, {buildBots}},
         {{R"(General\Globals)"}, {buildGeneralSettings, buildSwitches, buildEnabledRightClicks}},
         {{R"(General\PtokaX)"}}, // holds the saved copy of the hub's profile file
 
@@ -57,7 +62,7 @@ const FolderCatalogue& folderCatalogue()
         {{R"(Security\CloneBlocker)"}},
         {{R"(Security\CommandSpy)"}},
         {{R"(Security\Flood)"}},
-        {{R"(Security\Kick)", R"(Security\Kick\Logs)"}},
+        {{R"(Security\Kick)", R"(Security\Kick\Logs)"}, {buildKicks}},
         {{R"(Security\MainBlock)"}},
         {{R"(Security\MainCleaner)"}},
         {{R"(Security\MainLock)"}},

@@ -1,17 +1,24 @@
 #include "functions/forms.h"
 
-#include "functions/general/settingsform.h"
-#include "functions/general/switchesform.h"
+#include "functions/archive/forms.h"
+#include "functions/communication/forms.h"
+#include "functions/customise/forms.h"
+#include "functions/games/forms.h"
+#include "functions/general/forms.h"
+#include "functions/security/forms.h"
+#include "functions/useractions/forms.h"
 
 namespace quillfen {
 
 const FormCatalogue& formCatalogue()
 {
-    static const FormCatalogue catalogue = {
-        {"frmGeneralGeneral", makeGeneralSettingsForm},
-        {"frmGeneralSwitches", makeSwitchesForm},
-        {"frmGeneralRightClicks", makeEnabledRightClicksForm},
-    };
+    static const FormCatalogue catalogue = [] {
+        FormCatalogue all;
+        for (const auto& group : {generalForms(), communicationForms(), customiseForms(), gamesForms(),
+                                  securityForms(), useractionsForms(), archiveForms()})
+            all.insert(all.end(), group.begin(), group.end());
+        return all;
+    }();
     return catalogue;
 }
 

@@ -7,6 +7,7 @@
 #include "support/lua.h"
 
 #include <gtest/gtest.h>
+#include <map>
 
 namespace quillfen {
 namespace {
@@ -14,7 +15,10 @@ namespace {
 using test::LuaValues;
 using test::luaValues;
 
-TEST(HubScript, LoadsEveryTableOfAFreshTree)
+/// The files of a fresh tree that Lua can't load, by name, and why.
+const std::map<std::string, std::string> notLoading = {};
+
+TEST(HubScript, LoadsEveryTableOfAFreshTreeButThoseThatAreKnownNotTo)
 {
     test::Hub hub;
     hub.store.files["/hub/cfg/Profiles.xml"] = "<Name>Master</Name>\r\n<Name>Reg</Name>\r\n";
@@ -25,7 +29,13 @@ TEST(HubScript, LoadsEveryTableOfAFreshTree)
         if (!path.ends_with(".tbl"))
             continue;
         ++loaded;
-        EXPECT_NO_THROW(EXPECT_FALSE(luaValues(bytes).empty()) << path) << path;
+        const bool known = notLoading.contains(path.substr(hub.root.size() + 1));
+        try {
+            EXPECT_FALSE(luaValues(bytes).empty()) << path;
+            EXPECT_FALSE(known) << path << " loads by now";
+        } catch (const std::runtime_error& error) {
+            EXPECT_TRUE(known) << path << ": " << error.what();
+        }
     }
     EXPECT_GE(loaded, 4);
     EXPECT_EQ(luaValues(hub.file("General/Globals/Version.tbl")),

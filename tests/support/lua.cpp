@@ -20,8 +20,10 @@ std::string keyText(lua_State* lua, int index)
 /// Takes the values of the table on top of the stack.
 void flatten(lua_State* lua, const std::string& prefix, LuaValues& values)
 {
+    bool empty = true;
     lua_pushnil(lua);
     while (lua_next(lua, -2) != 0) {
+        empty = false;
         const std::string name = prefix + keyText(lua, -2);
         if (lua_istable(lua, -1))
             flatten(lua, name + ".", values);
@@ -29,6 +31,8 @@ void flatten(lua_State* lua, const std::string& prefix, LuaValues& values)
             values[name] = keyText(lua, -1);
         lua_pop(lua, 1);
     }
+    if (empty && !prefix.empty())
+        values[prefix.substr(0, prefix.size() - 1)] = "{}";
 }
 
 } // namespace

@@ -1,6 +1,5 @@
 #include "shell/kit/editorform.h"
 
-#include "settings/filestore.h"
 #include "shell/kit/messages.h"
 #include "shell/kit/toolbars.h"
 #include "shell/kit/units.h"
@@ -77,14 +76,13 @@ void EditorForm::load()
 
 void EditorForm::save()
 {
-    try {
+    // After a failure the form stays dirty and complete, so that nothing typed is lost.
+    const bool saved = attempt(this, [this] {
         for (FormPart* part : m_parts)
             part->save();
+    });
+    if (saved)
         bDirty = SetControlsClean(*m_toolbar, *m_statusBar);
-    } catch (const StoreError& error) {
-        // The form stays dirty and complete, so that nothing typed is lost.
-        tellFailure(this, m_description.caption, error);
-    }
 }
 
 bool EditorForm::confirmDiscard()

@@ -1,6 +1,8 @@
 #include "shell/kit/messages.h"
 
+#include "settings/filename.h"
 #include "settings/filestore.h"
+#include "shell/kit/codepagetext.h"
 
 #include <QDir>
 
@@ -8,24 +10,52 @@ namespace quillfen {
 namespace {
 
 QMessageBox::StandardButton show(QWidget* parent, const QString& title, const QString& text,
-                                 QMessageBox::Icon icon, QMessageBox::StandardButtons buttons)
+                                 QMessageBox::Icon icon, QMessageBox::StandardButtons buttons,
+                                 QMessageBox::StandardButton preset = QMessageBox::Ok)
 {
     QMessageBox box(icon, title, text, buttons, parent);
     box.setTextFormat(Qt::PlainText);
-    box.setDefaultButton(QMessageBox::Ok);
+    box.setDefaultButton(preset);
     return static_cast<QMessageBox::StandardButton>(box.exec());
 }
 
 } // namespace
 
-bool confirm(QWidget* parent, const QString& title, const QString& text, QMessageBox::Icon icon)
+bool confirm(QWidget* parent, const QString& title, const QString& text, QMessageBox::Icon icon,
+             QMessageBox::StandardButton preset)
 {
-    return show(parent, title, text, icon, QMessageBox::Ok | QMessageBox::Cancel) == QMessageBox::Ok;
+    return show(parent, title, text, icon, QMessageBox::Ok | QMessageBox::Cancel, preset) == QMessageBox::Ok;
+}
+
+bool askYesNo(QWidget* parent, const QString& title, const QString& text)
+{
+    return show(parent, title, text, QMessageBox::Question, QMessageBox::Yes | QMessageBox::No,
+                QMessageBox::Yes) == QMessageBox::Yes;
 }
 
 void notify(QWidget* parent, const QString& title, const QString& text, QMessageBox::Icon icon)
 {
     show(parent, title, text, icon, QMessageBox::Ok);
+}
+
+bool attempt(QWidget* parent, const std::function<void()>& write)
+{
+    try {
+        write();
+        return true;
+    } catch (const StoreError& error) {
+        tellFailure(parent, parent->window()->windowTitle(), error);
+        return false;
+    }
+}
+
+bool refuseFileName(QWidget* parent, std::string_view name)
+{
+    const std::string fault = fileNameFault(name);
+    if (fault.empty())
+        return false;
+    notify(parent, "Cannot create file", fromBytes(name) + "\n\n" + fromBytes(fault), QMessageBox::Warning);
+    return true;
 }
 
 void tellFailure(QWidget* parent, const QString& title, const StoreError& error)

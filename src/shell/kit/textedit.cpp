@@ -87,12 +87,8 @@ QString TextEditDialog::text() const
 
 void TextEditDialog::save()
 {
-    try {
-        m_files.WriteSettingsFile(toBytes(m_path->text()), toBytes(text()));
-    } catch (const StoreError& error) {
-        tellFailure(this, windowTitle(), error);
+    if (!attempt(this, [this] { m_files.WriteSettingsFile(toBytes(m_path->text()), toBytes(text())); }))
         return;
-    }
     m_saved = true;
     m_mode = Mode::Edit;
     bDirty = SetControlsClean(*m_toolbar, *m_statusBar);

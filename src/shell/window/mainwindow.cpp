@@ -3,6 +3,7 @@
 #include "settings/lines.h"
 #include "settings/tablefile.h"
 #include "shell/icons/icons.h"
+#include "shell/kit/hourglass.h"
 #include "shell/kit/messages.h"
 #include "shell/kit/units.h"
 #include "shell/window/aboutbox.h"
@@ -13,7 +14,6 @@
 #include "shell/window/windowmenu.h"
 #include "shell/window/windowsdialog.h"
 
-#include <QApplication>
 #include <QCloseEvent>
 #include <QDesktopServices>
 #include <QMdiArea>
@@ -25,15 +25,6 @@
 
 namespace quillfen {
 namespace {
-
-class Hourglass
-{
-public:
-    Hourglass() { QApplication::setOverrideCursor(Qt::WaitCursor); }
-    Hourglass(const Hourglass&) = delete;
-    Hourglass& operator=(const Hourglass&) = delete;
-    ~Hourglass() { QApplication::restoreOverrideCursor(); }
-};
 
 /// No routine writes this switch: the owner puts it into the file by hand.
 bool isPortalOn(const SettingsFiles& files)

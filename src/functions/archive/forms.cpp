@@ -1,0 +1,10 @@
+#include "functions/archive/forms.h"
+
+namespace quillfen {
+
+FormCatalogue archiveForms()
+{
+    return {};
+}
+
+} // namespace quillfen

@@ -1,0 +1,87 @@
+#include "functions/communication/changers.h"
+
+#include "settings/listfile.h"
+
+namespace quillfen {
+namespace {
+
+/// The words in which the two differ.
+struct ChangerWords
+{
+    std::string name; ///< of folder, files and tables
+    std::string list;
+    std::string toolbar;
+    std::string column;
+    std::string label;
+    std::string text; ///< one of the texts, as dialogs and boxes call it
+};
+
+const ChangerWords topicWords = {"TopicChanger", "lvwTopics", "tlbTopics", "Topics", "Topics", "Topic"};
+const ChangerWords kickBarWords = {"KickBarChanger", "lvwKickBars",    "tlbKickBars",
+                                   "KickBars",       "KickBar Topics", "KickBar"};
+
+std::string pathOf(const ChangerWords& words, const std::string& file)
+{
+    return "Communication\\" + words.name + "\\" + words.name + file;
+}
+
+ListFile textsFile(const ChangerWords& words)
+{
+    return {pathOf(words, "Topics.tbl"), "t" + words.name + "Topics"};
+}
+
+Changer changer(const ChangerWords& words)
+{
+    RowListDeclaration texts;
+    texts.list = words.list;
+    texts.toolbar = words.toolbar;
+    texts.label = words.label;
+    texts.columns = {words.column};
+    texts.menu = "mnuFirst";
+    texts.dialog.addTitle = "Add " + words.text;
+    texts.dialog.editTitle = "Edit " + words.text;
+    texts.dialog.labels = {words.text};
+    texts.deletion.title = "Delete " + words.text + "?";
+    texts.deletion.text = "Do you really want to delete this " + words.text + "?";
+    texts.load = loadOf(textsFile(words));
+    texts.save = saveOf(textsFile(words));
+    texts.restored = noRows;
+    return {{pathOf(words, "Settings.tbl"),
+             "t" + words.name + "Settings",
+             {number("iDelay", "txtDelay", "Delay", "10", 1, 720)}},
+            texts};
+}
+
+} // namespace
+
+const Changer& topicChanger()
+{
+    static const Changer topics = changer(topicWords);
+    return topics;
+}
+
+const Changer& kickBarChanger()
+{
+    static const Changer kickBars = changer(kickBarWords);
+    return kickBars;
+}
+
+void buildTopicChanger(const SettingsFiles& files, const HubProfiles& profiles)
+{
+    rebuildTableFile(topicChanger().settings, files, profiles);
+    // The build looks for the texts one folder too deep, finds none, and writes them empty each time: a
+    // rebuild loses the owner's topics. The kick bar's build looks in the right place. Both are kept.
+    const ListFile texts = textsFile(topicWords);
+    if (!files.store().exists(
+            files.paths().inSettings(R"(Communication\TopicChanger\TopicChanger\TopicChangerTopics.tbl)")))
+        files.WriteSettingsFile(texts.path, emptyTable(texts.table));
+}
+
+void buildKickBarChanger(const SettingsFiles& files, const HubProfiles& profiles)
+{
+    rebuildTableFile(kickBarChanger().settings, files, profiles);
+    const ListFile texts = textsFile(kickBarWords);
+    writeEmptyTableIfMissing(files, texts.path, texts.table);
+}
+
+} // namespace quillfen

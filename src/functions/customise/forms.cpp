@@ -1,0 +1,10 @@
+#include "functions/customise/forms.h"
+
+namespace quillfen {
+
+FormCatalogue customiseForms()
+{
+    return {};
+}
+
+} // namespace quillfen

@@ -1,0 +1,104 @@
+#include "functions/games/shared/quizpattern.h"
+
+#include <algorithm>
+#include <array>
+#include <iterator>
+
+namespace quillfen {
+namespace {
+
+constexpr int games = 6;
+
+struct QuizFlag
+{
+    const char* key;
+    const char* caption;
+    const char* standard;
+};
+
+constexpr QuizFlag flags[] = {
+    {"bManualStart", "Manual Start Only", "0"},     {"bOpOnlyStart", "Operator Start", "0"},
+    {"bOpOnlyStop", "Operator Stop", "0"},          {"bPlayInMain", "Play Game In Main", "1"},
+    {"bAutoClearScores", "Auto Clear Scores", "1"}, {"bArchiveScores", "Auto Archive Scores", "1"},
+};
+
+/// A game's default and range; without a default the game's writer does not write the key.
+struct Range
+{
+    const char* standard = nullptr;
+    int minimum = 0;
+    int maximum = 0;
+};
+
+struct QuizNumber
+{
+    const char* key;
+    const char* caption;
+    std::array<Range, games> ranges; ///< Trivia, Numbers, Hangman, Anagrams, CodeBreaker, GuessTheNumber
+};
+
+constexpr QuizNumber numbers[] = {
+    {"iArchiveScores",
+     "ScoresTo Archive",
+     {{{"5", 0, 250}, {"5", 0, 1000}, {"5", 0, 1000}, {"5", 0, 1000}, {"5", 0, 1000}, {"5", 0, 1000}}}},
+    {"iQuestions",
+     "Questions",
+     {{{"15", 0, 999}, {"20", 0, 999}, {"10", 0, 999}, {"20", 0, 999}, {"20", 0, 999}, {"12", 0, 999}}}},
+    {"iQuestionsPause",
+     "Pause Between Questions",
+     {{{"10", 0, 60}, {"10", 0, 1000}, {"10", 0, 1000}, {"10", 0, 1000}, {"10", 0, 1000}, {"10", 0, 60}}}},
+    {"iTimeOut",
+     "Timeout",
+     {{{"5", 0, 1000}, {"3", 0, 60}, {"3", 0, 60}, {"3", 0, 60}, {"3", 0, 60}, {"3", 0, 1000}}}},
+    {"iBonusTime", "Bonus Time", {{{"45", 0, 100}, {"10", 0, 1000}, {}, {"10", 0, 1000}, {}, {}}}},
+    {"iPoints", "Points", {{{"1", 0, 100}, {"1", 0, 100}, {"6", 0, 100}, {"1", 0, 100}, {"1", 0, 100}, {}}}},
+    {"iScores",
+     "End Of Game Scores",
+     {{{"25", 0, 200}, {"25", 0, 100}, {"25", 0, 100}, {"25", 0, 100}, {"25", 0, 100}, {"25", 0, 100}}}},
+    {"iTopScores",
+     "Top Scores",
+     {{{"10", 0, 100}, {"10", 0, 200}, {"10", 0, 200}, {"10", 0, 200}, {"10", 0, 200}, {"10", 0, 100}}}},
+    {"iAutoStartDelay",
+     "Auto Start Delay",
+     {{{"93", 1, 1440},
+       {"73", 1, 1440},
+       {"67", 1, 1440},
+       {"73", 1, 1440},
+       {"73", 1, 1440},
+       {"111", 1, 1440}}}},
+};
+
+/// Trivia words two captions in its own way.
+std::string captionOf(QuizGame game, const QuizNumber& quizNumber)
+{
+    const std::string key = quizNumber.key;
+    if (game == QuizGame::Trivia && key == "iArchiveScores")
+        return "Scores to archive";
+    if (game == QuizGame::Trivia && key == "iTopScores")
+        return "Top X Scores";
+    return quizNumber.caption;
+}
+
+} // namespace
+
+Setting quizSetting(QuizGame game, const std::string& key, const std::string& control)
+{
+    const auto* const isFlag = std::find_if(std::begin(flags), std::end(flags),
+                                            [&key](const QuizFlag& each) { return each.key == key; });
+    if (isFlag != std::end(flags))
+        return flag(key, control, isFlag->caption, isFlag->standard);
+    const auto* const found = std::find_if(std::begin(numbers), std::end(numbers),
+                                           [&key](const QuizNumber& each) { return each.key == key; });
+    const Range& range = found->ranges.at(static_cast<std::size_t>(game));
+    return arrowNumber(key, control, captionOf(game, *found), range.standard, range.minimum, range.maximum);
+}
+
+Setting arrowNumber(const std::string& key, const std::string& control, const std::string& label,
+                    const std::string& standard, int minimum, int maximum)
+{
+    Setting setting = number(key, control, label, standard, minimum, maximum);
+    setting.onlyArrows = true;
+    return setting;
+}
+
+} // namespace quillfen

@@ -1,0 +1,163 @@
+#include "functions/games/trivia.h"
+
+#include "functions/games/shared/quizpattern.h"
+#include "settings/filename.h"
+#include "settings/lines.h"
+#include "settings/listfile.h"
+
+#include <algorithm>
+
+namespace quillfen {
+namespace {
+
+constexpr std::string_view questionFilesPath = R"(Games\Trivia\TriviaQuestionFiles.tbl)";
+constexpr std::string_view questionFilesTable = "tTriviaQuestionFiles";
+constexpr std::string_view defaultKey = "sDefaultQuestionFile";
+
+Setting quiz(const std::string& key, const std::string& control)
+{
+    return quizSetting(QuizGame::Trivia, key, control);
+}
+
+Setting hintCharacter()
+{
+    Setting setting = text("sHintChar", "txtTextBox(0)", "Hint Character", "\x95");
+    setting.limit = 1;
+    return setting;
+}
+
+bool comesBefore(const std::string& one, const std::string& other)
+{
+    return lowered(one) < lowered(other);
+}
+
+} // namespace
+
+const TableFile& triviaSettings()
+{
+    static const TableFile file = {
+        R"(Games\Trivia\TriviaSettings.tbl)",
+        "tTriviaSettings",
+        {
+            quiz("bManualStart", "chkTrivia(0)"),
+            quiz("bOpOnlyStart", "chkTrivia(1)"),
+            quiz("bOpOnlyStop", "chkTrivia(2)"),
+            quiz("bPlayInMain", "chkTrivia(3)"),
+            quiz("bAutoClearScores", "chkTrivia(4)"),
+            quiz("bArchiveScores", "chkTrivia(5)"),
+            flag("bShowOnlyOneHint", "chkTrivia(6)", "Only Show One Hint", "1"),
+            quiz("iArchiveScores", "txtTextBoxUpDown(10)"),
+            options("iFormat", "optOption", "Question Format:", "0", 0,
+                    {"Standard", "Expanded", "Trivia Ex"}),
+            options("iScoring", "optOption", "Scoring Type:", "1", 3, {"Standard", "Hint Reduction"}),
+            hintCharacter(),
+            arrowNumber("iHintTime", "txtTextBoxUpDown(0)", "Hint Time", "30", 0, 60),
+            arrowNumber("iMaxHints", "txtTextBoxUpDown(1)", "Max Hints", "5", 0, 10),
+            quiz("iQuestions", "txtTextBoxUpDown(2)"),
+            quiz("iQuestionsPause", "txtTextBoxUpDown(3)"),
+            quiz("iTimeOut", "txtTextBoxUpDown(4)"),
+            quiz("iBonusTime", "txtTextBoxUpDown(5)"),
+            quiz("iPoints", "txtTextBoxUpDown(6)"),
+            quiz("iScores", "txtTextBoxUpDown(7)"),
+            quiz("iTopScores", "txtTextBoxUpDown(8)"),
+            quiz("iAutoStartDelay", "txtTextBoxUpDown(9)"),
+        },
+        {"sHintChar",       "bManualStart", "bOpOnlyStart",     "bOpOnlyStop",     "iFormat",
+         "iHintTime",       "iMaxHints",    "iQuestions",       "iQuestionsPause", "iTimeOut",
+         "iBonusTime",      "iPoints",      "iScores",          "iTopScores",      "iAutoStartDelay",
+         "iScoring",        "bPlayInMain",  "bAutoClearScores", "bArchiveScores",  "iArchiveScores",
+         "bShowOnlyOneHint"},
+    };
+    return file;
+}
+
+TriviaQuestionFiles loadTriviaQuestionFiles(const SettingsFiles& files)
+{
+    TriviaQuestionFiles result{files.ReadTableValue(questionFilesPath, defaultKey), {}};
+    if (result.defaultFile.empty())
+        return result;
+    result.names.push_back(result.defaultFile);
+    std::vector<ListRow> rows;
+    files.ReadTableToList(questionFilesPath, rows, "", questionFilesTable);
+    for (const ListRow& row : rows) {
+        if (!row.text.starts_with(
+                defaultKey)) // the table's own default line, in the form's words or the build's
+            result.names.push_back(row.text);
+    }
+    std::stable_sort(result.names.begin(), result.names.end(), comesBefore);
+    return result;
+}
+
+void saveTriviaQuestionFiles(const SettingsFiles& files, const TriviaQuestionFiles& questionFiles)
+{
+    std::string text = std::string(questionFilesTable) + " = {\r\n";
+    text.append("\t").append(defaultKey).append(" = \"").append(questionFiles.defaultFile).append("\",\r\n");
+    for (const std::string& name : questionFiles.names) {
+        if (name != questionFiles.defaultFile)
+            text += "\t\"" + name + "\",\r\n";
+    }
+    files.WriteSettingsFile(questionFilesPath, text + "}");
+}
+
+std::string triviaQuestionFile(std::string_view name)
+{
+    return R"(Games\Trivia\QuestionFiles\)" + std::string(name) + ".lst";
+}
+
+std::vector<CellRow> loadTriviaQuestions(const SettingsFiles& files, std::string_view name)
+{
+    std::vector<ListRow> list;
+    files.ReadTableToList(triviaQuestionFile(name), list, "*");
+    std::vector<CellRow> rows;
+    rows.reserve(list.size());
+    for (ListRow& row : list)
+        rows.push_back({{std::move(row.text), std::move(row.second)}});
+    return rows;
+}
+
+void saveTriviaQuestions(const SettingsFiles& files, std::string_view name, const std::vector<CellRow>& rows)
+{
+    std::string text;
+    for (const CellRow& row : rows)
+        text.append(row.cells.at(0)).append("*").append(row.cells.at(1)).append(lineEnd);
+    files.WriteSettingsFile(triviaQuestionFile(name), text);
+}
+
+void createTriviaQuestions(const SettingsFiles& files, std::string_view name)
+{
+    files.WriteSettingsFile(
+        triviaQuestionFile(name),
+        "Literature:Which name of six letters does a horse bear in Tavis Orlemon's series of "
+        "novels?*binkie");
+}
+
+std::vector<std::string> triviaFields(const CellRow& row)
+{
+    const auto [category, question, found] = splitInPieces(row.cells.at(0), ':');
+    return {std::string(trimBlanks(category)), std::string(trimBlanks(question)), row.cells.at(1)};
+}
+
+CellRow triviaRow(const std::vector<std::string>& fields)
+{
+    return {{fields.at(0) + ":" + fields.at(1), fields.at(2)}};
+}
+
+void buildTrivia(const SettingsFiles& files, const HubProfiles& profiles)
+{
+    rebuildTableFile(triviaSettings(), files, profiles);
+    writeEmptyTableIfMissing(files, R"(Games\Trivia\TriviaPlayers.tbl)", "tTriviaPlayers");
+    writeEmptyTableIfMissing(files, R"(Games\Trivia\TriviaScoresArchiveIndex.tbl)",
+                             "tTriviaScoresArchiveIndex");
+    writeIfMissing(files, R"(Games\Trivia\TriviaScores.tbl)", "tTriviaScores = {\r\n\tn=0\r\n}");
+    if (files.store().exists(files.paths().inSettings(questionFilesPath)))
+        return;
+    files.WriteSettingsFile(
+        questionFilesPath,
+        "tTriviaQuestionFiles = {\r\n[\"sDefaultQuestionFile\"] = \"TriviaQuestions\",\r\n}");
+    // Only together with its table: an owner who deleted the file but kept the table doesn't get it back.
+    files.WriteSettingsFile(
+        triviaQuestionFile("TriviaQuestions"),
+        "Misc:Which short word is the title of a novel in Tavis Orlemon's series?*mort\r\n");
+}
+
+} // namespace quillfen

@@ -1,0 +1,47 @@
+#pragma once
+
+#include "settings/declaration.h"
+#include "settings/listdeclaration.h"
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace quillfen {
+
+const TableFile& triviaSettings();
+
+/// The question files that the game knows, by name, and the one that it starts with. Without a default there
+/// is none.
+struct TriviaQuestionFiles
+{
+    std::string defaultFile;
+    std::vector<std::string> names; ///< sorted, the default among them
+};
+
+TriviaQuestionFiles loadTriviaQuestionFiles(const SettingsFiles& files);
+
+/// Writes the default and every other name. Throws StoreError.
+void saveTriviaQuestionFiles(const SettingsFiles& files, const TriviaQuestionFiles& questionFiles);
+
+/// The told path of a question file.
+std::string triviaQuestionFile(std::string_view name);
+
+/// A question file's rows, "Category:Question" and the answer. A line that ends in "t" is lost to the list
+/// reader.
+std::vector<CellRow> loadTriviaQuestions(const SettingsFiles& files, std::string_view name);
+
+/// Throws StoreError.
+void saveTriviaQuestions(const SettingsFiles& files, std::string_view name, const std::vector<CellRow>& rows);
+
+/// A new question file with its one row. Throws StoreError.
+void createTriviaQuestions(const SettingsFiles& files, std::string_view name);
+
+/// Category, question and answer of a row. The row is split at every colon, so a question that holds one
+/// loses what stands behind it when it is edited: owners know to avoid it.
+std::vector<std::string> triviaFields(const CellRow& row);
+CellRow triviaRow(const std::vector<std::string>& fields);
+
+void buildTrivia(const SettingsFiles& files, const HubProfiles& profiles);
+
+} // namespace quillfen

@@ -1,0 +1,10 @@
+#pragma once
+
+#include "shell/kit/editorform.h"
+
+namespace quillfen {
+
+/// The forms of this group, by name.
+FormCatalogue generalForms();
+
+} // namespace quillfen

@@ -1,0 +1,132 @@
+#include "functions/general/languages.h"
+
+#include "settings/listfile.h"
+
+namespace quillfen {
+namespace {
+
+constexpr std::string_view currentKey = "Current";
+
+constexpr LanguageSet sets[] = {
+    {
+        .form = "frmLanguageCommands",
+        .caption = "Language ~ Commands",
+        .listFile = R"(Language\Commands\CommandLanguages.tbl)",
+        .listTable = "tCommandLanguages",
+        .folder = R"(Language\Commands\Files\)",
+        .textTable = "tScriptCommands",
+        .keyColumn = "Command ID",
+        .textColumn = "Command",
+        .newTitle = "Add New Command",
+        .newPrompt = "Enter name of new Command File:",
+        .duplicateTail = " already exists as a Command Language File",
+        .deleteRefusal = "DEFAULT Command File cannot be deleted",
+        .editTitle = "Edit Command",
+        .editLabel = "Command",
+    },
+    {
+        .form = "frmLanguageRightClick",
+        .caption = "Language ~ RightClick",
+        .listFile = R"(Language\RightClick\RightClickLanguages.tbl)",
+        .listTable = "tRightClickLanguages",
+        .folder = R"(Language\RightClick\Files\)",
+        .textTable = "tScriptRightClick",
+        .keyColumn = "RightClick ID",
+        .textColumn = "RightClick",
+        .newTitle = "Add New RightClick",
+        .newPrompt = "Enter name of new RightClick:",
+        .duplicateTail = " already exists as a RightClick Language File",
+        .deleteRefusal = "DEFAULT RightClick cannot be deleted",
+        .editTitle = "Edit RightClick",
+        .editLabel = "RightClick",
+    },
+    {
+        .form = "frmLanguageMessages",
+        .caption = "Language ~ Messages",
+        .listFile = R"(Language\Messages\MessageLanguages.tbl)",
+        .listTable = "tMessageLanguages",
+        .folder = R"(Language\Messages\Files\)",
+        .textTable = "tScriptMessages",
+        .keyColumn = "Message ID",
+        .textColumn = "Message",
+        .newTitle = "Add New Command", // kept from the commands, like the refusal below
+        .newPrompt = "Enter name of new Message File:",
+        .duplicateTail = " already exists as a Message Language File",
+        .deleteRefusal = "DEFAULT Command File cannot be deleted",
+        .editTitle = "Edit Message",
+        .editLabel = "Message",
+    },
+};
+
+std::string pathOf(const LanguageSet& set, std::string_view name)
+{
+    return std::string(set.folder).append(name).append(".tbl");
+}
+
+std::vector<CellRow> cellRows(std::vector<ListRow> list)
+{
+    std::vector<CellRow> rows;
+    rows.reserve(list.size());
+    for (ListRow& row : list)
+        rows.push_back({{std::move(row.text), std::move(row.second)}});
+    return rows;
+}
+
+std::vector<ListRow> referenceList(const SettingsFiles& files, const LanguageSet& set)
+{
+    std::vector<ListRow> list;
+    files.ReadTableToList(pathOf(set, referenceLanguage), list, "=", set.textTable);
+    return list;
+}
+
+} // namespace
+
+std::span<const LanguageSet> languageSets()
+{
+    return sets;
+}
+
+std::vector<CellRow> loadLanguages(const SettingsFiles& files, const LanguageSet& set)
+{
+    std::vector<ListRow> list;
+    files.ReadTableToList(set.listFile, list, "=", set.listTable);
+    std::vector<CellRow> rows;
+    for (const ListRow& row : list)
+        rows.push_back({{row.second}, row.text == currentKey});
+    return rows;
+}
+
+void saveLanguages(const SettingsFiles& files, const LanguageSet& set, const std::vector<CellRow>& rows)
+{
+    std::string text = std::string(set.listTable) + " = {\r\n";
+    int number = 0; // counts the others alone, so that there is no gap at the current one
+    for (const CellRow& row : rows) {
+        const std::string key = row.checked ? std::string(currentKey) : "[" + std::to_string(++number) + "]";
+        text += "\t" + key + " = \"" + row.cells.at(0) + "\",\r\n";
+    }
+    files.WriteSettingsFile(set.listFile, text + "}");
+}
+
+std::vector<CellRow> loadReferenceTexts(const SettingsFiles& files, const LanguageSet& set)
+{
+    return cellRows(referenceList(files, set));
+}
+
+std::vector<CellRow> loadLanguageTexts(const SettingsFiles& files, const LanguageSet& set,
+                                       std::string_view name)
+{
+    auto list = referenceList(files, set);
+    files.ReadListColumn(pathOf(set, name), set.textTable, list);
+    return cellRows(std::move(list));
+}
+
+void saveLanguageTexts(const SettingsFiles& files, const LanguageSet& set, std::string_view name,
+                       const std::vector<CellRow>& rows)
+{
+    std::string text = std::string(set.textTable) + " = {\r\n";
+    for (const CellRow& row : rows)
+        text += "\t" + row.cells.at(0) + " = \"" + row.cells.at(1) + "\",\r\n";
+    files.WriteSettingsFile(pathOf(set, name), text + "}");
+}
+
+} // namespace quillfen

@@ -1,0 +1,58 @@
+#include "functions/security/kicks.h"
+
+#include "settings/listfile.h"
+
+namespace quillfen {
+namespace {
+
+GridCommand command(const std::string& word)
+{
+    return {word, R"(Security\Kick\KickCan)" + word + ".tbl", "tKickCan" + word};
+}
+
+} // namespace
+
+const TableFile& kickSettings()
+{
+    static const TableFile file = {
+        R"(Security\Kick\KickSettings.tbl)",
+        "tKickSettings",
+        {
+            flag("bAnnounceNextArrival", "chkCheckBox(0)", "Announce Kicked Return", "1"),
+            flag("bCleanerActive", "chkCheckBox(1)", "Enable Kick Log Cleaner", "1"),
+            flag("bAsciiToMain", "chkCheckBox(2)", "Enable Ascii Kick", "0"),
+            number("iWarnsMakeKick", "txtUpDown(0)", "Warns Make Kick", "5", 1, 50),
+            number("iKicksMakeBan", "txtUpDown(1)", "Kicks Make Ban", "5", 1, 50),
+            number("iTimeBansMakeBan", "txtUpDown(2)", "TempBans Make Ban", "5", 1, 50),
+            number("iKickBanTime", "txtUpDown(3)", "Kick Ban Time", "10", 1, 500),
+            number("iCleanOlderThan", "txtUpDown(4)", "Clean Older Than", "30", 1, 180),
+            // A clock time as the digits HHMM, but a plain number to its arrows: nothing corrects a 1260.
+            number("iCleanerTime", "txtUpDown(5)", "Cleaner Time", "2355", 5, 2359),
+            number("iTopKickers", "txtUpDown(6)", "Top Kickers", "10", 1, 100),
+        },
+        {"iWarnsMakeKick", "iKicksMakeBan", "iTimeBansMakeBan", "iKickBanTime", "bAnnounceNextArrival",
+         "bCleanerActive", "iCleanOlderThan", "iCleanerTime", "iTopKickers", "bAsciiToMain"},
+    };
+    return file;
+}
+
+const PermissionGrid& kickPermissions()
+{
+    // The form's "TimeBan" is the rebuild's "TempBan": each keeps a file of its own, and a fresh tree has
+    // none for the form until its first save. Trees in the field hold both.
+    static const PermissionGrid grid = {{command("Drop"), command("Warn"), command("Kick"),
+                                         command("TimeBan"), command("Ban"), command("Unban")}};
+    return grid;
+}
+
+void buildKicks(const SettingsFiles& files, const HubProfiles& profiles)
+{
+    rebuildTableFile(kickSettings(), files, profiles);
+    writeIfMissing(files, kickAsciiFile, "!victim!: !reason!");
+    writeEmptyTableIfMissing(files, R"(Security\Kick\Logs\KickerLog.tbl)", "tKickerLog");
+    writeEmptyTableIfMissing(files, R"(Security\Kick\Logs\KickLog.tbl)", "tKickLog");
+    for (const char* word : {"Ban", "Drop", "Kick", "TempBan", "Unban", "Warn"})
+        rebuildGridFile(command(word), 0, files, profiles);
+}
+
+} // namespace quillfen

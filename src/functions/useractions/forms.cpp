@@ -1,0 +1,10 @@
+#include "functions/useractions/forms.h"
+
+namespace quillfen {
+
+FormCatalogue useractionsForms()
+{
+    return {};
+}
+
+} // namespace quillfen
