@@ -20,7 +20,7 @@ foreach(floor settings functions shell/icons shell/kit shell/window app)
       endif()
       # Nothing of one function includes another function's files: what two share lives below, or in the group's own
       # folder shared/. Only the group's list of forms names them all.
-      if(source MATCHES "^functions/([a-z]+)/([a-z]+)\\.(h|cpp)$" AND NOT source MATCHES "/forms\\.cpp$")
+      if(NOT source MATCHES "/forms\\.cpp$" AND source MATCHES "^functions/([a-z]+)/([a-z]+)\\.(h|cpp)$")
         set(group ${CMAKE_MATCH_1})
         string(REGEX REPLACE "form$" "" unit ${CMAKE_MATCH_2})
         if(include MATCHES "\"functions/([a-z]+)/([a-z]+)\\.h\"")
