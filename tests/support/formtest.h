@@ -20,6 +20,12 @@
 #include <gtest/gtest.h>
 #include <memory>
 
+/// Lets a failed comparison show its text.
+inline void PrintTo(const QString& text, std::ostream* stream)
+{
+    *stream << '"' << text.toStdString() << '"';
+}
+
 namespace quillfen::test {
 
 /// A main window over a hub in memory whose tree is built.
@@ -94,6 +100,7 @@ protected:
 
     static void doubleClickRow(QAbstractItemView& list, int row)
     {
+        clickRow(list, row); // the first of the two clicks
         QTest::mouseDClick(list.viewport(), Qt::LeftButton, {}, placeOf(list, row).center());
     }
 
