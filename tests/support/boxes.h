@@ -1,7 +1,8 @@
 #pragma once
 
 #include <QApplication>
-#include <QElapsedTimer>
+#include <QFileDialog>
+#include <QInputDialog>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTimer>
@@ -38,14 +39,19 @@ inline void withModal(const std::function<void()>& action, const std::function<v
     action();
 }
 
-/// Runs an action and answers each message box that it opens with the same button. Returns what they showed.
-inline QList<SeenBox> answering(QMessageBox::StandardButton answer, const std::function<void()>& action)
+/// Runs an action and answers each message box that it opens with the same button; other modal windows are
+/// given to `use`. Returns what the boxes showed.
+inline QList<SeenBox> answering(
+    QMessageBox::StandardButton answer, const std::function<void()>& action,
+    const std::function<void(QWidget&)>& use = [](QWidget&) {})
 {
     QList<SeenBox> seen;
     withModal(action, [&](QWidget& modal) {
         auto* box = qobject_cast<QMessageBox*>(&modal);
-        if (!box)
+        if (!box) {
+            use(modal);
             return;
+        }
         seen.append(
             {box->windowTitle(), box->text(), box->standardButtons(), box->icon(), box->textFormat()});
         if (auto* button = box->button(answer))
@@ -54,6 +60,25 @@ inline QList<SeenBox> answering(QMessageBox::StandardButton answer, const std::f
             box->close();
     });
     return seen;
+}
+
+/// Types a text into an input box and presses OK.
+inline void typeInto(QWidget& modal, const QString& text)
+{
+    if (auto* input = qobject_cast<QInputDialog*>(&modal)) {
+        input->setTextValue(text);
+        input->accept();
+    }
+}
+
+/// Chooses a file in a file dialog.
+inline void chooseFile(QWidget& modal, const QString& folder, const QString& name)
+{
+    if (auto* dialog = qobject_cast<QFileDialog*>(&modal)) {
+        dialog->setDirectory(folder);
+        dialog->selectFile(name);
+        static_cast<QDialog*>(dialog)->done(QDialog::Accepted);
+    }
 }
 
 } // namespace quillfen::test

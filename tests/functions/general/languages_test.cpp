@@ -1,0 +1,85 @@
+#include "functions/general/languages.h"
+#include "support/golden.h"
+#include "support/hub.h"
+#include "support/lua.h"
+
+#include <gtest/gtest.h>
+
+namespace quillfen {
+namespace {
+
+using test::sameBytes;
+
+class Languages : public testing::Test
+{
+protected:
+    test::Hub hub{"Language/Commands", "Language/Commands/Files"};
+    const LanguageSet& commands = languageSets()[0];
+    std::string& list = hub.file("Language/Commands/CommandLanguages.tbl");
+};
+
+TEST_F(Languages, TheCurrentOneStandsAtItsPlaceAndTheOthersAreNumberedWithoutAGap)
+{
+    const std::vector<CellRow> rows = {{{"DEFAULT"}}, {{"german"}, true}, {{"FRENCH"}}};
+    saveLanguages(hub.files, commands, rows);
+    EXPECT_TRUE(sameBytes(list, "tCommandLanguages = {\r\n\t[1] = \"DEFAULT\",\r\n\tCurrent = \"german\",\r\n"
+                                "\t[2] = \"FRENCH\",\r\n}\r\n"));
+    EXPECT_EQ(loadLanguages(hub.files, commands), rows);
+    EXPECT_EQ(test::luaValues(list), (test::LuaValues{{"tCommandLanguages.1", "DEFAULT"},
+                                                      {"tCommandLanguages.2", "FRENCH"},
+                                                      {"tCommandLanguages.Current", "german"}}));
+}
+
+TEST_F(Languages, WithoutACheckedOneNoCurrentLineIsWritten)
+{
+    saveLanguages(hub.files, commands, {{{"DEFAULT"}}});
+    EXPECT_TRUE(sameBytes(list, "tCommandLanguages = {\r\n\t[1] = \"DEFAULT\",\r\n}\r\n"));
+}
+
+TEST_F(Languages, AMissingListIsEmpty)
+{
+    EXPECT_TRUE(loadLanguages(hub.files, commands).empty());
+    EXPECT_TRUE(loadReferenceTexts(hub.files, commands).empty());
+}
+
+TEST_F(Languages, ALanguageIsLaidOverTheReference)
+{
+    hub.file("Language/Commands/Files/DEFAULT.tbl") =
+        "tScriptCommands = {\r\n\tsHelp = \"help\",\r\n\tsKick = \"kick\",\r\n\tsBan = \"ban\",\r\n}\r\n";
+    hub.file("Language/Commands/Files/german.tbl") =
+        "tScriptCommands = {\r\n\tsKick = \"tritt\",\r\n\tsExtra = \"weg\",\r\n\tsHelp = \"hilfe\",\r\n}\r\n";
+    const auto rows = loadLanguageTexts(hub.files, commands, "german");
+    EXPECT_EQ(rows, (std::vector<CellRow>{{{"sHelp", "hilfe"}}, {{"sKick", "tritt"}}, {{"sBan", "ban"}}}));
+    saveLanguageTexts(hub.files, commands, "german", rows);
+    EXPECT_TRUE(sameBytes(hub.file("Language/Commands/Files/german.tbl"),
+                          "tScriptCommands = {\r\n\tsHelp = \"hilfe\",\r\n\tsKick = \"tritt\",\r\n"
+                          "\tsBan = \"ban\",\r\n}\r\n"));
+    EXPECT_EQ(test::luaValues(hub.file("Language/Commands/Files/german.tbl")).at("tScriptCommands.sBan"),
+              "ban");
+}
+
+TEST_F(Languages, EachSetHasItsOwnFilesAndTables)
+{
+    struct Expected
+    {
+        std::string_view list, table, folder, texts;
+    };
+    const Expected expected[] = {
+        {R"(Language\Commands\CommandLanguages.tbl)", "tCommandLanguages", R"(Language\Commands\Files\)",
+         "tScriptCommands"},
+        {R"(Language\RightClick\RightClickLanguages.tbl)", "tRightClickLanguages",
+         R"(Language\RightClick\Files\)", "tScriptRightClick"},
+        {R"(Language\Messages\MessageLanguages.tbl)", "tMessageLanguages", R"(Language\Messages\Files\)",
+         "tScriptMessages"},
+    };
+    ASSERT_EQ(languageSets().size(), 3U);
+    for (std::size_t at = 0; at < 3; ++at) {
+        EXPECT_EQ(languageSets()[at].listFile, expected[at].list);
+        EXPECT_EQ(languageSets()[at].listTable, expected[at].table);
+        EXPECT_EQ(languageSets()[at].folder, expected[at].folder);
+        EXPECT_EQ(languageSets()[at].textTable, expected[at].texts);
+    }
+}
+
+} // namespace
+} // namespace quillfen
