@@ -19,6 +19,7 @@ struct SeenBox
     QMessageBox::StandardButtons buttons;
     QMessageBox::Icon icon = QMessageBox::NoIcon;
     Qt::TextFormat format = Qt::AutoText;
+    QMessageBox::StandardButton preset = QMessageBox::NoButton; ///< what Enter presses
 };
 
 /// Runs an action that opens modal windows, and acts on each as a user would: `use` is called once for every
@@ -52,8 +53,8 @@ inline QList<SeenBox> answering(
             use(modal);
             return;
         }
-        seen.append(
-            {box->windowTitle(), box->text(), box->standardButtons(), box->icon(), box->textFormat()});
+        seen.append({box->windowTitle(), box->text(), box->standardButtons(), box->icon(), box->textFormat(),
+                     box->standardButton(box->defaultButton())});
         if (auto* button = box->button(answer))
             button->click();
         else

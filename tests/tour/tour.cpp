@@ -28,7 +28,7 @@ public:
     void picture(QWidget& window, const QString& name)
     {
         QTest::qWait(150);
-        const QRect frame = window.frameGeometry();
+        const QRect frame(window.mapToGlobal(QPoint()), window.size());
         const QPixmap shot =
             window.screen()->grabWindow(0, frame.x(), frame.y(), frame.width(), frame.height());
         const QString file = m_folder + '/' + name + QStringLiteral(".png");
@@ -50,6 +50,15 @@ EditorForm* formOf(QWidget& window, const char* name)
 void trigger(QWidget& parent, const char* toolbar, const char* key)
 {
     parent.findChild<QToolBar*>(toolbar)->findChild<QAction*>(key)->trigger();
+}
+
+/// A picture of one form alone, and of what its list's EDIT shows.
+void visit(quillfen::MainWindow& window, Tour& tour, const QString& key)
+{
+    auto* area = window.findChild<QMdiArea*>();
+    area->closeAllSubWindows();
+    window.OpenFunctionForm(key);
+    tour.picture(*area->currentSubWindow(), "form-" + QString(key).replace('~', '-'));
 }
 
 void walk(quillfen::MainWindow& window, Tour& tour)
@@ -77,8 +86,9 @@ void walk(quillfen::MainWindow& window, Tour& tour)
     window.OpenFunctionForm("General~EnabledRightClicks");
     tour.picture(window, "06-enabled-right-clicks");
 
-    auto* area = window.findChild<QMdiArea*>();
-    area->tileSubWindows();
+    for (const char* key : {"General~Settings", "General~Switches", "General~EnabledRightClicks"})
+        window.OpenFunctionForm(key);
+    window.findChild<QMdiArea*>()->tileSubWindows();
     tour.picture(window, "07-three-forms");
     quillfen::test::withModal(
         [&] { trigger(*formOf(window, "frmGeneralGeneral"), "tlbFormToolbar", "RESTORE"); },
@@ -91,6 +101,10 @@ void walk(quillfen::MainWindow& window, Tour& tour)
                                   tour.picture(box, "09-about");
                                   box.close();
                               });
+    for (const char* key :
+         {"General~Bots", "General~Commands", "Communication~TopicChanger", "Games~Trivia~Settings",
+          "Games~Trivia~Questions", "Security~Kicks~Settings", "Security~Kicks~Permissions"})
+        visit(window, tour, key);
 }
 
 } // namespace

@@ -94,12 +94,13 @@ QWidget* QuestionsPart::placed()
     m_default->setAccessibleName("Default Question File");
     m_fileList->setAccessibleName("Available Question Files");
     m_questionList->setAccessibleName("Questions");
-    m_questionList->header()->resizeSection(0, 420);
+    m_questionList->header()->resizeSection(0, 340);
     for (auto* toolbar : {m_fileBar, m_questionBar})
         toolbar->setIconSize({16, 16});
 
     auto* files = listWithToolbar(QString(), m_fileBar, m_fileList);
     auto* fields = new QFormLayout;
+    fields->setRowWrapPolicy(QFormLayout::WrapAllRows);
     fields->addRow(labelFor("Default Question File", m_default), m_default);
     qobject_cast<QVBoxLayout*>(files->layout())->insertLayout(0, fields);
     auto* splitter = new QSplitter;

@@ -36,12 +36,12 @@ void ListView::select(int row)
 
 QSize ListView::sizeHint() const
 {
-    constexpr int fewest = 6;
+    const int fewest = header()->isHidden() ? 6 : 10; // the small ones beside other controls have no header
     constexpr int most = 26;
     const int rowHeight = std::max(sizeHintForRow(0), fontMetrics().height());
     const int rows = model() ? model()->rowCount() : 0;
     const int columns = header()->count() - header()->hiddenSectionCount();
-    return {fontMetrics().averageCharWidth() * (12 + 22 * std::max(columns, 1)),
+    return {fontMetrics().averageCharWidth() * (header()->isHidden() ? 34 : 20 + 24 * std::max(columns, 1)),
             rowHeight * std::clamp(rows + 1, fewest, most) + 2 * frameWidth()};
 }
 

@@ -1,0 +1,227 @@
+#include "functions/games/shared/quizpattern.h"
+#include "functions/games/trivia.h"
+#include "support/golden.h"
+#include "support/hub.h"
+#include "support/lua.h"
+
+#include <algorithm>
+#include <gtest/gtest.h>
+
+namespace quillfen {
+namespace {
+
+using test::golden;
+using test::sameBytes;
+
+class Trivia : public testing::Test
+{
+protected:
+    test::Hub hub{"Games", "Games/Trivia", "Games/Trivia/QuestionFiles"};
+    std::string& settings = hub.file("Games/Trivia/TriviaSettings.tbl");
+    std::string& questionFiles = hub.file("Games/Trivia/TriviaQuestionFiles.tbl");
+};
+
+TEST_F(Trivia, SettingsAreDeclaredWithoutFault)
+{
+    EXPECT_EQ(faults(triviaSettings()), std::vector<std::string>());
+    EXPECT_EQ(triviaSettings().settings.size(), 21U);
+}
+
+TEST_F(Trivia, AFreshBuildWritesTheSettingsInItsOwnOrder)
+{
+    hub.store.files.clear();
+    buildTrivia(hub.files, hub.profiles);
+    EXPECT_TRUE(
+        sameBytes(hub.file("Games/Trivia/TriviaSettings.tbl"), golden("games/TriviaSettings.build.tbl")));
+}
+
+TEST_F(Trivia, ARebuildKeepsValuesAndReordersTheKeys)
+{
+    settings = golden("games/TriviaSettings.save.tbl");
+    buildTrivia(hub.files, hub.profiles);
+    EXPECT_TRUE(sameBytes(
+        settings, "tTriviaSettings = {\r\n\tsHintChar = \"*\",\r\n\tbManualStart = 1,\r\n"
+                  "\tbOpOnlyStart = 0,\r\n\tbOpOnlyStop = 0,\r\n\tiFormat = 2,\r\n\tiHintTime = 30,\r\n"
+                  "\tiMaxHints = 5,\r\n\tiQuestions = 15,\r\n\tiQuestionsPause = 10,\r\n\tiTimeOut = 5,\r\n"
+                  "\tiBonusTime = 45,\r\n\tiPoints = 1,\r\n\tiScores = 25,\r\n\tiTopScores = 10,\r\n"
+                  "\tiAutoStartDelay = 92,\r\n\tiScoring = 0,\r\n\tbPlayInMain = 1,\r\n"
+                  "\tbAutoClearScores = 1,\r\n\tbArchiveScores = 1,\r\n\tiArchiveScores = 6,\r\n"
+                  "\tbShowOnlyOneHint = 0,\r\n}\r\n"));
+}
+
+TEST_F(Trivia, AFreshBuildMakesTheOtherFiles)
+{
+    hub.store.files.clear();
+    buildTrivia(hub.files, hub.profiles);
+    EXPECT_EQ(hub.file("Games/Trivia/TriviaPlayers.tbl"), "tTriviaPlayers = {\r\n}\r\n");
+    EXPECT_EQ(hub.file("Games/Trivia/TriviaScoresArchiveIndex.tbl"),
+              "tTriviaScoresArchiveIndex = {\r\n}\r\n");
+    EXPECT_EQ(hub.file("Games/Trivia/TriviaScores.tbl"), "tTriviaScores = {\r\n\tn=0\r\n}\r\n");
+    EXPECT_EQ(hub.file("Games/Trivia/TriviaQuestionFiles.tbl"),
+              "tTriviaQuestionFiles = {\r\n[\"sDefaultQuestionFile\"] = \"TriviaQuestions\",\r\n}\r\n");
+    const std::string& seed = hub.file("Games/Trivia/QuestionFiles/TriviaQuestions.lst");
+    EXPECT_TRUE(seed.starts_with("Misc:"));
+    EXPECT_TRUE(seed.ends_with("*mort\r\n\r\n")); // the row's line end, and the writer's
+    EXPECT_EQ(std::count(seed.begin(), seed.end(), '*'), 1);
+    EXPECT_NE(seed.find("Tavis Orlemon"), std::string::npos);
+}
+
+TEST_F(Trivia, ARebuildLeavesTheOtherFilesAlone)
+{
+    for (const char* name :
+         {"TriviaPlayers.tbl", "TriviaScoresArchiveIndex.tbl", "TriviaScores.tbl", "TriviaQuestionFiles.tbl"})
+        hub.file(std::string("Games/Trivia/") + name) = "mine";
+    buildTrivia(hub.files, hub.profiles);
+    for (const char* name :
+         {"TriviaPlayers.tbl", "TriviaScoresArchiveIndex.tbl", "TriviaScores.tbl", "TriviaQuestionFiles.tbl"})
+        EXPECT_EQ(hub.file(std::string("Games/Trivia/") + name), "mine");
+}
+
+TEST_F(Trivia, TheSeededQuestionsComeOnlyTogetherWithTheTableOfFiles)
+{
+    questionFiles = "tTriviaQuestionFiles = {\r\n}\r\n";
+    buildTrivia(hub.files, hub.profiles);
+    EXPECT_FALSE(hub.has("Games/Trivia/QuestionFiles/TriviaQuestions.lst"));
+}
+
+TEST_F(Trivia, QuestionFilesAreReadFromTheFormsTableAndFromTheBuilds)
+{
+    for (const char* line :
+         {"\tsDefaultQuestionFile = \"music\",\r\n", "[\"sDefaultQuestionFile\"] = \"music\",\r\n"}) {
+        questionFiles =
+            std::string("tTriviaQuestionFiles = {\r\n") + line + "\t\"zoo\",\r\n\t\"Animals\",\r\n}\r\n";
+        const auto loaded = loadTriviaQuestionFiles(hub.files);
+        EXPECT_EQ(loaded.defaultFile, "music");
+        EXPECT_EQ(loaded.names, (std::vector<std::string>{"Animals", "music", "zoo"}));
+    }
+}
+
+TEST_F(Trivia, AnEmptyDefaultLeavesTheListsEmpty)
+{
+    questionFiles = "tTriviaQuestionFiles = {\r\n\tsDefaultQuestionFile = \"\",\r\n\t\"zoo\",\r\n}\r\n";
+    EXPECT_TRUE(loadTriviaQuestionFiles(hub.files).names.empty());
+}
+
+TEST_F(Trivia, TheDefaultIsNotRepeatedAmongTheRows)
+{
+    saveTriviaQuestionFiles(hub.files, {"music", {"Animals", "music", "zoo"}});
+    EXPECT_TRUE(sameBytes(questionFiles, "tTriviaQuestionFiles = {\r\n\tsDefaultQuestionFile = \"music\",\r\n"
+                                         "\t\"Animals\",\r\n\t\"zoo\",\r\n}\r\n"));
+    EXPECT_EQ(test::luaValues(questionFiles),
+              (test::LuaValues{{"tTriviaQuestionFiles.1", "Animals"},
+                               {"tTriviaQuestionFiles.2", "zoo"},
+                               {"tTriviaQuestionFiles.sDefaultQuestionFile", "music"}}));
+}
+
+TEST_F(Trivia, QuestionsAreRowsOfTwoPieces)
+{
+    const std::vector<CellRow> rows = {{{"Misc:Who?", "me"}}, {{"Zoo:What=?", "a lion"}}};
+    saveTriviaQuestions(hub.files, "zoo", rows);
+    EXPECT_TRUE(sameBytes(hub.file("Games/Trivia/QuestionFiles/zoo.lst"),
+                          "Misc:Who?*me\r\nZoo:What=?*a lion\r\n\r\n"));
+    EXPECT_EQ(loadTriviaQuestions(hub.files, "zoo"), rows);
+}
+
+TEST_F(Trivia, ANewQuestionFileHasOneRowAndNoLineEndOfItsOwn)
+{
+    createTriviaQuestions(hub.files, "new");
+    const std::string& seed = hub.file("Games/Trivia/QuestionFiles/new.lst");
+    EXPECT_TRUE(seed.starts_with("Literature:"));
+    EXPECT_TRUE(seed.ends_with("*binkie\r\n"));
+    EXPECT_NE(seed.find("Tavis Orlemon"), std::string::npos);
+}
+
+TEST_F(Trivia, AQuestionThatHoldsAColonLosesItsTailWhenItIsEdited)
+{
+    const CellRow row{{"Misc:A:B", "c"}};
+    EXPECT_EQ(triviaFields(row), (std::vector<std::string>{"Misc", "A", "c"}));
+    EXPECT_EQ(triviaRow(triviaFields(row)), (CellRow{{"Misc:A", "c"}}));
+    EXPECT_EQ(triviaFields({{" Misc : A ", "c"}}), (std::vector<std::string>{"Misc", "A", "c"}));
+    EXPECT_EQ(triviaFields({{"no colon", "c"}}), (std::vector<std::string>{"no colon", "", "c"}));
+}
+
+TEST_F(Trivia, TheHubScriptSeesTheSettings)
+{
+    const auto values = test::luaValues(golden("games/TriviaSettings.save.tbl"));
+    EXPECT_EQ(values.size(), 21U);
+    EXPECT_EQ(values.at("tTriviaSettings.iFormat"), "2");
+    EXPECT_EQ(values.at("tTriviaSettings.sHintChar"), "*");
+}
+
+struct PatternRow
+{
+    const char* key;
+    const char* triviaCaption;
+    const char* caption;
+    const char* cells[6]; ///< "default (minimum-maximum)" by game; empty where the game lacks the key
+};
+
+const PatternRow pattern[] = {
+    {"iArchiveScores",
+     "Scores to archive",
+     "ScoresTo Archive",
+     {"5 (0-250)", "5 (0-1000)", "5 (0-1000)", "5 (0-1000)", "5 (0-1000)", "5 (0-1000)"}},
+    {"iQuestions",
+     "Questions",
+     "Questions",
+     {"15 (0-999)", "20 (0-999)", "10 (0-999)", "20 (0-999)", "20 (0-999)", "12 (0-999)"}},
+    {"iQuestionsPause",
+     "Pause Between Questions",
+     "Pause Between Questions",
+     {"10 (0-60)", "10 (0-1000)", "10 (0-1000)", "10 (0-1000)", "10 (0-1000)", "10 (0-60)"}},
+    {"iTimeOut",
+     "Timeout",
+     "Timeout",
+     {"5 (0-1000)", "3 (0-60)", "3 (0-60)", "3 (0-60)", "3 (0-60)", "3 (0-1000)"}},
+    {"iBonusTime", "Bonus Time", "Bonus Time", {"45 (0-100)", "10 (0-1000)", "", "10 (0-1000)", "", ""}},
+    {"iPoints", "Points", "Points", {"1 (0-100)", "1 (0-100)", "6 (0-100)", "1 (0-100)", "1 (0-100)", ""}},
+    {"iScores",
+     "End Of Game Scores",
+     "End Of Game Scores",
+     {"25 (0-200)", "25 (0-100)", "25 (0-100)", "25 (0-100)", "25 (0-100)", "25 (0-100)"}},
+    {"iTopScores",
+     "Top X Scores",
+     "Top Scores",
+     {"10 (0-100)", "10 (0-200)", "10 (0-200)", "10 (0-200)", "10 (0-200)", "10 (0-100)"}},
+    {"iAutoStartDelay",
+     "Auto Start Delay",
+     "Auto Start Delay",
+     {"93 (1-1440)", "73 (1-1440)", "67 (1-1440)", "73 (1-1440)", "73 (1-1440)", "111 (1-1440)"}},
+};
+
+TEST(QuizPattern, EachGameHasItsOwnDefaultsAndRanges)
+{
+    for (const PatternRow& row : pattern) {
+        for (int game = 0; game < 6; ++game) {
+            if (*row.cells[game] == '\0')
+                continue;
+            const Setting setting = quizSetting(static_cast<QuizGame>(game), row.key, "txtUpDown(3)");
+            EXPECT_EQ(setting.standard + " (" + std::to_string(setting.minimum) + "-" +
+                          std::to_string(setting.maximum) + ")",
+                      row.cells[game])
+                << row.key << " game " << game;
+            EXPECT_EQ(setting.label, game == 0 ? row.triviaCaption : row.caption);
+            EXPECT_TRUE(setting.onlyArrows);
+            EXPECT_EQ(setting.control, "txtUpDown(3)");
+        }
+    }
+}
+
+TEST(QuizPattern, ItsFlagsAreTheSameInEveryGame)
+{
+    const std::vector<std::vector<std::string>> expected = {
+        {"bManualStart", "Manual Start Only", "0"},     {"bOpOnlyStart", "Operator Start", "0"},
+        {"bOpOnlyStop", "Operator Stop", "0"},          {"bPlayInMain", "Play Game In Main", "1"},
+        {"bAutoClearScores", "Auto Clear Scores", "1"}, {"bArchiveScores", "Auto Archive Scores", "1"}};
+    for (const auto& row : expected) {
+        for (int game = 0; game < 6; ++game) {
+            const Setting setting = quizSetting(static_cast<QuizGame>(game), row[0], "chkCheckBox(0)");
+            EXPECT_EQ(setting.kind, Setting::Kind::Flag);
+            EXPECT_EQ(setting.label, row[1]);
+            EXPECT_EQ(setting.standard, row[2]);
+        }
+    }
+}
+
+} // namespace
+} // namespace quillfen
