@@ -168,7 +168,8 @@ void MainWindow::showForm(EditorForm* form)
     window->setAttribute(Qt::WA_DeleteOnClose);
     connect(form, &EditorForm::closed, this,
             [this, form] { FindOpenWindow(form->tag().isEmpty() ? form->caption() : form->tag()); });
-    const int caption = window->fontMetrics().horizontalAdvance(form->caption()) + twips(2400); // and its buttons
+    const int caption =
+        window->fontMetrics().horizontalAdvance(form->caption()) + twips(2400); // and its buttons
     window->resize(window->sizeHint().expandedTo({caption, 0}));
     window->show();
 }
