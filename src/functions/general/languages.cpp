@@ -91,6 +91,7 @@ std::vector<CellRow> loadLanguages(const SettingsFiles& files, const LanguageSet
     std::vector<ListRow> list;
     files.ReadTableToList(set.listFile, list, "=", set.listTable);
     std::vector<CellRow> rows;
+    rows.reserve(list.size());
     for (const ListRow& row : list)
         rows.push_back({{row.second}, row.text == currentKey});
     return rows;
