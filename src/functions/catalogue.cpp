@@ -6,6 +6,8 @@
 #include "functions/general/settings.h"
 #include "functions/general/switches.h"
 #include "functions/security/kicks.h"
+#include "functions/useractions/actiontexts.h"
+#include "functions/useractions/collections.h"
 
 namespace quillfen {
 
@@ -77,14 +79,14 @@ const FolderCatalogue& folderCatalogue()
 
         {{"UserActions"}},
         {{R"(UserActions\Ascii)", R"(UserActions\Ascii\Ascii)"}},
-        {{R"(UserActions\Attacks)"}},
+        {{R"(UserActions\Attacks)"}, {buildAttacks}},
         {{R"(UserActions\Calculator)"}},
-        {{R"(UserActions\DoAction)"}},
-        {{R"(UserActions\Insults)"}},
-        {{R"(UserActions\Jokes)"}},
-        {{R"(UserActions\Limericks)"}},
-        {{R"(UserActions\Proverbs)"}},
-        {{R"(UserActions\Quotations)"}},
+        {{R"(UserActions\DoAction)"}, {buildDoActions}},
+        {{R"(UserActions\Insults)"}, {buildInsults}},
+        {{R"(UserActions\Jokes)"}, {buildJokes}},
+        {{R"(UserActions\Limericks)"}, {buildLimericks}},
+        {{R"(UserActions\Proverbs)"}, {buildProverbs}},
+        {{R"(UserActions\Quotations)"}, {buildQuotations}},
         {{R"(UserActions\Spells)", R"(UserActions\Spells\Spells)"}},
         {{R"(UserActions\NickSpells)", R"(UserActions\NickSpells\NickSpells)"}},
 

@@ -1,0 +1,175 @@
+#include "functions/useractions/actiontexts.h"
+
+#include "settings/listfile.h"
+
+namespace quillfen {
+namespace {
+
+const ListFile insultsFile = {R"(UserActions\Insults\Insults.tbl)", "tInsults"};
+const ListFile attacksFile = {R"(UserActions\Attacks\Attacks.tbl)", "tAttacks"};
+const ListFile doActionsFile = {R"(UserActions\DoAction\DoAction.tbl)", "tDoAction", ListFile::Form::Keyed};
+
+const NestedListsFile medievalFile = {
+    R"(UserActions\Insults\InsultsMedieval.tbl)", "tInsultsMedieval", {"tOne", "tTwo", "tThree"}};
+const NestedListsFile modernFile = {
+    R"(UserActions\Insults\InsultsModern.tbl)", "tInsultsModern", {"tOne", "tTwo", "tThree", "tFour"}};
+
+// The rows of a fresh file, which RESTORE shows again.
+const std::vector<ListRow> firstInsults = {
+    {"*** !username! Says 'People can't say that !victim! has absolutely nothing!"
+     " After all, they have inferiority!'"}};
+const std::vector<ListRow> firstAttacks = {{"*** !username! blows !victim!'s brains out"}};
+const std::vector<ListRow> firstDoActions = {{"beer", "*** !username! drinks an ice cold beer"}};
+const std::vector<std::string> firstMedievalWords = {"artless", "boil brained", "hedge-pig"};
+const std::vector<std::string> firstModernWords = {"amorphous", "blob of", "fly-covered", "kangaroo vomit"};
+
+using Restored = std::function<std::vector<CellRow>(const HubProfiles&)>;
+
+Restored rowsOf(const std::vector<ListRow>& rows)
+{
+    std::vector<CellRow> cells;
+    for (const ListRow& row : rows)
+        cells.push_back({{row.text, row.second}});
+    return [cells](const HubProfiles&) { return cells; };
+}
+
+/// How the boxes and dialogs of a list call its rows. They were copied from list to list, so that some ask
+/// about another list's rows.
+struct ListWords
+{
+    std::string item;    ///< "Insult"
+    std::string minimum; ///< what there must be one of
+    std::string title;   ///< "Delete ...?"
+    std::string text;    ///< "Do you really want to delete this ...?"
+};
+
+RowListDeclaration listOf(const ListWords& words)
+{
+    RowListDeclaration list;
+    list.dialog.addTitle = "Add " + words.item;
+    list.dialog.editTitle = "Edit " + words.item;
+    list.dialog.labels = {words.item};
+    list.deletion.minimum = "There must be a minimum of one " + words.minimum;
+    list.deletion.title = "Delete " + words.title + "?";
+    list.deletion.text = "Do you really want to delete this " + words.text + "?";
+    return list;
+}
+
+RowListDeclaration listOfFile(const ListFile& file, const std::vector<ListRow>& first, const ListWords& words,
+                              const std::string& plural)
+{
+    RowListDeclaration list = listOf(words);
+    list.list = "lvw" + plural;
+    list.toolbar = "tlb" + plural;
+    list.columns = {plural};
+    list.menu = "mnuFirst";
+    list.load = loadOf(file);
+    list.save = saveOf(file);
+    list.restored = rowsOf(first);
+    return list;
+}
+
+/// One list for each column of words, in the order of the file.
+RowListGroup wordLists(const NestedListsFile& file, const std::vector<std::string>& first,
+                       const std::vector<ListWords>& words)
+{
+    static const std::string places[] = {"One", "Two", "Three", "Four"};
+    static const std::string labels[] = {"First Word", "Second Word", "Third Word", "Fourth Word"};
+    static const std::string menus[] = {"mnuFirst", "mnuSecond", "mnuThird", "mnuFourth"};
+    RowListGroup group;
+    for (std::size_t place = 0; place < words.size(); ++place) {
+        RowListDeclaration list = listOf(words[place]);
+        list.list = "lvwInsults" + places[place];
+        list.toolbar = "tlbInsults" + places[place];
+        list.columns = {labels[place]};
+        list.menu = menus[place];
+        list.load = loadOf(file, place);
+        list.restored = rowsOf({{first[place]}});
+        group.lists.push_back(list);
+    }
+    group.save = saveOf(file);
+    return group;
+}
+
+/// The text of a fresh file: one word in each table.
+std::string oneWordEach(const NestedListsFile& file, const std::vector<std::string>& words)
+{
+    std::vector<std::vector<std::string>> lists;
+    for (const std::string& word : words)
+        lists.push_back({word});
+    return composedNestedLists(file, lists);
+}
+
+} // namespace
+
+const RowListDeclaration& insults()
+{
+    static const RowListDeclaration list =
+        listOfFile(insultsFile, firstInsults, {"Insult", "Insult", "Insult", "Insult"}, "Insults");
+    return list;
+}
+
+const RowListDeclaration& attacks()
+{
+    static const RowListDeclaration list =
+        listOfFile(attacksFile, firstAttacks, {"Attack", "Intro", "Intro", "intro"}, "Attacks");
+    return list;
+}
+
+const RowListDeclaration& doActions()
+{
+    static const RowListDeclaration declared = [] {
+        RowListDeclaration list = listOfFile(doActionsFile, firstDoActions,
+                                             {"DoAction", "Intro", "DoAction", "intro"}, "DoActions");
+        list.columns = {"Command", "Action"};
+        list.dialog.form = EditForm::TwoFields;
+        list.dialog.labels = {"Command", "Action"};
+        return list;
+    }();
+    return declared;
+}
+
+const RowListGroup& medievalInsults()
+{
+    static const ListWords words = {"Medieval Insult", "Medieval Insult", "Medieval Insult",
+                                    "Medieval Insult"};
+    static const RowListGroup group = wordLists(medievalFile, firstMedievalWords, {words, words, words});
+    return group;
+}
+
+const RowListGroup& modernInsults()
+{
+    static const std::string modern = "Modern Insult";
+    static const std::string medieval = "Medieval Insult";
+    static const RowListGroup group = wordLists(modernFile, firstModernWords,
+                                                {
+                                                    {modern, modern, modern, medieval},
+                                                    {modern, modern, modern, modern},
+                                                    {modern, medieval, modern, modern},
+                                                    {modern, modern, modern, modern},
+                                                });
+    return group;
+}
+
+void buildInsults(const SettingsFiles& files, const HubProfiles& /*profiles*/)
+{
+    writeIfMissing(files, insultsFile.path, composedList(insultsFile, firstInsults));
+    // The build misspells the third table, so that the form shows its list empty until its first save. Trees
+    // in the field are so.
+    NestedListsFile fresh = medievalFile;
+    fresh.tables.back() = "tThreee";
+    writeIfMissing(files, medievalFile.path, oneWordEach(fresh, firstMedievalWords));
+    writeIfMissing(files, modernFile.path, oneWordEach(modernFile, firstModernWords));
+}
+
+void buildAttacks(const SettingsFiles& files, const HubProfiles& /*profiles*/)
+{
+    writeIfMissing(files, attacksFile.path, composedList(attacksFile, firstAttacks));
+}
+
+void buildDoActions(const SettingsFiles& files, const HubProfiles& /*profiles*/)
+{
+    writeIfMissing(files, doActionsFile.path, composedList(doActionsFile, firstDoActions));
+}
+
+} // namespace quillfen
