@@ -18,6 +18,39 @@ constexpr bool isSpecial(char32_t value)
     return value >= firstSpecial && value < firstSpecial + specials.size();
 }
 
+/// How many bytes follow the first one of a UTF-8 character; nothing if none can begin so. The code page has
+/// no character of four bytes.
+std::optional<std::size_t> followers(unsigned char first)
+{
+    if (first < 0x80)
+        return 0;
+    if (first >= 0xC2 && first < 0xE0)
+        return 1;
+    if (first >= 0xE0 && first < 0xF0)
+        return 2;
+    return std::nullopt;
+}
+
+/// Takes one character off the front of a UTF-8 text.
+std::optional<char32_t> takeCharacter(std::string_view& text)
+{
+    const auto first = static_cast<unsigned char>(text.front());
+    const auto count = followers(first);
+    if (!count || text.size() <= *count)
+        return std::nullopt;
+    char32_t character = *count == 0 ? first : first & (0x3F >> *count);
+    for (const char each : text.substr(1, *count)) {
+        const auto byte = static_cast<unsigned char>(each);
+        if ((byte & 0xC0) != 0x80)
+            return std::nullopt;
+        character = character << 6 | (byte & 0x3F);
+    }
+    if (*count == 2 && character < 0x800) // a character longer than it need be is none
+        return std::nullopt;
+    text.remove_prefix(*count + 1);
+    return character;
+}
+
 } // namespace
 
 char32_t toUnicode(unsigned char byte)
@@ -53,6 +86,19 @@ std::string toUtf8(std::string_view bytes)
         }
     }
     return text;
+}
+
+std::optional<std::string> fromUtf8(std::string_view text)
+{
+    std::string bytes;
+    while (!text.empty()) {
+        const auto character = takeCharacter(text);
+        const auto byte = character ? fromUnicode(*character) : std::nullopt;
+        if (!byte)
+            return std::nullopt;
+        bytes += static_cast<char>(*byte);
+    }
+    return bytes;
 }
 
 } // namespace quillfen::codepage

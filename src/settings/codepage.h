@@ -18,4 +18,7 @@ std::optional<unsigned char> fromUnicode(char32_t character);
 /// The same text in UTF-8, as file systems want their names.
 std::string toUtf8(std::string_view bytes);
 
+/// A UTF-8 text in the code page; nothing if it isn't UTF-8 or has a character that the code page lacks.
+std::optional<std::string> fromUtf8(std::string_view text);
+
 } // namespace quillfen::codepage

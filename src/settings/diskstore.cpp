@@ -1,5 +1,6 @@
 #include "settings/diskstore.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <filesystem>
 #include <fstream>
@@ -59,6 +60,32 @@ void DiskStore::makeFolder(const std::string& path)
 {
     std::error_code error;
     std::filesystem::create_directory(native(path), error);
+    if (error)
+        throw StoreError(path, error.message());
+}
+
+std::vector<std::string> DiskStore::list(const std::string& folder) const
+{
+    std::vector<std::string> names;
+    std::error_code error;
+    for (std::filesystem::directory_iterator entry(native(folder), error), end; !error && entry != end;
+         entry.increment(error)) {
+        std::error_code unreadable;
+        if (!entry->is_regular_file(unreadable))
+            continue;
+        const std::u8string name = entry->path().filename().u8string();
+        names.emplace_back(name.begin(), name.end());
+    }
+    std::sort(names.begin(), names.end());
+    return names;
+}
+
+void DiskStore::remove(const std::string& path)
+{
+    std::error_code error;
+    if (std::filesystem::is_directory(native(path), error))
+        throw StoreError(path, std::make_error_code(std::errc::is_a_directory).message());
+    std::filesystem::remove(native(path), error);
     if (error)
         throw StoreError(path, error.message());
 }

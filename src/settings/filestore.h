@@ -4,6 +4,7 @@
 #include <stdexcept>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace quillfen {
 
@@ -46,6 +47,13 @@ public:
 
     /// Makes one folder, whose parent must exist. Throws StoreError.
     virtual void makeFolder(const std::string& path) = 0;
+
+    /// The names of the files in a folder, in the order of their bytes, without its folders; none if it can't
+    /// be read.
+    virtual std::vector<std::string> list(const std::string& folder) const = 0;
+
+    /// Deletes a file; one that is gone already is no failure. Throws StoreError.
+    virtual void remove(const std::string& path) = 0;
 };
 
 } // namespace quillfen

@@ -1,5 +1,6 @@
 #include "settings/tablefile.h"
 
+#include "settings/codepage.h"
 #include "settings/lines.h"
 
 #include <algorithm>
@@ -247,6 +248,22 @@ void SettingsFiles::WriteSettingsFile(std::string_view file, std::string_view te
     std::string bytes(text);
     bytes += lineEnd;
     m_store.write(m_paths.resolve(file, bAppRelative), bytes);
+}
+
+std::vector<std::string> SettingsFiles::fileNames(std::string_view folder) const
+{
+    std::vector<std::string> names;
+    for (const std::string& name : m_store.list(m_paths.resolve(folder))) {
+        auto told = codepage::fromUtf8(name);
+        if (told && told->find('\\') == std::string::npos)
+            names.push_back(std::move(*told));
+    }
+    return names;
+}
+
+void SettingsFiles::removeFile(std::string_view file) const
+{
+    m_store.remove(m_paths.resolve(file));
 }
 
 } // namespace quillfen

@@ -84,6 +84,13 @@ public:
     /// Replaces a file by a text and one line end. Makes no folder. Throws StoreError.
     void WriteSettingsFile(std::string_view file, std::string_view text, bool bAppRelative = false) const;
 
+    /// The names of a folder's files that a told path can hold: those in the code page's characters. Sorted;
+    /// none if the folder can't be read.
+    std::vector<std::string> fileNames(std::string_view folder) const;
+
+    /// Deletes a file; one that is gone already is no failure. Throws StoreError.
+    void removeFile(std::string_view file) const;
+
 private:
     std::string bytesOf(const std::string& path) const;
 

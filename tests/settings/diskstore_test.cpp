@@ -61,6 +61,25 @@ TEST_F(Disk, MakesOneFolder)
     EXPECT_TRUE(std::filesystem::is_directory(folder + "/a"));
 }
 
+TEST_F(Disk, ListsTheFilesOfAFolderInOrderAndNotItsFolders)
+{
+    for (const char* name : {"/b.asc", "/B.asc", "/caf\xC3\xA9", "/.hidden"})
+        disk.write(folder + name, "x");
+    disk.makeFolder(folder + "/a");
+    disk.write(folder + "/a/inner", "x");
+    EXPECT_EQ(disk.list(folder), (std::vector<std::string>{".hidden", "B.asc", "b.asc", "caf\xC3\xA9"}));
+    EXPECT_EQ(disk.list(folder + "/no"), std::vector<std::string>());
+    EXPECT_EQ(disk.list(folder + "/b.asc"), std::vector<std::string>());
+}
+
+TEST_F(Disk, RemovesAFileAndMindsNoneThatIsGone)
+{
+    disk.write(folder + "/a", "x");
+    disk.remove(folder + "/a");
+    EXPECT_FALSE(disk.exists(folder + "/a"));
+    EXPECT_NO_THROW(disk.remove(folder + "/a"));
+}
+
 TEST_F(Disk, AFailureTellsFileAndReason)
 {
     const auto failureOf = [](auto act) {
@@ -76,6 +95,7 @@ TEST_F(Disk, AFailureTellsFileAndReason)
     EXPECT_EQ(failureOf([&] { disk.write(folder, "x"); }), std::pair(folder, std::string("Is a directory")));
     EXPECT_EQ(failureOf([&] { disk.makeFolder(folder + "/no/a"); }),
               std::pair(folder + "/no/a", std::string("No such file or directory")));
+    EXPECT_EQ(failureOf([&] { disk.remove(folder); }), std::pair(folder, std::string("Is a directory")));
 }
 
 #ifdef __linux__

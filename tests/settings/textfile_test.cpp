@@ -1,3 +1,4 @@
+#include "settings/codepage.h"
 #include "settings/tablefile.h"
 #include "support/hub.h"
 
@@ -83,6 +84,37 @@ TEST(Writer, MakesNoFolderAndItsFailureReachesTheCaller)
 {
     const test::Hub hub;
     EXPECT_THROW(hub.files.WriteSettingsFile(R"(Gone\A.tbl)", "x"), StoreError);
+}
+
+TEST(FileNames, AreThoseThatTheCodePageHasInItsBytes)
+{
+    test::Hub hub{"A"};
+    for (const char* name : {"A/plain.asc", "A/caf\xC3\xA9.asc", "A/\xE2\x82\xAC.asc", "A/\xD0\x96.asc",
+                             "A/\xF0\x9F\x98\x80.asc", "A/back\\slash.asc", "A/broken\xC3"})
+        hub.file(name) = "x";
+    EXPECT_EQ(hub.files.fileNames("A"), (std::vector<std::string>{"caf\xE9.asc", "plain.asc", "\x80.asc"}));
+    EXPECT_EQ(hub.files.fileNames("No"), std::vector<std::string>());
+}
+
+TEST(FileNames, OfARemovedFileAreGone)
+{
+    test::Hub hub{"A"};
+    hub.file("A/caf\xC3\xA9.asc") = "x";
+    hub.files.removeFile("A\\caf\xE9.asc");
+    EXPECT_EQ(hub.files.fileNames("A"), std::vector<std::string>());
+    hub.store.failingCall = static_cast<int>(hub.store.log.size());
+    EXPECT_THROW(hub.files.removeFile("A\\b.asc"), StoreError);
+}
+
+TEST(CodePage, ComesBackFromUtf8AndRefusesWhatItLacks)
+{
+    std::string bytes;
+    for (int byte = 0; byte < 256; ++byte)
+        bytes += static_cast<char>(byte);
+    EXPECT_EQ(codepage::fromUtf8(codepage::toUtf8(bytes)), bytes);
+    for (const char* text : {"\xD0\x96", "\xF0\x9F\x98\x80", "\x80", "\xC3", "\xC3x", "\xC0\xAF",
+                             "\xE0\x80\xAF", "\xE2\x82", "\xFF"})
+        EXPECT_EQ(codepage::fromUtf8(text), std::nullopt) << text;
 }
 
 } // namespace

@@ -14,9 +14,9 @@ class MemoryStore : public FileStore
 public:
     std::map<std::string, std::string> files;
     std::set<std::string> folders;
-    std::vector<std::string> log;                ///< "write <path>" and "make <path>"
+    std::vector<std::string> log;                ///< "write <path>", "make <path>" and "remove <path>"
     mutable std::map<std::string, int> readings; ///< how often each file was read
-    int failingCall = -1;                        ///< the write or make of this number, from 0, fails
+    int failingCall = -1;                        ///< the write, make or remove of this number, from 0, fails
 
     std::optional<std::string> read(const std::string& path) const override
     {
@@ -44,6 +44,22 @@ public:
         if (folders.count(parent(path)) == 0)
             throw StoreError(path, "No such file or directory");
         folders.insert(path);
+    }
+
+    std::vector<std::string> list(const std::string& folder) const override
+    {
+        std::vector<std::string> names;
+        for (const auto& [path, bytes] : files) {
+            if (parent(path) == folder)
+                names.push_back(path.substr(folder.size() + 1));
+        }
+        return names;
+    }
+
+    void remove(const std::string& path) override
+    {
+        note("remove ", path);
+        files.erase(path);
     }
 
 private:
