@@ -65,5 +65,68 @@ TEST_F(GroupForm, ARestoreReachesEveryList)
     EXPECT_TRUE(find<RowList>(form, "lvwTwo").isEmpty());
 }
 
+/// A list that lets nothing be taken or deleted but what is called "good".
+class PickyPart : public RowListPart
+{
+public:
+    using RowListPart::RowListPart;
+
+protected:
+    bool mayTake(const CellRow& row) override { return row.cells.front() == "good"; }
+    bool mayDelete(const CellRow& row) override { return row.cells.front() == "good"; }
+};
+
+class PickyForm : public test::FormTest
+{
+protected:
+    PickyForm()
+    {
+        RowListDeclaration list;
+        list.list = "lvwRows";
+        list.toolbar = "tlbRows";
+        list.columns = {"Rows"};
+        list.menu = "mnuFirst";
+        list.dialog.addTitle = "Add";
+        list.load = [](const SettingsFiles&, const HubProfiles&) {
+            return std::vector<CellRow>{{{"good"}}, {{"other"}}};
+        };
+        forms.push_back({"frmGamesAnagrams", [list](const FormContext& context) {
+                             auto* form = new EditorForm({"frmGamesAnagrams", "Games ~ Anagrams"});
+                             form->add(new PickyPart(list, context));
+                             return form;
+                         }});
+    }
+
+    QStringList after(EditorForm& form, int row, const char* key, const QString& text)
+    {
+        auto& list = find<RowList>(form, "lvwRows");
+        list.select(row);
+        test::withModal([&] { button(form, key, "tlbRows").trigger(); },
+                        [&text](QWidget& modal) {
+                            if (auto* box = qobject_cast<QMessageBox*>(&modal)) {
+                                box->button(QMessageBox::Ok)->click();
+                                return;
+                            }
+                            test::fillField(test::fieldOf(modal, 0), text);
+                            find<QPushButton>(modal, "cmdOK").click();
+                        });
+        return shown(list);
+    }
+};
+
+TEST_F(PickyForm, ARowIsTakenOrDeletedOnlyIfItsFormLetsIt)
+{
+    auto& form = open("Games~Anagrams");
+    const QStringList rows = {"good", "other"};
+    EXPECT_EQ(after(form, 0, "NEW", "bad"), rows);
+    EXPECT_EQ(after(form, 0, "EDIT", "bad"), rows);
+    EXPECT_EQ(after(form, 1, "DELETE", {}), rows);
+    EXPECT_FALSE(isDirty(form));
+    EXPECT_EQ(after(form, 1, "EDIT", "good"), (QStringList{"good", "good"}));
+    EXPECT_EQ(after(form, 0, "NEW", "good"), (QStringList{"good", "good", "good"}));
+    EXPECT_EQ(after(form, 0, "DELETE", {}), (QStringList{"good", "good"}));
+    EXPECT_TRUE(isDirty(form));
+}
+
 } // namespace
 } // namespace quillfen

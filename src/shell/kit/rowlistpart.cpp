@@ -96,6 +96,8 @@ void RowListPart::add()
             m_declaration.take(values, row);
         else
             std::copy(values.begin(), values.end(), row.cells.begin());
+        if (!mayTake(row))
+            return;
         m_list->append(std::move(row));
         m_list->select(static_cast<int>(m_list->rows().size()) - 1);
         emit changed();
@@ -124,6 +126,8 @@ void RowListPart::edit()
         m_declaration.take(answer.gEditValues, row);
     else
         std::copy(answer.gEditValues.begin(), answer.gEditValues.end(), row.cells.begin());
+    if (!mayTake(row))
+        return;
     m_list->replace(at, std::move(row));
     emit changed();
 }
@@ -138,7 +142,8 @@ void RowListPart::removeSelected()
         notify(m_list, "Cannot delete", fromBytes(words.minimum), QMessageBox::Critical);
         return;
     }
-    if (!confirm(m_list, fromBytes(words.title), fromBytes(words.text)))
+    if (!confirm(m_list, fromBytes(words.title), fromBytes(words.text)) ||
+        !mayDelete(m_list->rows()[static_cast<std::size_t>(at)]))
         return;
     m_list->remove(at);
     emit changed();

@@ -26,6 +26,12 @@ public:
 
     const std::vector<CellRow>& rows() const;
 
+protected:
+    /// What a form does before an added or edited row is taken, and before a row goes; false leaves the list
+    /// as it is.
+    virtual bool mayTake(const CellRow& /*row*/) { return true; }
+    virtual bool mayDelete(const CellRow& /*row*/) { return true; }
+
 private:
     void buildToolbar();
     QWidget* placed();
