@@ -42,6 +42,19 @@ std::vector<PermissionCell> loadGrid(const PermissionGrid& grid, const SettingsF
     return cells;
 }
 
+GridSource sourceOf(const PermissionGrid& grid)
+{
+    GridSource source;
+    for (const GridCommand& command : grid.commands)
+        source.commands.push_back(command.word);
+    source.load = [grid](const SettingsFiles& files, const HubProfiles& profiles) {
+        return loadGrid(grid, files, profiles);
+    };
+    source.save = [grid](const std::vector<PermissionCell>& cells, const SettingsFiles& files,
+                         const HubProfiles& profiles) { saveGrid(grid, cells, files, profiles); };
+    return source;
+}
+
 void saveGrid(const PermissionGrid& grid, const std::vector<PermissionCell>& cells,
               const SettingsFiles& files, const HubProfiles& profiles)
 {

@@ -3,6 +3,7 @@
 #include "settings/profiles.h"
 #include "settings/tablefile.h"
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -37,6 +38,19 @@ struct PermissionCell
 /// is the number 1. Each file is read once.
 std::vector<PermissionCell> loadGrid(const PermissionGrid& grid, const SettingsFiles& files,
                                      const HubProfiles& profiles);
+
+/// Where the cells of a grid's list come from and go to. A grid of one value per command and profile has the
+/// same profile on both sides.
+struct GridSource
+{
+    std::vector<std::string> commands;
+    std::function<std::vector<PermissionCell>(const SettingsFiles&, const HubProfiles&)> load;
+
+    /// Throws StoreError.
+    std::function<void(const std::vector<PermissionCell>&, const SettingsFiles&, const HubProfiles&)> save;
+};
+
+GridSource sourceOf(const PermissionGrid& grid);
 
 /// Writes every command's file from the cells, in the grid's order. Throws StoreError.
 void saveGrid(const PermissionGrid& grid, const std::vector<PermissionCell>& cells,

@@ -16,14 +16,14 @@ namespace quillfen {
 class PermissionModel : public QAbstractTableModel
 {
 public:
-    PermissionModel(const PermissionGrid& grid, const GridWords& words, const HubProfiles& profiles,
+    PermissionModel(const GridSource& source, const GridWords& words, const HubProfiles& profiles,
                     QObject* parent)
         : QAbstractTableModel(parent),
           m_words(words),
           m_profiles(profiles)
     {
-        for (const GridCommand& command : grid.commands)
-            m_commands.push_back(fromBytes(command.word));
+        for (const std::string& command : source.commands)
+            m_commands.push_back(fromBytes(command));
     }
 
     const std::vector<PermissionCell>& cells() const { return m_cells; }
@@ -52,7 +52,7 @@ public:
     {
         PermissionCell& cell = m_cells[m_shown[static_cast<std::size_t>(row)]];
         cell.allowed = !cell.allowed;
-        emit dataChanged(index(row, 3), index(row, 3));
+        emit dataChanged(index(row, 0), index(row, columnCount() - 1));
     }
 
     int rowCount(const QModelIndex& parent = {}) const override
@@ -97,6 +97,8 @@ private:
         case 1:
             return newCommand || above->by != cell.by ? profile(cell.by) : QString();
         case 2:
+            if (!m_words.targets)
+                return cell.allowed ? m_words.yes : m_words.no;
             return !above || above->on != cell.on ? profile(cell.on) : QString();
         default:
             return cell.allowed ? m_words.yes : m_words.no;
@@ -134,11 +136,17 @@ const QString commandMark = QStringLiteral("C*");
 
 } // namespace
 
-PermissionGridPart::PermissionGridPart(PermissionGrid grid, GridWords words, const FormContext& context)
-    : m_grid(std::move(grid)),
+PermissionGridPart::PermissionGridPart(const PermissionGrid& grid, GridWords words,
+                                       const FormContext& context)
+    : PermissionGridPart(sourceOf(grid), std::move(words), context)
+{
+}
+
+PermissionGridPart::PermissionGridPart(GridSource source, GridWords words, const FormContext& context)
+    : m_source(std::move(source)),
       m_words(std::move(words)),
       m_context(context),
-      m_model(new PermissionModel(m_grid, m_words, context.profiles, this)),
+      m_model(new PermissionModel(m_source, m_words, context.profiles, this)),
       m_list(new ListView(m_words.list)),
       m_toolbar(new QToolBar),
       m_widget(listWithToolbar(QString(), m_toolbar, m_list))
@@ -147,6 +155,8 @@ PermissionGridPart::PermissionGridPart(PermissionGrid grid, GridWords words, con
     m_list->setAccessibleName("Permissions");
     m_list->header()->setDefaultSectionSize(m_list->fontMetrics().averageCharWidth() * 22);
     buildToolbar();
+    if (m_words.clickToggles)
+        connect(m_list, &QTreeView::clicked, this, &PermissionGridPart::toggle);
     connect(m_list, &ListView::editAsked, this, &PermissionGridPart::toggle);
     connect(m_list, &ListView::menuAsked, this, &PermissionGridPart::showMenu);
 }
@@ -160,21 +170,22 @@ void PermissionGridPart::buildToolbar()
     connectButton(*m_toolbar, "EDIT", this, &PermissionGridPart::toggle);
     if (!m_words.filters)
         return;
-    auto* commands = addFilter(index, "COMMAND", "View By Command");
-    for (const GridCommand& command : m_grid.commands) {
-        const QString word = fromBytes(command.word);
+    auto* commands = addFilter(index, m_words.commandFilter, m_words.commandFilterTip, "command");
+    for (const std::string& command : m_source.commands) {
+        const QString word = fromBytes(command);
         commands->menu()->addAction(word)->setObjectName(commandMark + word);
     }
-    auto* profiles = addFilter(index, "PROFILE", "View By Profile");
+    auto* profiles = addFilter(index, "PROFILE", "View By Profile", "profile");
     for (const std::string& name : m_context.profiles.names()) {
         const QString word = fromBytes(name);
         profiles->menu()->addAction(QString(word).replace('&', "&&"))->setObjectName(word);
     }
 }
 
-QAction* PermissionGridPart::addFilter(int& index, const QString& key, const QString& toolTip)
+QAction* PermissionGridPart::addFilter(int& index, const QString& key, const QString& toolTip,
+                                       const QString& icon)
 {
-    auto* filter = addButton(*m_toolbar, index, key, toolTip, key.toLower());
+    auto* filter = addButton(*m_toolbar, index, key, toolTip, icon);
     filter->setCheckable(true);
     filter->setMenu(new QMenu(m_toolbar));
     qobject_cast<QToolButton*>(m_toolbar->widgetForAction(filter))
@@ -196,21 +207,25 @@ void PermissionGridPart::choose(QAction* filter, const QString& entry)
 
 void PermissionGridPart::release(QAction* filter)
 {
-    if (filter->objectName() == "COMMAND")
+    if (filter->objectName() == "COMMAND") {
         m_model->setCommandFilter(QString());
-    else
+    } else if (filter->objectName() == "PROFILE") {
         m_model->setProfileFilter(QString());
+    } else {
+        filter->setChecked(!filter->isChecked()); // the press changes nothing, so it looks as before
+        return;
+    }
     filter->setChecked(false);
 }
 
 void PermissionGridPart::load()
 {
-    m_model->setCells(loadGrid(m_grid, m_context.files, m_context.profiles));
+    m_model->setCells(m_source.load(m_context.files, m_context.profiles));
 }
 
 void PermissionGridPart::save()
 {
-    saveGrid(m_grid, m_model->cells(), m_context.files, m_context.profiles);
+    m_source.save(m_model->cells(), m_context.files, m_context.profiles);
     load();
 }
 

@@ -19,7 +19,13 @@ struct GridWords
     QStringList columns = {"Command", "By Profile", "On Profile", "Allow To"};
     QString yes = "Yes";
     QString no = "No";
-    bool filters = true; ///< the buttons that show one command or one acting profile
+    bool filters = true;       ///< the buttons that show one command or one acting profile
+    bool targets = true;       ///< false: one value per command and profile, and three columns
+    bool clickToggles = false; ///< a click on a row toggles it
+
+    /// The button that shows one command. A press of it takes the filter off if its key is COMMAND.
+    QString commandFilter = "COMMAND";
+    QString commandFilterTip = "View By Command";
 };
 
 /// A permission grid: one row per command, acting profile and target profile, toggled between yes and no, and
@@ -29,7 +35,8 @@ class PermissionGridPart : public FormPart
     Q_OBJECT
 
 public:
-    PermissionGridPart(PermissionGrid grid, GridWords words, const FormContext& context);
+    PermissionGridPart(GridSource source, GridWords words, const FormContext& context);
+    PermissionGridPart(const PermissionGrid& grid, GridWords words, const FormContext& context);
 
     QWidget* widget() override { return m_widget; }
     void load() override;
@@ -39,13 +46,13 @@ public:
 
 private:
     void buildToolbar();
-    QAction* addFilter(int& index, const QString& key, const QString& toolTip);
+    QAction* addFilter(int& index, const QString& key, const QString& toolTip, const QString& icon);
     void choose(QAction* filter, const QString& entry);
     void release(QAction* filter);
     void toggle();
     void showMenu(const QPoint& at);
 
-    PermissionGrid m_grid;
+    GridSource m_source;
     GridWords m_words;
     FormContext m_context;
     PermissionModel* m_model;
