@@ -7,6 +7,8 @@
 #include "functions/general/switches.h"
 #include "functions/security/kicks.h"
 #include "functions/useractions/actiontexts.h"
+#include "functions/useractions/ascii.h"
+#include "functions/useractions/calculator.h"
 #include "functions/useractions/collections.h"
 
 namespace quillfen {
@@ -78,9 +80,9 @@ const FolderCatalogue& folderCatalogue()
         {{R"(Security\UserLog)", R"(Security\UserLog\Logs)"}},
 
         {{"UserActions"}},
-        {{R"(UserActions\Ascii)", R"(UserActions\Ascii\Ascii)"}},
+        {{R"(UserActions\Ascii)", R"(UserActions\Ascii\Ascii)"}, {buildAscii}},
         {{R"(UserActions\Attacks)"}, {buildAttacks}},
-        {{R"(UserActions\Calculator)"}},
+        {{R"(UserActions\Calculator)"}, {buildCalculator}},
         {{R"(UserActions\DoAction)"}, {buildDoActions}},
         {{R"(UserActions\Insults)"}, {buildInsults}},
         {{R"(UserActions\Jokes)"}, {buildJokes}},

@@ -1,6 +1,8 @@
 #include "functions/useractions/forms.h"
 
 #include "functions/useractions/actiontextsform.h"
+#include "functions/useractions/asciiform.h"
+#include "functions/useractions/calculatorform.h"
 #include "functions/useractions/collectionsform.h"
 
 namespace quillfen {
@@ -8,6 +10,8 @@ namespace quillfen {
 FormCatalogue useractionsForms()
 {
     return {
+        {"frmUserActionsAscii", makeAsciiForm},
+        {"frmUserActionsCalculator", makeCalculatorForm},
         {"frmUserActionsInsultsStandard", makeInsultsForm},
         {"frmUserActionsInsultsMedieval", makeMedievalInsultsForm},
         {"frmUserActionsInsultsModern", makeModernInsultsForm},

@@ -1,0 +1,104 @@
+#include "functions/useractions/ascii.h"
+
+#include "settings/listfile.h"
+
+namespace quillfen {
+namespace {
+
+constexpr std::string_view indexPath = R"(UserActions\Ascii\AsciiIndex.tbl)";
+constexpr std::string_view indexTable = "tAsciiIndex";
+
+/// The keys of a picture's table, in the order of the list's columns.
+constexpr std::string_view keys[] = {"sFilename", "sDisplayName", "sMenu"};
+
+/// The first number without a file name ends the list.
+std::vector<CellRow> loadIndex(const SettingsFiles& files, const HubProfiles& /*profiles*/)
+{
+    const auto index = files.index(indexPath);
+    std::vector<CellRow> rows;
+    for (int number = 1;; ++number) {
+        CellRow row;
+        for (const auto key : keys)
+            row.cells.push_back(index.value(key, std::to_string(number)));
+        if (row.cells.front().empty())
+            return rows;
+        rows.push_back(std::move(row));
+    }
+}
+
+void saveIndex(const SettingsFiles& files, const HubProfiles& /*profiles*/, const std::vector<CellRow>& rows)
+{
+    std::string text = std::string(indexTable) + " = {\r\n";
+    int number = 0;
+    for (const CellRow& row : rows) {
+        text += "\t[" + std::to_string(++number) + "] = {\r\n";
+        for (std::size_t cell = 0; cell < std::size(keys); ++cell)
+            text.append("\t\t")
+                .append(keys[cell])
+                .append(" = \"")
+                .append(row.cells.at(cell))
+                .append("\",\r\n");
+        text += "\t},\r\n";
+    }
+    files.WriteSettingsFile(indexPath, text + "}");
+}
+
+Setting keptProfiles(const std::string& key, const std::string& control, const std::string& label)
+{
+    Setting setting = profileFlags(key, control, label);
+    setting.keptByRestore = true;
+    return setting;
+}
+
+} // namespace
+
+const TableFile& asciiSettings()
+{
+    static const TableFile file = {
+        R"(UserActions\Ascii\AsciiSettings.tbl)",
+        "tAsciiSettings",
+        {
+            flag("bInMain", "chkCheckBox(0)", "Show In Main", "1"),
+            flag("bInMainGlobal", "chkCheckBox(1)", "Show In Main To All", "1"),
+            flag("bEnableNoCommand", "chkCheckBox(2)", "Enable No Command", "1"),
+            keptProfiles("tEnabledProfiles", "lvwEnabledProfiles", "Enabled Profiles"),
+            keptProfiles("tEnabledRC", "lvwEnabledRCs", "Enabled Right Clicks"),
+        },
+        {"bInMain", "bInMainGlobal", "bEnableNoCommand", "tEnabledRC", "tEnabledProfiles"},
+    };
+    return file;
+}
+
+const RowListDeclaration& asciiPictures()
+{
+    static const RowListDeclaration declared = [] {
+        RowListDeclaration list;
+        list.list = "lvwAscii";
+        list.toolbar = "tlbFiles";
+        list.columns = {"Filename", "Display Name", "Right Click Menu"};
+        list.menu = "mnuFirst";
+        list.dialog.form = EditForm::ThreeFields;
+        list.dialog.addTitle = "Add Ascii";
+        list.dialog.editTitle = "Edit Ascii";
+        list.dialog.labels = list.columns;
+        list.deletion.title = "Delete Ascii?";
+        list.deletion.text = "Do you really want to delete this Ascii?";
+        list.load = loadIndex;
+        list.save = saveIndex;
+        return list;
+    }();
+    return declared;
+}
+
+std::string asciiFile(std::string_view name)
+{
+    return R"(UserActions\Ascii\Ascii\)" + std::string(name) + ".asc";
+}
+
+void buildAscii(const SettingsFiles& files, const HubProfiles& profiles)
+{
+    rebuildTableFile(asciiSettings(), files, profiles);
+    writeEmptyTableIfMissing(files, indexPath, indexTable);
+}
+
+} // namespace quillfen
