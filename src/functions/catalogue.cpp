@@ -1,5 +1,6 @@
 #include "functions/catalogue.h"
 
+#include "functions/archive/archive.h"
 #include "functions/communication/changers.h"
 #include "functions/games/trivia.h"
 #include "functions/general/bots.h"
@@ -94,7 +95,8 @@ const FolderCatalogue& folderCatalogue()
 
         {{"TheArchive"}},
         {{R"(TheArchive\Bookshelf)", R"(TheArchive\DVDRack)", R"(TheArchive\Jukebox)",
-          R"(TheArchive\Songbook)", R"(TheArchive\Arcade)", R"(TheArchive\Hyperlink)"}},
+          R"(TheArchive\Songbook)", R"(TheArchive\Arcade)", R"(TheArchive\Hyperlink)"},
+         {buildHyperlink}},
     };
     return catalogue;
 }

@@ -1,10 +1,12 @@
 #include "functions/archive/forms.h"
 
+#include "functions/archive/archiveform.h"
+
 namespace quillfen {
 
 FormCatalogue archiveForms()
 {
-    return {};
+    return makersOfArchiveForms();
 }
 
 } // namespace quillfen

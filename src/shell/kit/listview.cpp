@@ -18,7 +18,7 @@ ListView::ListView(const QString& name, QWidget* parent) : QTreeView(parent)
     setEditTriggers(NoEditTriggers);
     setExpandsOnDoubleClick(false);
     connect(this, &QTreeView::doubleClicked, this, [this](const QModelIndex& index) {
-        if (index.isValid())
+        if (index.isValid() && m_doubleClickEdits)
             emit editAsked();
     });
 }

@@ -17,6 +17,9 @@ public:
     int currentRow() const;
     void select(int row);
 
+    /// Off where each click does something of its own: then a double click is two of them.
+    void setDoubleClickEdits(bool edits) { m_doubleClickEdits = edits; }
+
     /// Tall enough for its rows, within reason.
     QSize sizeHint() const override;
 
@@ -28,6 +31,9 @@ signals:
 protected:
     void keyPressEvent(QKeyEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
+
+private:
+    bool m_doubleClickEdits = true;
 };
 
 } // namespace quillfen

@@ -155,6 +155,7 @@ PermissionGridPart::PermissionGridPart(GridSource source, GridWords words, const
     m_list->setAccessibleName("Permissions");
     m_list->header()->setDefaultSectionSize(m_list->fontMetrics().averageCharWidth() * 22);
     buildToolbar();
+    m_list->setDoubleClickEdits(!m_words.clickToggles);
     if (m_words.clickToggles)
         connect(m_list, &QTreeView::clicked, this, &PermissionGridPart::toggle);
     connect(m_list, &ListView::editAsked, this, &PermissionGridPart::toggle);

@@ -1,0 +1,322 @@
+#include "functions/archive/archive.h"
+
+#include "settings/lines.h"
+#include "settings/listfile.h"
+
+#include <algorithm>
+#include <array>
+#include <map>
+
+namespace quillfen {
+namespace {
+
+const std::string itemOfTheWeek = "ItemOfTheWeek";
+
+struct Day
+{
+    const char* word;
+    const char* name;
+};
+
+constexpr std::array<Day, 7> days = {{{"SUN", "Sunday"},
+                                      {"MON", "Monday"},
+                                      {"TUE", "Tuesday"},
+                                      {"WED", "Wednesday"},
+                                      {"THU", "Thursday"},
+                                      {"FRI", "Friday"},
+                                      {"SAT", "Saturday"}}};
+
+/// The name of a day's short word; any other word has none.
+std::string dayName(std::string_view word)
+{
+    const auto* const day =
+        std::find_if(days.begin(), days.end(), [word](const Day& each) { return each.word == word; });
+    return day == days.end() ? std::string() : day->name;
+}
+
+std::string pathOf(const ArchiveMember& member, const std::string& file)
+{
+    return "TheArchive\\" + member.word + "\\" + member.word + file + ".tbl";
+}
+
+std::string tableOf(const ArchiveMember& member, const std::string& file)
+{
+    return "t" + member.word + file;
+}
+
+std::vector<std::string> twoDigits(int count)
+{
+    std::vector<std::string> numbers;
+    for (int number = 0; number < count; ++number)
+        numbers.push_back((number < 10 ? "0" : "") + std::to_string(number));
+    return numbers;
+}
+
+std::string announcementText(int number, const std::string& time, const std::string& bInMain)
+{
+    return "\t[" + std::to_string(number) + "] = {\r\n\t\tsTime = \"" + time +
+           "\",\r\n\t\tbInMain = " + bInMain + ",\r\n\t},\r\n";
+}
+
+enum Cell
+{
+    Date,
+    Time,
+    Location
+};
+
+CellRow announcementOf(const std::vector<std::string>& fields)
+{
+    return {{fields.at(0), fields.at(1) + ":" + fields.at(2), fields.at(3) == "Main Chat" ? "Main" : "PM"}};
+}
+
+std::vector<std::string> fieldsOf(const CellRow& row)
+{
+    const std::string& time = row.cells.at(Time);
+    return {row.cells.at(Date), time.substr(0, 2), time.size() > 3 ? time.substr(3, 2) : "",
+            row.cells.at(Location) == "PM" ? "Private Message" : "Main Chat"};
+}
+
+/// The file and the table of a command, and of Hyperlink's right clicks the two of the form.
+GridCommand commandOf(const ArchiveMember& member, const std::string& command)
+{
+    return {command, pathOf(member, "Enable" + command), tableOf(member, "Enable" + command)};
+}
+
+GridCommand rightClickOf(const std::string& word)
+{
+    const ArchiveMember& hyperlink = archiveMembers().back();
+    // The form's tables lack the "RC" that their files have. The hub script and the form find each value by
+    // its profile's key.
+    return {word, pathOf(hyperlink, "RCEnable" + word), tableOf(hyperlink, "Enable" + word)};
+}
+
+std::vector<PermissionCell> loadCells(const std::vector<GridCommand>& commands, const SettingsFiles& files,
+                                      const HubProfiles& profiles)
+{
+    std::vector<PermissionCell> cells;
+    for (std::size_t command = 0; command < commands.size(); ++command) {
+        const auto index = files.index(commands[command].path);
+        for (std::size_t row = 0; row < profiles.count(); ++row)
+            cells.push_back({command, row, row, isOne(index.value(HubProfiles::key(row)))});
+    }
+    return cells;
+}
+
+/// A command's file is written when the walk comes to the next command, so the last command's never is: a
+/// change of it is lost. The hub script's owners know the grids so.
+void saveCells(const std::vector<GridCommand>& commands, const std::vector<PermissionCell>& cells,
+               const SettingsFiles& files)
+{
+    std::string text;
+    const PermissionCell* previous = nullptr;
+    for (const PermissionCell& cell : cells) {
+        if (!previous || previous->command != cell.command) {
+            if (previous)
+                files.WriteSettingsFile(commands[previous->command].path, text + "\t},\r\n}");
+            text = commands[cell.command].table + " = {\r\n";
+        }
+        text.append("\t\t[")
+            .append(HubProfiles::key(cell.by))
+            .append(cell.allowed ? "] = 1,\r\n" : "] = 0,\r\n");
+        previous = &cell;
+    }
+}
+
+GridSource gridOf(const std::vector<GridCommand>& commands)
+{
+    GridSource source;
+    for (const GridCommand& command : commands)
+        source.commands.push_back(command.word);
+    source.load = [commands](const SettingsFiles& files, const HubProfiles& profiles) {
+        return loadCells(commands, files, profiles);
+    };
+    source.save = [commands](const std::vector<PermissionCell>& cells, const SettingsFiles& files,
+                             const HubProfiles&) { saveCells(commands, cells, files); };
+    return source;
+}
+
+void buildLinkOfTheWeek(const ArchiveMember& member, const SettingsFiles& files)
+{
+    const std::string table = tableOf(member, itemOfTheWeek);
+    const auto index = files.index(pathOf(member, itemOfTheWeek));
+    const auto kept = [&](const std::string& key, const std::string& nested, const std::string& standard) {
+        const auto value = index.value(key, nested);
+        return value.empty() ? standard : value;
+    };
+    std::string text = table + " = {\r\n\tbEnabled = " + kept("bEnabled", table, "1") + ",\r\n";
+    text += "\tsChangeTime = \"" + kept("sChangeTime", table, "SUN 17:59") + "\",\r\n";
+    if (index.value("sTime", "1").empty())
+        text += announcementText(1, "SUN 18:00", "0");
+    for (int number = 1; number <= 50; ++number) {
+        const std::string nested = std::to_string(number);
+        const auto time = index.value("sTime", nested);
+        if (time.empty())
+            break;
+        text += announcementText(number, time, kept("bInMain", nested, "0"));
+    }
+    files.WriteSettingsFile(pathOf(member, itemOfTheWeek), text + "}");
+}
+
+/// Each table's text goes to the file of the next table in the ring. So a table finds its own file
+/// overwritten by the one before when its turn comes, and starts with no permission; only the first keeps its
+/// values, which then stand in the second's file. The hub script lives with it.
+void buildPermissionRing(const ArchiveMember& member, const SettingsFiles& files, const HubProfiles& profiles)
+{
+    static const std::vector<std::string> ring = {"EnableClear",    "EnableDelete",    "EnableModify",
+                                                  "EnableNewItems", "EnableSubmit",    "RCEnableCategory",
+                                                  "RCEnableItem",   "RCEnablePending", "RCEnableVoting"};
+    for (std::size_t place = 0; place < ring.size(); ++place) {
+        const std::string table = tableOf(member, ring[place]);
+        const auto index = files.index(pathOf(member, ring[place]));
+        std::string text = table + " = {\r\n";
+        for (std::size_t row = 0; row < profiles.count(); ++row) {
+            const auto value = index.value(HubProfiles::key(row), table);
+            text += "\t[" + HubProfiles::key(row) + "] = \"" + (value.empty() ? "0" : value) + "\",\r\n";
+        }
+        files.WriteSettingsFile(pathOf(member, ring[(place + 1) % ring.size()]), text + "}");
+    }
+}
+
+} // namespace
+
+const std::vector<ArchiveMember>& archiveMembers()
+{
+    static const std::vector<ArchiveMember> members = {
+        {"Bookshelf", "Items"}, {"DVDRack", "Items"}, {"Jukebox", "Items"},
+        {"Songbook", "Items"},  {"Arcade", "Items"},  {"Hyperlink", "Links"},
+    };
+    return members;
+}
+
+LinkOfTheWeek loadLinkOfTheWeek(const ArchiveMember& member, const SettingsFiles& files)
+{
+    constexpr int mostAnnouncements = 500;
+    const auto index = files.index(pathOf(member, itemOfTheWeek));
+    // The form's own save leaves the day's full name, which no short word equals: so it shows without its
+    // day.
+    const auto change = index.value("sChangeTime");
+    const auto [changeDay, changeTime, hasTime] = splitInPieces(change, ' ');
+    LinkOfTheWeek link{isOne(index.value("bEnabled")) ? "1" : "0",
+                       dayName(changeDay) + " " + std::string(changeTime)};
+    for (int number = 1; number <= mostAnnouncements; ++number) {
+        const std::string nested = std::to_string(number);
+        const auto announced = index.value("sTime", nested);
+        const auto [day, time, found] = splitInPieces(announced, ' ');
+        if (day.empty())
+            break;
+        link.announcements.push_back(
+            {{dayName(day), std::string(time), isOne(index.value("bInMain", nested)) ? "Main" : "PM"}});
+    }
+    return link;
+}
+
+void saveLinkOfTheWeek(const ArchiveMember& member, const LinkOfTheWeek& link, const SettingsFiles& files)
+{
+    std::string text = tableOf(member, itemOfTheWeek) + " = {\r\n\tbEnabled = " + link.enabled + ",\r\n";
+    // Without quotes and with the day's full name, unlike the build's: Lua can't load it, and the form itself
+    // reads it back without its day. Trees in the field hold both.
+    text += "\tsChangeTime = " + link.changeTime + ",\r\n";
+    int number = 0;
+    std::string word; // a text that is no day's name keeps the word of the row before
+    for (const CellRow& row : link.announcements) {
+        for (const Day& day : days) {
+            if (day.name == row.cells.at(Date))
+                word = day.word;
+        }
+        text += announcementText(++number, word + " " + row.cells.at(Time),
+                                 row.cells.at(Location) == "Main" ? "1" : "0");
+    }
+    files.WriteSettingsFile(pathOf(member, itemOfTheWeek), text + "}");
+}
+
+LinkOfTheWeek restoredLinkOfTheWeek()
+{
+    return {"1", "Sunday 17:59", {{{"Sunday", "18:00", "PM"}}}};
+}
+
+RowListDeclaration announcements()
+{
+    RowListDeclaration list;
+    list.list = "lvwWeek";
+    list.toolbar = "tlbWeek";
+    list.columns = {"Date", "Time", "Location"};
+    list.menu = "mnuFirst";
+    list.dialog.form = EditForm::FourCombos;
+    list.dialog.addTitle = "Add Announcement";
+    list.dialog.editTitle = " Announcement"; // the owner knows it with its leading blank
+    list.dialog.labels = {"Day", "Hour", "Minute", "Location"};
+    list.dialog.entries = {dayNames(), hours(), minutes(), {"Main Chat", "Private Message"}};
+    list.dialog.addMode = 6;  // a row without one of its parts could not be read back
+    list.dialog.editMode = 7; // the same, without another round
+    list.deletion.title = "Delete Announcement Time?";
+    list.deletion.text = "Do you really want to delete this Announcement Time?";
+    list.fieldsOf = fieldsOf;
+    list.take = [](const std::vector<std::string>& fields, CellRow& row) { row = announcementOf(fields); };
+    return list;
+}
+
+const std::vector<std::string>& dayNames()
+{
+    static const std::vector<std::string> names = [] {
+        std::vector<std::string> all;
+        for (const Day& day : days)
+            all.emplace_back(day.name);
+        return all;
+    }();
+    return names;
+}
+
+std::vector<std::string> hours()
+{
+    return twoDigits(24);
+}
+
+std::vector<std::string> minutes()
+{
+    return twoDigits(60);
+}
+
+const TableFile& newItems(const ArchiveMember& member)
+{
+    static std::map<std::string, TableFile> files;
+    const auto [file, isNew] = files.try_emplace(member.word);
+    if (isNew) {
+        file->second = {
+            pathOf(member, "NewItems"),
+            tableOf(member, "NewItems"),
+            {flag("bEnableNewItems", "chkCheckBox(0)", "Enable New " + member.items, "1"),
+             number("iNumberOfNewItems", "txtUpDown(0)", "Max Number Of New " + member.items, "5", 1, 50)}};
+    }
+    return file->second;
+}
+
+GridSource archivePermissions(const ArchiveMember& member)
+{
+    std::vector<GridCommand> commands;
+    for (const char* word : {"Clear", "Delete", "Modify", "NewItems", "Submit"})
+        commands.push_back(commandOf(member, word));
+    return gridOf(commands);
+}
+
+GridSource hyperlinkRightClicks()
+{
+    std::vector<GridCommand> words;
+    for (const char* word : {"Category", "Item", "Pending", "Voting"})
+        words.push_back(rightClickOf(word));
+    return gridOf(words);
+}
+
+void buildHyperlink(const SettingsFiles& files, const HubProfiles& profiles)
+{
+    const ArchiveMember& hyperlink = archiveMembers().back();
+    buildLinkOfTheWeek(hyperlink, files);
+    rebuildTableFile(newItems(hyperlink), files, profiles);
+    buildPermissionRing(hyperlink, files, profiles);
+    for (const char* name : {"CategoryIndex", "Index", "Items", "PendingIndex", "PendingItems", "VoteIP"})
+        writeEmptyTableIfMissing(files, pathOf(hyperlink, name), tableOf(hyperlink, name));
+    // Who voted is forgotten by each rebuild.
+    files.WriteSettingsFile(pathOf(hyperlink, "VoteNick"), emptyTable(tableOf(hyperlink, "VoteNick")));
+}
+
+} // namespace quillfen
