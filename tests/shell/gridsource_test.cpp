@@ -56,20 +56,16 @@ TEST_F(OneSidedGrid, HasThreeColumnsAndIsToggledByAClick)
     EXPECT_TRUE(isDirty(form));
     button(form, "SAVE").trigger();
     EXPECT_TRUE(cells[1].allowed);
+    list.select(1);
     QTest::keyClick(&list, Qt::Key_Return);
     EXPECT_EQ(shown(list)[1], "|Master|No");
 }
 
-TEST_F(OneSidedGrid, EachClickOfADoubleClickToggles)
+TEST_F(OneSidedGrid, ADoubleClickTogglesOnce)
 {
     auto& list = find<ListView>(open("Games~Anagrams"), "lvwPermissions");
-    int toggles = 0;
-    QObject::connect(list.model(), &QAbstractItemModel::dataChanged, &list, [&toggles] { ++toggles; });
-    int clicks = 0;
-    QObject::connect(&list, &QTreeView::clicked, &list, [&clicks] { ++clicks; });
     doubleClickRow(list, 1);
-    EXPECT_GE(clicks, 2);
-    EXPECT_EQ(toggles, clicks);
+    EXPECT_EQ(shown(list)[1], "|Master|Yes");
 }
 
 TEST_F(OneSidedGrid, AFilterOfAnotherKeyIsNotTakenOffByAPress)

@@ -17,7 +17,7 @@ public:
     int currentRow() const;
     void select(int row);
 
-    /// Off where each click does something of its own: then a double click is two of them.
+    /// Off where a click does something of its own, which a double click is to do once.
     void setDoubleClickEdits(bool edits) { m_doubleClickEdits = edits; }
 
     /// Tall enough for its rows, within reason.
