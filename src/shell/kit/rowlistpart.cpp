@@ -35,7 +35,7 @@ RowListPart::RowListPart(RowListDeclaration declaration, const FormContext& cont
     buildToolbar();
     connect(m_list, &RowList::tickChanged, this, &FormPart::changed);
     connect(m_list, &RowList::countChanged, this, &RowListPart::followRows);
-    connect(m_list, &RowList::editAsked, this, &RowListPart::edit);
+    connect(m_list, &RowList::editAsked, this, [this] { activate(); });
     connect(m_list, &RowList::deleteAsked, this, &RowListPart::removeSelected);
     connect(m_list, &RowList::menuAsked, this,
             [this](const QPoint& at) { m_context.showMenu(fromBytes(m_declaration.menu), at); });
@@ -88,7 +88,8 @@ RoutineTable RowListPart::routines()
 
 void RowListPart::add()
 {
-    if (m_declaration.dialog.addTitle.empty())
+    const auto* action = button(*m_toolbar, "NEW");
+    if (!action || !action->isEnabled()) // the menu does no more than the button
         return;
     addRows(m_list, requestOf(m_declaration.dialog), [this](const std::vector<std::string>& values) {
         CellRow row{std::vector<std::string>(std::max(m_declaration.columns.size(), values.size()))};
@@ -151,7 +152,7 @@ void RowListPart::removeSelected()
 
 void RowListPart::followRows()
 {
-    for (const char* key : {"DELETE", "EDIT"}) {
+    for (const char* key : {"DELETE", "EDIT", "AMEND"}) {
         if (auto* action = button(*m_toolbar, key))
             action->setEnabled(!m_list->isEmpty());
     }

@@ -32,13 +32,21 @@ protected:
     virtual bool mayTake(const CellRow& /*row*/) { return true; }
     virtual bool mayDelete(const CellRow& /*row*/) { return true; }
 
+    /// What a double click on a row does.
+    virtual void activate() { edit(); }
+
+    RowList& list() const { return *m_list; }
+    QToolBar& toolbar() const { return *m_toolbar; }
+    void edit();
+
+    /// Lets the buttons that need a row follow whether there is one.
+    void followRows();
+
 private:
     void buildToolbar();
     QWidget* placed();
     void add();
-    void edit();
     void removeSelected();
-    void followRows();
 
     RowListDeclaration m_declaration;
     FormContext m_context;
