@@ -11,6 +11,7 @@
 #include "functions/useractions/ascii.h"
 #include "functions/useractions/calculator.h"
 #include "functions/useractions/collections.h"
+#include "functions/useractions/spells.h"
 
 namespace quillfen {
 
@@ -90,8 +91,8 @@ const FolderCatalogue& folderCatalogue()
         {{R"(UserActions\Limericks)"}, {buildLimericks}},
         {{R"(UserActions\Proverbs)"}, {buildProverbs}},
         {{R"(UserActions\Quotations)"}, {buildQuotations}},
-        {{R"(UserActions\Spells)", R"(UserActions\Spells\Spells)"}},
-        {{R"(UserActions\NickSpells)", R"(UserActions\NickSpells\NickSpells)"}},
+        {{R"(UserActions\Spells)", R"(UserActions\Spells\Spells)"}, {buildSpells}},
+        {{R"(UserActions\NickSpells)", R"(UserActions\NickSpells\NickSpells)"}, {buildNickSpells}},
 
         {{"TheArchive"}},
         {{R"(TheArchive\Bookshelf)", R"(TheArchive\DVDRack)", R"(TheArchive\Jukebox)",

@@ -4,6 +4,7 @@
 #include "functions/useractions/asciiform.h"
 #include "functions/useractions/calculatorform.h"
 #include "functions/useractions/collectionsform.h"
+#include "functions/useractions/spellsform.h"
 
 namespace quillfen {
 
@@ -21,6 +22,10 @@ FormCatalogue useractionsForms()
         {"frmUserActionsLimericks", makeLimericksForm},
         {"frmUserActionsProverbs", makeProverbsForm},
         {"frmUserActionsQuotations", makeQuotationsForm},
+        {"frmUserActionsSpellSettings", makeSpellSettingsForm},
+        {"frmUserActionsSpellsSpellBook", makeSpellBookForm},
+        {"frmUserActionsNickSpellSettings", makeNickSpellSettingsForm},
+        {"frmUserActionsNickSpellsSpellBook", makeNickSpellBookForm},
     };
 }
 

@@ -1,0 +1,203 @@
+#include "functions/useractions/spells.h"
+
+#include "settings/filename.h"
+#include "settings/listfile.h"
+#include "settings/profiles.h"
+
+#include <algorithm>
+
+namespace quillfen {
+namespace {
+
+const ListFile wardsFile = {R"(UserActions\Spells\SpellWards.tbl)", "tSpellWards", ListFile::Form::Presence};
+
+ListFile bookFile(const SpellBook& book)
+{
+    return {book.path, book.table, ListFile::Form::Keyed};
+}
+
+ListFile phraseFile(const SpellBook& book, const std::string& spell)
+{
+    return {book.folder + "\\" + spell + ".tbl", book.phraseTable};
+}
+
+Setting timeout()
+{
+    return number("iDelay", "txtUpDown(0)", "Timeout", "3", 1, 180);
+}
+
+Setting enabledProfiles()
+{
+    return profileFlags("tEnabledProfiles", "lvwEnabledProfiles", "Enabled Profiles");
+}
+
+std::vector<std::string> pieces(const std::string& text)
+{
+    std::vector<std::string> all;
+    std::size_t start = 0;
+    for (auto end = text.find('|'); end != std::string::npos; end = text.find('|', start)) {
+        all.push_back(text.substr(start, end - start));
+        start = end + 1;
+    }
+    all.push_back(text.substr(start));
+    return all;
+}
+
+/// The rows of an amended spell's file. The pieces are counted from 0 and taken from 1 on, so the first
+/// phrase gathered is left out, unless a second gathering has put it behind the others. The hub script's
+/// owners know the book so.
+std::vector<ListRow> phrasesToWrite(const CellRow& spell)
+{
+    const auto all = pieces(spell.cells.at(SpellPhrases));
+    const auto count = static_cast<std::size_t>(std::stoul(spell.cells.at(SpellLines)));
+    std::vector<ListRow> rows;
+    for (std::size_t at = 1; at <= count && at < all.size(); ++at) {
+        if (!all[at].empty())
+            rows.push_back({all[at]});
+    }
+    return rows;
+}
+
+void buildBook(const SpellBook& book, const TableFile& settings, const SettingsFiles& files,
+               const HubProfiles& profiles)
+{
+    rebuildTableFile(settings, files, profiles);
+    writeEmptyTableIfMissing(files, book.path, book.table);
+}
+
+} // namespace
+
+const SpellBook& spellBook()
+{
+    static const SpellBook book = {R"(UserActions\Spells\SpellBook.tbl)", "tSpellBook",
+                                   R"(UserActions\Spells\Spells)", "tSpell"};
+    return book;
+}
+
+const SpellBook& nickSpellBook()
+{
+    static const SpellBook book = {R"(UserActions\NickSpells\NickSpellBook.tbl)", "tNickSpellBook",
+                                   R"(UserActions\NickSpells\NickSpells)", "tNickSpell"};
+    return book;
+}
+
+const TableFile& spellSettings()
+{
+    static const TableFile file = {
+        R"(UserActions\Spells\SpellSettings.tbl)",
+        "tSpellSettings",
+        {flag("bEnableWards", "chkCheckBox(0)", "Enable Wards", "1"), timeout(), enabledProfiles()},
+        {"iDelay", "bEnableWards", "tEnabledProfiles"}};
+    return file;
+}
+
+const TableFile& nickSpellSettings()
+{
+    static const TableFile file = {R"(UserActions\NickSpells\NickSpellSettings.tbl)",
+                                   "tNickSpellSettings",
+                                   {timeout(), enabledProfiles()}};
+    return file;
+}
+
+const RowListDeclaration& spellWards()
+{
+    static const RowListDeclaration declared = [] {
+        RowListDeclaration list;
+        list.list = "lvwWards";
+        list.toolbar = "tlbWards";
+        list.label = "Warded Users";
+        list.columns = {"Warded User"};
+        list.menu = "mnuFirst";
+        list.dialog.addTitle = "Add Warded User";
+        list.dialog.editTitle = "Edit Warded User";
+        list.dialog.labels = {"Warded User"};
+        list.deletion.title = "Delete Warded User?";
+        list.deletion.text = "Do you really want to delete this Warded User?";
+        list.load = loadOf(wardsFile);
+        list.save = saveOf(wardsFile);
+        return list;
+    }();
+    return declared;
+}
+
+RowListDeclaration spellList(const SpellBook& book)
+{
+    RowListDeclaration list;
+    list.list = "lvwSpells";
+    list.toolbar = "tlbSpells";
+    list.columns = {"Spell Name", "Spell Description", "Spell Phrases", "Spell LInes"};
+    list.menu = "mnuFirst";
+    list.dialog.form = EditForm::TwoFields;
+    list.dialog.addTitle = "Add New Spell";
+    list.dialog.editTitle = "Edit Warded User"; // copied from the wards
+    list.dialog.labels = {"Spell Name", "Spell Description"};
+    list.deletion.minimum = "There must be a minimum of one Spell";
+    list.deletion.title = "Delete Spell?";
+    list.deletion.text = "Do you really want to delete this Spell?";
+    list.load = [load = loadOf(bookFile(book))](const SettingsFiles& files, const HubProfiles& profiles) {
+        auto rows = load(files, profiles);
+        for (CellRow& row : rows)
+            row.cells.resize(SpellLines + 1);
+        return rows;
+    };
+    return list;
+}
+
+RowListDeclaration phraseList()
+{
+    RowListDeclaration list;
+    list.list = "lvwSpellPhrases";
+    list.toolbar = "tlbSpellPhrases";
+    list.columns = {"Spell Phrase"};
+    list.menu = "mnuSecond";
+    list.dialog.addTitle = "Add New Spell Phrase";
+    list.dialog.editTitle = "Edit Spell Phrase";
+    list.dialog.labels = {"Spell Phrase"};
+    list.deletion.minimum = "There must be a minimum of one Spell Phrase";
+    list.deletion.title = "Delete Spell Phrase?";
+    list.deletion.text = "Do you really want to delete this Spell Phrase?";
+    return list;
+}
+
+std::vector<CellRow> loadPhrases(const SpellBook& book, const std::string& spell, const SettingsFiles& files)
+{
+    return loadOf(phraseFile(book, spell))(files, {});
+}
+
+void gatherPhrases(std::vector<CellRow>& spells, const std::string& spell,
+                   const std::vector<CellRow>& phrases)
+{
+    const auto row = std::find_if(spells.begin(), spells.end(), [name = lowered(spell)](const CellRow& each) {
+        return lowered(each.cells.at(SpellName)) == name;
+    });
+    if (row == spells.end())
+        return;
+    // What was gathered before is not cleared: each time, all phrases come again behind it.
+    for (const CellRow& phrase : phrases)
+        row->cells.at(SpellPhrases) += phrase.cells.at(0) + "|";
+    row->cells.at(SpellLines) = std::to_string(phrases.size());
+}
+
+void saveSpellBook(const SpellBook& book, const std::vector<CellRow>& spells, const SettingsFiles& files)
+{
+    std::vector<ListRow> rows;
+    for (const CellRow& spell : spells) {
+        rows.push_back({spell.cells.at(SpellName), spell.cells.at(SpellDescription)});
+        if (!spell.cells.at(SpellLines).empty())
+            saveList(files, phraseFile(book, spell.cells[SpellName]), phrasesToWrite(spell));
+    }
+    saveList(files, bookFile(book), rows);
+}
+
+void buildSpells(const SettingsFiles& files, const HubProfiles& profiles)
+{
+    buildBook(spellBook(), spellSettings(), files, profiles);
+    writeEmptyTableIfMissing(files, wardsFile.path, wardsFile.table);
+}
+
+void buildNickSpells(const SettingsFiles& files, const HubProfiles& profiles)
+{
+    buildBook(nickSpellBook(), nickSpellSettings(), files, profiles);
+}
+
+} // namespace quillfen

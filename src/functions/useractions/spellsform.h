@@ -1,0 +1,13 @@
+#pragma once
+
+namespace quillfen {
+
+class EditorForm;
+struct FormContext;
+
+EditorForm* makeSpellSettingsForm(const FormContext& context);
+EditorForm* makeNickSpellSettingsForm(const FormContext& context);
+EditorForm* makeSpellBookForm(const FormContext& context);
+EditorForm* makeNickSpellBookForm(const FormContext& context);
+
+} // namespace quillfen
