@@ -279,16 +279,18 @@ std::vector<std::string> minutes()
 
 const TableFile& newItems(const ArchiveMember& member)
 {
-    static std::map<std::string, TableFile> files;
-    const auto [file, isNew] = files.try_emplace(member.word);
-    if (isNew) {
-        file->second = {
-            pathOf(member, "NewItems"),
-            tableOf(member, "NewItems"),
-            {flag("bEnableNewItems", "chkCheckBox(0)", "Enable New " + member.items, "1"),
-             number("iNumberOfNewItems", "txtUpDown(0)", "Max Number Of New " + member.items, "5", 1, 50)}};
-    }
-    return file->second;
+    static const std::map<std::string, TableFile> files = [] {
+        std::map<std::string, TableFile> all;
+        for (const ArchiveMember& each : archiveMembers()) {
+            all[each.word] = {
+                pathOf(each, "NewItems"),
+                tableOf(each, "NewItems"),
+                {flag("bEnableNewItems", "chkCheckBox(0)", "Enable New " + each.items, "1"),
+                 number("iNumberOfNewItems", "txtUpDown(0)", "Max Number Of New " + each.items, "5", 1, 50)}};
+        }
+        return all;
+    }();
+    return files.at(member.word);
 }
 
 GridSource archivePermissions(const ArchiveMember& member)
