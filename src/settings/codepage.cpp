@@ -38,7 +38,9 @@ std::optional<char32_t> takeCharacter(std::string_view& text)
     const auto count = followers(first);
     if (!count || text.size() <= *count)
         return std::nullopt;
-    char32_t character = *count == 0 ? first : first & (0x3F >> *count);
+    char32_t character = first;
+    if (*count > 0)
+        character &= 0x3FU >> *count;
     for (const char each : text.substr(1, *count)) {
         const auto byte = static_cast<unsigned char>(each);
         if ((byte & 0xC0) != 0x80)
