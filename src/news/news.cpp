@@ -1,0 +1,197 @@
+#include "news/news.h"
+
+#include "settings/tablefile.h"
+
+#include <algorithm>
+#include <charconv>
+#include <cstdint>
+
+namespace quillfen {
+namespace {
+
+constexpr std::string_view newsFile = R"(Morvaleth's Scripts\News\News.tbl)";
+constexpr std::string_view newsSettingsFile = R"(Morvaleth's Scripts\News\NewsSettings.tbl)";
+constexpr bool appRelative = true; // the folder lies beside the script's own, as other scripts use it too
+
+using ArticleNumber = std::int64_t;
+
+std::vector<std::string_view> split(std::string_view text, char separator)
+{
+    std::vector<std::string_view> fields;
+    for (;;) {
+        const auto end = text.find(separator);
+        fields.push_back(text.substr(0, end));
+        if (end == std::string_view::npos)
+            return fields;
+        text.remove_prefix(end + 1);
+    }
+}
+
+/// A number of up to 18 digits with white space around it.
+std::optional<ArticleNumber> articleNumber(std::string_view text)
+{
+    constexpr std::string_view space = " \t\r\n";
+    text.remove_prefix(std::min(text.find_first_not_of(space), text.size()));
+    text = text.substr(0, text.find_last_not_of(space) + 1);
+    if (text.empty() || text.size() > 18 || text.find_first_not_of("0123456789") != std::string_view::npos)
+        return std::nullopt;
+    ArticleNumber number = 0;
+    std::from_chars(text.data(), text.data() + text.size(), number);
+    return number;
+}
+
+struct Counter
+{
+    ArticleNumber first;
+    ArticleNumber last;
+};
+
+std::optional<Counter> readCounter(std::string_view text)
+{
+    const auto fields = split(text, '|');
+    const auto first = articleNumber(fields[0]);
+    const auto last = fields.size() > 1 ? articleNumber(fields[1]) : std::nullopt;
+    if (!first || !last)
+        return std::nullopt;
+    return Counter{*first, *last};
+}
+
+bool isErrorPage(const FetchedText& fetched)
+{
+    return fetched.isError || fetched.text.starts_with("<!DOC");
+}
+
+/// The fields stand as date, symbol, headline and story. One that is missing is empty.
+NewsArticle articleOf(const std::vector<std::string_view>& fields, std::string number)
+{
+    const auto field = [&fields](std::size_t at) {
+        return at < fields.size() ? std::string(fields[at]) : std::string();
+    };
+    return {field(0), field(2), field(3), field(1), std::move(number)};
+}
+
+/// An article as the server gives it must have all its fields; what stands behind the story is dropped.
+std::optional<NewsArticle> readArticle(std::string_view text, ArticleNumber number)
+{
+    const auto fields = split(text, '|');
+    if (fields.size() < 4)
+        return std::nullopt;
+    return articleOf(fields, std::to_string(number));
+}
+
+std::string composedNews(const std::vector<NewsArticle>& articles)
+{
+    std::string text = "tNews = {\r\n";
+    for (const NewsArticle& article : articles) {
+        text.append("\t[").append(article.number).append("] = \"");
+        text.append(article.date).append("|").append(article.symbol).append("|");
+        text.append(article.headline).append("|").append(article.story).append("\",").append(lineEnd);
+    }
+    return text + '}';
+}
+
+/// The blank behind the brace has always stood there.
+void saveLastNumber(const SettingsFiles& files, ArticleNumber number)
+{
+    files.WriteSettingsFile(newsSettingsFile,
+                            "tNewsSettings = { \r\n\tiLastID = " + std::to_string(number) + ",\r\n}",
+                            appRelative);
+}
+
+ArticleNumber loadLastNumber(const SettingsFiles& files)
+{
+    return articleNumber(files.ReadTableValue(newsSettingsFile, "iLastID", "tNewsSettings", appRelative))
+        .value_or(0);
+}
+
+/// The news of one start.
+struct NewArticles
+{
+    std::vector<NewsArticle> articles;
+    bool failed = false; ///< an article could not be had, or not with all its fields
+};
+
+NewArticles fetchArticles(const std::string& newsBase, const Fetch& fetch, Counter range)
+{
+    NewArticles news;
+    std::size_t taken = 0;
+    for (auto number = range.first; number <= range.last && taken < newsSizeLimit; ++number) {
+        const auto fetched = fetch(newsBase + std::to_string(number) + ".txt");
+        if (isErrorPage(fetched) || fetched.isLate)
+            return news;
+        auto article = readArticle(fetched.text, number);
+        if (!article) {
+            news.failed = true;
+            return news;
+        }
+        taken += fetched.text.size();
+        news.articles.push_back(std::move(*article));
+    }
+    return news;
+}
+
+void store(const SettingsFiles& files, std::vector<NewsArticle> archive, const std::vector<NewsArticle>& news)
+{
+    archive.insert(archive.end(), news.begin(), news.end());
+    try {
+        saveLastNumber(files, articleNumber(news.back().number).value_or(0));
+        saveNews(files, archive);
+    } catch (const StoreError&) {
+        // Nobody asked for the news to be written: a folder that can't be written costs the archive alone.
+        return;
+    }
+}
+
+} // namespace
+
+std::vector<NewsArticle> loadNews(const SettingsFiles& files)
+{
+    std::vector<ListRow> rows;
+    files.ReadTableToList(newsFile, rows, "=", "tNews", Rows::Plain, appRelative);
+    std::vector<NewsArticle> articles;
+    for (ListRow& row : rows)
+        articles.push_back(articleOf(split(row.second, '|'), std::move(row.text)));
+    return articles;
+}
+
+void saveNews(const SettingsFiles& files, const std::vector<NewsArticle>& articles)
+{
+    files.WriteSettingsFile(newsFile, composedNews(articles), appRelative);
+}
+
+std::optional<NewsArticle> fetchNews(const SettingsFiles& files, const std::string& newsBase,
+                                     const Fetch& fetch)
+{
+    if (newsBase.empty())
+        return std::nullopt;
+    auto archive = loadNews(files);
+    const auto counter = readCounter(fetch(newsBase + "counter.txt").text);
+    if (!counter)
+        return std::nullopt;
+    const Counter range{std::max(loadLastNumber(files) + 1, counter->first), counter->last};
+    const NewArticles news = fetchArticles(newsBase, fetch, range);
+    if (news.articles.empty()) {
+        const bool shows = !news.failed && !archive.empty();
+        return shows ? std::optional(archive.back()) : std::nullopt;
+    }
+    if (!news.failed)
+        store(files, std::move(archive), news.articles);
+    return news.articles.back();
+}
+
+std::optional<std::string> fetchVersion(const std::string& updatesBase, const Fetch& fetch)
+{
+    if (updatesBase.empty())
+        return std::nullopt;
+    const auto fetched = fetch(updatesBase + "quillfen.txt");
+    if (fetched.text.empty() || isErrorPage(fetched))
+        return std::nullopt;
+    return std::string(split(fetched.text, '*').front());
+}
+
+bool offersDownload(const SettingsFiles& files, std::string_view programVersion)
+{
+    return files.ReadTableValue(R"(General\Globals\Version.tbl)", "sVersion") != programVersion;
+}
+
+} // namespace quillfen

@@ -1,0 +1,69 @@
+#include "news/statuspanel.h"
+
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QStyleOptionFocusRect>
+
+#include <algorithm>
+
+namespace quillfen {
+namespace {
+
+constexpr int margin = 6;
+constexpr int widest = 360; ///< what a panel asks for at most; a text from the server may be of any length
+
+} // namespace
+
+StatusPanel::StatusPanel(const QString& key, const QString& text, QWidget* parent) : QLabel(text, parent)
+{
+    setObjectName(key);
+    setTextFormat(Qt::PlainText);
+}
+
+void StatusPanel::setLine(const QString& text)
+{
+    QString line = text;
+    line.replace("\r\n", " ").replace('\n', ' ').replace('\r', ' ');
+    setText(line);
+}
+
+QSize StatusPanel::sizeHint() const
+{
+    return {std::min(fontMetrics().horizontalAdvance(text()) + 2 * margin, widest), fontMetrics().height() + 4};
+}
+
+QSize StatusPanel::minimumSizeHint() const
+{
+    return {0, sizeHint().height()};
+}
+
+void StatusPanel::paintEvent(QPaintEvent* /*event*/)
+{
+    QPainter painter(this);
+    const QRect room = rect().adjusted(margin, 0, -margin, 0);
+    style()->drawItemText(&painter, room, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, palette(),
+                          isEnabled(), fontMetrics().elidedText(text(), Qt::ElideRight, room.width()),
+                          foregroundRole());
+    if (hasFocus()) {
+        QStyleOptionFocusRect focus;
+        focus.initFrom(this);
+        style()->drawPrimitive(QStyle::PE_FrameFocusRect, &focus, &painter, this);
+    }
+}
+
+void StatusPanel::mouseReleaseEvent(QMouseEvent* event)
+{
+    if (event->button() == Qt::LeftButton && rect().contains(event->position().toPoint()))
+        emit clicked();
+}
+
+void StatusPanel::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter || event->key() == Qt::Key_Space)
+        emit clicked();
+    else
+        QLabel::keyPressEvent(event);
+}
+
+} // namespace quillfen
