@@ -7,8 +7,10 @@ int main(int argc, char** argv)
 {
     const QApplication application(argc, argv);
     quillfen::DiskStore disk;
-    quillfen::Program program(disk, QCoreApplication::applicationDirPath(),
-                              {QUILLFEN_VERSION, QStringLiteral(QUILLFEN_WEB_BASE)});
+    quillfen::ProgramInfo info{QUILLFEN_VERSION, QStringLiteral(QUILLFEN_WEB_BASE)};
+    info.newsBase = QStringLiteral(QUILLFEN_NEWS_BASE);
+    info.updatesBase = QStringLiteral(QUILLFEN_UPDATES_BASE);
+    quillfen::Program program(disk, QCoreApplication::applicationDirPath(), std::move(info));
     if (const auto exitCode = program.start())
         return *exitCode;
     program.window().show();

@@ -2,9 +2,12 @@
 
 #include "functions/catalogue.h"
 #include "functions/forms.h"
+#include "news/newsclient.h"
 #include "settings/rebuild.h"
 #include "shell/kit/codepagetext.h"
 #include "shell/kit/messages.h"
+
+#include <QStatusBar>
 
 namespace quillfen {
 
@@ -29,6 +32,9 @@ std::optional<int> Program::start()
         tellFailure(nullptr, m_info.product, error);
         return 1;
     }
+    auto* news = new NewsClient(*m_window->statusBar(), m_files, m_info.version.toStdString(),
+                                {m_info.newsBase.toStdString(), m_info.updatesBase.toStdString()});
+    news->runStart();
     return std::nullopt;
 }
 

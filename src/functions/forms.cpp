@@ -7,13 +7,15 @@
 #include "functions/general/forms.h"
 #include "functions/security/forms.h"
 #include "functions/useractions/forms.h"
+#include "news/newsform.h"
+#include "portal/portalform.h"
 
 namespace quillfen {
 
 const FormCatalogue& formCatalogue()
 {
     static const FormCatalogue catalogue = [] {
-        FormCatalogue all;
+        FormCatalogue all = {{"frmGeneralNews", makeNewsForm}, {"frmCommunicationPortal", makePortalForm}};
         for (const auto& group : {generalForms(), communicationForms(), customiseForms(), gamesForms(),
                                   securityForms(), useractionsForms(), archiveForms()})
             all.insert(all.end(), group.begin(), group.end());

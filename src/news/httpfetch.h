@@ -13,7 +13,9 @@ namespace quillfen {
 class HttpFetch
 {
 public:
-    explicit HttpFetch(std::chrono::milliseconds timeLimit = std::chrono::seconds(5)) : m_timeLimit(timeLimit) {}
+    explicit HttpFetch(std::chrono::milliseconds timeLimit = std::chrono::seconds(5)) : m_timeLimit(timeLimit)
+    {
+    }
 
     /// The text behind an address; empty if it was not to be had.
     FetchedText operator()(const std::string& address);

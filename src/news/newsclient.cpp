@@ -4,7 +4,6 @@
 #include "shell/kit/messages.h"
 #include "shell/kit/units.h"
 
-#include <QElapsedTimer>
 #include <QScopedValueRollback>
 #include <QStatusBar>
 #include <QTimer>
@@ -42,10 +41,9 @@ NewsClient::NewsClient(QStatusBar& statusBar, const SettingsFiles& files, std::s
 
 void NewsClient::runStart(std::chrono::milliseconds wholeLimit)
 {
-    QElapsedTimer elapsed;
-    elapsed.start();
+    const auto end = std::chrono::steady_clock::now() + wholeLimit;
     const auto article = fetchNews(m_files, m_folders.newsBase, [&](const std::string& address) {
-        return elapsed.durationElapsed() < wholeLimit ? m_fetch(address) : FetchedText{{}, false, true};
+        return std::chrono::steady_clock::now() < end ? m_fetch(address) : FetchedText{{}, false, true};
     });
     if (!article)
         return;
@@ -59,7 +57,8 @@ void NewsClient::updateVersion()
     if (m_updating)
         return;
     const QScopedValueRollback updating(m_updating, true);
-    const auto version = fetchVersion(m_folders.updatesBase, [this](const std::string& address) { return m_fetch(address); });
+    const auto version =
+        fetchVersion(m_folders.updatesBase, [this](const std::string& address) { return m_fetch(address); });
     if (!version)
         return;
     m_current->setLine("Current Version = " + fromBytes(*version));

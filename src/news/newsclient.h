@@ -18,16 +18,16 @@ struct WebFolders
     std::string updatesBase{};
 };
 
-/// The four panels of the main window's status bar, and what fills them: the news at the start, and the current
-/// version once a minute.
+/// The four panels of the main window's status bar, and what fills them: the news at the start, and the
+/// current version once a minute.
 class NewsClient : public QObject
 {
     Q_OBJECT
 
 public:
     /// Lays out the status bar, whose child it becomes. The files must live as long.
-    NewsClient(QStatusBar& statusBar, const SettingsFiles& files, std::string programVersion, WebFolders folders,
-               std::chrono::milliseconds timeLimit = std::chrono::seconds(5));
+    NewsClient(QStatusBar& statusBar, const SettingsFiles& files, std::string programVersion,
+               WebFolders folders, std::chrono::milliseconds timeLimit = std::chrono::seconds(5));
 
     /// The start's part: fetches what is new and shows the newest article. Takes no longer than `wholeLimit`,
     /// and one fetch more; what is left comes at the next start.

@@ -10,7 +10,7 @@
 namespace quillfen {
 namespace {
 
-constexpr int margin = 6;
+constexpr int inset = 6;
 constexpr int widest = 360; ///< what a panel asks for at most; a text from the server may be of any length
 
 } // namespace
@@ -30,7 +30,8 @@ void StatusPanel::setLine(const QString& text)
 
 QSize StatusPanel::sizeHint() const
 {
-    return {std::min(fontMetrics().horizontalAdvance(text()) + 2 * margin, widest), fontMetrics().height() + 4};
+    return {std::min(fontMetrics().horizontalAdvance(text()) + 2 * inset, widest),
+            fontMetrics().height() + 4};
 }
 
 QSize StatusPanel::minimumSizeHint() const
@@ -41,7 +42,7 @@ QSize StatusPanel::minimumSizeHint() const
 void StatusPanel::paintEvent(QPaintEvent* /*event*/)
 {
     QPainter painter(this);
-    const QRect room = rect().adjusted(margin, 0, -margin, 0);
+    const QRect room = rect().adjusted(inset, 0, -inset, 0);
     style()->drawItemText(&painter, room, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, palette(),
                           isEnabled(), fontMetrics().elidedText(text(), Qt::ElideRight, room.width()),
                           foregroundRole());

@@ -3,7 +3,8 @@
 namespace quillfen {
 
 LiveLinks::LiveLinks(PortalForm& form)
-    : m_links(form, {wskHubConnection_1, wskListen_1, UDPSock_1}, {wskHubConnection_2, wskListen_2, UDPSock_2})
+    : m_links(form, {wskHubConnection_1, wskListen_1, UDPSock_1},
+              {wskHubConnection_2, wskListen_2, UDPSock_2})
 {
     follow(wskHubConnection_1, UDPSock_1, Link::One);
     follow(wskHubConnection_2, UDPSock_2, Link::Two);
@@ -19,7 +20,8 @@ void LiveLinks::follow(TcpHubSocket& hub, UdpPort& datagrams, Link link)
             [this, link] { run([&] { m_links.datagramArrived(link); }); });
 }
 
-template <typename Operation> void LiveLinks::run(Operation operation)
+template <typename Operation>
+void LiveLinks::run(Operation operation)
 {
     ++m_running;
     operation();

@@ -5,8 +5,8 @@
 
 namespace quillfen {
 
-/// The two links on the platform's sockets. They may outlive the form that hosts them by a moment: when it goes
-/// in the middle of a yield, what runs must come back to something.
+/// The two links on the platform's sockets. They may outlive the form that hosts them by a moment: when it
+/// goes in the middle of a yield, what runs must come back to something.
 class LiveLinks : public QObject
 {
     Q_OBJECT
@@ -28,7 +28,8 @@ public:
 
 private:
     void follow(TcpHubSocket& hub, UdpPort& datagrams, Link link);
-    template <typename Operation> void run(Operation operation);
+    template <typename Operation>
+    void run(Operation operation);
 
     TcpHubSocket wskHubConnection_1{"wskHubConnection_1", this};
     TcpHubSocket wskHubConnection_2{"wskHubConnection_2", this};

@@ -67,13 +67,13 @@ void TcpHubSocket::take()
         post(&TcpHubSocket::DataArrival);
 }
 
-void TcpHubSocket::post(Event event)
+void TcpHubSocket::post(Event arrival)
 {
-    const auto raise = [this, event, connection = m_connection] {
+    const auto raised = [this, arrival, connection = m_connection] {
         if (connection == m_connection)
-            emit(this->*event)();
+            emit(this->*arrival)();
     };
-    QMetaObject::invokeMethod(this, raise, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(this, raised, Qt::QueuedConnection);
 }
 
 void TcpHubSocket::SendData(std::string_view bytes)

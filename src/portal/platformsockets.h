@@ -10,8 +10,8 @@
 namespace quillfen {
 
 /// A hub's TCP connection. Its events are queued and raised from the event loop alone, in the order in which
-/// they came, so that a yield in the middle of one raises the next. What a hub sent before it hung up is raised
-/// before its hanging up.
+/// they came, so that a yield in the middle of one raises the next. What a hub sent before it hung up is
+/// raised before its hanging up.
 class TcpHubSocket : public QObject, public HubSocket
 {
     Q_OBJECT
@@ -34,7 +34,7 @@ private:
     using Event = void (TcpHubSocket::*)();
 
     void take();
-    void post(Event event);
+    void post(Event arrival);
 
     QTcpSocket m_socket;
     SocketState m_state = SocketState::Closed;

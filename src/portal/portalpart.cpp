@@ -43,7 +43,10 @@ std::string lowerCased(const std::string& text)
 
 EditRequest hubRequest(const char* title)
 {
-    return {EditForm::ThreeFields, title, "A", habitualAddMode(EditForm::ThreeFields),
+    return {EditForm::ThreeFields,
+            title,
+            "A",
+            habitualAddMode(EditForm::ThreeFields),
             {"Hub Address", "Client Password", "Client Port"}};
 }
 
@@ -240,8 +243,8 @@ void PortalPart::editHub()
     button(*m_hubBar, "NEW")->setEnabled(true);
 }
 
-/// A full list keeps its NEW button dark after a deletion, until the form is opened again: the button asks for
-/// two rows here, and not for fewer.
+/// A full list keeps its NEW button dark after a deletion, until the form is opened again: the button asks
+/// for two rows here, and not for fewer.
 void PortalPart::deleteHub()
 {
     const int selected = m_hubs->currentRow();

@@ -16,8 +16,8 @@ namespace quillfen {
 
 class RowList;
 
-/// The Portal's controls: the bot's identity, the hubs, whose ticks open and close the links, and the nicks that
-/// are not relayed.
+/// The Portal's controls: the bot's identity, the hubs, whose ticks open and close the links, and the nicks
+/// that are not relayed.
 class PortalPart : public FormPart, private PortalForm
 {
     Q_OBJECT

@@ -133,7 +133,7 @@ TEST_F(PortalFile, MissingBotsGiveOneEmptyNick)
 
 TEST(BotTables, AreOneForEachFunctionThatSpeaks)
 {
-    const auto& functions = botFunctions();
+    const auto functions = botFunctions();
     EXPECT_EQ(functions.size(), 57U);
     EXPECT_EQ(std::set<std::string_view>(functions.begin(), functions.end()).size(), functions.size());
     const auto line = std::accumulate(

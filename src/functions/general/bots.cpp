@@ -1,54 +1,39 @@
 #include "functions/general/bots.h"
 
+#include "settings/bottables.h"
 #include "settings/listfile.h"
 
 namespace quillfen {
 namespace {
 
-constexpr std::string_view botsFile = R"(General\Bots\Bots.tbl)";
 constexpr std::string_view email = "quillfen@example.com"; // one address for every bot
 
-constexpr std::string_view mainFunctions[] = {"Main"};
-constexpr std::string_view communication[] = {"ChatRooms", "MassMessage",         "MOTD",
-                                              "Mute",      "RotatingMainMessage", "RotatingPrivateMessage",
-                                              "Talk",      "WelcomeInfo",         "Whisper"};
-constexpr std::string_view customiseUser[] = {"DescriptionTags", "IntroOutro"};
-constexpr std::string_view games[] = {"Anagrams",    "CodeBreaker",    "GuessTheNumber",
-                                      "Hangman",     "Numbers",        "RussianRoulette",
-                                      "SlotMachine", "ThreeCardMonty", "Trivia"};
-// The groups are as the hub script has them, odd cases included: HideShare under Security, and AutoCorrect,
-// Clock and ProfileRules under UserAction.
-constexpr std::string_view security[] = {
-    "AntiAdvertise", "AntiVirus",      "BadNickBlocker", "ClientChecker", "CloneBlocker", "CommandSpy",
-    "Flood",         "HideShare",      "Kicks",          "MainBlock",     "MainCleaner",  "MainLock",
-    "PrivateHub",    "PtokaXSettings", "Registration",   "Rules",         "SearchSpy",    "UserLog"};
-constexpr std::string_view userAction[] = {"Ascii",        "Attacks",  "AutoCorrect", "Clock",
-                                           "DoAction",     "Insults",  "Jokes",       "Limericks",
-                                           "ProfileRules", "Proverbs", "Quotations",  "Spells"};
-constexpr std::string_view theArchive[] = {"Bookshelf", "DVDRack", "Jukebox",
-                                           "Songbook",  "Arcade",  "Hyperlink"};
+/// The bot that speaks for a group of functions unless the owner gives one of them another.
+struct DefaultBot
+{
+    std::string_view group;
+    std::string_view name;
+    std::string_view description;
+};
 
-constexpr BotGroup groups[] = {
+constexpr DefaultBot defaultBots[] = {
     {"Main", "\x95Quillfen\x95",
      "\x95"
-     "Book Of Magic\x95",
-     mainFunctions},
+     "Book Of Magic\x95"},
     {"Communication",
      "\x95"
      "CommunicationBot\x95",
      "\x95"
-     "Communication Bot\x95",
-     communication},
+     "Communication Bot\x95"},
     {"CustomiseUser",
      "\x95"
      "CustomiseUserBot\x95",
      "\x95"
-     "CustomiseUser Bot\x95",
-     customiseUser},
-    {"Games", "\x95GamesBot\x95", "\x95Games Bot\x95", games},
-    {"Security", "\x95SecurityBot\x95", "\x95Security Bot\x95", security},
-    {"UserAction", "\x95UserActionBot\x95", "\x95UserAction Bot\x95", userAction},
-    {"TheArchive", "\x95UserActionBot\x95", "\x95TheArchive Bot\x95", theArchive}, // the nick is UserAction's
+     "CustomiseUser Bot\x95"},
+    {"Games", "\x95GamesBot\x95", "\x95Games Bot\x95"},
+    {"Security", "\x95SecurityBot\x95", "\x95Security Bot\x95"},
+    {"UserAction", "\x95UserActionBot\x95", "\x95UserAction Bot\x95"},
+    {"TheArchive", "\x95UserActionBot\x95", "\x95TheArchive Bot\x95"}, // the nick is UserAction's
 };
 
 /// The cells of a row.
@@ -61,18 +46,18 @@ enum Cell
     Group
 };
 
-CellRow defaultRow(const BotGroup& group, std::string_view function)
+CellRow defaultRow(const DefaultBot& bot, std::string_view function)
 {
-    return {{std::string(function), std::string(group.name), std::string(group.description),
-             std::string(email), std::string(group.word)}};
+    return {{std::string(function), std::string(bot.name), std::string(bot.description), std::string(email),
+             std::string(bot.group)}};
 }
 
 std::vector<CellRow> defaultRows(const HubProfiles& /*profiles*/)
 {
     std::vector<CellRow> rows;
-    for (const BotGroup& group : groups) {
-        for (const auto function : group.functions)
-            rows.push_back(defaultRow(group, function));
+    for (const DefaultBot& bot : defaultBots) {
+        for (const auto function : botFunctions(bot.group))
+            rows.push_back(defaultRow(bot, function));
     }
     return rows;
 }
@@ -80,10 +65,10 @@ std::vector<CellRow> defaultRows(const HubProfiles& /*profiles*/)
 /// A function that has no block keeps its defaults.
 std::vector<CellRow> loadBots(const SettingsFiles& files, const HubProfiles& profiles)
 {
-    const auto index = files.index(botsFile);
+    const auto index = files.index(botFile);
     auto rows = defaultRows(profiles);
     for (CellRow& row : rows) {
-        const std::string table = "t" + row.cells[Function];
+        const std::string table = botTable(row.cells[Function]);
         const CellRow stored{{row.cells[Function], index.value("sName", table), index.value("sDesc", table),
                               index.value("sEmail", table), index.value("sFunction", table)}};
         if (stored != CellRow{{row.cells[Function], "", "", "", ""}})
@@ -96,7 +81,7 @@ void saveBots(const SettingsFiles& files, const HubProfiles& /*profiles*/, const
 {
     std::string text = "tBots = {\r\n";
     for (const CellRow& row : rows) {
-        text += "\tt" + row.cells[Function] + " = {\r\n";
+        text += '\t' + botTable(row.cells[Function]) + " = {\r\n";
         text += "\t\tsName = \"" + row.cells[Name] + "\",\r\n";
         text += "\t\tsDesc = \"" + row.cells[Description] + "\",\r\n";
         text += "\t\tsEmail = \"" + row.cells[Email] + "\",\r\n";
@@ -104,7 +89,7 @@ void saveBots(const SettingsFiles& files, const HubProfiles& /*profiles*/, const
         text += "\t\tsFunction = \"" + row.cells[Group] + "\",\r\n";
         text += "\t},\r\n";
     }
-    files.WriteSettingsFile(botsFile, text + "}");
+    files.WriteSettingsFile(botFile, text + "}");
 }
 
 RowListDeclaration declaredBots()
@@ -136,11 +121,6 @@ RowListDeclaration declaredBots()
 
 } // namespace
 
-std::span<const BotGroup> botGroups()
-{
-    return groups;
-}
-
 const TableFile& botSettings()
 {
     static const TableFile file = {
@@ -163,7 +143,7 @@ const RowListDeclaration& bots()
 void buildBots(const SettingsFiles& files, const HubProfiles& profiles)
 {
     rebuildTableFile(botSettings(), files, profiles);
-    if (!files.store().exists(files.paths().inSettings(botsFile)))
+    if (!files.store().exists(files.paths().inSettings(botFile)))
         saveBots(files, profiles, defaultRows(profiles));
 }
 

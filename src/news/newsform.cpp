@@ -1,0 +1,125 @@
+#include "news/newsform.h"
+
+#include "news/news.h"
+#include "settings/tablefile.h"
+#include "shell/kit/codepagetext.h"
+#include "shell/kit/editorform.h"
+#include "shell/kit/labels.h"
+#include "shell/kit/messages.h"
+#include "shell/kit/rowlist.h"
+#include "shell/kit/toolbars.h"
+
+#include <QHeaderView>
+
+namespace quillfen {
+namespace {
+
+enum Column
+{
+    Date,
+    Headline,
+    Story,
+    Symbol,
+    Number
+};
+
+CellRow rowOf(const NewsArticle& article)
+{
+    return {{article.date, article.headline, article.story, article.symbol, article.number}};
+}
+
+NewsArticle articleOf(const CellRow& row)
+{
+    return {row.cells[Date], row.cells[Headline], row.cells[Story], row.cells[Symbol], row.cells[Number]};
+}
+
+/// The list of articles with DELETE and EDIT.
+class NewsPart : public FormPart
+{
+public:
+    explicit NewsPart(const FormContext& context)
+        : m_context(context),
+          m_list(new RowList("lvwNews", {"Date", "News Headline", "News Story", "Symbol", "News ID"}, false)),
+          m_toolbar(new QToolBar),
+          m_widget(listWithToolbar({}, m_toolbar, m_list))
+    {
+        m_list->setAccessibleName("News");
+        m_list->header()->resizeSection(Date, 90);
+        m_list->header()->resizeSection(Story, 320);
+        m_list->header()->resizeSection(Symbol, 80);
+        m_toolbar->setObjectName("tlbListview");
+        m_toolbar->setIconSize({16, 16});
+        int index = 0;
+        AddDeleteButton(*m_toolbar, index);
+        AddEditButton(*m_toolbar, index);
+        connectButton(*m_toolbar, "DELETE", this, &NewsPart::removeSelected);
+        connectButton(*m_toolbar, "EDIT", this, &NewsPart::showSelected);
+        connect(m_list, &RowList::deleteAsked, this, &NewsPart::removeSelected);
+        connect(m_list, &RowList::editAsked, this, &NewsPart::showSelected);
+        connect(m_list, &RowList::countChanged, this, &NewsPart::followRows);
+        followRows();
+    }
+
+    QWidget* widget() override { return m_widget; }
+
+    void load() override
+    {
+        std::vector<CellRow> rows;
+        for (const NewsArticle& article : loadNews(m_context.files))
+            rows.push_back(rowOf(article));
+        m_list->setRows(std::move(rows));
+    }
+
+    void restore() override {} // there are no articles by default
+
+    void save() override
+    {
+        std::vector<NewsArticle> articles;
+        for (const CellRow& row : m_list->rows())
+            articles.push_back(articleOf(row));
+        saveNews(m_context.files, articles);
+    }
+
+private:
+    void removeSelected()
+    {
+        const int selected = m_list->currentRow();
+        if (selected < 0 ||
+            !confirm(m_list, "Delete News Article?", "Do you really want to delete this News Article?"))
+            return;
+        m_list->remove(selected);
+        emit changed();
+    }
+
+    void showSelected()
+    {
+        const int selected = m_list->currentRow();
+        if (selected < 0)
+            return;
+        const auto article = articleOf(m_list->rows()[static_cast<std::size_t>(selected)]);
+        notify(m_list, fromBytes(article.date) + " - " + fromBytes(article.headline),
+               fromBytes(article.story), QMessageBox::NoIcon);
+    }
+
+    void followRows()
+    {
+        for (const char* key : {"DELETE", "EDIT"})
+            button(*m_toolbar, key)->setEnabled(!m_list->isEmpty());
+    }
+
+    FormContext m_context;
+    RowList* m_list;
+    QToolBar* m_toolbar;
+    QWidget* m_widget;
+};
+
+} // namespace
+
+EditorForm* makeNewsForm(const FormContext& context)
+{
+    auto* form = new EditorForm({"frmGeneralNews", "General ~ News", {6000, 4500}});
+    form->add(new NewsPart(context));
+    return form;
+}
+
+} // namespace quillfen
