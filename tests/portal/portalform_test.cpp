@@ -118,12 +118,13 @@ TEST_F(PortalForm, IsSavedAsItWasEdited)
         nicks().select(0);
         answering(QMessageBox::Ok, [this] { nickButton("DELETE").trigger(); });
     }
-    through(hubButton("NEW"), {{{"one.hub:411", "secret", "5001"}, "cmdAdd"},
-                               {{"two.hub:412", "x", "5002"}, "cmdOK"}});
+    through(hubButton("NEW"),
+            {{{"one.hub:411", "secret", "5001"}, "cmdAdd"}, {{"two.hub:412", "x", "5002"}, "cmdOK"}});
     through(nickButton("NEW"), {{{"SPAM"}, "cmdAdd"}, {{"x"}, "cmdOK"}});
     nicks().select(1);
     through(nickButton("EDIT"), {{{"Loud"}, "cmdOK"}});
-    EXPECT_EQ(shown(nicks()), (QStringList{"spam", "Loud"})) << "an added nick is lowered, an edited one is not";
+    EXPECT_EQ(shown(nicks()), (QStringList{"spam", "Loud"}))
+        << "an added nick is lowered, an edited one is not";
     save();
     EXPECT_FALSE(isDirty(form()));
     std::string expected = saved();
@@ -168,11 +169,12 @@ TEST_F(PortalForm, AnIgnoreListThatWasEmptiedAndSavedIsFilledAgain)
     EXPECT_TRUE(settings.ends_with("\ttIgnoreNicks = {\r\n\t},\r\n"));
     form().parentWidget()->close();
     QTest::qWait(1);
-    EXPECT_EQ(shown(nicks()),
-              QStringList({QStringLiteral(u"\u2022CommunicationBot\u2022"),
-                           QStringLiteral(u"\u2022CustomiseUserBot\u2022"), QStringLiteral(u"\u2022GamesBot\u2022"),
-                           QStringLiteral(u"\u2022Quillfen\u2022"), QStringLiteral(u"\u2022SecurityBot\u2022"),
-                           QStringLiteral(u"\u2022UserActionBot\u2022")}));
+    EXPECT_EQ(
+        shown(nicks()),
+        QStringList({QStringLiteral(u"\u2022CommunicationBot\u2022"),
+                     QStringLiteral(u"\u2022CustomiseUserBot\u2022"), QStringLiteral(u"\u2022GamesBot\u2022"),
+                     QStringLiteral(u"\u2022Quillfen\u2022"), QStringLiteral(u"\u2022SecurityBot\u2022"),
+                     QStringLiteral(u"\u2022UserActionBot\u2022")}));
 }
 
 TEST_F(PortalForm, AFullHubListOffersNoMore)
