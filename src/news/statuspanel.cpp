@@ -11,6 +11,7 @@ namespace quillfen {
 namespace {
 
 constexpr int inset = 6;
+constexpr int rounding = 2; ///< a text's width is a fraction, and cutting it takes that exactly
 constexpr int widest = 360; ///< what a panel asks for at most; a text from the server may be of any length
 
 } // namespace
@@ -30,7 +31,7 @@ void StatusPanel::setLine(const QString& text)
 
 QSize StatusPanel::sizeHint() const
 {
-    return {std::min(fontMetrics().horizontalAdvance(text()) + 2 * inset, widest),
+    return {std::min(fontMetrics().horizontalAdvance(text()) + 2 * inset + rounding, widest),
             fontMetrics().height() + 4};
 }
 

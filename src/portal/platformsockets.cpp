@@ -116,14 +116,8 @@ void TcpListener::Listen(std::string_view port)
 UdpPort::UdpPort(const QString& name, QObject* parent) : QObject(parent)
 {
     setObjectName(name);
-    // Queued as the hub's events are: what hears of it may show a box.
-    connect(&m_socket, &QUdpSocket::readyRead, this, &UdpPort::raise, Qt::QueuedConnection);
-}
-
-void UdpPort::raise()
-{
-    if (m_socket.hasPendingDatagrams())
-        emit DataArrival();
+    // Not queued: Qt raises the next datagram only to who reads this one at once.
+    connect(&m_socket, &QUdpSocket::readyRead, this, &UdpPort::DataArrival);
 }
 
 SocketState UdpPort::State() const

@@ -73,8 +73,6 @@ signals:
     void DataArrival();
 
 private:
-    void raise();
-
     QUdpSocket m_socket;
 };
 

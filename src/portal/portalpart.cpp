@@ -13,6 +13,7 @@
 #include <QFormLayout>
 #include <QHeaderView>
 #include <QLineEdit>
+#include <QMouseEvent>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -73,17 +74,30 @@ QToolBar* listToolbar(const QString& name)
     return toolbar;
 }
 
-/// The widths that the hub list's columns keep: half of it, a quarter, and the rest.
-class HubColumns : public QObject
+/// Keeps the hub list's columns at half of its width, a quarter, and a little less than a quarter. And since
+/// a tick works on the selected row, a press on a tick box, which by itself selects nothing, selects its row
+/// first.
+class HubListHabits : public QObject
 {
 public:
-    explicit HubColumns(RowList& list) : QObject(&list), m_list(list) { list.installEventFilter(this); }
+    explicit HubListHabits(RowList& list) : QObject(&list), m_list(list)
+    {
+        list.header()->setStretchLastSection(false);
+        list.installEventFilter(this);
+        list.viewport()->installEventFilter(this);
+    }
 
     bool eventFilter(QObject* watched, QEvent* event) override
     {
-        if (event->type() == QEvent::Resize) {
+        if (watched == &m_list && event->type() == QEvent::Resize) {
             m_list.header()->resizeSection(0, m_list.width() / 2);
             m_list.header()->resizeSection(1, m_list.width() / 4);
+            m_list.header()->resizeSection(2, m_list.width() / 4 - twips(300));
+        }
+        if (watched == m_list.viewport() && event->type() == QEvent::MouseButtonPress) {
+            const auto at = m_list.indexAt(static_cast<QMouseEvent*>(event)->position().toPoint());
+            if (at.isValid())
+                m_list.select(at.row());
         }
         return QObject::eventFilter(watched, event);
     }
@@ -104,7 +118,7 @@ PortalPart::PortalPart(const FormContext& context)
       m_live(new LiveLinks(*this))
 {
     m_hubs->setColumnHidden(static_cast<int>(HubColumn::HubName), true);
-    new HubColumns(*m_hubs);
+    new HubListHabits(*m_hubs);
     m_nicks->setColumnHidden(0, true);
     connectLists();
     followRows();

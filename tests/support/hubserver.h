@@ -23,6 +23,8 @@ public:
 
     void say(const QByteArray& bytes) const
     {
+        if (!m_user)
+            return;
         m_user->write(bytes);
         m_user->flush();
     }
@@ -30,6 +32,8 @@ public:
     /// Says something a byte at a time, each in a packet of its own as far as the platform lets it.
     void sayByteByByte(const QByteArray& bytes) const
     {
+        if (!m_user)
+            return;
         m_user->setSocketOption(QAbstractSocket::LowDelayOption, 1);
         for (const char& byte : bytes) {
             m_user->write(&byte, 1);

@@ -59,10 +59,10 @@ TEST_F(Bots, AFunctionWithoutABlockHasTheDefaultsOfItsGroup)
 
 TEST_F(Bots, TheArchivesNickIsTheUserActionsOne)
 {
-    const auto groups = botGroups();
-    EXPECT_EQ(groups.back().word, "TheArchive");
-    EXPECT_EQ(groups.back().name, "\x95UserActionBot\x95");
-    EXPECT_EQ(groups.back().description, "\x95TheArchive Bot\x95");
+    const auto last = bots().restored(hub.profiles).back().cells;
+    EXPECT_EQ(last[4], "TheArchive");
+    EXPECT_EQ(last[1], "\x95UserActionBot\x95");
+    EXPECT_EQ(last[2], "\x95TheArchive Bot\x95");
 }
 
 TEST_F(Bots, TheHubScriptSeesEachBot)
