@@ -4,6 +4,7 @@
 #include "settings/rebuild.h"
 #include "settings/tablefile.h"
 #include "support/plainscan.h"
+#include "support/portalfakes.h"
 
 #include <benchmark/benchmark.h>
 #include <filesystem>
@@ -86,6 +87,35 @@ void rebuildTree(benchmark::State& state)
     std::filesystem::remove_all(folder.parent_path());
 }
 
+/// A burst of chat from hub 1 to hub 2, in one go or a byte at a time.
+void relayBurst(benchmark::State& state, std::size_t piece)
+{
+    std::string burst;
+    for (int line = 0; line < state.range(0); ++line)
+        burst += "<user> line " + std::to_string(line) + '|';
+    for (auto _ : state) {
+        test::PortalFixture portal;
+        portal.logIn(Link::One);
+        portal.logIn(Link::Two);
+        for (std::size_t at = 0; at < burst.size(); at += piece)
+            portal.hear(Link::One, std::string_view(burst).substr(at, piece));
+        benchmark::DoNotOptimize(portal.two.hub.sent.size());
+    }
+    state.SetItemsProcessed(state.iterations() * state.range(0));
+}
+
+void relayInOneGo(benchmark::State& state)
+{
+    relayBurst(state, std::size_t{1} << 40U);
+}
+
+void relayByteByByte(benchmark::State& state)
+{
+    relayBurst(state, 1);
+}
+
+BENCHMARK(relayInOneGo)->Arg(10'000)->Arg(100'000)->Arg(1'000'000)->Unit(benchmark::kMillisecond);
+BENCHMARK(relayByteByByte)->Arg(10'000)->Arg(100'000)->Arg(1'000'000)->Unit(benchmark::kMillisecond);
 BENCHMARK(indexedGrid)->Arg(5)->Arg(20)->Arg(64)->Unit(benchmark::kMillisecond);
 BENCHMARK(scannedGrid)->Arg(5)->Arg(20)->Arg(64)->Unit(benchmark::kMillisecond);
 BENCHMARK(rebuildTree)->Arg(5)->Arg(20)->Arg(64)->Unit(benchmark::kMillisecond);

@@ -101,9 +101,9 @@ void walk(quillfen::MainWindow& window, Tour& tour)
                                   tour.picture(box, "09-about");
                                   box.close();
                               });
-    for (const char* key :
-         {"General~Bots", "General~Commands", "Communication~TopicChanger", "Games~Trivia~Settings",
-          "Games~Trivia~Questions", "Security~Kicks~Settings", "Security~Kicks~Permissions"})
+    for (const char* key : {"General~Bots", "General~Commands", "General~News", "Communication~Portal",
+                            "Communication~TopicChanger", "Games~Trivia~Settings", "Games~Trivia~Questions",
+                            "Security~Kicks~Settings", "Security~Kicks~Permissions"})
         visit(window, tour, key);
 }
 
