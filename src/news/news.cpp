@@ -149,6 +149,7 @@ std::vector<NewsArticle> loadNews(const SettingsFiles& files)
     std::vector<ListRow> rows;
     files.ReadTableToList(newsFile, rows, "=", "tNews", Rows::Plain, appRelative);
     std::vector<NewsArticle> articles;
+    articles.reserve(rows.size());
     for (ListRow& row : rows)
         articles.push_back(articleOf(split(row.second, '|'), std::move(row.text)));
     return articles;

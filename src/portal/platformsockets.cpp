@@ -12,10 +12,10 @@ namespace quillfen {
 namespace {
 
 /// Received in one piece, so that a burst is handled in pieces and the window lives on between them.
-constexpr qint64 pieceSize = 64 * 1024;
+constexpr qint64 pieceSize = qint64{64} * 1024;
 
 /// A hub that leaves so much of what it is sent is not there any more.
-constexpr qint64 unsentLimit = 64 * 1024 * 1024;
+constexpr qint64 unsentLimit = qint64{64} * 1024 * 1024;
 
 quint16 portNumber(std::string_view text)
 {

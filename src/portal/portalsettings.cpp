@@ -29,6 +29,7 @@ std::vector<std::string> loadIgnoreNicks(const SettingsFiles& files)
     std::vector<ListRow> rows;
     files.ReadTableToList(file, rows, "=", "tIgnoreNicks");
     std::vector<std::string> nicks;
+    nicks.reserve(rows.size());
     for (const ListRow& row : rows)
         nicks.push_back(row.second);
     return nicks;
