@@ -42,7 +42,6 @@ FetchedText HttpFetch::operator()(const std::string& address)
     if (!isWebAddress(url))
         return {};
     const std::unique_ptr<QNetworkReply> reply(m_network.get(requestOf(url)));
-    reply->setReadBufferSize(sizeLimit + 1);
     QEventLoop loop;
     QObject::connect(reply.get(), &QNetworkReply::redirected, &loop, [&](const QUrl& target) {
         if (mayFollow(url, target))

@@ -129,7 +129,8 @@ TEST_F(HttpFetchTest, ARedirectInACircleEnds)
     server.redirect("a.txt", "/b.txt");
     server.redirect("b.txt", "/a.txt");
     EXPECT_EQ(fetched("a.txt").text, "");
-    EXPECT_LE(server.asked.size(), 7);
+    // Six requests, each of which Qt may repeat on a connection that was closed on it.
+    EXPECT_LE(server.asked.size(), 14);
 }
 
 TEST_F(HttpFetchTest, WhatIsNoWebAddressIsNotFetched)
