@@ -89,12 +89,13 @@ public:
 
     bool eventFilter(QObject* watched, QEvent* event) override
     {
-        if (watched == &m_list && event->type() == QEvent::Resize) {
+        if (event->type() == QEvent::Resize && watched == &m_list) {
             m_list.header()->resizeSection(0, m_list.width() / 2);
             m_list.header()->resizeSection(1, m_list.width() / 4);
             m_list.header()->resizeSection(2, m_list.width() / 4 - twips(300));
         }
-        if (watched == m_list.viewport() && event->type() == QEvent::MouseButtonPress) {
+        // The kind of event is asked first: others still come while the list is being taken down.
+        if (event->type() == QEvent::MouseButtonPress && watched == m_list.viewport()) {
             const auto at = m_list.indexAt(static_cast<QMouseEvent*>(event)->position().toPoint());
             if (at.isValid())
                 m_list.select(at.row());
