@@ -4,10 +4,12 @@
 #include <QNetworkReply>
 #include <QTimer>
 
-#include <memory>
+#include <algorithm>
 
 namespace quillfen {
 namespace {
+
+constexpr int mostRedirects = 5;
 
 bool isWebAddress(const QUrl& address)
 {
@@ -17,9 +19,7 @@ bool isWebAddress(const QUrl& address)
 QNetworkRequest requestOf(const QUrl& address)
 {
     QNetworkRequest request(address);
-    request.setAttribute(QNetworkRequest::RedirectPolicyAttribute,
-                         QNetworkRequest::UserVerifiedRedirectPolicy);
-    request.setMaximumRedirectsAllowed(5);
+    request.setAttribute(QNetworkRequest::RedirectPolicyAttribute, QNetworkRequest::ManualRedirectPolicy);
     request.setAttribute(QNetworkRequest::CookieLoadControlAttribute, QNetworkRequest::Manual);
     request.setAttribute(QNetworkRequest::CookieSaveControlAttribute, QNetworkRequest::Manual);
     request.setRawHeader("Accept-Encoding", "identity"); // so that the size limit is that of the text
@@ -38,24 +38,35 @@ bool mayFollow(const QUrl& from, const QUrl& to)
 
 FetchedText HttpFetch::operator()(const std::string& address)
 {
-    const QUrl url(QString::fromStdString(address));
-    if (!isWebAddress(url))
-        return {};
-    const std::unique_ptr<QNetworkReply> reply(m_network.get(requestOf(url)));
+    const auto end = std::chrono::steady_clock::now() + m_timeLimit;
+    QUrl url(QString::fromStdString(address));
+    for (int redirects = 0; isWebAddress(url) && redirects <= mostRedirects; ++redirects) {
+        const auto left = end - std::chrono::steady_clock::now();
+        const auto reply = finished(url, std::chrono::ceil<std::chrono::milliseconds>(left));
+        const auto target = reply->attribute(QNetworkRequest::RedirectionTargetAttribute).toUrl();
+        if (target.isEmpty())
+            return answer(*reply);
+        const QUrl next = url.resolved(target);
+        if (!mayFollow(url, next))
+            return {};
+        url = next;
+    }
+    return {};
+}
+
+std::unique_ptr<QNetworkReply> HttpFetch::finished(const QUrl& url, std::chrono::milliseconds timeLimit)
+{
+    std::unique_ptr<QNetworkReply> reply(m_network.get(requestOf(url)));
     QEventLoop loop;
-    QObject::connect(reply.get(), &QNetworkReply::redirected, &loop, [&](const QUrl& target) {
-        if (mayFollow(url, target))
-            emit reply->redirectAllowed();
-    });
-    QObject::connect(reply.get(), &QNetworkReply::readyRead, &loop, [&] {
+    QObject::connect(reply.get(), &QNetworkReply::readyRead, &loop, [&reply] {
         if (reply->bytesAvailable() > sizeLimit)
             reply->abort();
     });
     QObject::connect(reply.get(), &QNetworkReply::finished, &loop, &QEventLoop::quit);
-    QTimer::singleShot(m_timeLimit, reply.get(), &QNetworkReply::abort);
+    QTimer::singleShot(std::max(timeLimit, std::chrono::milliseconds(0)), reply.get(), &QNetworkReply::abort);
     if (!reply->isFinished())
         loop.exec(QEventLoop::ExcludeUserInputEvents);
-    return answer(*reply);
+    return reply;
 }
 
 FetchedText HttpFetch::answer(QNetworkReply& reply) const

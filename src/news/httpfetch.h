@@ -3,8 +3,10 @@
 #include "news/news.h"
 
 #include <QNetworkAccessManager>
+#include <QNetworkReply>
 
 #include <chrono>
+#include <memory>
 
 namespace quillfen {
 
@@ -23,6 +25,7 @@ public:
     static constexpr qint64 sizeLimit = 1 << 20;
 
 private:
+    std::unique_ptr<QNetworkReply> finished(const QUrl& url, std::chrono::milliseconds timeLimit);
     FetchedText answer(QNetworkReply& reply) const;
 
     QNetworkAccessManager m_network;
