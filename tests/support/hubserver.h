@@ -58,6 +58,7 @@ public:
     int denials = 0;     ///< how often it denies the nick
     bool greets = true;  ///< whether it opens the dialogue
     QByteArray heard;    ///< all that was said to it
+    bool lists = false;  ///< whether it tells its nicks and operators
     int connections = 0;
 
 private:
@@ -92,7 +93,7 @@ private:
             } else if (message.startsWith("$MyPass ")) {
                 say(message.mid(8) == password ? "$LogedIn " + m_nick + "|$Hello " + m_nick + '|'
                                                : QByteArray("$BadPass|"));
-            } else if (message == "$GetNickList") {
+            } else if (message == "$GetNickList" && lists) {
                 say("$NickList " + m_nick + "$$op$$|$OpList op$$|");
             }
         }
