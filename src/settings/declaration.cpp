@@ -155,7 +155,7 @@ Setting profileFlags(std::string key, std::string control, std::string label)
     return {Setting::Kind::Profiles, std::move(key), std::move(control), std::move(label)};
 }
 
-Setting flags(std::string key, std::string control, std::string label, std::vector<std::string> entries)
+Setting namedFlags(std::string key, std::string control, std::string label, std::vector<std::string> entries)
 {
     Setting setting = profileFlags(std::move(key), std::move(control), std::move(label));
     setting.kind = Setting::Kind::Flags;
@@ -203,7 +203,8 @@ SettingValues rebuilt(const TableFile& file, const TableIndex& index, const HubP
 {
     return gathered(
         file, profiles, [&](const Setting& setting, const std::string& key, const std::string& table) {
-            const auto value = index.value(key, table.empty() ? file.table : table);
+            const std::string& home = setting.nest.empty() ? file.table : setting.nest;
+            const auto value = index.value(key, table.empty() ? home : table);
             return value.empty() || setting.resets ? setting.rebuildStandard.value_or(setting.standard)
                                                    : value;
         });

@@ -64,7 +64,7 @@ Setting options(std::string key, std::string control, std::string label, std::st
 
 Setting profileFlags(std::string key, std::string control, std::string label);
 
-Setting flags(std::string key, std::string control, std::string label, std::vector<std::string> entries);
+Setting namedFlags(std::string key, std::string control, std::string label, std::vector<std::string> entries);
 
 /// The default is the letter. A letter of no entry shows as no choice.
 Setting letter(std::string key, std::string control, std::string label, std::string standard,

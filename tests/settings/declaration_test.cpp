@@ -218,7 +218,7 @@ TEST_F(Declaration, NeighboursOfOneNestedTableShareIt)
 
 TEST_F(Declaration, NamedFlagsStandInATableOfTheirOwn)
 {
-    const TableFile file = only(flags("tBlock", "lvwBlocked", "Blocked", {"Active", "Passive"}));
+    const TableFile file = only(namedFlags("tBlock", "lvwBlocked", "Blocked", {"Active", "Passive"}));
     const std::string bytes =
         "tSample = {\r\n\ttBlock = {\r\n\t\tbActive = 0,\r\n\t\tbPassive = 1,\r\n\t},\r\n}";
     const auto values = loaded(file, TableIndex(bytes), hub.profiles);
