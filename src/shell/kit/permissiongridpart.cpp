@@ -99,9 +99,11 @@ private:
         case 2:
             if (!m_words.targets)
                 return cell.allowed ? m_words.yes : m_words.no;
-            return !above || above->on != cell.on ? profile(cell.on) : QString();
-        default:
+            return m_words.namesTarget || !above || above->on != cell.on ? profile(cell.on) : QString();
+        case 3:
             return cell.allowed ? m_words.yes : m_words.no;
+        default:
+            return fromBytes(HubProfiles::key(column == 4 ? cell.by : cell.on));
         }
     }
 
@@ -154,6 +156,8 @@ PermissionGridPart::PermissionGridPart(GridSource source, GridWords words, const
     m_list->setModel(m_model);
     m_list->setAccessibleName("Permissions");
     m_list->header()->setDefaultSectionSize(m_list->fontMetrics().averageCharWidth() * 22);
+    for (int column = 4; column < m_words.columns.size(); ++column)
+        m_list->setColumnHidden(column, true);
     buildToolbar();
     m_list->setDoubleClickEdits(!m_words.clickToggles);
     if (m_words.clickToggles)
