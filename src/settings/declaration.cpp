@@ -97,8 +97,10 @@ std::vector<const Setting*> inOrder(const TableFile& file, RowOrder order)
 {
     std::vector<const Setting*> settings;
     if (order == RowOrder::Save || file.rebuildOrder.empty()) {
-        for (const Setting& setting : file.settings)
-            settings.push_back(&setting);
+        for (const Setting& setting : file.settings) {
+            if (setting.saved || order == RowOrder::Rebuild)
+                settings.push_back(&setting);
+        }
         return settings;
     }
     for (const std::string& key : file.rebuildOrder) {
@@ -175,6 +177,12 @@ Setting letter(std::string key, std::string control, std::string label, std::str
 std::string flagRow(const Setting& setting, const std::string& entry)
 {
     return setting.key + "/b" + entry;
+}
+
+Setting notSaved(Setting setting)
+{
+    setting.saved = false;
+    return setting;
 }
 
 std::string profileRow(const Setting& setting, std::size_t row)

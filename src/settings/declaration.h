@@ -49,6 +49,7 @@ struct Setting
 
     /// What a load shows for a stored text, where it isn't the text itself.
     std::function<std::string(const std::string& stored)> shown{};
+    bool saved = true; ///< false: only the rebuild writes it; the form has no control for it
 };
 
 Setting flag(std::string key, std::string control, std::string label, std::string standard);
@@ -69,6 +70,8 @@ Setting namedFlags(std::string key, std::string control, std::string label, std:
 /// The default is the letter. A letter of no entry shows as no choice.
 Setting letter(std::string key, std::string control, std::string label, std::string standard,
                std::vector<std::string> entries);
+/// The same setting without a control: the rebuild keeps it, each save of the form drops it.
+Setting notSaved(Setting setting);
 
 /// A settings file: one table, its settings in the order of the form's save, and the order of the rebuild
 /// where it is another.

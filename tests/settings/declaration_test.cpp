@@ -122,6 +122,19 @@ TEST_F(Declaration, ReadsItsFileOnceForAllItsSettings)
     EXPECT_EQ(hub.store.readings[hub.root + "/A.tbl"], 1);
 }
 
+TEST_F(Declaration, AKeyThatIsNotSavedIsKeptByARebuildAndDroppedByASave)
+{
+    const TableFile file = {
+        "A.tbl",
+        "tSample",
+        {notSaved(text("sHidden", "", "", "x")), flag("bFlag", "chkCheckBox", "Flag", "1")}};
+    const TableIndex index("tSample = {\r\n\tsHidden = \"t\",\r\n}");
+    const auto values = rebuilt(file, index, hub.profiles);
+    EXPECT_EQ(composed(file, values, RowOrder::Rebuild, hub.profiles),
+              "tSample = {\r\n\tsHidden = \"t\",\r\n\tbFlag = 1,\r\n}");
+    EXPECT_EQ(composed(file, values, RowOrder::Save, hub.profiles), "tSample = {\r\n\tbFlag = 1,\r\n}");
+}
+
 TEST_F(Declaration, FaultsAreFound)
 {
     EXPECT_TRUE(faults(sample()).empty());

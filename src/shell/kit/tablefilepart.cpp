@@ -46,15 +46,20 @@ TableFilePart::TableFilePart(const TableFile& file, const FormContext& context)
     : m_file(file),
       m_context(context)
 {
-    for (const Setting& setting : file.settings)
+    for (const Setting& setting : file.settings) {
+        if (!setting.saved)
+            continue;
+        m_settings.push_back(&setting);
         m_controls.push_back(makeControl(setting, context.profiles, [this] { emit changed(); }));
+    }
     m_widget = placed();
 }
 
 QWidget* TableFilePart::placed() const
 {
-    const auto lists = std::count_if(m_file.settings.begin(), m_file.settings.end(), isCheckList);
-    const auto beside = static_cast<std::ptrdiff_t>(m_file.settings.size()) - lists;
+    const auto lists = std::count_if(m_settings.begin(), m_settings.end(),
+                                     [](const Setting* setting) { return isCheckList(*setting); });
+    const auto beside = static_cast<std::ptrdiff_t>(m_settings.size()) - lists;
     const bool crowded = beside > 12; // then check boxes and options get a column of their own
     const bool manyLists = lists > 3; // then they stand below the fields, side by side
     auto* choices = new QFormLayout;
@@ -63,7 +68,7 @@ QWidget* TableFilePart::placed() const
     int labels = 0;
     int place = 0;
     for (std::size_t at = 0; at < m_controls.size(); ++at) {
-        const Setting& setting = m_file.settings[at];
+        const Setting& setting = *m_settings[at];
         QWidget* control = m_controls[at].widget;
         if (setting.kind == Setting::Kind::Flag || setting.kind == Setting::Kind::Options) {
             (crowded ? choices : fields)->addRow(control);
