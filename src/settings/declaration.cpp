@@ -21,7 +21,7 @@ std::vector<FlagRow> flagRows(const Setting& setting, const HubProfiles& profile
 {
     std::vector<FlagRow> rows;
     if (setting.kind == Setting::Kind::Profiles) {
-        for (std::size_t row = 0; row < profiles.count(); ++row) {
+        for (std::size_t row = setting.firstProfile; row < profiles.count(); ++row) {
             const std::string key = HubProfiles::key(row);
             rows.push_back({profileRow(setting, row), key, "[" + key + "]"});
         }
@@ -177,6 +177,13 @@ Setting letter(std::string key, std::string control, std::string label, std::str
 std::string flagRow(const Setting& setting, const std::string& entry)
 {
     return setting.key + "/b" + entry;
+}
+
+Setting hubProfileFlags(std::string key, std::string control, std::string label)
+{
+    Setting setting = profileFlags(std::move(key), std::move(control), std::move(label));
+    setting.firstProfile = 1;
+    return setting;
 }
 
 Setting notSaved(Setting setting)

@@ -49,7 +49,9 @@ struct Setting
 
     /// What a load shows for a stored text, where it isn't the text itself.
     std::function<std::string(const std::string& stored)> shown{};
-    bool saved = true; ///< false: only the rebuild writes it; the form has no control for it
+
+    std::size_t firstProfile = 0; ///< the first row of the profiles: 1 leaves "Unregistered" out
+    bool saved = true;            ///< false: only the rebuild writes it; the form has no control for it
 };
 
 Setting flag(std::string key, std::string control, std::string label, std::string standard);
@@ -70,6 +72,10 @@ Setting namedFlags(std::string key, std::string control, std::string label, std:
 /// The default is the letter. A letter of no entry shows as no choice.
 Setting letter(std::string key, std::string control, std::string label, std::string standard,
                std::vector<std::string> entries);
+
+/// Profile flags without "Unregistered": the first row is the hub's first profile, 0.
+Setting hubProfileFlags(std::string key, std::string control, std::string label);
+
 /// The same setting without a control: the rebuild keeps it, each save of the form drops it.
 Setting notSaved(Setting setting);
 

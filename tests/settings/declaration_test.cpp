@@ -135,6 +135,16 @@ TEST_F(Declaration, AKeyThatIsNotSavedIsKeptByARebuildAndDroppedByASave)
     EXPECT_EQ(composed(file, values, RowOrder::Save, hub.profiles), "tSample = {\r\n\tbFlag = 1,\r\n}");
 }
 
+TEST_F(Declaration, AProfileTableCanBeginWithTheHubsFirstProfile)
+{
+    hub.profiles.add("VIP");
+    const TableFile file = {"A.tbl", "tSample", {hubProfileFlags("tCreate", "lvwCreate", "Create")}};
+    const TableIndex index("tSample = {\r\n\ttCreate = {\r\n\t\t[-1] = 1,\r\n\t\t[1] = 1,\r\n\t},\r\n}");
+    const std::string expected = "tSample = {\r\n\ttCreate = {\r\n\t\t[0] = 0,\r\n\t\t[1] = 1,\r\n\t},\r\n}";
+    EXPECT_EQ(composed(file, loaded(file, index, hub.profiles), RowOrder::Save, hub.profiles), expected);
+    EXPECT_EQ(composed(file, rebuilt(file, index, hub.profiles), RowOrder::Rebuild, hub.profiles), expected);
+}
+
 TEST_F(Declaration, FaultsAreFound)
 {
     EXPECT_TRUE(faults(sample()).empty());

@@ -141,7 +141,7 @@ Control checkList(const Setting& setting, const std::vector<std::pair<std::strin
 Control profileList(const Setting& setting, const HubProfiles& profiles, const std::function<void()>& changed)
 {
     std::vector<std::pair<std::string, std::string>> flags;
-    for (std::size_t row = 0; row < profiles.count(); ++row)
+    for (std::size_t row = setting.firstProfile; row < profiles.count(); ++row)
         flags.emplace_back(profiles.names()[row], profileRow(setting, row));
     return checkList(setting, flags, changed);
 }
