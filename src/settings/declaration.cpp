@@ -243,6 +243,15 @@ void rebuildTableFile(const TableFile& file, const SettingsFiles& files, const H
     files.WriteSettingsFile(file.path, composed(file, values, RowOrder::Rebuild, profiles));
 }
 
+void saveTableFile(const TableFile& file, const SettingValues& values, const SettingsFiles& files,
+                   const HubProfiles& profiles)
+{
+    const std::string folder = files.paths().resolve(file.path.substr(0, file.path.find_last_of('\\')));
+    if (file.makesFolder && !files.store().exists(folder))
+        files.store().makeFolder(folder);
+    files.WriteSettingsFile(file.path, composed(file, values, RowOrder::Save, profiles));
+}
+
 std::vector<std::string> faults(const TableFile& file)
 {
     std::vector<std::string> found;

@@ -87,6 +87,7 @@ struct TableFile
     std::string table;
     std::vector<Setting> settings;
     std::vector<std::string> rebuildOrder{};
+    bool makesFolder = false; ///< a save makes the folder that no rebuild makes
 };
 
 /// The texts of a file's settings by key; the row of a profile stands under profileRow(), that
@@ -123,6 +124,10 @@ std::string composed(const TableFile& file, const SettingValues& values, RowOrde
 /// The build routine of a declared file: rebuilt() values, in the rebuild's order, written. Throws
 /// StoreError.
 void rebuildTableFile(const TableFile& file, const SettingsFiles& files, const HubProfiles& profiles);
+
+/// Writes what a form holds, in the save's order. Throws StoreError.
+void saveTableFile(const TableFile& file, const SettingValues& values, const SettingsFiles& files,
+                   const HubProfiles& profiles);
 
 /// What is wrong with a declaration: a key named twice, a rebuild order that misses a key. Empty if nothing
 /// is.

@@ -145,6 +145,16 @@ TEST_F(Declaration, AProfileTableCanBeginWithTheHubsFirstProfile)
     EXPECT_EQ(composed(file, rebuilt(file, index, hub.profiles), RowOrder::Rebuild, hub.profiles), expected);
 }
 
+TEST_F(Declaration, ASaveMakesItsFolderOnlyWhereThatIsDeclared)
+{
+    TableFile file = {"Own\\A.tbl", "tSample", {flag("bFlag", "chkCheckBox", "Flag", "1")}};
+    EXPECT_THROW(saveTableFile(file, {{"bFlag", "0"}}, hub.files, hub.profiles), StoreError);
+    file.makesFolder = true;
+    for (const char* value : {"0", "1"}) // the second save finds the folder made
+        saveTableFile(file, {{"bFlag", value}}, hub.files, hub.profiles);
+    EXPECT_EQ(hub.file("Own/A.tbl"), "tSample = {\r\n\tbFlag = 1,\r\n}\r\n");
+}
+
 TEST_F(Declaration, FaultsAreFound)
 {
     EXPECT_TRUE(faults(sample()).empty());

@@ -109,7 +109,7 @@ void TableFilePart::restore()
 {
     const SettingValues values = restored(m_file, m_context.profiles);
     for (std::size_t at = 0; at < m_controls.size(); ++at) {
-        if (!m_file.settings[at].keptByRestore)
+        if (!m_settings[at]->keptByRestore)
             m_controls[at].show(values);
     }
 }
@@ -119,8 +119,7 @@ void TableFilePart::save()
     SettingValues values;
     for (const Control& control : m_controls)
         control.collect(values);
-    m_context.files.WriteSettingsFile(m_file.path,
-                                      composed(m_file, values, RowOrder::Save, m_context.profiles));
+    saveTableFile(m_file, values, m_context.files, m_context.profiles);
 }
 
 } // namespace quillfen
