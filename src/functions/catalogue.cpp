@@ -2,6 +2,8 @@
 
 #include "functions/archive/archive.h"
 #include "functions/communication/changers.h"
+#include "functions/communication/chatpermissions.h"
+#include "functions/communication/whisper.h"
 #include "functions/games/trivia.h"
 #include "functions/general/bots.h"
 #include "functions/general/settings.h"
@@ -31,13 +33,13 @@ const FolderCatalogue& folderCatalogue()
         {{R"(Communication\KickBarChanger)"}, {buildKickBarChanger}},
         {{R"(Communication\MassMessage)"}},
         {{R"(Communication\MOTD)", R"(Communication\MOTD\MOTDs)"}},
-        {{R"(Communication\Mute)"}},
+        {{R"(Communication\Mute)"}, {buildMute}},
         {{R"(Communication\RotatingMainMessage)", R"(Communication\RotatingMainMessage\Files)"}},
         {{R"(Communication\RotatingPrivateMessage)", R"(Communication\RotatingPrivateMessage\Files)"}},
-        {{R"(Communication\Talk)"}},
+        {{R"(Communication\Talk)"}, {buildTalk}},
         {{R"(Communication\TopicChanger)"}, {buildTopicChanger}},
         {{R"(Communication\WelcomeInfo)"}},
-        {{R"(Communication\Whisper)"}},
+        {{R"(Communication\Whisper)"}, {buildWhisper}},
 
         {{"Games"}},
         {{R"(Games\Anagrams)", R"(Games\Anagrams\ScoresArchive)"}},
