@@ -4,6 +4,7 @@
 #include "shell/kit/permissiongridpart.h"
 #include "shell/kit/rowlist.h"
 #include "shell/kit/tablefilepart.h"
+#include "shell/kit/ticklistpart.h"
 #include "shell/kit/toolbars.h"
 #include "shell/kit/tooltip.h"
 #include "support/formtest.h"
@@ -508,6 +509,25 @@ TEST_F(FormOf, AGridMayNameEachTargetAndCarryTheProfilesKeys)
     EXPECT_EQ(list.model()->index(1, 5).data(), "2");
     EXPECT_TRUE(list.isColumnHidden(4));
     EXPECT_TRUE(list.isColumnHidden(5));
+}
+
+TEST_F(FormOf, ATickListMayHaveALabelNoHelpAndTicksThatARestoreLeaves)
+{
+    hub.file("A.tbl") = "tA = {\r\n\tbMute = 1,\r\n\tbTalk = 0,\r\n}\r\n";
+    TickListDescription description{"lvwFilters", "Filters", {"A.tbl", "tA", ListFile::Form::Flags}};
+    description.label = "Filtered";
+    description.restoreTicks = false;
+    TickListPart part(description, {hub.files, hub.profiles});
+    const std::unique_ptr<QWidget> widget(part.widget());
+    part.load();
+    auto& list = find<RowList>(*widget, "lvwFilters");
+    EXPECT_EQ(find<QLabel>(*widget, "").buddy(), &list);
+    EXPECT_TRUE(list.isHeaderHidden());
+    part.restore();
+    EXPECT_EQ(list.rows(), (std::vector<CellRow>{{{"Mute", ""}, true}, {{"Talk", ""}}}));
+    clickRow(list, 1);
+    part.save();
+    EXPECT_EQ(hub.file("A.tbl"), "tA = {\r\n\tbMute = 1,\r\n\tbTalk = 0,\r\n}\r\n");
 }
 
 } // namespace
