@@ -42,6 +42,7 @@ struct Setting
     std::string unit{}; ///< behind a field, "Days"
     std::string toolTip{};
     std::string column{}; ///< a check list's heading; empty for none
+    std::string frame{};  ///< the caption of a frame around a flag; neighbours of the same one share it
     std::string nest{};   ///< the nested table that it stands in; neighbours of the same one share it
     std::optional<std::string> rebuildStandard{}; ///< the default that a rebuild writes, where it is another
     bool resets = false;                          ///< a rebuild writes the default whatever the file holds

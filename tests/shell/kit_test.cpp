@@ -12,6 +12,7 @@
 #include <QCheckBox>
 #include <QClipboard>
 #include <QComboBox>
+#include <QGroupBox>
 #include <QLineEdit>
 #include <QTreeWidget>
 
@@ -528,6 +529,25 @@ TEST_F(FormOf, ATickListMayHaveALabelNoHelpAndTicksThatARestoreLeaves)
     clickRow(list, 1);
     part.save();
     EXPECT_EQ(hub.file("A.tbl"), "tA = {\r\n\tbMute = 1,\r\n\tbTalk = 0,\r\n}\r\n");
+}
+
+TEST_F(FormOf, FlagsOfOneFrameStandInItTogether)
+{
+    std::vector<Setting> settings = {
+        number("iNumber", "txtUpDown", "Number", "5", 1, 50), flag("bA", "chkCheckBox(0)", "A", "0"),
+        flag("bB", "chkCheckBox(1)", "B", "0"), flag("bC", "chkCheckBox(2)", "C", "0"),
+        flag("bD", "chkCheckBox(3)", "D", "0")};
+    settings[1].frame = settings[2].frame = "Tell";
+    settings[3].frame = "Ask";
+    auto& form = formOf(settings, "");
+    QStringList captions;
+    for (int at = 0; at < 4; ++at) {
+        auto* frame = qobject_cast<QGroupBox*>(
+            find<QCheckBox>(form, QString("chkCheckBox(%1)").arg(at)).parentWidget());
+        captions.append(frame ? frame->title() : QString());
+    }
+    EXPECT_EQ(captions, (QStringList{"Tell", "Tell", "Ask", QString()}));
+    EXPECT_EQ(form.findChildren<QGroupBox*>().size(), 2);
 }
 
 } // namespace

@@ -6,6 +6,7 @@
 
 #include <QFormLayout>
 #include <QGridLayout>
+#include <QGroupBox>
 #include <QHBoxLayout>
 
 #include <algorithm>
@@ -40,6 +41,20 @@ bool isCheckList(const Setting& setting)
     return setting.kind == Setting::Kind::Profiles || setting.kind == Setting::Kind::Flags;
 }
 
+/// The layout of the frame around a flag: the one that the column ends with, or a new one.
+QLayout* frameOf(const Setting& setting, QFormLayout& column)
+{
+    const QString caption = fromBytes(setting.frame);
+    if (const auto* last = column.itemAt(column.rowCount() - 1, QFormLayout::SpanningRole)) {
+        const auto* frame = qobject_cast<QGroupBox*>(last->widget());
+        if (frame && frame->title() == caption)
+            return frame->layout();
+    }
+    auto* frame = new QGroupBox(caption);
+    column.addRow(frame);
+    return new QVBoxLayout(frame);
+}
+
 } // namespace
 
 TableFilePart::TableFilePart(const TableFile& file, const FormContext& context)
@@ -71,7 +86,11 @@ QWidget* TableFilePart::placed() const
         const Setting& setting = *m_settings[at];
         QWidget* control = m_controls[at].widget;
         if (setting.kind == Setting::Kind::Flag || setting.kind == Setting::Kind::Options) {
-            (crowded ? choices : fields)->addRow(control);
+            QFormLayout* column = crowded ? choices : fields;
+            if (setting.frame.empty())
+                column->addRow(control);
+            else
+                frameOf(setting, *column)->addWidget(control);
         } else if (isCheckList(setting)) {
             const int row = manyLists ? place / 3 : place;
             const int column = manyLists ? place % 3 : 0;
