@@ -1,8 +1,12 @@
 #include "functions/catalogue.h"
 
 #include "functions/archive/archive.h"
+#include "functions/communication/autocorrect.h"
 #include "functions/communication/changers.h"
 #include "functions/communication/chatpermissions.h"
+#include "functions/communication/chatrooms.h"
+#include "functions/communication/clock.h"
+#include "functions/communication/welcomeinfo.h"
 #include "functions/communication/whisper.h"
 #include "functions/games/trivia.h"
 #include "functions/general/bots.h"
@@ -27,9 +31,9 @@ const FolderCatalogue& folderCatalogue()
         {{R"(CustomiseUser\IntroOutro)", R"(CustomiseUser\IntroOutro\Ascii)"}},
 
         {{"Communication"}},
-        {{R"(Communication\AutoCorrect)"}},
-        {{R"(Communication\ChatRooms)"}},
-        {{R"(Communication\Clock)"}},
+        {{R"(Communication\AutoCorrect)"}, {buildAutoCorrect}},
+        {{R"(Communication\ChatRooms)"}, {buildChatRooms}},
+        {{R"(Communication\Clock)"}, {buildClock}},
         {{R"(Communication\KickBarChanger)"}, {buildKickBarChanger}},
         {{R"(Communication\MassMessage)"}},
         {{R"(Communication\MOTD)", R"(Communication\MOTD\MOTDs)"}},
@@ -38,7 +42,7 @@ const FolderCatalogue& folderCatalogue()
         {{R"(Communication\RotatingPrivateMessage)", R"(Communication\RotatingPrivateMessage\Files)"}},
         {{R"(Communication\Talk)"}, {buildTalk}},
         {{R"(Communication\TopicChanger)"}, {buildTopicChanger}},
-        {{R"(Communication\WelcomeInfo)"}},
+        {{R"(Communication\WelcomeInfo)"}, {buildWelcomeInfo}},
         {{R"(Communication\Whisper)"}, {buildWhisper}},
 
         {{"Games"}},
