@@ -225,16 +225,22 @@ SettingValues rebuilt(const TableFile& file, const TableIndex& index, const HubP
         });
 }
 
-std::string composed(const TableFile& file, const SettingValues& values, RowOrder order,
-                     const HubProfiles& profiles)
+std::string composedRows(const TableFile& file, const SettingValues& values, RowOrder order,
+                         const HubProfiles& profiles)
 {
-    std::string text = file.table + " = {\r\n";
+    std::string text;
     std::string nest;
     for (const Setting* setting : inOrder(file, order)) {
         text += passage(nest, setting->nest) + rowText(*setting, values, profiles);
         nest = setting->nest;
     }
-    return text + passage(nest, {}) + "}";
+    return text + passage(nest, {});
+}
+
+std::string composed(const TableFile& file, const SettingValues& values, RowOrder order,
+                     const HubProfiles& profiles)
+{
+    return file.table + " = {\r\n" + composedRows(file, values, order, profiles) + "}";
 }
 
 void rebuildTableFile(const TableFile& file, const SettingsFiles& files, const HubProfiles& profiles)

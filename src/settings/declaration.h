@@ -122,6 +122,10 @@ enum class RowOrder
 std::string composed(const TableFile& file, const SettingValues& values, RowOrder order,
                      const HubProfiles& profiles);
 
+/// The rows alone, for a file that has more between its opening line and its brace.
+std::string composedRows(const TableFile& file, const SettingValues& values, RowOrder order,
+                         const HubProfiles& profiles);
+
 /// The build routine of a declared file: rebuilt() values, in the rebuild's order, written. Throws
 /// StoreError.
 void rebuildTableFile(const TableFile& file, const SettingsFiles& files, const HubProfiles& profiles);

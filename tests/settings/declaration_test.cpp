@@ -155,6 +155,12 @@ TEST_F(Declaration, ASaveMakesItsFolderOnlyWhereThatIsDeclared)
     EXPECT_EQ(hub.file("Own/A.tbl"), "tSample = {\r\n\tbFlag = 1,\r\n}\r\n");
 }
 
+TEST_F(Declaration, TheRowsAloneHaveNeitherOpeningLineNorBrace)
+{
+    const TableFile file = {"A.tbl", "tSample", {flag("bFlag", "chkCheckBox", "Flag", "1")}};
+    EXPECT_EQ(composedRows(file, {{"bFlag", "0"}}, RowOrder::Save, hub.profiles), "\tbFlag = 0,\r\n");
+}
+
 TEST_F(Declaration, FaultsAreFound)
 {
     EXPECT_TRUE(faults(sample()).empty());

@@ -550,5 +550,13 @@ TEST_F(FormOf, FlagsOfOneFrameStandInItTogether)
     EXPECT_EQ(form.findChildren<QGroupBox*>().size(), 2);
 }
 
+TEST(RowLists, ABoldRowStandsApart)
+{
+    RowList list("lvwList", {}, true);
+    list.setRows({{{"a"}}, {{"b"}, true, true}});
+    EXPECT_FALSE(list.model()->index(0, 0).data(Qt::FontRole).isValid());
+    EXPECT_TRUE(list.model()->index(1, 0).data(Qt::FontRole).value<QFont>().bold());
+}
+
 } // namespace
 } // namespace quillfen
