@@ -6,6 +6,8 @@
 #include "functions/communication/chatpermissions.h"
 #include "functions/communication/chatrooms.h"
 #include "functions/communication/clock.h"
+#include "functions/communication/massmessage.h"
+#include "functions/communication/motd.h"
 #include "functions/communication/welcomeinfo.h"
 #include "functions/communication/whisper.h"
 #include "functions/games/trivia.h"
@@ -35,8 +37,8 @@ const FolderCatalogue& folderCatalogue()
         {{R"(Communication\ChatRooms)"}, {buildChatRooms}},
         {{R"(Communication\Clock)"}, {buildClock}},
         {{R"(Communication\KickBarChanger)"}, {buildKickBarChanger}},
-        {{R"(Communication\MassMessage)"}},
-        {{R"(Communication\MOTD)", R"(Communication\MOTD\MOTDs)"}},
+        {{R"(Communication\MassMessage)"}, {buildMassMessage}},
+        {{R"(Communication\MOTD)", R"(Communication\MOTD\MOTDs)"}, {buildMotds}},
         {{R"(Communication\Mute)"}, {buildMute}},
         {{R"(Communication\RotatingMainMessage)", R"(Communication\RotatingMainMessage\Files)"}},
         {{R"(Communication\RotatingPrivateMessage)", R"(Communication\RotatingPrivateMessage\Files)"}},

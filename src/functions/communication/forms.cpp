@@ -6,6 +6,8 @@
 #include "functions/communication/chatrooms.h"
 #include "functions/communication/clock.h"
 #include "functions/communication/hubemail.h"
+#include "functions/communication/massmessageform.h"
+#include "functions/communication/motdform.h"
 #include "functions/communication/welcomeinfo.h"
 #include "functions/communication/welcomeinfoform.h"
 #include "functions/communication/whisper.h"
@@ -34,6 +36,8 @@ FormCatalogue communicationForms()
         settingsForm("frmCommunicationClock", "Communication ~ Clock", clockSettings()),
         settingsForm("frmCommunicationHubEmail", "Communication ~ HubEmail", hubEmailSettings()),
         {"frmCommunicationKickBarChanger", makeKickBarChangerForm},
+        {"frmCommunicationMOTD", makeMotdForm},
+        {"frmCommunicationMassMessage", makeMassMessageForm},
         {"frmCommunicationMute", makeMuteForm},
         {"frmCommunicationTalk", makeTalkForm},
         {"frmCommunicationTopicChanger", makeTopicChangerForm},
