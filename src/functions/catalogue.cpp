@@ -8,6 +8,7 @@
 #include "functions/communication/clock.h"
 #include "functions/communication/massmessage.h"
 #include "functions/communication/motd.h"
+#include "functions/communication/rotatingmessages.h"
 #include "functions/communication/welcomeinfo.h"
 #include "functions/communication/whisper.h"
 #include "functions/games/trivia.h"
@@ -40,8 +41,10 @@ const FolderCatalogue& folderCatalogue()
         {{R"(Communication\MassMessage)"}, {buildMassMessage}},
         {{R"(Communication\MOTD)", R"(Communication\MOTD\MOTDs)"}, {buildMotds}},
         {{R"(Communication\Mute)"}, {buildMute}},
-        {{R"(Communication\RotatingMainMessage)", R"(Communication\RotatingMainMessage\Files)"}},
-        {{R"(Communication\RotatingPrivateMessage)", R"(Communication\RotatingPrivateMessage\Files)"}},
+        {{R"(Communication\RotatingMainMessage)", R"(Communication\RotatingMainMessage\Files)"},
+         {buildRotatingMainMessages}},
+        {{R"(Communication\RotatingPrivateMessage)", R"(Communication\RotatingPrivateMessage\Files)"},
+         {buildRotatingPrivateMessages}},
         {{R"(Communication\Talk)"}, {buildTalk}},
         {{R"(Communication\TopicChanger)"}, {buildTopicChanger}},
         {{R"(Communication\WelcomeInfo)"}, {buildWelcomeInfo}},

@@ -8,6 +8,7 @@
 #include "functions/communication/hubemail.h"
 #include "functions/communication/massmessageform.h"
 #include "functions/communication/motdform.h"
+#include "functions/communication/rotatingmessagesform.h"
 #include "functions/communication/welcomeinfo.h"
 #include "functions/communication/welcomeinfoform.h"
 #include "functions/communication/whisper.h"
@@ -39,6 +40,8 @@ FormCatalogue communicationForms()
         {"frmCommunicationMOTD", makeMotdForm},
         {"frmCommunicationMassMessage", makeMassMessageForm},
         {"frmCommunicationMute", makeMuteForm},
+        {"frmCommunicationRotatingMainMessage", makeRotatingMainMessageForm},
+        {"frmCommunicationRotatingPrivateMessage", makeRotatingPrivateMessageForm},
         {"frmCommunicationTalk", makeTalkForm},
         {"frmCommunicationTopicChanger", makeTopicChangerForm},
         {"frmCommunicationWelcomeInfoNetworkHubs", makeNetworkHubsForm},
