@@ -1,7 +1,16 @@
 #include "functions/catalogue.h"
 
 #include "functions/archive/archive.h"
+#include "functions/communication/autocorrect.h"
 #include "functions/communication/changers.h"
+#include "functions/communication/chatpermissions.h"
+#include "functions/communication/chatrooms.h"
+#include "functions/communication/clock.h"
+#include "functions/communication/massmessage.h"
+#include "functions/communication/motd.h"
+#include "functions/communication/rotatingmessages.h"
+#include "functions/communication/welcomeinfo.h"
+#include "functions/communication/whisper.h"
 #include "functions/games/trivia.h"
 #include "functions/general/bots.h"
 #include "functions/general/settings.h"
@@ -25,19 +34,21 @@ const FolderCatalogue& folderCatalogue()
         {{R"(CustomiseUser\IntroOutro)", R"(CustomiseUser\IntroOutro\Ascii)"}},
 
         {{"Communication"}},
-        {{R"(Communication\AutoCorrect)"}},
-        {{R"(Communication\ChatRooms)"}},
-        {{R"(Communication\Clock)"}},
+        {{R"(Communication\AutoCorrect)"}, {buildAutoCorrect}},
+        {{R"(Communication\ChatRooms)"}, {buildChatRooms}},
+        {{R"(Communication\Clock)"}, {buildClock}},
         {{R"(Communication\KickBarChanger)"}, {buildKickBarChanger}},
-        {{R"(Communication\MassMessage)"}},
-        {{R"(Communication\MOTD)", R"(Communication\MOTD\MOTDs)"}},
-        {{R"(Communication\Mute)"}},
-        {{R"(Communication\RotatingMainMessage)", R"(Communication\RotatingMainMessage\Files)"}},
-        {{R"(Communication\RotatingPrivateMessage)", R"(Communication\RotatingPrivateMessage\Files)"}},
-        {{R"(Communication\Talk)"}},
+        {{R"(Communication\MassMessage)"}, {buildMassMessage}},
+        {{R"(Communication\MOTD)", R"(Communication\MOTD\MOTDs)"}, {buildMotds}},
+        {{R"(Communication\Mute)"}, {buildMute}},
+        {{R"(Communication\RotatingMainMessage)", R"(Communication\RotatingMainMessage\Files)"},
+         {buildRotatingMainMessages}},
+        {{R"(Communication\RotatingPrivateMessage)", R"(Communication\RotatingPrivateMessage\Files)"},
+         {buildRotatingPrivateMessages}},
+        {{R"(Communication\Talk)"}, {buildTalk}},
         {{R"(Communication\TopicChanger)"}, {buildTopicChanger}},
-        {{R"(Communication\WelcomeInfo)"}},
-        {{R"(Communication\Whisper)"}},
+        {{R"(Communication\WelcomeInfo)"}, {buildWelcomeInfo}},
+        {{R"(Communication\Whisper)"}, {buildWhisper}},
 
         {{"Games"}},
         {{R"(Games\Anagrams)", R"(Games\Anagrams\ScoresArchive)"}},

@@ -23,6 +23,7 @@ struct Setting
         Entry,    ///< quoted; a combo box with entries to pick, and any other text
         Options,  ///< an integer, bare: which of the entries is chosen, counted from 0; an option group
         Profiles, ///< a nested table of one flag per hub profile; a check list
+        Flags,    ///< a nested table of a flag per entry, its key a `b` and the entry; a check list
         Letter,   ///< quoted, the first letter of an entry; a combo box with the entries to pick
     };
 
@@ -38,12 +39,20 @@ struct Setting
     int limit = 0;           ///< the most characters that a text box takes; 0 for no limit
     bool onlyArrows = false; ///< a number that is changed by its arrows and not typed
 
+    std::string unit{}; ///< behind a field, "Days"
+    std::string toolTip{};
+    std::string column{}; ///< a check list's heading; empty for none
+    std::string frame{};  ///< the caption of a frame around a flag; neighbours of the same one share it
+    std::string nest{};   ///< the nested table that it stands in; neighbours of the same one share it
     std::optional<std::string> rebuildStandard{}; ///< the default that a rebuild writes, where it is another
     bool resets = false;                          ///< a rebuild writes the default whatever the file holds
     bool keptByRestore = false;                   ///< RESTORE leaves the control as it is
 
     /// What a load shows for a stored text, where it isn't the text itself.
     std::function<std::string(const std::string& stored)> shown{};
+
+    std::size_t firstProfile = 0; ///< the first row of the profiles: 1 leaves "Unregistered" out
+    bool saved = true;            ///< false: only the rebuild writes it; the form has no control for it
 };
 
 Setting flag(std::string key, std::string control, std::string label, std::string standard);
@@ -59,9 +68,17 @@ Setting options(std::string key, std::string control, std::string label, std::st
 
 Setting profileFlags(std::string key, std::string control, std::string label);
 
+Setting namedFlags(std::string key, std::string control, std::string label, std::vector<std::string> entries);
+
 /// The default is the letter. A letter of no entry shows as no choice.
 Setting letter(std::string key, std::string control, std::string label, std::string standard,
                std::vector<std::string> entries);
+
+/// Profile flags without "Unregistered": the first row is the hub's first profile, 0.
+Setting hubProfileFlags(std::string key, std::string control, std::string label);
+
+/// The same setting without a control: the rebuild keeps it, each save of the form drops it.
+Setting notSaved(Setting setting);
 
 /// A settings file: one table, its settings in the order of the form's save, and the order of the rebuild
 /// where it is another.
@@ -71,16 +88,21 @@ struct TableFile
     std::string table;
     std::vector<Setting> settings;
     std::vector<std::string> rebuildOrder{};
+    bool makesFolder = false; ///< a save makes the folder that no rebuild makes
 };
 
-/// The texts of a file's settings by key; the row of a profile stands under profileRow().
+/// The texts of a file's settings by key; the row of a profile stands under profileRow(), that
+/// of a flag under flagRow().
 using SettingValues = std::map<std::string, std::string>;
+
+/// The name of one entry's flag among the values.
+std::string flagRow(const Setting& setting, const std::string& entry);
 
 /// The name of one profile's flag among the values; the row is counted from 0, "Unregistered" first.
 std::string profileRow(const Setting& setting, std::size_t row);
 
-/// What the form shows of a file: each key as it stands, wherever it is; a profile's flag is "0" when it is
-/// missing.
+/// What the form shows of a file: each key as it stands, wherever it is; a flag of a nested table
+/// is "0" when it is missing.
 SettingValues loaded(const TableFile& file, const TableIndex& index, const HubProfiles& profiles);
 
 /// The defaults, as RESTORE shows them: no profile is ticked. What RESTORE leaves alone is not among them.
@@ -100,9 +122,17 @@ enum class RowOrder
 std::string composed(const TableFile& file, const SettingValues& values, RowOrder order,
                      const HubProfiles& profiles);
 
+/// The rows alone, for a file that has more between its opening line and its brace.
+std::string composedRows(const TableFile& file, const SettingValues& values, RowOrder order,
+                         const HubProfiles& profiles);
+
 /// The build routine of a declared file: rebuilt() values, in the rebuild's order, written. Throws
 /// StoreError.
 void rebuildTableFile(const TableFile& file, const SettingsFiles& files, const HubProfiles& profiles);
+
+/// Writes what a form holds, in the save's order. Throws StoreError.
+void saveTableFile(const TableFile& file, const SettingValues& values, const SettingsFiles& files,
+                   const HubProfiles& profiles);
 
 /// What is wrong with a declaration: a key named twice, a rebuild order that misses a key. Empty if nothing
 /// is.

@@ -18,6 +18,7 @@ struct CellRow
 {
     std::vector<std::string> cells;
     bool checked = false;
+    bool bold = false; ///< one that stands apart from the others
 
     bool operator==(const CellRow&) const = default;
 };

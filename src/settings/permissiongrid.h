@@ -44,6 +44,11 @@ std::vector<PermissionCell> loadGrid(const PermissionGrid& grid, const SettingsF
 struct GridSource
 {
     std::vector<std::string> commands;
+
+    /// Targets besides the profiles, in each acting profile's rows behind them; a cell's `on` counts on
+    /// there.
+    std::vector<std::string> named{};
+
     std::function<std::vector<PermissionCell>(const SettingsFiles&, const HubProfiles&)> load;
 
     /// Throws StoreError.

@@ -160,24 +160,15 @@ std::string SettingsFiles::ReadTableValue(std::string_view file, std::string_vie
     return index(file, bAppRelative).value(key, table);
 }
 
+SubTableIndex SettingsFiles::subIndex(std::string_view file) const
+{
+    return SubTableIndex(bytesOf(m_paths.inSettings(file)));
+}
+
 std::string SettingsFiles::ReadTableSubValue(std::string_view file, std::string_view table,
                                              std::string_view key, bool bAsFlag) const
 {
-    const auto bytes = bytesOf(m_paths.inSettings(file));
-    LineCursor cursor(bytes);
-    bool inTable = false;
-    std::string value;
-    while (const auto line = cursor.next()) {
-        const auto [left, right, found] = splitInPieces(*line, '=');
-        if (!found)
-            continue;
-        const auto first = trimmedTableKey(left);
-        inTable = inTable || first == trimBlanks(table);
-        if (inTable && first == key) {
-            value = trimmedTableValue(right);
-            break;
-        }
-    }
+    const auto value = subIndex(file).value(table, key);
     if (bAsFlag)
         return isOne(value) ? "1" : "0";
     return value;

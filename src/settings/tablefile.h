@@ -54,6 +54,9 @@ public:
     /// The file, indexed for many calls of TableIndex::value; an empty index if it can't be read.
     TableIndex index(std::string_view file, bool bAppRelative = false) const;
 
+    /// The same for many calls of ReadTableSubValue on a file below the settings root.
+    SubTableIndex subIndex(std::string_view file) const;
+
     /// One value: the index's answer, for callers that need no second one of the same file.
     std::string ReadTableValue(std::string_view file, std::string_view key, std::string_view table = {},
                                bool bAppRelative = false) const;

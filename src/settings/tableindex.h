@@ -35,4 +35,24 @@ private:
     std::unordered_map<std::string_view, std::size_t> m_openings;
 };
 
+/// The same for ReadTableSubValue, which is of another mind: a table begins at the first line with its name
+/// and a `=`, whatever follows there, each line is cut at a second `=`, and every line of the file counts.
+class SubTableIndex
+{
+public:
+    explicit SubTableIndex(std::string bytes);
+
+    std::string value(std::string_view table, std::string_view key) const;
+
+private:
+    struct Row
+    {
+        std::size_t line;
+        std::string_view value;
+    };
+
+    std::unique_ptr<const std::string> m_bytes;
+    std::unordered_map<std::string_view, std::vector<Row>> m_rows;
+};
+
 } // namespace quillfen

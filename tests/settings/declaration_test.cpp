@@ -122,6 +122,45 @@ TEST_F(Declaration, ReadsItsFileOnceForAllItsSettings)
     EXPECT_EQ(hub.store.readings[hub.root + "/A.tbl"], 1);
 }
 
+TEST_F(Declaration, AKeyThatIsNotSavedIsKeptByARebuildAndDroppedByASave)
+{
+    const TableFile file = {
+        "A.tbl",
+        "tSample",
+        {notSaved(text("sHidden", "", "", "x")), flag("bFlag", "chkCheckBox", "Flag", "1")}};
+    const TableIndex index("tSample = {\r\n\tsHidden = \"t\",\r\n}");
+    const auto values = rebuilt(file, index, hub.profiles);
+    EXPECT_EQ(composed(file, values, RowOrder::Rebuild, hub.profiles),
+              "tSample = {\r\n\tsHidden = \"t\",\r\n\tbFlag = 1,\r\n}");
+    EXPECT_EQ(composed(file, values, RowOrder::Save, hub.profiles), "tSample = {\r\n\tbFlag = 1,\r\n}");
+}
+
+TEST_F(Declaration, AProfileTableCanBeginWithTheHubsFirstProfile)
+{
+    hub.profiles.add("VIP");
+    const TableFile file = {"A.tbl", "tSample", {hubProfileFlags("tCreate", "lvwCreate", "Create")}};
+    const TableIndex index("tSample = {\r\n\ttCreate = {\r\n\t\t[-1] = 1,\r\n\t\t[1] = 1,\r\n\t},\r\n}");
+    const std::string expected = "tSample = {\r\n\ttCreate = {\r\n\t\t[0] = 0,\r\n\t\t[1] = 1,\r\n\t},\r\n}";
+    EXPECT_EQ(composed(file, loaded(file, index, hub.profiles), RowOrder::Save, hub.profiles), expected);
+    EXPECT_EQ(composed(file, rebuilt(file, index, hub.profiles), RowOrder::Rebuild, hub.profiles), expected);
+}
+
+TEST_F(Declaration, ASaveMakesItsFolderOnlyWhereThatIsDeclared)
+{
+    TableFile file = {"Own\\A.tbl", "tSample", {flag("bFlag", "chkCheckBox", "Flag", "1")}};
+    EXPECT_THROW(saveTableFile(file, {{"bFlag", "0"}}, hub.files, hub.profiles), StoreError);
+    file.makesFolder = true;
+    for (const char* value : {"0", "1"}) // the second save finds the folder made
+        saveTableFile(file, {{"bFlag", value}}, hub.files, hub.profiles);
+    EXPECT_EQ(hub.file("Own/A.tbl"), "tSample = {\r\n\tbFlag = 1,\r\n}\r\n");
+}
+
+TEST_F(Declaration, TheRowsAloneHaveNeitherOpeningLineNorBrace)
+{
+    const TableFile file = {"A.tbl", "tSample", {flag("bFlag", "chkCheckBox", "Flag", "1")}};
+    EXPECT_EQ(composedRows(file, {{"bFlag", "0"}}, RowOrder::Save, hub.profiles), "\tbFlag = 0,\r\n");
+}
+
 TEST_F(Declaration, FaultsAreFound)
 {
     EXPECT_TRUE(faults(sample()).empty());
@@ -187,6 +226,46 @@ TEST_F(Declaration, WhatRestoreLeavesAloneIsNotAmongTheDefaults)
     Setting setting = profileFlags("tEnabledProfiles", "lvwEnabledProfiles", "Enabled Profiles");
     setting.keptByRestore = true;
     EXPECT_EQ(restored(only(setting), hub.profiles), SettingValues());
+}
+
+TEST_F(Declaration, NeighboursOfOneNestedTableShareIt)
+{
+    TableFile file = {"A.tbl",
+                      "tSample",
+                      {text("sText", "txtTextBox", "Text", "x"),
+                       number("iNumber", "txtUpDown", "Number", "5", 1, 50),
+                       flag("bFlag", "chk", "Flag", "1"), profileFlags("tMain", "lvwMain", "Main")},
+                      {"iNumber", "bFlag", "sText", "tMain"}};
+    file.settings[1].nest = file.settings[2].nest = "tInner";
+    file.settings[3].nest = "tLists";
+    const std::string save = "tSample = {\r\n\tsText = \"x\",\r\n\ttInner = {\r\n\t\tiNumber = 5,\r\n"
+                             "\t\tbFlag = 1,\r\n\t},\r\n\ttLists = {\r\n\t\ttMain = {\r\n\t\t\t[-1] = 0,\r\n"
+                             "\t\t\t[0] = 1,\r\n\t\t},\r\n\t},\r\n}";
+    auto values = restored(file, hub.profiles);
+    values["tMain/0"] = "1";
+    EXPECT_EQ(composed(file, values, RowOrder::Save, hub.profiles), save);
+    EXPECT_EQ(composed(file, values, RowOrder::Rebuild, hub.profiles),
+              "tSample = {\r\n\ttInner = {\r\n\t\tiNumber = 5,\r\n\t\tbFlag = 1,\r\n\t},\r\n"
+              "\tsText = \"x\",\r\n\ttLists = {\r\n\t\ttMain = {\r\n\t\t\t[-1] = 0,\r\n\t\t\t[0] = 1,\r\n"
+              "\t\t},\r\n\t},\r\n}");
+    EXPECT_EQ(loaded(file, TableIndex(save), hub.profiles), values);
+    EXPECT_EQ(rebuilt(file, TableIndex(save), hub.profiles), values);
+    EXPECT_EQ(rebuilt(file, TableIndex("tSample = {\r\n\tiNumber = 9,\r\n}"), hub.profiles).at("iNumber"),
+              "5")
+        << "a number of a nested table is looked for there";
+}
+
+TEST_F(Declaration, NamedFlagsStandInATableOfTheirOwn)
+{
+    const TableFile file = only(namedFlags("tBlock", "lvwBlocked", "Blocked", {"Active", "Passive"}));
+    const std::string bytes =
+        "tSample = {\r\n\ttBlock = {\r\n\t\tbActive = 0,\r\n\t\tbPassive = 1,\r\n\t},\r\n}";
+    const auto values = loaded(file, TableIndex(bytes), hub.profiles);
+    EXPECT_EQ(values, (SettingValues{{"tBlock/bActive", "0"}, {"tBlock/bPassive", "1"}}));
+    EXPECT_EQ(composed(file, values, RowOrder::Save, hub.profiles), bytes);
+    EXPECT_EQ(rebuilt(file, TableIndex(bytes), hub.profiles), values);
+    EXPECT_EQ(rebuilt(file, TableIndex(""), hub.profiles),
+              (SettingValues{{"tBlock/bActive", "0"}, {"tBlock/bPassive", "0"}}));
 }
 
 } // namespace

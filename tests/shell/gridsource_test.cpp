@@ -81,5 +81,24 @@ TEST_F(OneSidedGrid, AFilterOfAnotherKeyIsNotTakenOffByAPress)
     EXPECT_TRUE(filter.isChecked());
 }
 
+TEST_F(OneSidedGrid, MayHaveNamedTargetsBehindTheProfiles)
+{
+    hub.profiles = {};
+    GridSource grid = source();
+    grid.commands = {"Send"};
+    grid.named = {"All", "Ops"};
+    cells = {{0, 0, 0, false}, {0, 0, 1, true}, {0, 0, 2, false}};
+    GridWords words;
+    words.columns += {"iProfileBy", "iProfileOn"};
+    PermissionGridPart part(grid, words, {hub.files, hub.profiles});
+    const std::unique_ptr<QWidget> widget(part.widget());
+    part.load();
+    const auto& list = find<ListView>(*widget, "lvwPermissions");
+    EXPECT_EQ(shown(list), (QStringList{"Send|Unregistered|Unregistered|No", "||All|Yes", "||Ops|No"}));
+    EXPECT_EQ(list.model()->index(0, 5).data(), "-1");
+    EXPECT_EQ(list.model()->index(2, 4).data(), "-1");
+    EXPECT_EQ(list.model()->index(2, 5).data(), "Ops");
+}
+
 } // namespace
 } // namespace quillfen

@@ -1,8 +1,10 @@
 #include "settings/declaration.h"
 #include "shell/kit/codepagetext.h"
 #include "shell/kit/numberbox.h"
+#include "shell/kit/permissiongridpart.h"
 #include "shell/kit/rowlist.h"
 #include "shell/kit/tablefilepart.h"
+#include "shell/kit/ticklistpart.h"
 #include "shell/kit/toolbars.h"
 #include "shell/kit/tooltip.h"
 #include "support/formtest.h"
@@ -10,6 +12,7 @@
 #include <QCheckBox>
 #include <QClipboard>
 #include <QComboBox>
+#include <QGroupBox>
 #include <QLineEdit>
 #include <QTreeWidget>
 
@@ -459,6 +462,100 @@ TEST_F(FormOf, ARestoreLeavesAloneWhatIsKept)
     EXPECT_EQ(find<QLineEdit>(form, "txtTextBox").text(), "mine");
     EXPECT_EQ(find<QLineEdit>(form, "txtUpDown").text(), "5");
     EXPECT_TRUE(isDirty(form));
+}
+
+TEST_F(FormOf, NamedFlagsAreACheckListWithoutTheirLetter)
+{
+    auto& form = formOf({namedFlags("tBlock", "lvwBlocked", "Blocked", {"Active", "Passive"})},
+                        "\ttBlock = {\r\n\t\tbPassive = 1,\r\n\t},\r\n");
+    auto& list = find<RowList>(form, "lvwBlocked");
+    EXPECT_EQ(list.rows(), (std::vector<CellRow>{{{"Active"}}, {{"Passive"}, true}}));
+    clickTick(list, 0);
+    EXPECT_TRUE(isDirty(form));
+    EXPECT_EQ(saved(form),
+              "tSample = {\r\n\ttBlock = {\r\n\t\tbActive = 1,\r\n\t\tbPassive = 1,\r\n\t},\r\n}\r\n");
+}
+
+TEST_F(FormOf, UnitsToolTipsAndHeadingsAreShown)
+{
+    Setting number = quillfen::number("iNumber", "txtUpDown", "Number", "5", 1, 50);
+    number.unit = "Days";
+    Setting flag = quillfen::flag("bFlag", "chkCheckBox", "Flag", "1");
+    flag.toolTip = "a < b";
+    Setting list = profileFlags("tMain", "lvwMain", "Main");
+    list.column = "Enabled Main";
+    auto& form = formOf({number, flag, list}, "");
+    const auto labels = form.findChildren<QLabel*>();
+    EXPECT_TRUE(
+        std::any_of(labels.begin(), labels.end(), [](auto* label) { return label->text() == "Days"; }));
+    EXPECT_EQ(find<QCheckBox>(form, "chkCheckBox").toolTip(), "a < b");
+    auto& main = find<RowList>(form, "lvwMain");
+    EXPECT_FALSE(main.isHeaderHidden());
+    EXPECT_EQ(main.model()->headerData(0, Qt::Horizontal), "Enabled Main");
+}
+
+TEST_F(FormOf, AGridMayNameEachTargetAndCarryTheProfilesKeys)
+{
+    const PermissionGrid grid = {{{"Do", "A.tbl", "tDo"}, {"Undo", "B.tbl", "tUndo"}}, 3};
+    GridWords words;
+    words.columns = {"Command", "By Profile", "On Profile", "Allow", "iProfileBy", "iProfileOn"};
+    words.filters = false;
+    words.namesTarget = true;
+    PermissionGridPart part(grid, words, {hub.files, hub.profiles});
+    const std::unique_ptr<QWidget> widget(part.widget());
+    part.load();
+    auto& list = find<QTreeView>(*widget, "lvwPermissions");
+    EXPECT_EQ(shown(list), (QStringList{"Do|VIP|VIP|No", "Undo|VIP|VIP|No"}));
+    EXPECT_EQ(list.model()->headerData(4, Qt::Horizontal), "iProfileBy");
+    EXPECT_EQ(list.model()->index(1, 5).data(), "2");
+    EXPECT_TRUE(list.isColumnHidden(4));
+    EXPECT_TRUE(list.isColumnHidden(5));
+}
+
+TEST_F(FormOf, ATickListMayHaveALabelNoHelpAndTicksThatARestoreLeaves)
+{
+    hub.file("A.tbl") = "tA = {\r\n\tbMute = 1,\r\n\tbTalk = 0,\r\n}\r\n";
+    TickListDescription description{"lvwFilters", "Filters", {"A.tbl", "tA", ListFile::Form::Flags}};
+    description.label = "Filtered";
+    description.restoreTicks = false;
+    TickListPart part(description, {hub.files, hub.profiles});
+    const std::unique_ptr<QWidget> widget(part.widget());
+    part.load();
+    auto& list = find<RowList>(*widget, "lvwFilters");
+    EXPECT_EQ(find<QLabel>(*widget, "").buddy(), &list);
+    EXPECT_TRUE(list.isHeaderHidden());
+    part.restore();
+    EXPECT_EQ(list.rows(), (std::vector<CellRow>{{{"Mute", ""}, true}, {{"Talk", ""}}}));
+    clickRow(list, 1);
+    part.save();
+    EXPECT_EQ(hub.file("A.tbl"), "tA = {\r\n\tbMute = 1,\r\n\tbTalk = 0,\r\n}\r\n");
+}
+
+TEST_F(FormOf, FlagsOfOneFrameStandInItTogether)
+{
+    std::vector<Setting> settings = {
+        number("iNumber", "txtUpDown", "Number", "5", 1, 50), flag("bA", "chkCheckBox(0)", "A", "0"),
+        flag("bB", "chkCheckBox(1)", "B", "0"), flag("bC", "chkCheckBox(2)", "C", "0"),
+        flag("bD", "chkCheckBox(3)", "D", "0")};
+    settings[1].frame = settings[2].frame = "Tell";
+    settings[3].frame = "Ask";
+    auto& form = formOf(settings, "");
+    QStringList captions;
+    for (int at = 0; at < 4; ++at) {
+        auto* frame = qobject_cast<QGroupBox*>(
+            find<QCheckBox>(form, QString("chkCheckBox(%1)").arg(at)).parentWidget());
+        captions.append(frame ? frame->title() : QString());
+    }
+    EXPECT_EQ(captions, (QStringList{"Tell", "Tell", "Ask", QString()}));
+    EXPECT_EQ(form.findChildren<QGroupBox*>().size(), 2);
+}
+
+TEST(RowLists, ABoldRowStandsApart)
+{
+    RowList list("lvwList", {}, true);
+    list.setRows({{{"a"}}, {{"b"}, true, true}});
+    EXPECT_FALSE(list.model()->index(0, 0).data(Qt::FontRole).isValid());
+    EXPECT_TRUE(list.model()->index(1, 0).data(Qt::FontRole).value<QFont>().bold());
 }
 
 } // namespace

@@ -31,7 +31,8 @@ QWidget* listWithToolbar(const QString& label, QToolBar* toolbar, QWidget* list)
     layout->setSpacing(2);
     if (!label.isEmpty())
         layout->addWidget(labelFor(label, list));
-    layout->addWidget(toolbar);
+    if (toolbar)
+        layout->addWidget(toolbar);
     layout->addWidget(list, 1);
     return widget;
 }

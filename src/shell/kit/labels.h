@@ -18,7 +18,8 @@ QLabel* labelFor(const QString& text, QWidget* buddy);
 /// Code page texts as screen texts.
 QStringList texts(const std::vector<std::string>& bytes);
 
-/// A list below its toolbar, and both below the list's label; without a text there is no label.
+/// A list below its toolbar, and both below the list's label; there may be no toolbar, and without a text
+/// there is no label.
 QWidget* listWithToolbar(const QString& label, QToolBar* toolbar, QWidget* list);
 
 } // namespace quillfen

@@ -24,6 +24,8 @@ public:
     {
         for (const std::string& command : source.commands)
             m_commands.push_back(fromBytes(command));
+        for (const std::string& target : source.named)
+            m_named.push_back(fromBytes(target));
     }
 
     const std::vector<PermissionCell>& cells() const { return m_cells; }
@@ -99,13 +101,24 @@ private:
         case 2:
             if (!m_words.targets)
                 return cell.allowed ? m_words.yes : m_words.no;
-            return !above || above->on != cell.on ? profile(cell.on) : QString();
-        default:
+            return m_words.namesTarget || !above || above->on != cell.on ? target(cell.on) : QString();
+        case 3:
             return cell.allowed ? m_words.yes : m_words.no;
+        default:
+            return column == 4 ? keyOf(cell.by) : keyOf(cell.on);
         }
     }
 
     QString profile(std::size_t row) const { return fromBytes(m_profiles.names()[row]); }
+
+    bool isNamed(std::size_t target) const { return target >= m_profiles.count(); }
+    QString named(std::size_t target) const { return m_named.at(target - m_profiles.count()); }
+    QString target(std::size_t place) const { return isNamed(place) ? named(place) : profile(place); }
+
+    QString keyOf(std::size_t place) const
+    {
+        return isNamed(place) ? named(place) : fromBytes(HubProfiles::key(place));
+    }
 
     void filter()
     {
@@ -123,6 +136,7 @@ private:
     GridWords m_words;
     const HubProfiles& m_profiles;
     std::vector<QString> m_commands;
+    std::vector<QString> m_named;
     QString m_commandFilter;
     QString m_profileFilter;
     std::vector<PermissionCell> m_cells;
@@ -154,6 +168,8 @@ PermissionGridPart::PermissionGridPart(GridSource source, GridWords words, const
     m_list->setModel(m_model);
     m_list->setAccessibleName("Permissions");
     m_list->header()->setDefaultSectionSize(m_list->fontMetrics().averageCharWidth() * 22);
+    for (int column = 4; column < m_words.columns.size(); ++column)
+        m_list->setColumnHidden(column, true);
     buildToolbar();
     m_list->setDoubleClickEdits(!m_words.clickToggles);
     if (m_words.clickToggles)

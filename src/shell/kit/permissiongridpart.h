@@ -11,7 +11,8 @@ namespace quillfen {
 class ListView;
 class PermissionModel;
 
-/// The words and names of a grid's list.
+/// The words and names of a grid's list. Columns behind the fourth are hidden: the keys of the acting and the
+/// target profile.
 struct GridWords
 {
     QString list = "lvwPermissions";
@@ -20,6 +21,7 @@ struct GridWords
     QString yes = "Yes";
     QString no = "No";
     bool filters = true;       ///< the buttons that show one command or one acting profile
+    bool namesTarget = false;  ///< each row names its target profile, also where the row above has the same
     bool targets = true;       ///< false: one value per command and profile, and three columns
     bool clickToggles = false; ///< a click on a row toggles it
 

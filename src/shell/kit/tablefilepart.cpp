@@ -5,7 +5,9 @@
 #include "shell/kit/labels.h"
 
 #include <QFormLayout>
-#include <QVBoxLayout>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QHBoxLayout>
 
 #include <algorithm>
 
@@ -19,52 +21,99 @@ QLabel* numberedLabel(const Setting& setting, QWidget* field, int number)
     return label;
 }
 
+/// The field, and its unit behind it if it has one.
+QWidget* withUnit(const Setting& setting, QWidget* field)
+{
+    if (setting.unit.empty())
+        return field;
+    auto* widget = new QWidget;
+    auto* layout = new QHBoxLayout(widget);
+    layout->setContentsMargins({});
+    layout->addWidget(field, 1);
+    auto* unit = new QLabel(fromBytes(setting.unit));
+    unit->setTextFormat(Qt::PlainText);
+    layout->addWidget(unit);
+    return widget;
+}
+
+bool isCheckList(const Setting& setting)
+{
+    return setting.kind == Setting::Kind::Profiles || setting.kind == Setting::Kind::Flags;
+}
+
+/// The layout of the frame around a flag: the one that the column ends with, or a new one.
+QLayout* frameOf(const Setting& setting, QFormLayout& column)
+{
+    const QString caption = fromBytes(setting.frame);
+    if (const auto* last = column.itemAt(column.rowCount() - 1, QFormLayout::SpanningRole)) {
+        const auto* frame = qobject_cast<QGroupBox*>(last->widget());
+        if (frame && frame->title() == caption)
+            return frame->layout();
+    }
+    auto* frame = new QGroupBox(caption);
+    column.addRow(frame);
+    return new QVBoxLayout(frame);
+}
+
 } // namespace
 
 TableFilePart::TableFilePart(const TableFile& file, const FormContext& context)
     : m_file(file),
       m_context(context)
 {
-    for (const Setting& setting : file.settings)
+    for (const Setting& setting : file.settings) {
+        if (!setting.saved)
+            continue;
+        m_settings.push_back(&setting);
         m_controls.push_back(makeControl(setting, context.profiles, [this] { emit changed(); }));
+    }
     m_widget = placed();
 }
 
 QWidget* TableFilePart::placed() const
 {
-    const auto beside =
-        std::count_if(m_file.settings.begin(), m_file.settings.end(),
-                      [](const Setting& setting) { return setting.kind != Setting::Kind::Profiles; });
+    const auto lists = std::count_if(m_settings.begin(), m_settings.end(),
+                                     [](const Setting* setting) { return isCheckList(*setting); });
+    const auto beside = static_cast<std::ptrdiff_t>(m_settings.size()) - lists;
     const bool crowded = beside > 12; // then check boxes and options get a column of their own
+    const bool manyLists = lists > 3; // then they stand below the fields, side by side
     auto* choices = new QFormLayout;
     auto* fields = new QFormLayout;
-    auto* lists = new QVBoxLayout;
+    auto* grid = new QGridLayout;
     int labels = 0;
+    int place = 0;
     for (std::size_t at = 0; at < m_controls.size(); ++at) {
-        const Setting& setting = m_file.settings[at];
+        const Setting& setting = *m_settings[at];
         QWidget* control = m_controls[at].widget;
         if (setting.kind == Setting::Kind::Flag || setting.kind == Setting::Kind::Options) {
-            (crowded ? choices : fields)->addRow(control);
-        } else if (setting.kind == Setting::Kind::Profiles) {
-            lists->addWidget(numberedLabel(setting, control, labels++));
-            lists->addWidget(control, 1);
+            QFormLayout* column = crowded ? choices : fields;
+            if (setting.frame.empty())
+                column->addRow(control);
+            else
+                frameOf(setting, *column)->addWidget(control);
+        } else if (isCheckList(setting)) {
+            const int row = manyLists ? place / 3 : place;
+            const int column = manyLists ? place % 3 : 0;
+            grid->addWidget(numberedLabel(setting, control, labels++), 2 * row, column);
+            grid->addWidget(control, 2 * row + 1, column);
+            ++place;
         } else {
-            fields->addRow(numberedLabel(setting, control, labels++), control);
+            fields->addRow(numberedLabel(setting, control, labels++), withUnit(setting, control));
         }
     }
     auto* widget = new QWidget;
-    auto* columns = new QHBoxLayout(widget);
-    columns->setContentsMargins({});
+    auto* layout = new QBoxLayout(manyLists ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight, widget);
+    layout->setContentsMargins({});
     for (auto* column : {choices, fields}) {
         if (column->rowCount() > 0)
-            columns->addLayout(column, 1);
+            layout->addLayout(column, manyLists ? 0 : 1);
         else
             delete column;
     }
-    if (lists->count() > 0)
-        columns->addLayout(lists, 1);
+    if (lists > 0)
+        layout->addLayout(grid, 1);
     else
-        delete lists;
+        delete grid;
     return widget;
 }
 
@@ -79,7 +128,7 @@ void TableFilePart::restore()
 {
     const SettingValues values = restored(m_file, m_context.profiles);
     for (std::size_t at = 0; at < m_controls.size(); ++at) {
-        if (!m_file.settings[at].keptByRestore)
+        if (!m_settings[at]->keptByRestore)
             m_controls[at].show(values);
     }
 }
@@ -89,8 +138,7 @@ void TableFilePart::save()
     SettingValues values;
     for (const Control& control : m_controls)
         control.collect(values);
-    m_context.files.WriteSettingsFile(m_file.path,
-                                      composed(m_file, values, RowOrder::Save, m_context.profiles));
+    saveTableFile(m_file, values, m_context.files, m_context.profiles);
 }
 
 } // namespace quillfen

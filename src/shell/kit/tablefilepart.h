@@ -27,6 +27,7 @@ private:
 
     const TableFile& m_file;
     FormContext m_context;
+    std::vector<const Setting*> m_settings; ///< those with a control, in the order of the controls
     std::vector<Control> m_controls;
     QWidget* m_widget;
 };

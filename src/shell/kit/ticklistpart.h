@@ -15,12 +15,13 @@ struct TickListDescription
 {
     QString control;
     QString caption;
-    ListFile file;                                   ///< of the form Flags
-    std::function<QString(const QString& row)> help; ///< empty for none
+    ListFile file;                                     ///< of the form Flags
+    std::function<QString(const QString& row)> help{}; ///< empty for none
+    QString label{};                                   ///< above the list, in place of the column's caption
+    bool restoreTicks = true;                          ///< RESTORE ticks every row; else it leaves them
 };
 
-/// A list of ticks that is one whole file. Restore ticks every row; a click on a row shows its help in a
-/// balloon.
+/// A list of ticks that is one whole file. A click on a row shows its help in a balloon.
 class TickListPart : public FormPart
 {
     Q_OBJECT
@@ -28,7 +29,7 @@ class TickListPart : public FormPart
 public:
     TickListPart(TickListDescription description, const FormContext& context);
 
-    QWidget* widget() override;
+    QWidget* widget() override { return m_widget; }
     void load() override;
     void restore() override;
     void save() override;
@@ -39,6 +40,7 @@ private:
     TickListDescription m_description;
     FormContext m_context;
     RowList* m_list;
+    QWidget* m_widget;
     CTooltip m_tooltip;
 };
 

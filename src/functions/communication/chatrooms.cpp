@@ -1,0 +1,56 @@
+#include "functions/communication/chatrooms.h"
+
+#include "settings/listfile.h"
+
+namespace quillfen {
+namespace {
+
+constexpr const char* announceTable = "tAnnounce";
+constexpr const char* announceFrame = "Announce To Ops";
+
+Setting announcement(const char* key, const char* control, const char* label)
+{
+    Setting setting = flag(key, control, label, "1");
+    setting.nest = announceTable;
+    setting.frame = announceFrame;
+    return setting;
+}
+
+Setting right(const std::string& keyWord, const std::string& word)
+{
+    Setting setting = hubProfileFlags("tEnabledProfiles" + keyWord, "lvwEnabledProfiles" + word,
+                                      "Enabled Profiles - " + word);
+    setting.column = "Enabled Profiles";
+    return setting;
+}
+
+} // namespace
+
+const TableFile& chatRoomSettings()
+{
+    static const TableFile file = {
+        R"(Communication\ChatRooms\ChatRoomSettings.tbl)",
+        "tChatRoomSettings",
+        {
+            announcement("bDeleted", "chkDeleted", "Deletion"),
+            announcement("bSuspended", "chkSuspended", "Suspension"),
+            right("Create", "Create"),
+            right("Delete", "Delete"),
+            right("Suspend", "Suspend"),
+            right("Members", "Members"),
+            right("", "Default"),
+        },
+        {"bDeleted", "bSuspended", "tEnabledProfiles", "tEnabledProfilesCreate", "tEnabledProfilesDelete",
+         "tEnabledProfilesSuspend", "tEnabledProfilesMembers"},
+    };
+    return file;
+}
+
+void buildChatRooms(const SettingsFiles& files, const HubProfiles& profiles)
+{
+    rebuildTableFile(chatRoomSettings(), files, profiles);
+    // The rooms are the hub script's own: no form reads them, and a rebuild leaves them.
+    writeEmptyTableIfMissing(files, R"(Communication\ChatRooms\ChatRooms.tbl)", "tChatRooms");
+}
+
+} // namespace quillfen

@@ -1,0 +1,26 @@
+#include "functions/communication/clock.h"
+
+namespace quillfen {
+
+const TableFile& clockSettings()
+{
+    static const TableFile file = {
+        R"(Communication\Clock\ClockSettings.tbl)",
+        "tClockSettings",
+        {
+            number("iDelay", "txtUpDown", "Display Delay", "60", 0, 250),
+            flag("bManualControl", "chkCheckBox(0)", "Enable Manual Control", "0"),
+            text("sDaylightSaving", "txtTextBox(0)", "Daylight Saving", "BST"),
+            text("sStandardTime", "txtTextBox(1)", "Standard", "GMT"),
+            profileFlags("tEnabledProfiles", "lvwEnabledProfiles", "Enabled Profiles"),
+        },
+    };
+    return file;
+}
+
+void buildClock(const SettingsFiles& files, const HubProfiles& profiles)
+{
+    rebuildTableFile(clockSettings(), files, profiles);
+}
+
+} // namespace quillfen

@@ -1,0 +1,27 @@
+#include "functions/communication/hubemail.h"
+
+namespace quillfen {
+namespace {
+
+TableFile declaredHubEmail()
+{
+    TableFile file = {
+        R"(Communication\HubEmail\HubEmailSettings.tbl)",
+        "tHubEmailSettings",
+        {
+            number("iInboxSize", "txtUpDown", "Inbox Capacity", "10", 0, 250),
+        },
+    };
+    file.makesFolder = true;
+    return file;
+}
+
+} // namespace
+
+const TableFile& hubEmailSettings()
+{
+    static const TableFile file = declaredHubEmail();
+    return file;
+}
+
+} // namespace quillfen

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "settings/declaration.h"
+#include "settings/listdeclaration.h"
+#include "settings/listfile.h"
+
+#include <string>
+#include <vector>
+
+namespace quillfen {
+
+/// Text files that are shown in turn, in main chat or by private message.
+struct RotatingMessages
+{
+    TableFile settings;
+    ListFile names;     ///< the files that take part
+    std::string folder; ///< of the text files
+};
+
+const RotatingMessages& rotatingMainMessages();
+const RotatingMessages& rotatingPrivateMessages();
+
+/// The told path of a message's text.
+std::string rotatingTextFile(const RotatingMessages& messages, const std::string& name);
+
+/// The names in the table, ticked where there is a file of that name, and behind them the other files.
+std::vector<CellRow> loadRotatingNames(const RotatingMessages& messages, const SettingsFiles& files);
+
+/// Writes the ticked names. Throws StoreError.
+void saveRotatingNames(const RotatingMessages& messages, const std::vector<CellRow>& rows,
+                       const SettingsFiles& files);
+
+void buildRotatingMainMessages(const SettingsFiles& files, const HubProfiles& profiles);
+void buildRotatingPrivateMessages(const SettingsFiles& files, const HubProfiles& profiles);
+
+} // namespace quillfen

@@ -1,0 +1,68 @@
+#include "functions/communication/welcomeinfo.h"
+
+#include "settings/listfile.h"
+
+namespace quillfen {
+namespace {
+
+const ListFile hubsFile = {R"(Communication\WelcomeInfo\WelcomeInfoNetworkHubs.tbl)",
+                           "tWelcomeInfoNetworkHubs", ListFile::Form::Numbered};
+
+RowListDeclaration declaredHubs()
+{
+    RowListDeclaration hubs;
+    hubs.list = "lvwHubs";
+    hubs.toolbar = "tlbHubs";
+    hubs.label = "Network Hubs";
+    hubs.columns = {"HubName"};
+    hubs.menu = "mnuFirst";
+    hubs.dialog.addTitle = "Add Hub";
+    hubs.dialog.editTitle = "Edit Hub";
+    hubs.dialog.labels = {"Hub"};
+    hubs.deletion.title = "Delete Intro?"; // the words of other lists, which users know here
+    hubs.deletion.text = "Do you really want to delete this File?";
+    hubs.load = loadOf(hubsFile);
+    hubs.save = saveOf(hubsFile);
+    hubs.restored = noRows;
+    return hubs;
+}
+
+} // namespace
+
+const TableFile& welcomeInfoSettings()
+{
+    static const TableFile file = {
+        R"(Communication\WelcomeInfo\WelcomeInfoSettings.tbl)",
+        "tWelcomeInfoSettings",
+        {
+            flag("bShowOps", "chkCheckBox(0)", "Show Operators", "1"),
+            flag("bOnlyOnline", "chkCheckBox(1)", "Only Online Operators", "1"),
+            text("sNetworkFounder", "txtTextBox(0)", "Network Founder", ""),
+            text("sNetworkName", "txtTextBox(1)", "Network Name", ""),
+            text("sNetworkFounded", "txtTextBox(2)", "Network Founded Date", ""),
+            text("sHubOwner", "txtTextBox(3)", "Hub Owner", ""),
+            text("sHubEmail", "txtTextBox(4)", "Hub Email", ""),
+            text("sHublistAddress", "txtTextBox(5)", "Hublist Address", ""),
+            text("sWebSite", "txtTextBox(6)", "Hub Web Site", ""),
+            notSaved(text("sMinShare", "", "", "")), // a save drops it, a rebuild has it again
+            profileFlags("tEnabledProfiles", "lvwEnabledProfiles", "Enabled Profiles"),
+        },
+        {"sNetworkFounder", "sNetworkName", "sNetworkFounded", "sHubOwner", "sHubEmail", "sHublistAddress",
+         "sWebSite", "sMinShare", "bShowOps", "bOnlyOnline", "tEnabledProfiles"},
+    };
+    return file;
+}
+
+const RowListDeclaration& networkHubs()
+{
+    static const RowListDeclaration hubs = declaredHubs();
+    return hubs;
+}
+
+void buildWelcomeInfo(const SettingsFiles& files, const HubProfiles& profiles)
+{
+    rebuildTableFile(welcomeInfoSettings(), files, profiles);
+    writeEmptyTableIfMissing(files, hubsFile.path, hubsFile.table);
+}
+
+} // namespace quillfen
