@@ -28,6 +28,7 @@ std::string rowText(const Setting& setting, const SettingValues& values, const H
         return "\t" + setting.key + " = " + values.at(setting.key) + ",\r\n";
     case Setting::Kind::Text:
     case Setting::Kind::Entry:
+    case Setting::Kind::Letter:
         return "\t" + setting.key + " = \"" + values.at(setting.key) + "\",\r\n";
     case Setting::Kind::Profiles:
         return profilesText(setting, values, profiles);
@@ -115,6 +116,15 @@ Setting profileFlags(std::string key, std::string control, std::string label)
     return {Setting::Kind::Profiles, std::move(key), std::move(control), std::move(label)};
 }
 
+Setting letter(std::string key, std::string control, std::string label, std::string standard,
+               std::vector<std::string> entries)
+{
+    Setting setting =
+        entry(std::move(key), std::move(control), std::move(label), std::move(standard), std::move(entries));
+    setting.kind = Setting::Kind::Letter;
+    return setting;
+}
+
 std::string profileRow(const Setting& setting, std::size_t row)
 {
     return setting.key + "/" + HubProfiles::key(row);
@@ -123,8 +133,9 @@ std::string profileRow(const Setting& setting, std::size_t row)
 SettingValues loaded(const TableFile& file, const TableIndex& index, const HubProfiles& profiles)
 {
     return gathered(file, profiles,
-                    [&index](const Setting&, const std::string& key, const std::string& table) {
-                        return index.value(key, table);
+                    [&index](const Setting& setting, const std::string& key, const std::string& table) {
+                        const auto value = index.value(key, table);
+                        return setting.shown ? setting.shown(value) : value;
                     });
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <map>
 #include <string>
 #include <vector>
@@ -21,6 +22,7 @@ struct Setting
         Entry,    ///< quoted; a combo box with entries to pick, and any other text
         Options,  ///< an integer, bare: which of the entries is chosen, counted from 0; an option group
         Profiles, ///< a nested table of one flag per hub profile; a check list
+        Letter,   ///< quoted, the first letter of an entry; a combo box with the entries to pick
     };
 
     Kind kind;
@@ -34,6 +36,9 @@ struct Setting
     int firstOption = 0;     ///< the place of an option group's first button in its control array
     int limit = 0;           ///< the most characters that a text box takes; 0 for no limit
     bool onlyArrows = false; ///< a number that is changed by its arrows and not typed
+
+    /// What a load shows for a stored text, where it isn't the text itself.
+    std::function<std::string(const std::string& stored)> shown{};
 };
 
 Setting flag(std::string key, std::string control, std::string label, std::string standard);
@@ -48,6 +53,10 @@ Setting options(std::string key, std::string control, std::string label, std::st
                 int firstOption, std::vector<std::string> entries);
 
 Setting profileFlags(std::string key, std::string control, std::string label);
+
+/// The default is the letter. A letter of no entry shows as no choice.
+Setting letter(std::string key, std::string control, std::string label, std::string standard,
+               std::vector<std::string> entries);
 
 /// A settings file: one table, its settings in the order of the form's save, and the order of the rebuild
 /// where it is another.

@@ -133,5 +133,33 @@ TEST_F(Declaration, FaultsAreFound)
     EXPECT_EQ(faults(shortOrder).size(), 1U);
 }
 
+/// A file of one setting.
+TableFile only(Setting setting)
+{
+    return {"A.tbl", "tSample", {std::move(setting)}};
+}
+
+TEST_F(Declaration, ALetterStandsQuotedForItsEntry)
+{
+    const TableFile file = only(letter("sAction", "cboComboBox", "Action", "T", {"Kick", "TempBan"}));
+    rebuildTableFile(file, hub.files, hub.profiles);
+    EXPECT_EQ(hub.file("A.tbl"), "tSample = {\r\n\tsAction = \"T\",\r\n}\r\n");
+    hub.file("A.tbl") = "tSample = {\r\n\tsAction = \"K\",\r\n}\r\n";
+    rebuildTableFile(file, hub.files, hub.profiles);
+    EXPECT_EQ(hub.file("A.tbl"), "tSample = {\r\n\tsAction = \"K\",\r\n}\r\n");
+}
+
+TEST_F(Declaration, ALoadShowsWhatASettingMakesOfItsText)
+{
+    Setting setting = number("iNumber", "txtUpDown", "Number", "5", 1, 50);
+    setting.shown = [](const std::string& stored) { return stored + "!"; };
+    const TableFile file = only(setting);
+    EXPECT_EQ(loaded(file, TableIndex("tSample = {\r\n\tiNumber = 7,\r\n}"), hub.profiles).at("iNumber"),
+              "7!");
+    EXPECT_EQ(restored(file, hub.profiles).at("iNumber"), "5");
+    EXPECT_EQ(rebuilt(file, TableIndex("tSample = {\r\n\tiNumber = 7,\r\n}"), hub.profiles).at("iNumber"),
+              "7");
+}
+
 } // namespace
 } // namespace quillfen

@@ -398,5 +398,56 @@ TEST_F(DeclaredForm, AnEmptiedNumberStaysEmptyWhenSaved)
     EXPECT_NE(hub.file("A.tbl").find("\tiNumber = ,\r\n"), std::string::npos);
 }
 
+/// A form of one declared file of the settings that a test gives it.
+class FormOf : public test::FormTest
+{
+protected:
+    EditorForm& formOf(std::vector<Setting> settings, const std::string& rows)
+    {
+        file = {"A.tbl", "tSample", std::move(settings)};
+        hub.file("A.tbl") = "tSample = {\r\n" + rows + "}\r\n";
+        std::erase_if(forms, [](const FormMaker& maker) { return maker.name == "frmGamesAnagrams"; });
+        forms.push_back({"frmGamesAnagrams", [this](const FormContext& context) {
+                             auto* form = new EditorForm({"frmGamesAnagrams", "Games ~ Anagrams"});
+                             form->add(new TableFilePart(file, context));
+                             return form;
+                         }});
+        return open("Games~Anagrams");
+    }
+
+    std::string saved(EditorForm& form)
+    {
+        button(form, "SAVE").setEnabled(true);
+        button(form, "SAVE").trigger();
+        return hub.file("A.tbl");
+    }
+
+    TableFile file;
+};
+
+TEST_F(FormOf, ALetterShowsAsItsEntryAndIsSavedAsTheLetter)
+{
+    auto& form = formOf({letter("sAction", "cboComboBox", "Action", "T", {"Kick", "TempBan"})},
+                        "\tsAction = \"K\",\r\n");
+    auto& combo = find<QComboBox>(form, "cboComboBox");
+    EXPECT_EQ(combo.currentText(), "Kick");
+    EXPECT_FALSE(combo.isEditable());
+    QTest::keyClick(&combo, Qt::Key_Down);
+    EXPECT_EQ(combo.currentText(), "TempBan");
+    EXPECT_TRUE(isDirty(form));
+    EXPECT_EQ(saved(form), "tSample = {\r\n\tsAction = \"T\",\r\n}\r\n");
+    combo.setCurrentIndex(0);
+    test::answering(QMessageBox::Ok, [&form] { button(form, "RESTORE").trigger(); });
+    EXPECT_EQ(combo.currentText(), "TempBan");
+}
+
+TEST_F(FormOf, ALetterOfNoEntryShowsAsNoChoice)
+{
+    auto& form = formOf({letter("sAction", "cboComboBox", "Action", "T", {"Kick", "TempBan"})},
+                        "\tsAction = \"k\",\r\n");
+    EXPECT_EQ(find<QComboBox>(form, "cboComboBox").currentText(), "");
+    EXPECT_EQ(saved(form), "tSample = {\r\n\tsAction = \"\",\r\n}\r\n");
+}
+
 } // namespace
 } // namespace quillfen

@@ -73,6 +73,23 @@ Control comboBox(const Setting& setting, const std::function<void()>& changed)
             [box, key = setting.key](SettingValues& values) { values[key] = toBytes(box->currentText()); }};
 }
 
+Control letterBox(const Setting& setting, const std::function<void()>& changed)
+{
+    auto* box = new QComboBox;
+    box->setObjectName(fromBytes(setting.control));
+    for (const auto& each : setting.entries)
+        box->addItem(fromBytes(each), fromBytes(each.substr(0, 1)));
+    QObject::connect(box, &QComboBox::currentIndexChanged, box, changed);
+    return {box,
+            [box, key = setting.key](const SettingValues& values) {
+                box->setCurrentIndex(box->findData(fromBytes(values.at(key)), Qt::UserRole,
+                                                   Qt::MatchExactly | Qt::MatchCaseSensitive));
+            },
+            [box, key = setting.key](SettingValues& values) {
+                values[key] = toBytes(box->currentData().toString());
+            }};
+}
+
 Control optionGroup(const Setting& setting, const std::function<void()>& changed)
 {
     auto* group = new QGroupBox(fromBytes(setting.label));
@@ -133,6 +150,8 @@ Control controlOfKind(const Setting& setting, const HubProfiles& profiles,
         return optionGroup(setting, changed);
     case Setting::Kind::Profiles:
         return profileList(setting, profiles, changed);
+    case Setting::Kind::Letter:
+        return letterBox(setting, changed);
     }
     return {};
 }
