@@ -38,10 +38,14 @@ std::string rowText(const Setting& setting, const SettingValues& values, const H
 
 /// Takes each value from `valueOf(key, table)`, "0" standing in for a profile's flag that has none.
 template <typename ValueOf>
-SettingValues gathered(const TableFile& file, const HubProfiles& profiles, const ValueOf& valueOf)
+SettingValues gathered(
+    const TableFile& file, const HubProfiles& profiles, const ValueOf& valueOf,
+    bool (*skips)(const Setting&) = [](const Setting&) { return false; })
 {
     SettingValues values;
     for (const Setting& setting : file.settings) {
+        if (skips(setting))
+            continue;
         if (setting.kind != Setting::Kind::Profiles) {
             values[setting.key] = valueOf(setting, setting.key, std::string());
             continue;
@@ -141,18 +145,20 @@ SettingValues loaded(const TableFile& file, const TableIndex& index, const HubPr
 
 SettingValues restored(const TableFile& file, const HubProfiles& profiles)
 {
-    return gathered(file, profiles, [](const Setting& setting, const std::string&, const std::string&) {
-        return setting.standard;
-    });
+    return gathered(
+        file, profiles,
+        [](const Setting& setting, const std::string&, const std::string&) { return setting.standard; },
+        [](const Setting& setting) { return setting.keptByRestore; });
 }
 
 SettingValues rebuilt(const TableFile& file, const TableIndex& index, const HubProfiles& profiles)
 {
-    return gathered(file, profiles,
-                    [&](const Setting& setting, const std::string& key, const std::string& table) {
-                        const auto value = index.value(key, table.empty() ? file.table : table);
-                        return value.empty() ? setting.standard : value;
-                    });
+    return gathered(
+        file, profiles, [&](const Setting& setting, const std::string& key, const std::string& table) {
+            const auto value = index.value(key, table.empty() ? file.table : table);
+            return value.empty() || setting.resets ? setting.rebuildStandard.value_or(setting.standard)
+                                                   : value;
+        });
 }
 
 std::string composed(const TableFile& file, const SettingValues& values, RowOrder order,

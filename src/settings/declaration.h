@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <map>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -36,6 +37,10 @@ struct Setting
     int firstOption = 0;     ///< the place of an option group's first button in its control array
     int limit = 0;           ///< the most characters that a text box takes; 0 for no limit
     bool onlyArrows = false; ///< a number that is changed by its arrows and not typed
+
+    std::optional<std::string> rebuildStandard{}; ///< the default that a rebuild writes, where it is another
+    bool resets = false;                          ///< a rebuild writes the default whatever the file holds
+    bool keptByRestore = false;                   ///< RESTORE leaves the control as it is
 
     /// What a load shows for a stored text, where it isn't the text itself.
     std::function<std::string(const std::string& stored)> shown{};
@@ -78,7 +83,7 @@ std::string profileRow(const Setting& setting, std::size_t row);
 /// missing.
 SettingValues loaded(const TableFile& file, const TableIndex& index, const HubProfiles& profiles);
 
-/// The defaults, as RESTORE shows them: no profile is ticked.
+/// The defaults, as RESTORE shows them: no profile is ticked. What RESTORE leaves alone is not among them.
 SettingValues restored(const TableFile& file, const HubProfiles& profiles);
 
 /// What a rebuild writes: each value that the file's table holds, and the default of each that is missing or

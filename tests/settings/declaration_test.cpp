@@ -161,5 +161,33 @@ TEST_F(Declaration, ALoadShowsWhatASettingMakesOfItsText)
               "7");
 }
 
+TEST_F(Declaration, ARebuildMayHaveADefaultOfItsOwn)
+{
+    Setting setting = number("iNumber", "txtUpDown", "Number", "5", 1, 50);
+    setting.rebuildStandard = "";
+    const TableFile file = only(setting);
+    EXPECT_EQ(restored(file, hub.profiles).at("iNumber"), "5");
+    EXPECT_EQ(rebuilt(file, TableIndex(""), hub.profiles).at("iNumber"), "");
+    EXPECT_EQ(rebuilt(file, TableIndex("tSample = {\r\n\tiNumber = 7,\r\n}"), hub.profiles).at("iNumber"),
+              "7");
+}
+
+TEST_F(Declaration, ARebuildMayResetASetting)
+{
+    Setting setting = profileFlags("tEnabledProfiles", "lvwEnabledProfiles", "Enabled Profiles");
+    const std::string bytes = "tSample = {\r\n\ttEnabledProfiles = {\r\n\t\t[0] = 1,\r\n\t},\r\n}";
+    EXPECT_EQ(rebuilt(only(setting), TableIndex(bytes), hub.profiles).at("tEnabledProfiles/0"), "1");
+    setting.resets = true;
+    EXPECT_EQ(rebuilt(only(setting), TableIndex(bytes), hub.profiles).at("tEnabledProfiles/0"), "0");
+    EXPECT_EQ(loaded(only(setting), TableIndex(bytes), hub.profiles).at("tEnabledProfiles/0"), "1");
+}
+
+TEST_F(Declaration, WhatRestoreLeavesAloneIsNotAmongTheDefaults)
+{
+    Setting setting = profileFlags("tEnabledProfiles", "lvwEnabledProfiles", "Enabled Profiles");
+    setting.keptByRestore = true;
+    EXPECT_EQ(restored(only(setting), hub.profiles), SettingValues());
+}
+
 } // namespace
 } // namespace quillfen

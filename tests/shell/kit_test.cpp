@@ -449,5 +449,17 @@ TEST_F(FormOf, ALetterOfNoEntryShowsAsNoChoice)
     EXPECT_EQ(saved(form), "tSample = {\r\n\tsAction = \"\",\r\n}\r\n");
 }
 
+TEST_F(FormOf, ARestoreLeavesAloneWhatIsKept)
+{
+    Setting kept = text("sText", "txtTextBox", "Text", "x");
+    kept.keptByRestore = true;
+    auto& form = formOf({kept, number("iNumber", "txtUpDown", "Number", "5", 1, 50)},
+                        "\tsText = \"mine\",\r\n\tiNumber = 7,\r\n");
+    test::answering(QMessageBox::Ok, [&form] { button(form, "RESTORE").trigger(); });
+    EXPECT_EQ(find<QLineEdit>(form, "txtTextBox").text(), "mine");
+    EXPECT_EQ(find<QLineEdit>(form, "txtUpDown").text(), "5");
+    EXPECT_TRUE(isDirty(form));
+}
+
 } // namespace
 } // namespace quillfen

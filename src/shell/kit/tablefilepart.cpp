@@ -68,20 +68,20 @@ QWidget* TableFilePart::placed() const
     return widget;
 }
 
-void TableFilePart::show(const SettingValues& values)
+void TableFilePart::load()
 {
+    const SettingValues values = loaded(m_file, m_context.files.index(m_file.path), m_context.profiles);
     for (const Control& control : m_controls)
         control.show(values);
 }
 
-void TableFilePart::load()
-{
-    show(loaded(m_file, m_context.files.index(m_file.path), m_context.profiles));
-}
-
 void TableFilePart::restore()
 {
-    show(restored(m_file, m_context.profiles));
+    const SettingValues values = restored(m_file, m_context.profiles);
+    for (std::size_t at = 0; at < m_controls.size(); ++at) {
+        if (!m_file.settings[at].keptByRestore)
+            m_controls[at].show(values);
+    }
 }
 
 void TableFilePart::save()

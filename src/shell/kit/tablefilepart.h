@@ -23,7 +23,6 @@ public:
     void save() override;
 
 private:
-    void show(const SettingValues& values);
     QWidget* placed() const;
 
     const TableFile& m_file;
