@@ -9,34 +9,63 @@
 namespace quillfen {
 namespace {
 
-std::string profilesText(const Setting& setting, const SettingValues& values, const HubProfiles& profiles)
+/// A row of a nested table of flags.
+struct FlagRow
 {
-    std::string rows = "\t" + setting.key + " = {\r\n";
-    for (std::size_t row = 0; row < profiles.count(); ++row) {
-        const auto& value = values.at(profileRow(setting, row));
-        rows.append("\t\t[").append(HubProfiles::key(row)).append("] = ").append(value).append(",\r\n");
+    std::string name;    ///< among the values
+    std::string key;     ///< as the readers know it
+    std::string written; ///< the key as it stands in the file
+};
+
+std::vector<FlagRow> flagRows(const Setting& setting, const HubProfiles& profiles)
+{
+    std::vector<FlagRow> rows;
+    if (setting.kind == Setting::Kind::Profiles) {
+        for (std::size_t row = 0; row < profiles.count(); ++row) {
+            const std::string key = HubProfiles::key(row);
+            rows.push_back({profileRow(setting, row), key, "[" + key + "]"});
+        }
+    } else if (setting.kind == Setting::Kind::Flags) {
+        for (const std::string& each : setting.entries)
+            rows.push_back({flagRow(setting, each), "b" + each, "b" + each});
     }
-    return rows + "\t},\r\n";
+    return rows;
+}
+
+bool isNested(const Setting& setting)
+{
+    return setting.kind == Setting::Kind::Profiles || setting.kind == Setting::Kind::Flags;
+}
+
+std::string tableText(const Setting& setting, const SettingValues& values, const HubProfiles& profiles,
+                      const std::string& indent)
+{
+    std::string rows = indent + setting.key + " = {\r\n";
+    for (const FlagRow& row : flagRows(setting, profiles))
+        rows += indent + "\t" + row.written + " = " + values.at(row.name) + ",\r\n";
+    return rows + indent + "},\r\n";
 }
 
 std::string rowText(const Setting& setting, const SettingValues& values, const HubProfiles& profiles)
 {
+    const std::string indent = setting.nest.empty() ? "\t" : "\t\t";
     switch (setting.kind) {
     case Setting::Kind::Flag:
     case Setting::Kind::Number:
     case Setting::Kind::Options:
-        return "\t" + setting.key + " = " + values.at(setting.key) + ",\r\n";
+        return indent + setting.key + " = " + values.at(setting.key) + ",\r\n";
     case Setting::Kind::Text:
     case Setting::Kind::Entry:
     case Setting::Kind::Letter:
-        return "\t" + setting.key + " = \"" + values.at(setting.key) + "\",\r\n";
+        return indent + setting.key + " = \"" + values.at(setting.key) + "\",\r\n";
     case Setting::Kind::Profiles:
-        return profilesText(setting, values, profiles);
+    case Setting::Kind::Flags:
+        return tableText(setting, values, profiles, indent);
     }
     return {};
 }
 
-/// Takes each value from `valueOf(key, table)`, "0" standing in for a profile's flag that has none.
+/// Takes each value from `valueOf(key, table)`, "0" standing in for a flag of a nested table that has none.
 template <typename ValueOf>
 SettingValues gathered(
     const TableFile& file, const HubProfiles& profiles, const ValueOf& valueOf,
@@ -46,16 +75,22 @@ SettingValues gathered(
     for (const Setting& setting : file.settings) {
         if (skips(setting))
             continue;
-        if (setting.kind != Setting::Kind::Profiles) {
+        if (!isNested(setting))
             values[setting.key] = valueOf(setting, setting.key, std::string());
-            continue;
-        }
-        for (std::size_t row = 0; row < profiles.count(); ++row) {
-            const auto value = valueOf(setting, HubProfiles::key(row), setting.key);
-            values[profileRow(setting, row)] = value.empty() ? "0" : value;
+        for (const FlagRow& row : flagRows(setting, profiles)) {
+            const auto value = valueOf(setting, row.key, setting.key);
+            values[row.name] = value.empty() ? "0" : value;
         }
     }
     return values;
+}
+
+/// The lines of the nested tables that end and begin between one setting and the next.
+std::string passage(const std::string& nestBefore, const std::string& nest)
+{
+    if (nestBefore == nest)
+        return {};
+    return (nestBefore.empty() ? "" : "\t},\r\n") + (nest.empty() ? "" : "\t" + nest + " = {\r\n");
 }
 
 std::vector<const Setting*> inOrder(const TableFile& file, RowOrder order)
@@ -120,6 +155,14 @@ Setting profileFlags(std::string key, std::string control, std::string label)
     return {Setting::Kind::Profiles, std::move(key), std::move(control), std::move(label)};
 }
 
+Setting namedFlags(std::string key, std::string control, std::string label, std::vector<std::string> entries)
+{
+    Setting setting = profileFlags(std::move(key), std::move(control), std::move(label));
+    setting.kind = Setting::Kind::Flags;
+    setting.entries = std::move(entries);
+    return setting;
+}
+
 Setting letter(std::string key, std::string control, std::string label, std::string standard,
                std::vector<std::string> entries)
 {
@@ -127,6 +170,11 @@ Setting letter(std::string key, std::string control, std::string label, std::str
         entry(std::move(key), std::move(control), std::move(label), std::move(standard), std::move(entries));
     setting.kind = Setting::Kind::Letter;
     return setting;
+}
+
+std::string flagRow(const Setting& setting, const std::string& entry)
+{
+    return setting.key + "/b" + entry;
 }
 
 std::string profileRow(const Setting& setting, std::size_t row)
@@ -155,7 +203,8 @@ SettingValues rebuilt(const TableFile& file, const TableIndex& index, const HubP
 {
     return gathered(
         file, profiles, [&](const Setting& setting, const std::string& key, const std::string& table) {
-            const auto value = index.value(key, table.empty() ? file.table : table);
+            const std::string& home = setting.nest.empty() ? file.table : setting.nest;
+            const auto value = index.value(key, table.empty() ? home : table);
             return value.empty() || setting.resets ? setting.rebuildStandard.value_or(setting.standard)
                                                    : value;
         });
@@ -165,9 +214,12 @@ std::string composed(const TableFile& file, const SettingValues& values, RowOrde
                      const HubProfiles& profiles)
 {
     std::string text = file.table + " = {\r\n";
-    for (const Setting* setting : inOrder(file, order))
-        text += rowText(*setting, values, profiles);
-    return text + "}";
+    std::string nest;
+    for (const Setting* setting : inOrder(file, order)) {
+        text += passage(nest, setting->nest) + rowText(*setting, values, profiles);
+        nest = setting->nest;
+    }
+    return text + passage(nest, {}) + "}";
 }
 
 void rebuildTableFile(const TableFile& file, const SettingsFiles& files, const HubProfiles& profiles)

@@ -23,6 +23,7 @@ struct Setting
         Entry,    ///< quoted; a combo box with entries to pick, and any other text
         Options,  ///< an integer, bare: which of the entries is chosen, counted from 0; an option group
         Profiles, ///< a nested table of one flag per hub profile; a check list
+        Flags,    ///< a nested table of a flag per entry, its key a `b` and the entry; a check list
         Letter,   ///< quoted, the first letter of an entry; a combo box with the entries to pick
     };
 
@@ -38,6 +39,7 @@ struct Setting
     int limit = 0;           ///< the most characters that a text box takes; 0 for no limit
     bool onlyArrows = false; ///< a number that is changed by its arrows and not typed
 
+    std::string nest{}; ///< the nested table that it stands in; neighbours of the same one share it
     std::optional<std::string> rebuildStandard{}; ///< the default that a rebuild writes, where it is another
     bool resets = false;                          ///< a rebuild writes the default whatever the file holds
     bool keptByRestore = false;                   ///< RESTORE leaves the control as it is
@@ -59,6 +61,8 @@ Setting options(std::string key, std::string control, std::string label, std::st
 
 Setting profileFlags(std::string key, std::string control, std::string label);
 
+Setting namedFlags(std::string key, std::string control, std::string label, std::vector<std::string> entries);
+
 /// The default is the letter. A letter of no entry shows as no choice.
 Setting letter(std::string key, std::string control, std::string label, std::string standard,
                std::vector<std::string> entries);
@@ -73,14 +77,18 @@ struct TableFile
     std::vector<std::string> rebuildOrder{};
 };
 
-/// The texts of a file's settings by key; the row of a profile stands under profileRow().
+/// The texts of a file's settings by key; the row of a profile stands under profileRow(), that
+/// of a flag under flagRow().
 using SettingValues = std::map<std::string, std::string>;
+
+/// The name of one entry's flag among the values.
+std::string flagRow(const Setting& setting, const std::string& entry);
 
 /// The name of one profile's flag among the values; the row is counted from 0, "Unregistered" first.
 std::string profileRow(const Setting& setting, std::size_t row);
 
-/// What the form shows of a file: each key as it stands, wherever it is; a profile's flag is "0" when it is
-/// missing.
+/// What the form shows of a file: each key as it stands, wherever it is; a flag of a nested table
+/// is "0" when it is missing.
 SettingValues loaded(const TableFile& file, const TableIndex& index, const HubProfiles& profiles);
 
 /// The defaults, as RESTORE shows them: no profile is ticked. What RESTORE leaves alone is not among them.

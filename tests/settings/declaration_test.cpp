@@ -189,5 +189,45 @@ TEST_F(Declaration, WhatRestoreLeavesAloneIsNotAmongTheDefaults)
     EXPECT_EQ(restored(only(setting), hub.profiles), SettingValues());
 }
 
+TEST_F(Declaration, NeighboursOfOneNestedTableShareIt)
+{
+    TableFile file = {"A.tbl",
+                      "tSample",
+                      {text("sText", "txtTextBox", "Text", "x"),
+                       number("iNumber", "txtUpDown", "Number", "5", 1, 50),
+                       flag("bFlag", "chk", "Flag", "1"), profileFlags("tMain", "lvwMain", "Main")},
+                      {"iNumber", "bFlag", "sText", "tMain"}};
+    file.settings[1].nest = file.settings[2].nest = "tInner";
+    file.settings[3].nest = "tLists";
+    const std::string save = "tSample = {\r\n\tsText = \"x\",\r\n\ttInner = {\r\n\t\tiNumber = 5,\r\n"
+                             "\t\tbFlag = 1,\r\n\t},\r\n\ttLists = {\r\n\t\ttMain = {\r\n\t\t\t[-1] = 0,\r\n"
+                             "\t\t\t[0] = 1,\r\n\t\t},\r\n\t},\r\n}";
+    auto values = restored(file, hub.profiles);
+    values["tMain/0"] = "1";
+    EXPECT_EQ(composed(file, values, RowOrder::Save, hub.profiles), save);
+    EXPECT_EQ(composed(file, values, RowOrder::Rebuild, hub.profiles),
+              "tSample = {\r\n\ttInner = {\r\n\t\tiNumber = 5,\r\n\t\tbFlag = 1,\r\n\t},\r\n"
+              "\tsText = \"x\",\r\n\ttLists = {\r\n\t\ttMain = {\r\n\t\t\t[-1] = 0,\r\n\t\t\t[0] = 1,\r\n"
+              "\t\t},\r\n\t},\r\n}");
+    EXPECT_EQ(loaded(file, TableIndex(save), hub.profiles), values);
+    EXPECT_EQ(rebuilt(file, TableIndex(save), hub.profiles), values);
+    EXPECT_EQ(rebuilt(file, TableIndex("tSample = {\r\n\tiNumber = 9,\r\n}"), hub.profiles).at("iNumber"),
+              "5")
+        << "a number of a nested table is looked for there";
+}
+
+TEST_F(Declaration, NamedFlagsStandInATableOfTheirOwn)
+{
+    const TableFile file = only(namedFlags("tBlock", "lvwBlocked", "Blocked", {"Active", "Passive"}));
+    const std::string bytes =
+        "tSample = {\r\n\ttBlock = {\r\n\t\tbActive = 0,\r\n\t\tbPassive = 1,\r\n\t},\r\n}";
+    const auto values = loaded(file, TableIndex(bytes), hub.profiles);
+    EXPECT_EQ(values, (SettingValues{{"tBlock/bActive", "0"}, {"tBlock/bPassive", "1"}}));
+    EXPECT_EQ(composed(file, values, RowOrder::Save, hub.profiles), bytes);
+    EXPECT_EQ(rebuilt(file, TableIndex(bytes), hub.profiles), values);
+    EXPECT_EQ(rebuilt(file, TableIndex(""), hub.profiles),
+              (SettingValues{{"tBlock/bActive", "0"}, {"tBlock/bPassive", "0"}}));
+}
+
 } // namespace
 } // namespace quillfen

@@ -461,5 +461,17 @@ TEST_F(FormOf, ARestoreLeavesAloneWhatIsKept)
     EXPECT_TRUE(isDirty(form));
 }
 
+TEST_F(FormOf, NamedFlagsAreACheckListWithoutTheirLetter)
+{
+    auto& form = formOf({flags("tBlock", "lvwBlocked", "Blocked", {"Active", "Passive"})},
+                        "\ttBlock = {\r\n\t\tbPassive = 1,\r\n\t},\r\n");
+    auto& list = find<RowList>(form, "lvwBlocked");
+    EXPECT_EQ(list.rows(), (std::vector<CellRow>{{{"Active"}}, {{"Passive"}, true}}));
+    clickTick(list, 0);
+    EXPECT_TRUE(isDirty(form));
+    EXPECT_EQ(saved(form),
+              "tSample = {\r\n\ttBlock = {\r\n\t\tbActive = 1,\r\n\t\tbPassive = 1,\r\n\t},\r\n}\r\n");
+}
+
 } // namespace
 } // namespace quillfen

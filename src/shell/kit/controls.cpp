@@ -116,22 +116,40 @@ Control optionGroup(const Setting& setting, const std::function<void()>& changed
             }};
 }
 
-Control profileList(const Setting& setting, const HubProfiles& profiles, const std::function<void()>& changed)
+/// A check list: the texts of its rows and their names among the values.
+Control checkList(const Setting& setting, const std::vector<std::pair<std::string, std::string>>& flags,
+                  const std::function<void()>& changed)
 {
     auto* list = new RowList(fromBytes(setting.control), {}, true);
     QObject::connect(list, &RowList::tickChanged, list, changed);
     return {list,
-            [list, setting, &profiles](const SettingValues& values) {
+            [list, flags](const SettingValues& values) {
                 std::vector<CellRow> rows;
-                for (std::size_t row = 0; row < profiles.count(); ++row)
-                    rows.push_back({{profiles.names()[row]}, isOne(values.at(profileRow(setting, row)))});
+                for (const auto& [text, name] : flags)
+                    rows.push_back({{text}, isOne(values.at(name))});
                 list->setRows(std::move(rows));
             },
-            [list, setting](SettingValues& values) {
+            [list, flags](SettingValues& values) {
                 std::size_t place = 0;
                 for (const CellRow& row : list->rows())
-                    values[profileRow(setting, place++)] = row.checked ? "1" : "0";
+                    values[flags.at(place++).second] = row.checked ? "1" : "0";
             }};
+}
+
+Control profileList(const Setting& setting, const HubProfiles& profiles, const std::function<void()>& changed)
+{
+    std::vector<std::pair<std::string, std::string>> flags;
+    for (std::size_t row = 0; row < profiles.count(); ++row)
+        flags.emplace_back(profiles.names()[row], profileRow(setting, row));
+    return checkList(setting, flags, changed);
+}
+
+Control flagList(const Setting& setting, const std::function<void()>& changed)
+{
+    std::vector<std::pair<std::string, std::string>> flags;
+    for (const std::string& each : setting.entries)
+        flags.emplace_back(each, flagRow(setting, each));
+    return checkList(setting, flags, changed);
 }
 
 Control controlOfKind(const Setting& setting, const HubProfiles& profiles,
@@ -150,6 +168,8 @@ Control controlOfKind(const Setting& setting, const HubProfiles& profiles,
         return optionGroup(setting, changed);
     case Setting::Kind::Profiles:
         return profileList(setting, profiles, changed);
+    case Setting::Kind::Flags:
+        return flagList(setting, changed);
     case Setting::Kind::Letter:
         return letterBox(setting, changed);
     }

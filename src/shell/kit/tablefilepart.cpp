@@ -19,6 +19,11 @@ QLabel* numberedLabel(const Setting& setting, QWidget* field, int number)
     return label;
 }
 
+bool isCheckList(const Setting& setting)
+{
+    return setting.kind == Setting::Kind::Profiles || setting.kind == Setting::Kind::Flags;
+}
+
 } // namespace
 
 TableFilePart::TableFilePart(const TableFile& file, const FormContext& context)
@@ -32,9 +37,8 @@ TableFilePart::TableFilePart(const TableFile& file, const FormContext& context)
 
 QWidget* TableFilePart::placed() const
 {
-    const auto beside =
-        std::count_if(m_file.settings.begin(), m_file.settings.end(),
-                      [](const Setting& setting) { return setting.kind != Setting::Kind::Profiles; });
+    const auto beside = std::count_if(m_file.settings.begin(), m_file.settings.end(),
+                                      [](const Setting& setting) { return !isCheckList(setting); });
     const bool crowded = beside > 12; // then check boxes and options get a column of their own
     auto* choices = new QFormLayout;
     auto* fields = new QFormLayout;
@@ -45,7 +49,7 @@ QWidget* TableFilePart::placed() const
         QWidget* control = m_controls[at].widget;
         if (setting.kind == Setting::Kind::Flag || setting.kind == Setting::Kind::Options) {
             (crowded ? choices : fields)->addRow(control);
-        } else if (setting.kind == Setting::Kind::Profiles) {
+        } else if (isCheckList(setting)) {
             lists->addWidget(numberedLabel(setting, control, labels++));
             lists->addWidget(control, 1);
         } else {
