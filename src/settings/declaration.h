@@ -39,7 +39,10 @@ struct Setting
     int limit = 0;           ///< the most characters that a text box takes; 0 for no limit
     bool onlyArrows = false; ///< a number that is changed by its arrows and not typed
 
-    std::string nest{}; ///< the nested table that it stands in; neighbours of the same one share it
+    std::string unit{}; ///< behind a field, "Days"
+    std::string toolTip{};
+    std::string column{}; ///< a check list's heading; empty for none
+    std::string nest{};   ///< the nested table that it stands in; neighbours of the same one share it
     std::optional<std::string> rebuildStandard{}; ///< the default that a rebuild writes, where it is another
     bool resets = false;                          ///< a rebuild writes the default whatever the file holds
     bool keptByRestore = false;                   ///< RESTORE leaves the control as it is

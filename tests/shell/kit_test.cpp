@@ -473,5 +473,23 @@ TEST_F(FormOf, NamedFlagsAreACheckListWithoutTheirLetter)
               "tSample = {\r\n\ttBlock = {\r\n\t\tbActive = 1,\r\n\t\tbPassive = 1,\r\n\t},\r\n}\r\n");
 }
 
+TEST_F(FormOf, UnitsToolTipsAndHeadingsAreShown)
+{
+    Setting number = quillfen::number("iNumber", "txtUpDown", "Number", "5", 1, 50);
+    number.unit = "Days";
+    Setting flag = quillfen::flag("bFlag", "chkCheckBox", "Flag", "1");
+    flag.toolTip = "a < b";
+    Setting list = profileFlags("tMain", "lvwMain", "Main");
+    list.column = "Enabled Main";
+    auto& form = formOf({number, flag, list}, "");
+    const auto labels = form.findChildren<QLabel*>();
+    EXPECT_TRUE(
+        std::any_of(labels.begin(), labels.end(), [](auto* label) { return label->text() == "Days"; }));
+    EXPECT_EQ(find<QCheckBox>(form, "chkCheckBox").toolTip(), "a < b");
+    auto& main = find<RowList>(form, "lvwMain");
+    EXPECT_FALSE(main.isHeaderHidden());
+    EXPECT_EQ(main.model()->headerData(0, Qt::Horizontal), "Enabled Main");
+}
+
 } // namespace
 } // namespace quillfen

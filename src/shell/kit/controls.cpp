@@ -120,7 +120,9 @@ Control optionGroup(const Setting& setting, const std::function<void()>& changed
 Control checkList(const Setting& setting, const std::vector<std::pair<std::string, std::string>>& flags,
                   const std::function<void()>& changed)
 {
-    auto* list = new RowList(fromBytes(setting.control), {}, true);
+    auto* list =
+        new RowList(fromBytes(setting.control),
+                    setting.column.empty() ? QStringList() : QStringList(fromBytes(setting.column)), true);
     QObject::connect(list, &RowList::tickChanged, list, changed);
     return {list,
             [list, flags](const SettingValues& values) {
@@ -182,6 +184,7 @@ Control makeControl(const Setting& setting, const HubProfiles& profiles, const s
 {
     Control control = controlOfKind(setting, profiles, changed);
     control.widget->setAccessibleName(fromBytes(setting.label));
+    control.widget->setToolTip(fromBytes(setting.toolTip));
     return control;
 }
 

@@ -5,7 +5,8 @@
 #include "shell/kit/labels.h"
 
 #include <QFormLayout>
-#include <QVBoxLayout>
+#include <QGridLayout>
+#include <QHBoxLayout>
 
 #include <algorithm>
 
@@ -17,6 +18,21 @@ QLabel* numberedLabel(const Setting& setting, QWidget* field, int number)
     auto* label = labelFor(fromBytes(setting.label), field);
     label->setObjectName(QStringLiteral("lblLabel(%1)").arg(number));
     return label;
+}
+
+/// The field, and its unit behind it if it has one.
+QWidget* withUnit(const Setting& setting, QWidget* field)
+{
+    if (setting.unit.empty())
+        return field;
+    auto* widget = new QWidget;
+    auto* layout = new QHBoxLayout(widget);
+    layout->setContentsMargins({});
+    layout->addWidget(field, 1);
+    auto* unit = new QLabel(fromBytes(setting.unit));
+    unit->setTextFormat(Qt::PlainText);
+    layout->addWidget(unit);
+    return widget;
 }
 
 bool isCheckList(const Setting& setting)
@@ -37,38 +53,43 @@ TableFilePart::TableFilePart(const TableFile& file, const FormContext& context)
 
 QWidget* TableFilePart::placed() const
 {
-    const auto beside = std::count_if(m_file.settings.begin(), m_file.settings.end(),
-                                      [](const Setting& setting) { return !isCheckList(setting); });
+    const auto lists = std::count_if(m_file.settings.begin(), m_file.settings.end(), isCheckList);
+    const auto beside = static_cast<std::ptrdiff_t>(m_file.settings.size()) - lists;
     const bool crowded = beside > 12; // then check boxes and options get a column of their own
+    const bool manyLists = lists > 3; // then they stand below the fields, side by side
     auto* choices = new QFormLayout;
     auto* fields = new QFormLayout;
-    auto* lists = new QVBoxLayout;
+    auto* grid = new QGridLayout;
     int labels = 0;
+    int place = 0;
     for (std::size_t at = 0; at < m_controls.size(); ++at) {
         const Setting& setting = m_file.settings[at];
         QWidget* control = m_controls[at].widget;
         if (setting.kind == Setting::Kind::Flag || setting.kind == Setting::Kind::Options) {
             (crowded ? choices : fields)->addRow(control);
         } else if (isCheckList(setting)) {
-            lists->addWidget(numberedLabel(setting, control, labels++));
-            lists->addWidget(control, 1);
+            const int row = manyLists ? place / 3 : place;
+            const int column = manyLists ? place % 3 : 0;
+            grid->addWidget(numberedLabel(setting, control, labels++), 2 * row, column);
+            grid->addWidget(control, 2 * row + 1, column);
+            ++place;
         } else {
-            fields->addRow(numberedLabel(setting, control, labels++), control);
+            fields->addRow(numberedLabel(setting, control, labels++), withUnit(setting, control));
         }
     }
     auto* widget = new QWidget;
-    auto* columns = new QHBoxLayout(widget);
-    columns->setContentsMargins({});
+    auto* layout = new QBoxLayout(manyLists ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight, widget);
+    layout->setContentsMargins({});
     for (auto* column : {choices, fields}) {
         if (column->rowCount() > 0)
-            columns->addLayout(column, 1);
+            layout->addLayout(column, manyLists ? 0 : 1);
         else
             delete column;
     }
-    if (lists->count() > 0)
-        columns->addLayout(lists, 1);
+    if (lists > 0)
+        layout->addLayout(grid, 1);
     else
-        delete lists;
+        delete grid;
     return widget;
 }
 
