@@ -1,6 +1,7 @@
 #include "settings/declaration.h"
 #include "shell/kit/codepagetext.h"
 #include "shell/kit/numberbox.h"
+#include "shell/kit/permissiongridpart.h"
 #include "shell/kit/rowlist.h"
 #include "shell/kit/tablefilepart.h"
 #include "shell/kit/toolbars.h"
@@ -463,7 +464,7 @@ TEST_F(FormOf, ARestoreLeavesAloneWhatIsKept)
 
 TEST_F(FormOf, NamedFlagsAreACheckListWithoutTheirLetter)
 {
-    auto& form = formOf({flags("tBlock", "lvwBlocked", "Blocked", {"Active", "Passive"})},
+    auto& form = formOf({namedFlags("tBlock", "lvwBlocked", "Blocked", {"Active", "Passive"})},
                         "\ttBlock = {\r\n\t\tbPassive = 1,\r\n\t},\r\n");
     auto& list = find<RowList>(form, "lvwBlocked");
     EXPECT_EQ(list.rows(), (std::vector<CellRow>{{{"Active"}}, {{"Passive"}, true}}));
@@ -489,6 +490,24 @@ TEST_F(FormOf, UnitsToolTipsAndHeadingsAreShown)
     auto& main = find<RowList>(form, "lvwMain");
     EXPECT_FALSE(main.isHeaderHidden());
     EXPECT_EQ(main.model()->headerData(0, Qt::Horizontal), "Enabled Main");
+}
+
+TEST_F(FormOf, AGridMayNameEachTargetAndCarryTheProfilesKeys)
+{
+    const PermissionGrid grid = {{{"Do", "A.tbl", "tDo"}, {"Undo", "B.tbl", "tUndo"}}, 3};
+    GridWords words;
+    words.columns = {"Command", "By Profile", "On Profile", "Allow", "iProfileBy", "iProfileOn"};
+    words.filters = false;
+    words.namesTarget = true;
+    PermissionGridPart part(grid, words, {hub.files, hub.profiles});
+    const std::unique_ptr<QWidget> widget(part.widget());
+    part.load();
+    auto& list = find<QTreeView>(*widget, "lvwPermissions");
+    EXPECT_EQ(shown(list), (QStringList{"Do|VIP|VIP|No", "Undo|VIP|VIP|No"}));
+    EXPECT_EQ(list.model()->headerData(4, Qt::Horizontal), "iProfileBy");
+    EXPECT_EQ(list.model()->index(1, 5).data(), "2");
+    EXPECT_TRUE(list.isColumnHidden(4));
+    EXPECT_TRUE(list.isColumnHidden(5));
 }
 
 } // namespace

@@ -97,9 +97,11 @@ private:
         case 1:
             return newCommand || above->by != cell.by ? profile(cell.by) : QString();
         case 2:
-            return !above || above->on != cell.on ? profile(cell.on) : QString();
-        default:
+            return m_words.namesTarget || !above || above->on != cell.on ? profile(cell.on) : QString();
+        case 3:
             return cell.allowed ? m_words.yes : m_words.no;
+        default:
+            return fromBytes(HubProfiles::key(column == 4 ? cell.by : cell.on));
         }
     }
 
@@ -146,6 +148,8 @@ PermissionGridPart::PermissionGridPart(PermissionGrid grid, GridWords words, con
     m_list->setModel(m_model);
     m_list->setAccessibleName("Permissions");
     m_list->header()->setDefaultSectionSize(m_list->fontMetrics().averageCharWidth() * 22);
+    for (int column = 4; column < m_words.columns.size(); ++column)
+        m_list->setColumnHidden(column, true);
     buildToolbar();
     connect(m_list, &ListView::editAsked, this, &PermissionGridPart::toggle);
     connect(m_list, &ListView::menuAsked, this, &PermissionGridPart::showMenu);

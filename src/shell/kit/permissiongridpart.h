@@ -11,7 +11,8 @@ namespace quillfen {
 class ListView;
 class PermissionModel;
 
-/// The words and names of a grid's list.
+/// The words and names of a grid's list. Columns behind the fourth are hidden: the keys of the acting and the
+/// target profile.
 struct GridWords
 {
     QString list = "lvwPermissions";
@@ -19,7 +20,8 @@ struct GridWords
     QStringList columns = {"Command", "By Profile", "On Profile", "Allow To"};
     QString yes = "Yes";
     QString no = "No";
-    bool filters = true; ///< the buttons that show one command or one acting profile
+    bool filters = true;      ///< the buttons that show one command or one acting profile
+    bool namesTarget = false; ///< each row names its target profile, also where the row above has the same
 };
 
 /// A permission grid: one row per command, acting profile and target profile, toggled between yes and no, and
