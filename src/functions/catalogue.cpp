@@ -6,6 +6,7 @@
 #include "functions/general/settings.h"
 #include "functions/general/switches.h"
 #include "functions/security/kicks.h"
+#include "functions/security/mainchat.h"
 
 namespace quillfen {
 
@@ -63,9 +64,9 @@ const FolderCatalogue& folderCatalogue()
         {{R"(Security\CommandSpy)"}},
         {{R"(Security\Flood)"}},
         {{R"(Security\Kick)", R"(Security\Kick\Logs)"}, {buildKicks}},
-        {{R"(Security\MainBlock)"}},
-        {{R"(Security\MainCleaner)"}},
-        {{R"(Security\MainLock)"}},
+        {{R"(Security\MainBlock)"}, {buildMainBlock}},
+        {{R"(Security\MainCleaner)"}, {buildMainCleaner}},
+        {{R"(Security\MainLock)"}, {buildMainLock}},
         {{R"(Security\PrivateHub)"}},
         {{R"(Security\ProfileRules)", R"(Security\ProfileRules\Logs)"}},
         {{R"(Security\PtokaX)"}},

@@ -1,6 +1,7 @@
 #include "functions/security/forms.h"
 
 #include "functions/security/kicksform.h"
+#include "functions/security/mainchatform.h"
 
 namespace quillfen {
 
@@ -9,6 +10,9 @@ FormCatalogue securityForms()
     return {
         {"frmSecurityKickPermissions", makeKickPermissionsForm},
         {"frmSecurityKickSettings", makeKickSettingsForm},
+        {"frmSecurityMainBlock", makeMainBlockForm},
+        {"frmSecurityMainCleaner", makeMainCleanerForm},
+        {"frmSecurityMainLock", makeMainLockForm},
     };
 }
 
