@@ -26,6 +26,31 @@ RowListDeclaration::Save saveOf(const ListFile& file)
     };
 }
 
+RowListDeclaration::Load loadOf(const NestedListsFile& file, std::size_t list)
+{
+    return [path = file.path, table = file.tables.at(list)](const SettingsFiles& files, const HubProfiles&) {
+        std::vector<ListRow> read;
+        files.ReadTableToList(path, read, "", table);
+        std::vector<CellRow> rows;
+        for (ListRow& row : read)
+            rows.push_back({{std::move(row.text)}});
+        return rows;
+    };
+}
+
+RowListGroup::Save saveOf(const NestedListsFile& file)
+{
+    return [file](const SettingsFiles& files, const std::vector<std::vector<CellRow>>& lists) {
+        std::vector<std::vector<std::string>> texts;
+        for (const auto& rows : lists) {
+            texts.emplace_back();
+            for (const CellRow& row : rows)
+                texts.back().push_back(row.cells.at(0));
+        }
+        files.WriteSettingsFile(file.path, composedNestedLists(file, texts));
+    };
+}
+
 std::vector<CellRow> noRows(const HubProfiles& /*profiles*/)
 {
     return {};

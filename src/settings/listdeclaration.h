@@ -11,6 +11,7 @@ namespace quillfen {
 class HubProfiles;
 class SettingsFiles;
 struct ListFile;
+struct NestedListsFile;
 
 /// A row of a list view: its columns' texts, and its tick where the list has ticks.
 struct CellRow
@@ -88,6 +89,19 @@ struct RowListDeclaration
     std::function<std::string(const CellRow&)> editTitleOf{};
     std::function<std::vector<std::string>(const CellRow&)> labelsOf{};
 };
+
+/// Lists side by side that are saved together.
+struct RowListGroup
+{
+    using Save = std::function<void(const SettingsFiles&, const std::vector<std::vector<CellRow>>&)>;
+
+    std::vector<RowListDeclaration> lists; ///< without savings of their own
+    Save save;                             ///< takes the rows of each list; throws StoreError
+};
+
+/// The loading and saving of lists that one file holds in nested tables.
+RowListDeclaration::Load loadOf(const NestedListsFile& file, std::size_t list);
+RowListGroup::Save saveOf(const NestedListsFile& file);
 
 /// The loading and saving of a list that is one whole file.
 RowListDeclaration::Load loadOf(const ListFile& file);

@@ -63,6 +63,19 @@ std::string composedList(const ListFile& file, const std::vector<ListRow>& rows)
     return text + "}";
 }
 
+std::string composedNestedLists(const NestedListsFile& file,
+                                const std::vector<std::vector<std::string>>& lists)
+{
+    std::string text = file.table + " = {\r\n";
+    for (std::size_t list = 0; list < lists.size(); ++list) {
+        text += "\t" + file.tables.at(list) + " = {\r\n";
+        for (const std::string& each : lists[list])
+            text += "\t\t\"" + each + "\",\r\n";
+        text += "\t},\r\n";
+    }
+    return text + "}";
+}
+
 void saveList(const SettingsFiles& files, const ListFile& file, const std::vector<ListRow>& rows)
 {
     files.WriteSettingsFile(file.path, composedList(file, rows));

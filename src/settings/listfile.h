@@ -25,6 +25,18 @@ struct ListFile
     Form form = Form::Plain;
 };
 
+/// A settings file that holds several lists of plain texts, each in a nested table of its own.
+struct NestedListsFile
+{
+    std::string path;
+    std::string table;
+    std::vector<std::string> tables; ///< in the order of the file
+};
+
+/// The text of the whole file from each list's texts, without the writer's last line end.
+std::string composedNestedLists(const NestedListsFile& file,
+                                const std::vector<std::vector<std::string>>& lists);
+
 std::vector<ListRow> loadList(const SettingsFiles& files, const ListFile& file);
 
 /// The text of the whole file, without the writer's last line end. Nothing is escaped.

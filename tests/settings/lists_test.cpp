@@ -1,3 +1,5 @@
+#include "settings/listdeclaration.h"
+#include "settings/listfile.h"
 #include "settings/tablefile.h"
 #include "support/hub.h"
 
@@ -194,6 +196,19 @@ TEST_F(Lists, FileNamesAreReadFromAnAbsolutePath)
     std::vector<ListRow> rows;
     hub.files.ReadFileList("/elsewhere/F.tbl", rows, "t");
     EXPECT_EQ(texts(rows), Texts{"a"});
+}
+
+TEST_F(Lists, SeveralListsStandInOneFileInNestedTables)
+{
+    const NestedListsFile file = {"N.tbl", "tWords", {"tOne", "tTwo", "tThree"}};
+    const std::string text = "tWords = {\r\n\ttOne = {\r\n\t\t\"a\",\r\n\t\t\"b\",\r\n\t},\r\n\ttTwo = {\r\n"
+                             "\t},\r\n\ttThree = {\r\n\t\t\"c\",\r\n\t},\r\n}";
+    EXPECT_EQ(composedNestedLists(file, {{"a", "b"}, {}, {"c"}}), text);
+    saveOf(file)(hub.files, {{{{"a"}}, {{"b"}}}, {}, {{{"c"}}}});
+    EXPECT_EQ(hub.file("N.tbl"), text + "\r\n");
+    EXPECT_EQ(loadOf(file, 0)(hub.files, hub.profiles), (std::vector<CellRow>{{{"a"}}, {{"b"}}}));
+    EXPECT_TRUE(loadOf(file, 1)(hub.files, hub.profiles).empty());
+    EXPECT_EQ(loadOf(file, 2)(hub.files, hub.profiles), (std::vector<CellRow>{{{"c"}}}));
 }
 
 } // namespace

@@ -7,7 +7,7 @@
 #include "shell/kit/rowlist.h"
 #include "shell/kit/toolbars.h"
 
-#include <QVBoxLayout>
+#include <QGridLayout>
 
 #include <algorithm>
 
@@ -150,6 +150,57 @@ void RowListPart::followRows()
         if (auto* action = button(*m_toolbar, key))
             action->setEnabled(!m_list->isEmpty());
     }
+}
+
+const std::vector<CellRow>& RowListPart::rows() const
+{
+    return m_list->rows();
+}
+
+RowListGroupPart::RowListGroupPart(RowListGroup group, const FormContext& context)
+    : m_group(std::move(group)),
+      m_context(context),
+      m_widget(new QWidget)
+{
+    auto* layout = new QGridLayout(m_widget);
+    layout->setContentsMargins({});
+    const int perRow = m_group.lists.size() > 3 ? 2 : 3; // four make a square, and not a narrow band
+    for (const RowListDeclaration& list : m_group.lists) {
+        auto* part = new RowListPart(list, context);
+        part->setParent(this);
+        connect(part, &FormPart::changed, this, &FormPart::changed);
+        const int place = static_cast<int>(m_lists.size());
+        layout->addWidget(part->widget(), place / perRow, place % perRow);
+        m_lists.push_back(part);
+    }
+}
+
+void RowListGroupPart::load()
+{
+    for (RowListPart* list : m_lists)
+        list->load();
+}
+
+void RowListGroupPart::restore()
+{
+    for (RowListPart* list : m_lists)
+        list->restore();
+}
+
+void RowListGroupPart::save()
+{
+    std::vector<std::vector<CellRow>> rows;
+    for (const RowListPart* list : m_lists)
+        rows.push_back(list->rows());
+    m_group.save(m_context.files, rows);
+}
+
+RoutineTable RowListGroupPart::routines()
+{
+    RoutineTable all;
+    for (RowListPart* list : m_lists)
+        all.insert(list->routines());
+    return all;
 }
 
 } // namespace quillfen

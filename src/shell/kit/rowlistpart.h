@@ -24,6 +24,8 @@ public:
     void save() override;
     RoutineTable routines() override;
 
+    const std::vector<CellRow>& rows() const;
+
 private:
     void buildToolbar();
     QWidget* placed();
@@ -36,6 +38,27 @@ private:
     FormContext m_context;
     RowList* m_list;
     QToolBar* m_toolbar;
+    QWidget* m_widget;
+};
+
+/// Declared lists side by side that are saved together.
+class RowListGroupPart : public FormPart
+{
+    Q_OBJECT
+
+public:
+    RowListGroupPart(RowListGroup group, const FormContext& context);
+
+    QWidget* widget() override { return m_widget; }
+    void load() override;
+    void restore() override;
+    void save() override;
+    RoutineTable routines() override;
+
+private:
+    RowListGroup m_group;
+    FormContext m_context;
+    std::vector<RowListPart*> m_lists;
     QWidget* m_widget;
 };
 
