@@ -5,6 +5,8 @@
 #include "functions/general/bots.h"
 #include "functions/general/settings.h"
 #include "functions/general/switches.h"
+#include "functions/security/blockers.h"
+#include "functions/security/flood.h"
 #include "functions/security/kicks.h"
 #include "functions/security/mainchat.h"
 
@@ -57,12 +59,12 @@ const FolderCatalogue& folderCatalogue()
 
         {{"Security"}},
         {{R"(Security\AntiAdvertise)"}},
-        {{R"(Security\AntiVirus)"}},
-        {{R"(Security\BadNickBlocker)"}},
+        {{R"(Security\AntiVirus)"}, {buildAntiVirus}},
+        {{R"(Security\BadNickBlocker)"}, {buildBadNickBlocker}},
         {{R"(Security\ClientChecker)"}},
-        {{R"(Security\CloneBlocker)"}},
+        {{R"(Security\CloneBlocker)"}, {buildCloneBlocker}},
         {{R"(Security\CommandSpy)"}},
-        {{R"(Security\Flood)"}},
+        {{R"(Security\Flood)"}, {buildFlood}},
         {{R"(Security\Kick)", R"(Security\Kick\Logs)"}, {buildKicks}},
         {{R"(Security\MainBlock)"}, {buildMainBlock}},
         {{R"(Security\MainCleaner)"}, {buildMainCleaner}},

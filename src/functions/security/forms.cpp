@@ -1,5 +1,7 @@
 #include "functions/security/forms.h"
 
+#include "functions/security/blockersform.h"
+#include "functions/security/floodform.h"
 #include "functions/security/kicksform.h"
 #include "functions/security/mainchatform.h"
 
@@ -8,6 +10,10 @@ namespace quillfen {
 FormCatalogue securityForms()
 {
     return {
+        {"frmSecurityAntiVirus", makeAntiVirusForm},
+        {"frmSecurityBadNickBlocker", makeBadNickBlockerForm},
+        {"frmSecurityCloneBlocker", makeCloneBlockerForm},
+        {"frmSecurityFlood", makeFloodForm},
         {"frmSecurityKickPermissions", makeKickPermissionsForm},
         {"frmSecurityKickSettings", makeKickSettingsForm},
         {"frmSecurityMainBlock", makeMainBlockForm},
