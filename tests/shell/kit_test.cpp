@@ -4,6 +4,7 @@
 #include "shell/kit/permissiongridpart.h"
 #include "shell/kit/rowlist.h"
 #include "shell/kit/tablefilepart.h"
+#include "shell/kit/ticklistpart.h"
 #include "shell/kit/toolbars.h"
 #include "shell/kit/tooltip.h"
 #include "support/formtest.h"
@@ -508,6 +509,32 @@ TEST_F(FormOf, AGridMayNameEachTargetAndCarryTheProfilesKeys)
     EXPECT_EQ(list.model()->index(1, 5).data(), "2");
     EXPECT_TRUE(list.isColumnHidden(4));
     EXPECT_TRUE(list.isColumnHidden(5));
+}
+
+TEST_F(FormOf, ATickListMayBeKeptByRestoreAndStandBelowALabel)
+{
+    hub.file("A.tbl") = "tTicks = {\r\n\tbOne = 0,\r\n\tbTwo = 1,\r\n}\r\n";
+    TickListDescription description;
+    description.control = "lvwTicks";
+    description.label = "Ticks";
+    description.file = {"A.tbl", "tTicks", ListFile::Form::Flags};
+    description.keptByRestore = true;
+    TickListPart part(description, {hub.files, hub.profiles});
+    const std::unique_ptr<QWidget> widget(part.widget());
+    part.load();
+    part.restore();
+    auto& list = find<RowList>(*widget, "lvwTicks");
+    EXPECT_EQ(list.rows(), (std::vector<CellRow>{{{"One", ""}}, {{"Two", ""}, true}}));
+    EXPECT_TRUE(list.isHeaderHidden());
+    EXPECT_EQ(widget->findChild<QLabel*>()->text(), "Ticks");
+    EXPECT_EQ(widget->findChild<QLabel*>()->buddy(), &list);
+    emit list.clicked(list.model()->index(0, 0)); // a list without help shows no balloon
+    description.keptByRestore = false;
+    TickListPart ticking(description, {hub.files, hub.profiles});
+    const std::unique_ptr<QWidget> other(ticking.widget());
+    ticking.load();
+    ticking.restore();
+    EXPECT_TRUE(find<RowList>(*other, "lvwTicks").rows()[0].checked);
 }
 
 } // namespace

@@ -23,6 +23,16 @@ QStringList texts(const std::vector<std::string>& bytes)
     return all;
 }
 
+QWidget* labelledList(const QString& label, QWidget* list)
+{
+    auto* widget = new QWidget;
+    auto* layout = new QVBoxLayout(widget);
+    layout->setContentsMargins({});
+    layout->addWidget(labelFor(label, list));
+    layout->addWidget(list, 1);
+    return widget;
+}
+
 QWidget* listWithToolbar(const QString& label, QToolBar* toolbar, QWidget* list)
 {
     auto* widget = new QWidget;

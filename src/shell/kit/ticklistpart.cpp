@@ -1,6 +1,7 @@
 #include "shell/kit/ticklistpart.h"
 
 #include "settings/listdeclaration.h"
+#include "shell/kit/labels.h"
 #include "shell/kit/rowlist.h"
 
 namespace quillfen {
@@ -8,16 +9,18 @@ namespace quillfen {
 TickListPart::TickListPart(TickListDescription description, const FormContext& context)
     : m_description(std::move(description)),
       m_context(context),
-      m_list(new RowList(m_description.control, {m_description.caption}, true))
+      m_list(new RowList(m_description.control,
+                         m_description.caption.isEmpty() ? QStringList() : QStringList(m_description.caption),
+                         true)),
+      m_widget(m_list)
 {
-    m_list->setAccessibleName(m_description.caption);
+    m_list->setAccessibleName(m_description.label.isEmpty() ? m_description.caption : m_description.label);
+    if (!m_description.label.isEmpty())
+        m_widget = labelledList(m_description.label, m_list);
     connect(m_list, &RowList::tickChanged, this, &FormPart::changed);
+    if (!m_description.help)
+        return;
     connect(m_list, &RowList::clicked, this, [this](const QModelIndex& index) { showHelp(index.row()); });
-}
-
-QWidget* TickListPart::widget()
-{
-    return m_list;
 }
 
 void TickListPart::load()
@@ -28,6 +31,8 @@ void TickListPart::load()
 
 void TickListPart::restore()
 {
+    if (m_description.keptByRestore)
+        return;
     auto rows = m_list->rows();
     for (CellRow& row : rows)
         row.checked = true;

@@ -14,13 +14,15 @@ class RowList;
 struct TickListDescription
 {
     QString control;
-    QString caption;
+    QString caption;                                 ///< heads the list; may be empty
     ListFile file;                                   ///< of the form Flags
     std::function<QString(const QString& row)> help; ///< empty for none
+    QString label{};                                 ///< above the list; may be empty
+    bool keptByRestore = false;                      ///< RESTORE leaves the list as it is
 };
 
-/// A list of ticks that is one whole file. Restore ticks every row; a click on a row shows its help in a
-/// balloon.
+/// A list of ticks that is one whole file. Restore ticks every row unless the list is kept; a click on
+/// a row shows its help in a balloon.
 class TickListPart : public FormPart
 {
     Q_OBJECT
@@ -28,7 +30,7 @@ class TickListPart : public FormPart
 public:
     TickListPart(TickListDescription description, const FormContext& context);
 
-    QWidget* widget() override;
+    QWidget* widget() override { return m_widget; }
     void load() override;
     void restore() override;
     void save() override;
@@ -39,6 +41,7 @@ private:
     TickListDescription m_description;
     FormContext m_context;
     RowList* m_list;
+    QWidget* m_widget;
     CTooltip m_tooltip;
 };
 
