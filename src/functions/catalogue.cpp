@@ -5,10 +5,13 @@
 #include "functions/general/bots.h"
 #include "functions/general/settings.h"
 #include "functions/general/switches.h"
+#include "functions/security/antiadvertise.h"
 #include "functions/security/blockers.h"
+#include "functions/security/clientchecker.h"
 #include "functions/security/flood.h"
 #include "functions/security/kicks.h"
 #include "functions/security/mainchat.h"
+#include "functions/security/privatehub.h"
 
 namespace quillfen {
 
@@ -58,10 +61,10 @@ const FolderCatalogue& folderCatalogue()
           R"(Language\Messages\Files)", R"(Language\RightClick)", R"(Language\RightClick\Files)"}},
 
         {{"Security"}},
-        {{R"(Security\AntiAdvertise)"}},
+        {{R"(Security\AntiAdvertise)"}, {buildAntiAdvertise}},
         {{R"(Security\AntiVirus)"}, {buildAntiVirus}},
         {{R"(Security\BadNickBlocker)"}, {buildBadNickBlocker}},
-        {{R"(Security\ClientChecker)"}},
+        {{R"(Security\ClientChecker)"}, {buildClientChecker}},
         {{R"(Security\CloneBlocker)"}, {buildCloneBlocker}},
         {{R"(Security\CommandSpy)"}},
         {{R"(Security\Flood)"}, {buildFlood}},
@@ -69,7 +72,7 @@ const FolderCatalogue& folderCatalogue()
         {{R"(Security\MainBlock)"}, {buildMainBlock}},
         {{R"(Security\MainCleaner)"}, {buildMainCleaner}},
         {{R"(Security\MainLock)"}, {buildMainLock}},
-        {{R"(Security\PrivateHub)"}},
+        {{R"(Security\PrivateHub)"}, {buildPrivateHub}},
         {{R"(Security\ProfileRules)", R"(Security\ProfileRules\Logs)"}},
         {{R"(Security\PtokaX)"}},
         {{R"(Security\Registration)", R"(Security\Registration\Logs)"}},

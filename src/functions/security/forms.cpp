@@ -1,17 +1,23 @@
 #include "functions/security/forms.h"
 
+#include "functions/security/antiadvertiseform.h"
 #include "functions/security/blockersform.h"
+#include "functions/security/clientcheckerform.h"
 #include "functions/security/floodform.h"
 #include "functions/security/kicksform.h"
 #include "functions/security/mainchatform.h"
+#include "functions/security/privatehubform.h"
 
 namespace quillfen {
 
 FormCatalogue securityForms()
 {
     return {
+        {"frmSecurityAntiAdvertiseAddresses", makeAntiAdvertiseAddressesForm},
+        {"frmSecurityAntiAdvertiseSettings", makeAntiAdvertiseSettingsForm},
         {"frmSecurityAntiVirus", makeAntiVirusForm},
         {"frmSecurityBadNickBlocker", makeBadNickBlockerForm},
+        {"frmSecurityClientCheckerSettings", makeClientCheckerForm},
         {"frmSecurityCloneBlocker", makeCloneBlockerForm},
         {"frmSecurityFlood", makeFloodForm},
         {"frmSecurityKickPermissions", makeKickPermissionsForm},
@@ -19,6 +25,7 @@ FormCatalogue securityForms()
         {"frmSecurityMainBlock", makeMainBlockForm},
         {"frmSecurityMainCleaner", makeMainCleanerForm},
         {"frmSecurityMainLock", makeMainLockForm},
+        {"frmSecurityPrivateHub", makePrivateHubForm},
     };
 }
 
