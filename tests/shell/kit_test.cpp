@@ -537,5 +537,31 @@ TEST_F(FormOf, ATickListMayBeKeptByRestoreAndStandBelowALabel)
     EXPECT_TRUE(find<RowList>(*other, "lvwTicks").rows()[0].checked);
 }
 
+TEST_F(FormOf, AProfileKeyIsChosenAmongTheHubsOwnProfiles)
+{
+    const Setting setting = profileKey("iProfile", "cboComboBox", "Profile");
+    auto& form = formOf({setting}, "\tiProfile = 1,\r\n");
+    auto& combo = find<QComboBox>(form, "cboComboBox");
+    EXPECT_EQ(combo.count(), 3);
+    EXPECT_EQ(combo.itemText(0), "Master");
+    EXPECT_EQ(combo.currentText(), "Operator");
+    QTest::keyClick(&combo, Qt::Key_Down);
+    EXPECT_TRUE(isDirty(form));
+    EXPECT_EQ(saved(form), "tSample = {\r\n\tiProfile = 2,\r\n}\r\n");
+}
+
+TEST_F(FormOf, AProfileKeyOfNoProfileIsKeptAndNoKeyIsTheFirst)
+{
+    const Setting setting = profileKey("iProfile", "cboComboBox", "Profile");
+    auto& form = formOf({setting}, "\tiProfile = 9,\r\n");
+    EXPECT_EQ(find<QComboBox>(form, "cboComboBox").currentText(), "");
+    EXPECT_EQ(saved(form), "tSample = {\r\n\tiProfile = 9,\r\n}\r\n");
+    form.parentWidget()->close();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    auto& other = formOf({setting}, "");
+    EXPECT_EQ(find<QComboBox>(other, "cboComboBox").currentText(), "Master");
+    EXPECT_EQ(saved(other), "tSample = {\r\n\tiProfile = 0,\r\n}\r\n");
+}
+
 } // namespace
 } // namespace quillfen
