@@ -12,6 +12,7 @@
 #include "functions/security/kicks.h"
 #include "functions/security/mainchat.h"
 #include "functions/security/privatehub.h"
+#include "functions/security/registration.h"
 
 namespace quillfen {
 
@@ -75,7 +76,7 @@ const FolderCatalogue& folderCatalogue()
         {{R"(Security\PrivateHub)"}, {buildPrivateHub}},
         {{R"(Security\ProfileRules)", R"(Security\ProfileRules\Logs)"}},
         {{R"(Security\PtokaX)"}},
-        {{R"(Security\Registration)", R"(Security\Registration\Logs)"}},
+        {{R"(Security\Registration)", R"(Security\Registration\Logs)"}, {buildRegistration}},
         {{R"(Security\Report)"}},
         {{R"(Security\Rules)", R"(Security\Rules\Ascii)"}},
         {{R"(Security\SearchSpy)"}},

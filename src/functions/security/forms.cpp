@@ -7,6 +7,7 @@
 #include "functions/security/kicksform.h"
 #include "functions/security/mainchatform.h"
 #include "functions/security/privatehubform.h"
+#include "functions/security/registrationform.h"
 
 namespace quillfen {
 
@@ -26,6 +27,7 @@ FormCatalogue securityForms()
         {"frmSecurityMainCleaner", makeMainCleanerForm},
         {"frmSecurityMainLock", makeMainLockForm},
         {"frmSecurityPrivateHub", makePrivateHubForm},
+        {"frmSecurityRegistration", makeRegistrationForm},
     };
 }
 
