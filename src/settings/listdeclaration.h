@@ -51,6 +51,7 @@ struct RowDialog
     std::optional<int> editMode{};
     std::vector<std::vector<std::string>> entries{}; ///< for each combo box
     std::vector<std::pair<int, int>> ranges{};       ///< for each number
+    std::vector<std::string> addValues{};            ///< what the fields of a new row start with
 };
 
 /// The question before a row goes, and the refusal of the last row's going.

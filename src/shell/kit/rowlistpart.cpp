@@ -20,6 +20,7 @@ EditRequest requestOf(const RowDialog& dialog)
                         dialog.addMode.value_or(habitualAddMode(dialog.form)), dialog.labels};
     request.entries = dialog.entries;
     request.ranges = dialog.ranges;
+    request.values = dialog.addValues;
     return request;
 }
 
