@@ -12,7 +12,12 @@
 #include "functions/security/kicks.h"
 #include "functions/security/mainchat.h"
 #include "functions/security/privatehub.h"
+#include "functions/security/ptokax.h"
 #include "functions/security/registration.h"
+#include "functions/security/report.h"
+#include "functions/security/rules.h"
+#include "functions/security/spies.h"
+#include "functions/security/userlog.h"
 
 namespace quillfen {
 
@@ -67,7 +72,7 @@ const FolderCatalogue& folderCatalogue()
         {{R"(Security\BadNickBlocker)"}, {buildBadNickBlocker}},
         {{R"(Security\ClientChecker)"}, {buildClientChecker}},
         {{R"(Security\CloneBlocker)"}, {buildCloneBlocker}},
-        {{R"(Security\CommandSpy)"}},
+        {{R"(Security\CommandSpy)"}, {buildCommandSpy}},
         {{R"(Security\Flood)"}, {buildFlood}},
         {{R"(Security\Kick)", R"(Security\Kick\Logs)"}, {buildKicks}},
         {{R"(Security\MainBlock)"}, {buildMainBlock}},
@@ -75,12 +80,12 @@ const FolderCatalogue& folderCatalogue()
         {{R"(Security\MainLock)"}, {buildMainLock}},
         {{R"(Security\PrivateHub)"}, {buildPrivateHub}},
         {{R"(Security\ProfileRules)", R"(Security\ProfileRules\Logs)"}},
-        {{R"(Security\PtokaX)"}},
+        {{R"(Security\PtokaX)"}, {buildPtokaXSettings}},
         {{R"(Security\Registration)", R"(Security\Registration\Logs)"}, {buildRegistration}},
-        {{R"(Security\Report)"}},
-        {{R"(Security\Rules)", R"(Security\Rules\Ascii)"}},
-        {{R"(Security\SearchSpy)"}},
-        {{R"(Security\UserLog)", R"(Security\UserLog\Logs)"}},
+        {{R"(Security\Report)"}, {buildReport}},
+        {{R"(Security\Rules)", R"(Security\Rules\Ascii)"}, {buildRules}},
+        {{R"(Security\SearchSpy)"}, {buildSearchSpy}},
+        {{R"(Security\UserLog)", R"(Security\UserLog\Logs)"}, {buildUserLog}},
 
         {{"UserActions"}},
         {{R"(UserActions\Ascii)", R"(UserActions\Ascii\Ascii)"}},

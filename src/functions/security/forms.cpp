@@ -7,7 +7,12 @@
 #include "functions/security/kicksform.h"
 #include "functions/security/mainchatform.h"
 #include "functions/security/privatehubform.h"
+#include "functions/security/ptokaxform.h"
 #include "functions/security/registrationform.h"
+#include "functions/security/reportform.h"
+#include "functions/security/rulesform.h"
+#include "functions/security/spiesform.h"
+#include "functions/security/userlogform.h"
 
 namespace quillfen {
 
@@ -20,6 +25,7 @@ FormCatalogue securityForms()
         {"frmSecurityBadNickBlocker", makeBadNickBlockerForm},
         {"frmSecurityClientCheckerSettings", makeClientCheckerForm},
         {"frmSecurityCloneBlocker", makeCloneBlockerForm},
+        {"frmSecurityCommandSpy", makeCommandSpyForm},
         {"frmSecurityFlood", makeFloodForm},
         {"frmSecurityKickPermissions", makeKickPermissionsForm},
         {"frmSecurityKickSettings", makeKickSettingsForm},
@@ -27,7 +33,12 @@ FormCatalogue securityForms()
         {"frmSecurityMainCleaner", makeMainCleanerForm},
         {"frmSecurityMainLock", makeMainLockForm},
         {"frmSecurityPrivateHub", makePrivateHubForm},
+        {"frmSecurityPtokaXSettings", makePtokaXSettingsForm},
         {"frmSecurityRegistration", makeRegistrationForm},
+        {"frmSecurityReport", makeReportForm},
+        {"frmSecurityRules", makeRulesForm},
+        {"frmSecuritySearchSpy", makeSearchSpyForm},
+        {"frmSecurityUserLogSettings", makeUserLogForm},
     };
 }
 
