@@ -1,6 +1,6 @@
 #include "functions/security/privatehub.h"
 
-#include <cstdlib>
+#include "settings/lines.h"
 
 namespace quillfen {
 namespace {
@@ -8,7 +8,7 @@ namespace {
 /// The check box is ticked by any number above 0, where every other one wants a 1.
 std::string tickAboveZero(const std::string& stored)
 {
-    return std::strtod(stored.c_str(), nullptr) > 0 ? "1" : "0";
+    return leadingNumber(stored) > 0 ? "1" : "0";
 }
 
 /// The rebuild looks for the three single values under swapped names, finds none, and writes their defaults
