@@ -12,6 +12,7 @@
 #include "functions/security/kicks.h"
 #include "functions/security/mainchat.h"
 #include "functions/security/privatehub.h"
+#include "functions/security/profilerules.h"
 #include "functions/security/ptokax.h"
 #include "functions/security/registration.h"
 #include "functions/security/report.h"
@@ -79,7 +80,7 @@ const FolderCatalogue& folderCatalogue()
         {{R"(Security\MainCleaner)"}, {buildMainCleaner}},
         {{R"(Security\MainLock)"}, {buildMainLock}},
         {{R"(Security\PrivateHub)"}, {buildPrivateHub}},
-        {{R"(Security\ProfileRules)", R"(Security\ProfileRules\Logs)"}},
+        {{R"(Security\ProfileRules)", R"(Security\ProfileRules\Logs)"}, {buildProfileRules}},
         {{R"(Security\PtokaX)"}, {buildPtokaXSettings}},
         {{R"(Security\Registration)", R"(Security\Registration\Logs)"}, {buildRegistration}},
         {{R"(Security\Report)"}, {buildReport}},

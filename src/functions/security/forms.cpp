@@ -7,6 +7,7 @@
 #include "functions/security/kicksform.h"
 #include "functions/security/mainchatform.h"
 #include "functions/security/privatehubform.h"
+#include "functions/security/profilerulesform.h"
 #include "functions/security/ptokaxform.h"
 #include "functions/security/registrationform.h"
 #include "functions/security/reportform.h"
@@ -33,6 +34,8 @@ FormCatalogue securityForms()
         {"frmSecurityMainCleaner", makeMainCleanerForm},
         {"frmSecurityMainLock", makeMainLockForm},
         {"frmSecurityPrivateHub", makePrivateHubForm},
+        {"frmSecurityProfileRuleRules", makeProfileRulesForm},
+        {"frmSecurityProfileRuleSettings", makeProfileRuleSettingsForm},
         {"frmSecurityPtokaXSettings", makePtokaXSettingsForm},
         {"frmSecurityRegistration", makeRegistrationForm},
         {"frmSecurityReport", makeReportForm},
