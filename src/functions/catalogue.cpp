@@ -15,7 +15,20 @@
 #include "functions/general/bots.h"
 #include "functions/general/settings.h"
 #include "functions/general/switches.h"
+#include "functions/security/antiadvertise.h"
+#include "functions/security/blockers.h"
+#include "functions/security/clientchecker.h"
+#include "functions/security/flood.h"
 #include "functions/security/kicks.h"
+#include "functions/security/mainchat.h"
+#include "functions/security/privatehub.h"
+#include "functions/security/profilerules.h"
+#include "functions/security/ptokax.h"
+#include "functions/security/registration.h"
+#include "functions/security/report.h"
+#include "functions/security/rules.h"
+#include "functions/security/spies.h"
+#include "functions/security/userlog.h"
 #include "functions/useractions/actiontexts.h"
 #include "functions/useractions/ascii.h"
 #include "functions/useractions/calculator.h"
@@ -72,25 +85,25 @@ const FolderCatalogue& folderCatalogue()
           R"(Language\Messages\Files)", R"(Language\RightClick)", R"(Language\RightClick\Files)"}},
 
         {{"Security"}},
-        {{R"(Security\AntiAdvertise)"}},
-        {{R"(Security\AntiVirus)"}},
-        {{R"(Security\BadNickBlocker)"}},
-        {{R"(Security\ClientChecker)"}},
-        {{R"(Security\CloneBlocker)"}},
-        {{R"(Security\CommandSpy)"}},
-        {{R"(Security\Flood)"}},
+        {{R"(Security\AntiAdvertise)"}, {buildAntiAdvertise}},
+        {{R"(Security\AntiVirus)"}, {buildAntiVirus}},
+        {{R"(Security\BadNickBlocker)"}, {buildBadNickBlocker}},
+        {{R"(Security\ClientChecker)"}, {buildClientChecker}},
+        {{R"(Security\CloneBlocker)"}, {buildCloneBlocker}},
+        {{R"(Security\CommandSpy)"}, {buildCommandSpy}},
+        {{R"(Security\Flood)"}, {buildFlood}},
         {{R"(Security\Kick)", R"(Security\Kick\Logs)"}, {buildKicks}},
-        {{R"(Security\MainBlock)"}},
-        {{R"(Security\MainCleaner)"}},
-        {{R"(Security\MainLock)"}},
-        {{R"(Security\PrivateHub)"}},
-        {{R"(Security\ProfileRules)", R"(Security\ProfileRules\Logs)"}},
-        {{R"(Security\PtokaX)"}},
-        {{R"(Security\Registration)", R"(Security\Registration\Logs)"}},
-        {{R"(Security\Report)"}},
-        {{R"(Security\Rules)", R"(Security\Rules\Ascii)"}},
-        {{R"(Security\SearchSpy)"}},
-        {{R"(Security\UserLog)", R"(Security\UserLog\Logs)"}},
+        {{R"(Security\MainBlock)"}, {buildMainBlock}},
+        {{R"(Security\MainCleaner)"}, {buildMainCleaner}},
+        {{R"(Security\MainLock)"}, {buildMainLock}},
+        {{R"(Security\PrivateHub)"}, {buildPrivateHub}},
+        {{R"(Security\ProfileRules)", R"(Security\ProfileRules\Logs)"}, {buildProfileRules}},
+        {{R"(Security\PtokaX)"}, {buildPtokaXSettings}},
+        {{R"(Security\Registration)", R"(Security\Registration\Logs)"}, {buildRegistration}},
+        {{R"(Security\Report)"}, {buildReport}},
+        {{R"(Security\Rules)", R"(Security\Rules\Ascii)"}, {buildRules}},
+        {{R"(Security\SearchSpy)"}, {buildSearchSpy}},
+        {{R"(Security\UserLog)", R"(Security\UserLog\Logs)"}, {buildUserLog}},
 
         {{"UserActions"}},
         {{R"(UserActions\Ascii)", R"(UserActions\Ascii\Ascii)"}, {buildAscii}},

@@ -53,6 +53,7 @@ std::string rowText(const Setting& setting, const SettingValues& values, const H
     case Setting::Kind::Flag:
     case Setting::Kind::Number:
     case Setting::Kind::Options:
+    case Setting::Kind::Profile:
         return indent + setting.key + " = " + values.at(setting.key) + ",\r\n";
     case Setting::Kind::Text:
     case Setting::Kind::Entry:
@@ -163,6 +164,11 @@ Setting namedFlags(std::string key, std::string control, std::string label, std:
     setting.kind = Setting::Kind::Flags;
     setting.entries = std::move(entries);
     return setting;
+}
+
+Setting profileKey(std::string key, std::string control, std::string label)
+{
+    return {Setting::Kind::Profile, std::move(key), std::move(control), std::move(label), "0"};
 }
 
 Setting letter(std::string key, std::string control, std::string label, std::string standard,

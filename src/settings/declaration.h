@@ -24,6 +24,7 @@ struct Setting
         Options,  ///< an integer, bare: which of the entries is chosen, counted from 0; an option group
         Profiles, ///< a nested table of one flag per hub profile; a check list
         Flags,    ///< a nested table of a flag per entry, its key a `b` and the entry; a check list
+        Profile,  ///< a profile key, bare; a combo box of the hub's profiles without "Unregistered"
         Letter,   ///< quoted, the first letter of an entry; a combo box with the entries to pick
     };
 
@@ -69,6 +70,9 @@ Setting options(std::string key, std::string control, std::string label, std::st
 Setting profileFlags(std::string key, std::string control, std::string label);
 
 Setting namedFlags(std::string key, std::string control, std::string label, std::vector<std::string> entries);
+
+/// A key of no profile shows as no choice and is kept; no key shows as the hub's first profile.
+Setting profileKey(std::string key, std::string control, std::string label);
 
 /// The default is the letter. A letter of no entry shows as no choice.
 Setting letter(std::string key, std::string control, std::string label, std::string standard,

@@ -1,6 +1,7 @@
 #include "settings/lines.h"
 
 #include <charconv>
+#include <cmath>
 #include <system_error>
 
 namespace quillfen {
@@ -42,6 +43,16 @@ std::string_view trimBlanks(std::string_view text)
     if (first == std::string_view::npos)
         return {};
     return text.substr(first, text.find_last_not_of(' ') - first + 1);
+}
+
+double leadingNumber(std::string_view text)
+{
+    text = trimBlanks(text);
+    if (text.starts_with('+'))
+        text.remove_prefix(1);
+    double number = 0;
+    std::from_chars(text.data(), text.data() + text.size(), number);
+    return std::isfinite(number) ? number : 0;
 }
 
 bool isOne(std::string_view text)

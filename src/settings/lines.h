@@ -39,6 +39,9 @@ SplitLine splitInPieces(std::string_view line, char separator);
 /// Without the blanks at both ends.
 std::string_view trimBlanks(std::string_view text);
 
+/// The number that a text begins with, blanks aside; 0 if it begins with none.
+double leadingNumber(std::string_view text);
+
 /// Whether a text is a number whose value is exactly 1 ("1", " 1 ", "1.0", "+1").
 bool isOne(std::string_view text);
 

@@ -52,6 +52,7 @@ struct RowDialog
     std::optional<int> editMode{};
     std::vector<std::vector<std::string>> entries{}; ///< for each combo box
     std::vector<std::pair<int, int>> ranges{};       ///< for each number
+    std::vector<std::string> addValues{};            ///< what the fields of a new row start with
 };
 
 /// The question before a row goes, and the refusal of the last row's going.
@@ -72,6 +73,7 @@ struct RowListDeclaration
     std::string toolbar; ///< tlb...
     std::string label{}; ///< above the list; may be empty
     std::vector<std::string> columns{};
+    int hiddenColumns = 0; ///< how many of the last ones don't show
     bool ticks = false;
     std::string menu{}; ///< the borrowed right-click menu, mnu...
     RowDialog dialog{};
@@ -89,6 +91,9 @@ struct RowListDeclaration
     /// What stands in the edit dialog's title and labels for a row; without them the dialog's own.
     std::function<std::string(const CellRow&)> editTitleOf{};
     std::function<std::vector<std::string>(const CellRow&)> labelsOf{};
+
+    /// The dialog that edits a row, where rows differ in theirs.
+    std::function<RowDialog(const CellRow&)> dialogOf{};
 };
 
 /// Lists side by side that are saved together.
@@ -98,6 +103,7 @@ struct RowListGroup
 
     std::vector<RowListDeclaration> lists; ///< without savings of their own
     Save save;                             ///< takes the rows of each list; throws StoreError
+    bool reloads = false;                  ///< the lists are loaded again after a save
 };
 
 /// The loading and saving of lists that one file holds in nested tables.

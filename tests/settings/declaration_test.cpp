@@ -268,5 +268,13 @@ TEST_F(Declaration, NamedFlagsStandInATableOfTheirOwn)
               (SettingValues{{"tBlock/bActive", "0"}, {"tBlock/bPassive", "0"}}));
 }
 
+TEST_F(Declaration, AProfileKeyStandsBareAndIsTheHubsFirstByDefault)
+{
+    const TableFile file = only(profileKey("iProfile", "cboComboBox", "Profile"));
+    EXPECT_EQ(composed(file, {{"iProfile", "2"}}, RowOrder::Save, hub.profiles),
+              "tSample = {\r\n\tiProfile = 2,\r\n}");
+    EXPECT_EQ(restored(file, hub.profiles).at("iProfile"), "0");
+}
+
 } // namespace
 } // namespace quillfen

@@ -1,3 +1,4 @@
+#include "settings/lines.h"
 #include "settings/tablefile.h"
 
 #include <gtest/gtest.h>
@@ -75,6 +76,18 @@ TEST(TrimTableValue, LosesABlankOrCommaThatTheTextEndsIn)
 TEST(TrimTableValue, KeepsWhatStandsInside)
 {
     EXPECT_EQ(value("\"a \"b\", c\","), "a \"b\", c");
+}
+
+TEST(LeadingNumber, IsWhatATextBeginsWith)
+{
+    EXPECT_EQ(leadingNumber(" 12 KB"), 12);
+    EXPECT_EQ(leadingNumber("+1.5"), 1.5);
+    EXPECT_EQ(leadingNumber("-3"), -3);
+    EXPECT_EQ(leadingNumber("1.12589990684262E+15"), 1.12589990684262e15);
+    EXPECT_EQ(leadingNumber(""), 0);
+    EXPECT_EQ(leadingNumber("none"), 0);
+    EXPECT_EQ(leadingNumber("inf"), 0);
+    EXPECT_EQ(leadingNumber("1e999"), 0);
 }
 
 } // namespace

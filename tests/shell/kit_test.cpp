@@ -3,10 +3,12 @@
 #include "shell/kit/numberbox.h"
 #include "shell/kit/permissiongridpart.h"
 #include "shell/kit/rowlist.h"
+#include "shell/kit/rowlistpart.h"
 #include "shell/kit/tablefilepart.h"
 #include "shell/kit/ticklistpart.h"
 #include "shell/kit/toolbars.h"
 #include "shell/kit/tooltip.h"
+#include "support/dialogs.h"
 #include "support/formtest.h"
 
 #include <QCheckBox>
@@ -556,6 +558,54 @@ TEST(RowLists, ABoldRowStandsApart)
     list.setRows({{{"a"}}, {{"b"}, true, true}});
     EXPECT_FALSE(list.model()->index(0, 0).data(Qt::FontRole).isValid());
     EXPECT_TRUE(list.model()->index(1, 0).data(Qt::FontRole).value<QFont>().bold());
+}
+
+TEST_F(FormOf, AProfileKeyIsChosenAmongTheHubsOwnProfiles)
+{
+    const Setting setting = profileKey("iProfile", "cboComboBox", "Profile");
+    auto& form = formOf({setting}, "\tiProfile = 1,\r\n");
+    auto& combo = find<QComboBox>(form, "cboComboBox");
+    EXPECT_EQ(combo.count(), 3);
+    EXPECT_EQ(combo.itemText(0), "Master");
+    EXPECT_EQ(combo.currentText(), "Operator");
+    QTest::keyClick(&combo, Qt::Key_Down);
+    EXPECT_TRUE(isDirty(form));
+    EXPECT_EQ(saved(form), "tSample = {\r\n\tiProfile = 2,\r\n}\r\n");
+}
+
+TEST_F(FormOf, AProfileKeyOfNoProfileIsKeptAndNoKeyIsTheFirst)
+{
+    const Setting setting = profileKey("iProfile", "cboComboBox", "Profile");
+    auto& form = formOf({setting}, "\tiProfile = 9,\r\n");
+    EXPECT_EQ(find<QComboBox>(form, "cboComboBox").currentText(), "");
+    EXPECT_EQ(saved(form), "tSample = {\r\n\tiProfile = 9,\r\n}\r\n");
+    form.parentWidget()->close();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    auto& other = formOf({setting}, "");
+    EXPECT_EQ(find<QComboBox>(other, "cboComboBox").currentText(), "Master");
+    EXPECT_EQ(saved(other), "tSample = {\r\n\tiProfile = 0,\r\n}\r\n");
+}
+
+TEST_F(FormOf, ANewRowStartsWithTheDeclaredValues)
+{
+    RowListDeclaration list;
+    list.list = "lvwRows";
+    list.toolbar = "tlbRows";
+    list.columns = {"Word", "Choice"};
+    list.dialog.form = EditForm::TextCombo;
+    list.dialog.addTitle = "Add";
+    list.dialog.labels = {"Word", "Choice"};
+    list.dialog.entries = {{"One", "Two"}};
+    list.dialog.addValues = {"", "Two"};
+    list.load = [](const SettingsFiles&, const HubProfiles&) { return std::vector<CellRow>(); };
+    RowListPart part(list, {hub.files, hub.profiles});
+    const std::unique_ptr<QWidget> widget(part.widget());
+    part.load();
+    widget->show();
+    const auto seen = test::entering({{{"a"}}}, [&widget] { find<QAction>(*widget, "NEW").trigger(); });
+    ASSERT_EQ(seen.size(), 1);
+    EXPECT_EQ(seen[0].values, (QStringList{"", "Two"}));
+    EXPECT_EQ(shown(find<RowList>(*widget, "lvwRows")), QStringList{"a|Two"});
 }
 
 } // namespace

@@ -14,6 +14,7 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <memory>
 
 namespace quillfen {
 namespace {
@@ -87,6 +88,29 @@ Control letterBox(const Setting& setting, const std::function<void()>& changed)
             },
             [box, key = setting.key](SettingValues& values) {
                 values[key] = toBytes(box->currentData().toString());
+            }};
+}
+
+Control profileBox(const Setting& setting, const HubProfiles& profiles, const std::function<void()>& changed)
+{
+    auto* box = new QComboBox;
+    box->setObjectName(fromBytes(setting.control));
+    for (std::size_t row = 1; row < profiles.count(); ++row)
+        box->addItem(fromBytes(profiles.names()[row]));
+    QObject::connect(box, &QComboBox::currentIndexChanged, box, changed);
+    // Without a choice the stored key stays: none but the user gives new users the rights of another profile.
+    const auto stored = std::make_shared<std::string>();
+    return {box,
+            [box, stored, key = setting.key](const SettingValues& values) {
+                *stored = values.at(key).empty() ? "0" : values.at(key);
+                bool isNumber = false;
+                const int place = fromBytes(*stored).toInt(&isNumber);
+                box->setCurrentIndex(isNumber && place < box->count() ? place : -1);
+            },
+            [box, stored, key = setting.key](SettingValues& values) {
+                const int place =
+                    box->findText(box->currentText(), Qt::MatchExactly | Qt::MatchCaseSensitive);
+                values[key] = place < 0 ? *stored : std::to_string(place);
             }};
 }
 
@@ -172,6 +196,8 @@ Control controlOfKind(const Setting& setting, const HubProfiles& profiles,
         return profileList(setting, profiles, changed);
     case Setting::Kind::Flags:
         return flagList(setting, changed);
+    case Setting::Kind::Profile:
+        return profileBox(setting, profiles, changed);
     case Setting::Kind::Letter:
         return letterBox(setting, changed);
     }

@@ -20,6 +20,7 @@ EditRequest requestOf(const RowDialog& dialog)
                         dialog.addMode.value_or(habitualAddMode(dialog.form)), dialog.labels};
     request.entries = dialog.entries;
     request.ranges = dialog.ranges;
+    request.values = dialog.addValues;
     return request;
 }
 
@@ -32,6 +33,9 @@ RowListPart::RowListPart(RowListDeclaration declaration, const FormContext& cont
       m_toolbar(new QToolBar),
       m_widget(placed())
 {
+    const int columns = static_cast<int>(m_declaration.columns.size());
+    for (int hidden = 1; hidden <= m_declaration.hiddenColumns; ++hidden)
+        m_list->setColumnHidden(columns - hidden, true);
     buildToolbar();
     connect(m_list, &RowList::tickChanged, this, &FormPart::changed);
     connect(m_list, &RowList::countChanged, this, &RowListPart::followRows);
@@ -111,7 +115,7 @@ void RowListPart::edit()
     if (at < 0)
         return;
     CellRow row = m_list->rows()[static_cast<std::size_t>(at)];
-    const RowDialog& dialog = m_declaration.dialog;
+    const RowDialog dialog = m_declaration.dialogOf ? m_declaration.dialogOf(row) : m_declaration.dialog;
     EditRequest request = requestOf(dialog);
     request.gEditResult = "E";
     request.gEditMode = dialog.editMode.value_or(habitualEditMode(dialog.form));
@@ -199,6 +203,8 @@ void RowListGroupPart::save()
     for (const RowListPart* list : m_lists)
         rows.push_back(list->rows());
     m_group.save(m_context.files, rows);
+    if (m_group.reloads)
+        load();
 }
 
 RoutineTable RowListGroupPart::routines()

@@ -1,0 +1,114 @@
+#include "functions/security/antiadvertise.h"
+
+#include "functions/security/shared/actions.h"
+
+namespace quillfen {
+namespace {
+
+constexpr const char* blockedActions[] = {"Main",     "PM",          "Nick",           "Description",
+                                          "Anagrams", "CodeBreaker", "GuessTheNumber", "Hangman",
+                                          "Numbers",  "Trivia"};
+
+/// The same file as blockedActionsFile(), as a build fills it.
+TableFile declaredActions()
+{
+    TableFile file{blockedActionsFile().path, blockedActionsFile().table, {}};
+    for (const std::string name : blockedActions)
+        file.settings.push_back(flag("b" + name, "lvwBlockedActions", name, "1"));
+    return file;
+}
+
+ListFile addressFile(const std::string& word)
+{
+    return {R"(Security\AntiAdvertise\AntiAdvertise)" + word + "Addresses.tbl",
+            "tAntiAdvertise" + word + "Addresses"};
+}
+
+RowListDeclaration addressList(const std::string& word)
+{
+    const std::string noun = word + " Address";
+    RowListDeclaration list;
+    list.list = "lvw" + word + "Addresses";
+    list.toolbar = "tlb" + word + "Addresses";
+    list.label = noun + "es";
+    list.columns = {"Address"};
+    list.dialog.addTitle = "Add " + noun;
+    list.dialog.editTitle = "Edit " + noun;
+    list.dialog.labels = {noun};
+    // The question is worded as that of the intros.
+    list.deletion = {"Delete Intro?", "Do you really want to delete this File?",
+                     "There must be a minimum of one " + noun};
+    list.load = loadOf(addressFile(word));
+    list.save = saveOf(addressFile(word));
+    list.restored = noRows;
+    return list;
+}
+
+TableFile declaredSettings()
+{
+    Setting ipBlock = flag("bEnableIPBlock", "chkCheckBox(0)", "Enable IP Block", "1");
+    ipBlock.toolTip = "Allows IPs beginning with 0 (such as 0.3.6.0)";
+    Setting blockedProfiles = profileFlags("tBlockedProfiles", "lvwBlockedProfiles", "Blocked Profiles");
+    blockedProfiles.keptByRestore = true;
+    return {
+        R"(Security\AntiAdvertise\AntiAdvertiseSettings.tbl)",
+        "tAntiAdvertiseSettings",
+        {
+            ipBlock,
+            flag("bSilentMode", "chkCheckBox(1)", "Enable Silent Mode", "1"),
+            flag("bAllowToOps", "chkCheckBox(2)", "Allow In PM to Ops", "1"),
+            banTimeSetting("iTempBanTime"),
+            actionSetting("TempBan"),
+            blockedProfiles,
+        },
+    };
+}
+
+} // namespace
+
+const TableFile& antiAdvertiseSettings()
+{
+    static const TableFile file = declaredSettings();
+    return file;
+}
+
+const ListFile& blockedActionsFile()
+{
+    static const ListFile file = {R"(Security\AntiAdvertise\AntiAdvertiseBlockedActions.tbl)",
+                                  "tAntiAdvertiseBlockedActions", ListFile::Form::Flags};
+    return file;
+}
+
+const RowListDeclaration& blockedAddresses()
+{
+    static const RowListDeclaration list = [] {
+        RowListDeclaration blocked = addressList("Blocked");
+        blocked.menu = "mnuFirst";
+        return blocked;
+    }();
+    return list;
+}
+
+const RowListDeclaration& allowedAddresses()
+{
+    static const RowListDeclaration list = [] {
+        RowListDeclaration allowed = addressList("Allowed");
+        allowed.menu = "mnuSecond";
+        return allowed;
+    }();
+    return list;
+}
+
+void buildAntiAdvertise(const SettingsFiles& files, const HubProfiles& profiles)
+{
+    rebuildTableFile(antiAdvertiseSettings(), files, profiles);
+    rebuildTableFile(declaredActions(), files, profiles);
+    // Each new file opens with the other's table. The form's first save gives each its own; until then both
+    // are empty, and trees in the field hold them so.
+    const ListFile blocked = addressFile("Blocked");
+    const ListFile allowed = addressFile("Allowed");
+    writeEmptyTableIfMissing(files, allowed.path, blocked.table);
+    writeEmptyTableIfMissing(files, blocked.path, allowed.table);
+}
+
+} // namespace quillfen

@@ -1,0 +1,21 @@
+#pragma once
+
+#include "settings/declaration.h"
+#include "settings/listdeclaration.h"
+#include "settings/listfile.h"
+
+namespace quillfen {
+
+/// What is done to those who advertise another hub, and which profiles are looked at.
+const TableFile& antiAdvertiseSettings();
+
+/// Where is looked: a flag for each place, as the form's list holds it.
+const ListFile& blockedActionsFile();
+
+/// The addresses that count as advertising, and those that don't.
+const RowListDeclaration& blockedAddresses();
+const RowListDeclaration& allowedAddresses();
+
+void buildAntiAdvertise(const SettingsFiles& files, const HubProfiles& profiles);
+
+} // namespace quillfen

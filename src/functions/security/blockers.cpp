@@ -1,0 +1,124 @@
+#include "functions/security/blockers.h"
+
+#include "functions/security/shared/actions.h"
+#include "settings/listfile.h"
+
+namespace quillfen {
+namespace {
+
+const ListFile badNickFile = {R"(Security\BadNickBlocker\BadNickBlockerNickList.tbl)",
+                              "tBadNickBlockerNickList", ListFile::Form::Numbered};
+const ListFile exemptUserFile = {R"(Security\CloneBlocker\CloneBlockerExemptUsers.tbl)",
+                                 "tCloneBlockerExemptUsers", ListFile::Form::Presence};
+
+/// RESTORE sets the action and its time; the lists stay.
+Setting profileList(const std::string& key, const std::string& control, const std::string& label)
+{
+    Setting setting = profileFlags(key, control, label);
+    setting.keptByRestore = true;
+    return setting;
+}
+
+/// A list of one-word rows, worded by what a row is called.
+RowListDeclaration wordedList(const ListFile& file, const std::string& word)
+{
+    RowListDeclaration list;
+    list.menu = "mnuFirst";
+    list.dialog.addTitle = "Add " + word;
+    list.dialog.editTitle = "Edit " + word;
+    list.dialog.labels = {word};
+    list.deletion.title = "Delete " + word + "?";
+    list.deletion.text = "Do you really want to delete this " + word + "?";
+    list.load = loadOf(file);
+    list.save = saveOf(file);
+    return list;
+}
+
+RowListDeclaration declaredBadNicks()
+{
+    RowListDeclaration list = wordedList(badNickFile, "Bad Nick");
+    list.list = "lvwBadNickList";
+    list.toolbar = "tlbListview";
+    list.label = "Bad Nicks";
+    list.columns = {"Nick"};
+    return list;
+}
+
+RowListDeclaration declaredExemptUsers()
+{
+    RowListDeclaration list = wordedList(exemptUserFile, "Exempt User");
+    list.list = "lvwExemptUsers";
+    list.toolbar = "tlbListview";
+    list.label = "Exempt Users";
+    list.columns = {"User"};
+    return list;
+}
+
+} // namespace
+
+const TableFile& badNickSettings()
+{
+    static const TableFile file = {
+        R"(Security\BadNickBlocker\BadNickBlockerSettings.tbl)",
+        "tBadNickBlockerSettings",
+        {banTimeSetting("iTempBanTime"), actionSetting("TempBan"),
+         profileList("tExemptProfiles", "lvwExemptProfiles", "Exempt Profiles")},
+        {"sAction", "iTempBanTime", "tExemptProfiles"},
+    };
+    return file;
+}
+
+const RowListDeclaration& badNicks()
+{
+    static const RowListDeclaration list = declaredBadNicks();
+    return list;
+}
+
+const TableFile& cloneSettings()
+{
+    static const TableFile file = {
+        R"(Security\CloneBlocker\CloneBlockerSettings.tbl)",
+        "tCloneBlockerSettings",
+        {banTimeSetting("iTempBanTime"), actionSetting("TempBan"),
+         profileList("tEnabledProfiles", "lvwEnabledProfiles", "Enabled Profiles"),
+         profileList("tExemptProfiles", "lvwExemptProfiles", "Exempt Profiles")},
+        {"sAction", "iTempBanTime", "tExemptProfiles", "tEnabledProfiles"},
+    };
+    return file;
+}
+
+const RowListDeclaration& cloneExemptUsers()
+{
+    static const RowListDeclaration list = declaredExemptUsers();
+    return list;
+}
+
+const TableFile& antiVirusSettings()
+{
+    static const TableFile file = {
+        R"(Security\AntiVirus\AntiVirusSettings.tbl)",
+        "tAntiVirusSettings",
+        {banTimeSetting("iTempBanTime"), actionSetting("Disconnect")},
+        {"sAction", "iTempBanTime"},
+    };
+    return file;
+}
+
+void buildBadNickBlocker(const SettingsFiles& files, const HubProfiles& profiles)
+{
+    rebuildTableFile(badNickSettings(), files, profiles);
+    writeEmptyTableIfMissing(files, badNickFile.path, badNickFile.table);
+}
+
+void buildCloneBlocker(const SettingsFiles& files, const HubProfiles& profiles)
+{
+    rebuildTableFile(cloneSettings(), files, profiles);
+    writeEmptyTableIfMissing(files, exemptUserFile.path, exemptUserFile.table);
+}
+
+void buildAntiVirus(const SettingsFiles& files, const HubProfiles& profiles)
+{
+    rebuildTableFile(antiVirusSettings(), files, profiles);
+}
+
+} // namespace quillfen

@@ -1,0 +1,116 @@
+#include "functions/security/clientchecker.h"
+
+#include "functions/security/shared/actions.h"
+#include "settings/lines.h"
+#include "settings/listfile.h"
+
+namespace quillfen {
+namespace {
+
+const ListFile versionsFile = {R"(Security\ClientChecker\ClientVersions.tbl)", "tClientVersions",
+                               ListFile::Form::Keyed};
+
+/// The cells of a row.
+enum Cell
+{
+    Client,
+    MinVersion,
+    Allow
+};
+
+/// A client's value is `<allow>^<min version>`.
+std::vector<CellRow> loadVersions(const SettingsFiles& files, const HubProfiles& /*profiles*/)
+{
+    std::vector<CellRow> rows;
+    for (const ListRow& row : loadList(files, versionsFile)) {
+        const auto [allow, version, found] = splitInPieces(row.second, '^');
+        rows.push_back({{row.text, std::string(version), isOne(allow) ? "True" : "False"}});
+    }
+    return rows;
+}
+
+void saveVersions(const SettingsFiles& files, const HubProfiles& /*profiles*/,
+                  const std::vector<CellRow>& rows)
+{
+    std::vector<ListRow> list;
+    for (const CellRow& row : rows)
+        list.push_back(
+            {row.cells[Client], (row.cells[Allow] == "True" ? "1^" : "0^") + row.cells[MinVersion]});
+    saveList(files, versionsFile, list);
+}
+
+RowListDeclaration declaredVersions()
+{
+    RowListDeclaration list;
+    list.list = "lvwClients";
+    list.toolbar = "tlbClients";
+    list.columns = {"Client", "Min Version", "Allow"};
+    list.menu = "mnuFirst";
+    list.dialog.form = EditForm::TwoTextCombo;
+    list.dialog.addTitle = "Add Client";
+    list.dialog.editTitle = "Edit File";
+    list.dialog.labels = {"Client", "Min Version", "Allow"};
+    list.dialog.entries = {{"True", "False"}};
+    list.dialog.addMode = 4;
+    list.labelsOf = [](const CellRow& row) {
+        return std::vector<std::string>{row.cells[Client] + " Client", "Min Version", "Allow"};
+    };
+    list.take = [](const std::vector<std::string>& fields, CellRow& row) {
+        row.cells.clear();
+        for (const std::string& field : fields)
+            row.cells.emplace_back(trimBlanks(field));
+    };
+    list.deletion = {"Delete Client?", "Do you really want to delete this Client?",
+                     "There must be a minimum of one Client"};
+    list.load = loadVersions;
+    list.save = saveVersions;
+    return list;
+}
+
+/// RESTORE sets the action and its time; the lists stay.
+Setting kept(Setting setting)
+{
+    setting.keptByRestore = true;
+    return setting;
+}
+
+TableFile declaredSettings()
+{
+    Setting types = kept(namedFlags("tBlock", "lvwBlockedTypes", "Blocked Connection Types",
+                                    {"Sockets", "Passive", "Active", "Undeclared"}));
+    types.resets = true; // a rebuild opens the hub to every kind of connection again
+    return {
+        R"(Security\ClientChecker\ClientCheckerSettings.tbl)",
+        "tClientCheckerSettings",
+        {
+            banTimeSetting("iBanTime"),
+            actionSetting("TempBan"),
+            // The key says enabled and the label says exempt: one list, and both words stay.
+            kept(profileFlags("tEnabledProfiles", "lvwEnabledProfiles", "Exempt Profiles")),
+            types,
+        },
+        {"sAction", "iBanTime", "tBlock", "tEnabledProfiles"},
+    };
+}
+
+} // namespace
+
+const TableFile& clientCheckerSettings()
+{
+    static const TableFile file = declaredSettings();
+    return file;
+}
+
+const RowListDeclaration& clientVersions()
+{
+    static const RowListDeclaration list = declaredVersions();
+    return list;
+}
+
+void buildClientChecker(const SettingsFiles& files, const HubProfiles& profiles)
+{
+    rebuildTableFile(clientCheckerSettings(), files, profiles);
+    writeEmptyTableIfMissing(files, versionsFile.path, versionsFile.table);
+}
+
+} // namespace quillfen

@@ -1,0 +1,16 @@
+#pragma once
+
+#include "settings/declaration.h"
+#include "settings/listdeclaration.h"
+
+namespace quillfen {
+
+/// What is done to offenders, who is not looked at, and which kinds of connection are refused.
+const TableFile& clientCheckerSettings();
+
+/// The clients that may come in or not, each from a version on.
+const RowListDeclaration& clientVersions();
+
+void buildClientChecker(const SettingsFiles& files, const HubProfiles& profiles);
+
+} // namespace quillfen

@@ -1,0 +1,323 @@
+#include "functions/security/profilerules.h"
+
+#include "settings/lines.h"
+#include "settings/listfile.h"
+#include "settings/profiles.h"
+
+#include <algorithm>
+#include <charconv>
+#include <cmath>
+
+namespace quillfen {
+namespace {
+
+const ListFile rulesFile = {R"(Security\ProfileRules\ProfileRules.tbl)", "tProfileRules"};
+
+/// A rule, named without the letter of its key.
+struct Rule
+{
+    std::string_view name;
+    char letter; ///< of its key in a profile's block
+    std::string_view standard;
+    EditForm form;
+    std::string_view title;
+    std::vector<std::string> labels;
+    bool isShare = false;
+};
+
+const std::vector<Rule>& rules()
+{
+    static const std::vector<Rule> all = {
+        // The title of the shares is that of a file's dialog.
+        {"MinShare", 'i', "0", EditForm::UpDownCombo, "Edit File", {"Min Share", "Units"}, true},
+        {"MaxShare", 'i', "0", EditForm::UpDownCombo, "Edit File", {"Max Share", "Units"}, true},
+        {"MinSlots", 'i', "0", EditForm::OneUpDown, "Edit Min Slots", {"Min Slots"}},
+        {"MaxSlots", 'i', "0", EditForm::OneUpDown, "Edit Max Slots", {"Max Slots"}},
+        {"MaxHubs", 'i', "0", EditForm::OneUpDown, "Edit Max Hubs", {"Max Hubs"}},
+        {"HubSlotRatio", 's', "0/0", EditForm::TwoUpDowns, "Edit Hub Slot Ratio", {"Hubs", "Slots"}},
+    };
+    return all;
+}
+
+std::string keyOf(const Rule& rule)
+{
+    return rule.letter + std::string(rule.name);
+}
+
+struct Unit
+{
+    std::string_view name;
+    double bytes;
+    std::ptrdiff_t belowDigits; ///< the stored count has fewer digits than this; 0 for any number of them
+};
+
+constexpr Unit units[] = {
+    {"KB", 1024., 7}, {"MB", 1048576., 10}, {"GB", 1073741824., 13}, {"TB", 1099511627776., 0}};
+
+/// A number with up to 15 significant digits, no matter what the platform's language is.
+std::string numberText(double number)
+{
+    char buffer[32];
+    const auto end =
+        std::to_chars(buffer, buffer + sizeof buffer, number, std::chars_format::general, 15).ptr;
+    std::string text(buffer, end);
+    std::replace(text.begin(), text.end(), 'e', 'E');
+    return text;
+}
+
+/// The cells of a profile's row.
+enum Cell
+{
+    Profile,
+    RuleName,
+    Data,
+    ProfileKey
+};
+
+const Rule& ruleOf(const CellRow& row)
+{
+    return *std::find_if(rules().begin(), rules().end(),
+                         [&row](const Rule& rule) { return rule.name == row.cells[RuleName]; });
+}
+
+std::vector<CellRow> loadPermissions(const SettingsFiles& files, const HubProfiles& profiles)
+{
+    const auto index = files.index(rulesFile.path);
+    std::vector<CellRow> rows;
+    for (std::size_t profile = 0; profile < profiles.count(); ++profile) {
+        const std::string key = HubProfiles::key(profile);
+        for (const Rule& rule : rules()) {
+            const bool first = &rule == &rules().front();
+            const std::string value = index.value(keyOf(rule), key);
+            rows.push_back({{first ? profiles.names()[profile] : "", std::string(rule.name),
+                             rule.isShare ? shownShare(value) : value, key}});
+        }
+    }
+    return rows;
+}
+
+std::string storedData(const Rule& rule, const std::string& data)
+{
+    if (rule.letter == 's')
+        return "\"" + data + "\"";
+    if (rule.isShare)
+        return storedShare(data);
+    return data.empty() ? "0" : data; // what was never set is a rule of 0
+}
+
+/// The block of messages or redirects: keys with quoted texts.
+std::string textBlock(const std::string& table, const std::vector<std::pair<std::string, std::string>>& texts)
+{
+    std::string block = "\t" + table + " = {\r\n";
+    for (const auto& [key, text] : texts)
+        block += "\t\t" + key + " = \"" + text + "\",\r\n";
+    return block + "\t},\r\n";
+}
+
+std::string textBlock(const std::string& table, const std::vector<CellRow>& rows)
+{
+    std::vector<std::pair<std::string, std::string>> texts;
+    for (const CellRow& row : rows)
+        texts.emplace_back("s" + row.cells[0], row.cells[1]);
+    return textBlock(table, texts);
+}
+
+void saveRules(const SettingsFiles& files, const std::vector<std::vector<CellRow>>& lists)
+{
+    std::string text = rulesFile.table + " = {\r\n";
+    text += textBlock("tMessages", lists.at(1)) + textBlock("tRedirects", lists.at(2));
+    std::size_t place = 0;
+    for (const CellRow& row : lists.at(0)) {
+        const Rule& rule = rules()[place];
+        if (place == 0)
+            text += "\t[" + row.cells[ProfileKey] + "] = {\r\n";
+        text += "\t\t" + keyOf(rule) + " = " + storedData(rule, row.cells[Data]) + ",\r\n";
+        place = (place + 1) % rules().size();
+        if (place == 0)
+            text += "\t},\r\n";
+    }
+    files.WriteSettingsFile(rulesFile.path, text + "}");
+}
+
+RowDialog dialogOf(const CellRow& row)
+{
+    const Rule& rule = ruleOf(row);
+    RowDialog dialog;
+    dialog.form = rule.form;
+    dialog.editTitle = rule.title;
+    dialog.labels = rule.labels;
+    dialog.editMode = rule.labels.size() > 1 ? 1 : 0; // all fields are required
+    if (rule.isShare) {
+        dialog.entries.emplace_back();
+        for (const Unit& unit : units)
+            dialog.entries.back().emplace_back(unit.name);
+    }
+    return dialog;
+}
+
+/// What stands between the two fields of a row's data; nothing for a row of one field.
+std::string separatorOf(const Rule& rule)
+{
+    return rule.isShare ? " " : rule.letter == 's' ? "/" : "";
+}
+
+std::vector<std::string> fieldsOf(const CellRow& row)
+{
+    const std::string separator = separatorOf(ruleOf(row));
+    if (separator.empty())
+        return {row.cells[Data]};
+    const auto [left, right, found] = splitOnce(row.cells[Data], separator.front());
+    return {std::string(left), std::string(right)};
+}
+
+void take(const std::vector<std::string>& fields, CellRow& row)
+{
+    row.cells[Data] = fields[0];
+    if (fields.size() > 1)
+        row.cells[Data] += separatorOf(ruleOf(row)) + fields[1];
+}
+
+RowListDeclaration permissions()
+{
+    RowListDeclaration list;
+    list.list = "lvwPermissions";
+    list.toolbar = "tlbPermissions";
+    list.columns = {"Profile", "Setting", "Data", "iProfile"};
+    list.hiddenColumns = 1;
+    list.menu = "mnuOnlyEdit";
+    list.load = loadPermissions;
+    list.dialogOf = dialogOf;
+    list.fieldsOf = fieldsOf;
+    list.take = take;
+    return list;
+}
+
+RowListDeclaration textList(const std::string& word, const std::string& menu, const std::string& titleEnd)
+{
+    RowListDeclaration list;
+    list.list = "lvw" + word;
+    list.toolbar = "tlb" + word;
+    list.label = word;
+    list.columns = {"Setting", "Data"};
+    list.menu = menu;
+    list.load = [table = "t" + word](const SettingsFiles& files, const HubProfiles&) {
+        std::vector<ListRow> texts;
+        files.ReadTableToList(rulesFile.path, texts, "=", table);
+        std::vector<CellRow> rows;
+        for (const ListRow& text : texts)
+            rows.push_back({{text.text.substr(std::min<std::size_t>(1, text.text.size())), text.second}});
+        return rows;
+    };
+    list.editTitleOf = [titleEnd](const CellRow& row) { return "Edit " + row.cells[0] + titleEnd; };
+    list.labelsOf = [](const CellRow& row) { return std::vector<std::string>{row.cells[0]}; };
+    list.fieldsOf = [](const CellRow& row) { return std::vector<std::string>{row.cells[1]}; };
+    list.take = [](const std::vector<std::string>& fields, CellRow& row) { row.cells[1] = fields[0]; };
+    return list;
+}
+
+TableFile declaredSettings()
+{
+    Setting log = flag("bEnableRedirectLog", "chkCheckBox", "Log Redirects", "0");
+    // A rebuild asks for the defaults of both under other names: it finds the flag's to be 1, and none for
+    // the delay, whose row then stands without a value.
+    log.rebuildStandard = "1";
+    Setting delay = number("iCheckDelay", "txtUpDown", "Automatic Check Delay", "5", 1, 365);
+    delay.unit = "Days";
+    delay.rebuildStandard = "";
+    Setting get = profileFlags("tEnabledGetProfiles", "lvwEnabledGetProfiles", "Enabled Get Profiles");
+    Setting set = profileFlags("tEnabledSetProfiles", "lvwEnabledSetProfiles", "Enabled Set Profiles");
+    get.column = set.column = "Enabled Profiles";
+    return {
+        R"(Security\ProfileRules\ProfileRuleSettings.tbl)",
+        "tProfileRuleSettings",
+        {log, delay, get, set},
+        {"iCheckDelay", "bEnableRedirectLog", "tEnabledGetProfiles", "tEnabledSetProfiles"},
+    };
+}
+
+void rebuildRules(const SettingsFiles& files, const HubProfiles& profiles)
+{
+    const auto index = files.index(rulesFile.path);
+    std::string text = rulesFile.table + " = {\r\n";
+    for (const char* table : {"tMessages", "tRedirects"}) {
+        std::vector<std::pair<std::string, std::string>> texts;
+        for (const Rule& rule : rules()) {
+            const std::string key = "s" + std::string(rule.name);
+            texts.emplace_back(key, index.value(key, table));
+        }
+        text += textBlock(table, texts);
+    }
+    for (std::size_t profile = 0; profile < profiles.count(); ++profile) {
+        const std::string block = HubProfiles::key(profile);
+        text += "\t[" + block + "] = {\r\n";
+        for (const Rule& rule : rules()) {
+            std::string value = index.value(keyOf(rule), block);
+            if (value.empty())
+                value = rule.standard;
+            text +=
+                "\t\t" + keyOf(rule) + " = " + (rule.letter == 's' ? "\"" + value + "\"" : value) + ",\r\n";
+        }
+        text += "\t},\r\n";
+    }
+    files.WriteSettingsFile(rulesFile.path, text + "}");
+}
+
+/// Each rebuild starts the counters anew, and the ratio's key has another letter here than in the rules.
+void resetCounters(const SettingsFiles& files)
+{
+    std::string text = "tProfileRulesRedirectCounter = {\r\n";
+    for (const Rule& rule : rules())
+        text += "\ti" + std::string(rule.name) + " = 0,\r\n";
+    files.WriteSettingsFile(R"(Security\ProfileRules\ProfileRulesRedirectCounter.tbl)", text + "}");
+}
+
+} // namespace
+
+const TableFile& profileRuleSettings()
+{
+    static const TableFile file = declaredSettings();
+    return file;
+}
+
+const RowListGroup& profileRules()
+{
+    static const RowListGroup group = {{permissions(), textList("Messages", "mnuOnlyEditTwo", " Message"),
+                                        textList("Redirects", "mnuOnlyEditThree", " Redirect Address")},
+                                       saveRules,
+                                       true};
+    return group;
+}
+
+std::string shownShare(std::string_view bytes)
+{
+    if (bytes.empty())
+        return {};
+    const auto digits =
+        std::count_if(bytes.begin(), bytes.end(), [](char c) { return c >= '0' && c <= '9'; });
+    const auto* unit = std::find_if(std::begin(units), std::end(units), [digits](const Unit& each) {
+        return each.belowDigits == 0 || digits < each.belowDigits;
+    });
+    return numberText(leadingNumber(bytes) / unit->bytes) + " " + std::string(unit->name);
+}
+
+std::string storedShare(std::string_view shown)
+{
+    const auto [number, name, found] = splitOnce(shown, ' ');
+    const auto* unit = std::find_if(std::begin(units), std::end(units) - 1,
+                                    [&name = name](const Unit& each) { return each.name == name; });
+    const double bytes = leadingNumber(number) * unit->bytes;
+    // The 15 digits that were shown may miss the whole count by a hair: that hair isn't the user's.
+    const double whole = std::round(bytes);
+    return numberText(std::abs(bytes - whole) <= whole * 1e-14 ? whole : bytes);
+}
+
+void buildProfileRules(const SettingsFiles& files, const HubProfiles& profiles)
+{
+    rebuildTableFile(profileRuleSettings(), files, profiles);
+    rebuildRules(files, profiles);
+    writeEmptyTableIfMissing(files, R"(Security\ProfileRules\ProfileRulesExemptUsers.tbl)",
+                             "tProfileRulesExemptUsers");
+    resetCounters(files);
+}
+
+} // namespace quillfen

@@ -1,0 +1,20 @@
+#include "functions/security/ptokax.h"
+
+namespace quillfen {
+
+const TableFile& ptokaXSettings()
+{
+    static const TableFile file = {
+        R"(Security\PtokaX\PtokaXSettings.tbl)",
+        "tPtokaXSettings",
+        {profileFlags("tEnabledGetProfiles", "lvwEnabledGetProfiles", "Enabled Get Profiles"),
+         profileFlags("tEnabledSetProfiles", "lvwEnabledSetProfiles", "Enabled Set Profiles")}};
+    return file;
+}
+
+void buildPtokaXSettings(const SettingsFiles& files, const HubProfiles& profiles)
+{
+    rebuildTableFile(ptokaXSettings(), files, profiles);
+}
+
+} // namespace quillfen

@@ -1,0 +1,65 @@
+#include "functions/security/registration.h"
+
+namespace quillfen {
+namespace {
+
+GridCommand command(const std::string& word, const std::string& name)
+{
+    return {word, R"(Security\Registration\Registration)" + name + ".tbl", "tRegistration" + name};
+}
+
+TableFile declaredSettings()
+{
+    Setting profile = profileKey("iRegProfile", "cboComboBox", "Registration Profile");
+    profile.keptByRestore = true;
+    return {
+        R"(Security\Registration\RegistrationSettings.tbl)",
+        "tRegistrationSettings",
+        {
+            flag("bAllowRegme", "chkCheckBox(0)", "Enable Regme", "1"),
+            flag("bKeepLog", "chkCheckBox(1)", "Keep Log", "1"),
+            text("sPrefix", "txtTextBox(0)", "Prefix", ""),
+            profile,
+        },
+    };
+}
+
+/// A rebuild looks for each setting under swapped names, finds none, and writes the defaults whatever the
+/// file holds. Its last key has an `s` too many, so that the form shows the hub's first profile after it and
+/// writes the right key with its next save. The hub script lives with both.
+void resetSettings(const SettingsFiles& files)
+{
+    const TableFile& file = registrationSettings();
+    files.WriteSettingsFile(file.path, file.table + " = {\r\n"
+                                                    "\tbAllowRegme = 1,\r\n"
+                                                    "\tbKeepLog = 1,\r\n"
+                                                    "\tsPrefix = \"\",\r\n"
+                                                    "\tiRegProfiles = 3,\r\n"
+                                                    "}");
+}
+
+} // namespace
+
+const TableFile& registrationSettings()
+{
+    static const TableFile file = declaredSettings();
+    return file;
+}
+
+const PermissionGrid& registrationPermissions()
+{
+    static const PermissionGrid grid = {
+        {command("Add Registration", "Add"), command("Delete Registration", "Delete"),
+         command("Get Password", "GetPassword"), command("Change Password", "ChangePassword")},
+        1};
+    return grid;
+}
+
+void buildRegistration(const SettingsFiles& files, const HubProfiles& profiles)
+{
+    for (const char* name : {"Add", "ChangePassword", "Delete", "GetPassword"})
+        rebuildGridFile(command({}, name), registrationPermissions().firstProfile, files, profiles);
+    resetSettings(files);
+}
+
+} // namespace quillfen

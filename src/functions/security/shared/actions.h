@@ -1,0 +1,26 @@
+#pragma once
+
+#include "settings/declaration.h"
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace quillfen {
+
+/// What is done to an offender, as the forms word it. A file holds an action as its word's first letter.
+const std::vector<std::string>& actionWords();
+
+/// The word of a stored letter among these words; empty if it is none of theirs.
+std::string actionWord(const std::vector<std::string>& words, std::string_view letter);
+
+/// The letter that a word is stored as; empty for no word.
+std::string actionLetter(std::string_view word);
+
+/// The setting `sAction` with its combo box; its default as a word.
+Setting actionSetting(std::string_view standard);
+
+/// How long a ban for a time lasts. Its box is live for every action.
+Setting banTimeSetting(const std::string& key);
+
+} // namespace quillfen

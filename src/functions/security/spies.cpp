@@ -1,0 +1,109 @@
+#include "functions/security/spies.h"
+
+#include "functions/security/shared/actions.h"
+#include "settings/listfile.h"
+
+namespace quillfen {
+namespace {
+
+const ListFile termsFile = {R"(Security\SearchSpy\SearchSpyFiles.tbl)", "tSearchSpyFiles",
+                            ListFile::Form::Keyed};
+
+/// The actions against a search: a ban for a time is none of them.
+const std::vector<std::string>& searchActions()
+{
+    static const std::vector<std::string> words = {"Disconnect", "Warn", "Notify Ops", "Kick", "Ban"};
+    return words;
+}
+
+/// The cells of a row.
+enum Cell
+{
+    Term,
+    Action
+};
+
+std::vector<CellRow> loadTerms(const SettingsFiles& files, const HubProfiles& /*profiles*/)
+{
+    std::vector<CellRow> rows;
+    for (const ListRow& row : loadList(files, termsFile))
+        rows.push_back({{row.text, actionWord(searchActions(), row.second)}});
+    return rows;
+}
+
+void saveTerms(const SettingsFiles& files, const HubProfiles& /*profiles*/, const std::vector<CellRow>& rows)
+{
+    std::vector<ListRow> list;
+    for (const CellRow& row : rows)
+        list.push_back({row.cells[Term], actionLetter(row.cells[Action])});
+    saveList(files, termsFile, list);
+}
+
+RowListDeclaration declaredTerms()
+{
+    RowListDeclaration list;
+    list.list = "lvwFiles";
+    list.toolbar = "tlbFiles";
+    list.label = "Forbidden Files";
+    list.columns = {"File", "Action"};
+    list.menu = "mnuFirst";
+    list.dialog.form = EditForm::TextCombo;
+    list.dialog.addTitle = "Add File";
+    list.dialog.editTitle = "Edit File";
+    list.dialog.labels = {"File", "Action"};
+    list.dialog.entries = {searchActions()};
+    list.dialog.addValues = {"", "Kick"};
+    list.dialog.editMode = 2;
+    list.labelsOf = [](const CellRow& row) {
+        return std::vector<std::string>{row.cells[Term] + " File", "Action"};
+    };
+    // The question is worded as that of the intros.
+    list.deletion = {"Delete Intro?", "Do you really want to delete this File?",
+                     "There must be a minimum of one File"};
+    list.load = loadTerms;
+    list.save = saveTerms;
+    return list;
+}
+
+} // namespace
+
+const TableFile& commandSpySettings()
+{
+    static const TableFile file = {
+        R"(Security\CommandSpy\CommandSpySettings.tbl)",
+        "tCommandSpySettings",
+        {profileFlags("tEnabledProfiles", "lvwEnabledProfiles", "Enabled Profiles")}};
+    return file;
+}
+
+const TableFile& searchSpySettings()
+{
+    static const TableFile file = {
+        R"(Security\SearchSpy\SearchSpySettings.tbl)",
+        "tSearchSpySettings",
+        {profileFlags("tAllowedProfiles", "lvwAllowedProfiles", "Enabled Profiles"),
+         profileFlags("tImmuneProfiles", "lvwImmuneProfiles", "Immune Profiles")},
+        {"tImmuneProfiles", "tAllowedProfiles"},
+    };
+    return file;
+}
+
+const RowListDeclaration& forbiddenFiles()
+{
+    static const RowListDeclaration list = declaredTerms();
+    return list;
+}
+
+void buildCommandSpy(const SettingsFiles& files, const HubProfiles& profiles)
+{
+    rebuildTableFile(commandSpySettings(), files, profiles);
+    writeEmptyTableIfMissing(files, R"(Security\CommandSpy\CommandSpyUsers.tbl)", "tCommandSpyUsers");
+}
+
+void buildSearchSpy(const SettingsFiles& files, const HubProfiles& profiles)
+{
+    rebuildTableFile(searchSpySettings(), files, profiles);
+    writeEmptyTableIfMissing(files, termsFile.path, termsFile.table);
+}
+
+} // namespace quillfen

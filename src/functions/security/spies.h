@@ -1,0 +1,20 @@
+#pragma once
+
+#include "settings/declaration.h"
+#include "settings/listdeclaration.h"
+
+namespace quillfen {
+
+/// Who may spy on commands.
+const TableFile& commandSpySettings();
+
+/// Who may see forbidden searches, and whose searches are not looked at.
+const TableFile& searchSpySettings();
+
+/// The search terms that are forbidden, each with what is done about it.
+const RowListDeclaration& forbiddenFiles();
+
+void buildCommandSpy(const SettingsFiles& files, const HubProfiles& profiles);
+void buildSearchSpy(const SettingsFiles& files, const HubProfiles& profiles);
+
+} // namespace quillfen

@@ -1,0 +1,131 @@
+#include "functions/security/profilerules.h"
+#include "functions/security/securitytest.h"
+
+namespace quillfen {
+namespace {
+
+using test::LuaValues;
+using test::luaValues;
+using test::sameBytes;
+
+class ProfileRules : public test::SecurityFiles
+{
+protected:
+    std::string& named(const std::string& name) { return file("ProfileRules/ProfileRule" + name + ".tbl"); }
+    void build() { buildProfileRules(hub.files, hub.profiles); }
+};
+
+TEST_F(ProfileRules, AreDeclaredWithoutFault)
+{
+    EXPECT_EQ(faults(profileRuleSettings()), std::vector<std::string>());
+}
+
+TEST_F(ProfileRules, AFreshBuildLeavesTheDelayWithoutValueAndTheTextsEmpty)
+{
+    build();
+    EXPECT_TRUE(sameBytes(named("Settings"), golden("ProfileRuleSettings.build.tbl")));
+    EXPECT_TRUE(sameBytes(named("s"), golden("ProfileRules.build.tbl")));
+    EXPECT_EQ(named("sExemptUsers"), "tProfileRulesExemptUsers = {\r\n}\r\n");
+    EXPECT_TRUE(sameBytes(named("sRedirectCounter"), golden("RedirectCounter.build.tbl")));
+}
+
+TEST_F(ProfileRules, ARebuildKeepsAllButTheCounters)
+{
+    named("Settings") = golden("ProfileRuleSettings.save.tbl");
+    named("s") = golden("ProfileRules.save.tbl");
+    named("sExemptUsers") = "tProfileRulesExemptUsers = {\r\n\t[\"Ann\"] = 1,\r\n}\r\n";
+    named("sRedirectCounter") = "tProfileRulesRedirectCounter = {\r\n\tiMinShare = 7,\r\n}\r\n";
+    build();
+    EXPECT_TRUE(sameBytes(named("Settings"), golden("ProfileRuleSettings.rebuild.tbl")));
+    EXPECT_TRUE(sameBytes(named("s"), golden("ProfileRules.save.tbl")));
+    EXPECT_EQ(named("sExemptUsers"), "tProfileRulesExemptUsers = {\r\n\t[\"Ann\"] = 1,\r\n}\r\n");
+    EXPECT_TRUE(sameBytes(named("sRedirectCounter"), golden("RedirectCounter.build.tbl")));
+}
+
+TEST_F(ProfileRules, ANewProfileGetsABlockOfDefaults)
+{
+    named("s") = golden("ProfileRules.save.tbl");
+    hub.profiles.add("Reg");
+    build();
+    std::string expected = golden("ProfileRules.save.tbl");
+    expected.erase(expected.size() - 3);
+    expected += "\t[3] = {\r\n\t\tiMinShare = 0,\r\n\t\tiMaxShare = 0,\r\n\t\tiMinSlots = "
+                "0,\r\n\t\tiMaxSlots = 0,\r\n"
+                "\t\tiMaxHubs = 0,\r\n\t\tsHubSlotRatio = \"0/0\",\r\n\t},\r\n}\r\n";
+    EXPECT_TRUE(sameBytes(named("s"), expected));
+}
+
+TEST_F(ProfileRules, TheUnitOfAShareGoesByItsDigits)
+{
+    const std::vector<std::pair<const char*, const char*>> shares = {
+        {"", ""},
+        {"0", "0 KB"},
+        {"1", "0.0009765625 KB"},
+        {"500000", "488.28125 KB"},
+        {"999999", "976.5615234375 KB"},
+        {"1048576", "1 MB"},
+        {"999999999", "953.674315452576 MB"},
+        {"1000000000", "0.931322574615479 GB"},
+        {"999999999999", "931.322574614547 GB"},
+        {"1000000000000", "0.909494701772928 TB"},
+        {"1125899906842624", "1024 TB"},
+        {"none", "0 KB"},
+    };
+    for (const auto& [stored, text] : shares)
+        EXPECT_EQ(shownShare(stored), text) << stored;
+}
+
+TEST_F(ProfileRules, AShareIsStoredAsBytes)
+{
+    const std::vector<std::pair<const char*, const char*>> shares = {
+        {"0 KB", "0"},
+        {"976.5615234375 KB", "999999"},
+        {"1 MB", "1048576"},
+        {"2.5 GB", "2684354560"},
+        {"3 TB", "3298534883328"},
+        {"3 XB", "3298534883328"},
+        {"0.3 KB", "307.2"},
+        {"1024 TB", "1.12589990684262E+15"},
+        {"", "0"},
+    };
+    for (const auto& [text, stored] : shares)
+        EXPECT_EQ(storedShare(text), stored) << text;
+}
+
+TEST_F(ProfileRules, ACountOfBytesOfAnyLengthComesBackAsItStood)
+{
+    for (std::uint64_t digits = 1, least = 1; digits <= 14; ++digits, least *= 10) {
+        for (std::uint64_t step = 0; step < 3000; ++step) {
+            const std::string stored = std::to_string(least + step * (least * 9 / 3000));
+            EXPECT_EQ(storedShare(shownShare(stored)), stored);
+        }
+    }
+    // Of 15 digits the last may move by one, once: the shown number has no more digits than the count.
+    EXPECT_EQ(storedShare(shownShare("113200000000000")), "113199999999999");
+    EXPECT_EQ(storedShare(shownShare("113199999999999")), "113199999999999");
+    // 16 digits are one more than a number's text has: they are rounded once, and stay from then on.
+    const std::string rounded = storedShare(shownShare("1234567890123456"));
+    EXPECT_EQ(rounded, "1.23456789012346E+15");
+    EXPECT_EQ(storedShare(shownShare(rounded)), rounded);
+}
+
+TEST_F(ProfileRules, TheHubScriptCannotLoadAFreshDelayWithoutValueAndLoadsASavedOne)
+{
+    EXPECT_THROW(luaValues(golden("ProfileRuleSettings.build.tbl")), std::runtime_error);
+    const auto settings = luaValues(golden("ProfileRuleSettings.save.tbl"));
+    EXPECT_EQ(settings.at("tProfileRuleSettings.iCheckDelay"), "366");
+    EXPECT_EQ(settings.at("tProfileRuleSettings.tEnabledSetProfiles.0"), "1");
+    EXPECT_EQ(settings, luaValues(golden("ProfileRuleSettings.rebuild.tbl")));
+    const auto rules = luaValues(golden("ProfileRules.save.tbl"));
+    EXPECT_EQ(rules.size(), 36U);
+    EXPECT_EQ(rules.at("tProfileRules.tMessages.sMinShare"), "Share more");
+    EXPECT_EQ(rules.at("tProfileRules.tRedirects.sHubSlotRatio"), "other.example.com");
+    EXPECT_EQ(rules.at("tProfileRules.-1.iMinShare"), "2097152");
+    EXPECT_EQ(rules.at("tProfileRules.-1.sHubSlotRatio"), "3/1");
+    EXPECT_EQ(rules.at("tProfileRules.1.iMaxHubs"), "12");
+    EXPECT_EQ(luaValues(golden("RedirectCounter.build.tbl")).at("tProfileRulesRedirectCounter.iHubSlotRatio"),
+              "0");
+}
+
+} // namespace
+} // namespace quillfen
