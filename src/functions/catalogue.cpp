@@ -11,6 +11,15 @@
 #include "functions/communication/rotatingmessages.h"
 #include "functions/communication/welcomeinfo.h"
 #include "functions/communication/whisper.h"
+#include "functions/games/anagrams.h"
+#include "functions/games/codebreaker.h"
+#include "functions/games/guessthenumber.h"
+#include "functions/games/hangman.h"
+#include "functions/games/numbers.h"
+#include "functions/games/russianroulette.h"
+#include "functions/games/scoreclearers.h"
+#include "functions/games/slotmachine.h"
+#include "functions/games/threecardmonty.h"
 #include "functions/games/trivia.h"
 #include "functions/general/bots.h"
 #include "functions/general/settings.h"
@@ -64,15 +73,15 @@ const FolderCatalogue& folderCatalogue()
         {{R"(Communication\Whisper)"}, {buildWhisper}},
 
         {{"Games"}},
-        {{R"(Games\Anagrams)", R"(Games\Anagrams\ScoresArchive)"}},
-        {{R"(Games\CodeBreaker)", R"(Games\CodeBreaker\ScoresArchive)"}},
-        {{R"(Games\Globals)"}},
-        {{R"(Games\GuessTheNumber)", R"(Games\GuessTheNumber\ScoresArchive)"}},
-        {{R"(Games\Hangman)", R"(Games\Hangman\ScoresArchive)", R"(Games\Hangman\Ascii)"}},
-        {{R"(Games\Numbers)", R"(Games\Numbers\ScoresArchive)"}},
-        {{R"(Games\RussianRoulette)"}},
-        {{R"(Games\SlotMachine)"}},
-        {{R"(Games\ThreeCardMonty)"}},
+        {{R"(Games\Anagrams)", R"(Games\Anagrams\ScoresArchive)"}, {buildAnagrams}},
+        {{R"(Games\CodeBreaker)", R"(Games\CodeBreaker\ScoresArchive)"}, {buildCodeBreaker}},
+        {{R"(Games\Globals)"}, {buildScoreClearers}},
+        {{R"(Games\GuessTheNumber)", R"(Games\GuessTheNumber\ScoresArchive)"}, {buildGuessTheNumber}},
+        {{R"(Games\Hangman)", R"(Games\Hangman\ScoresArchive)", R"(Games\Hangman\Ascii)"}, {buildHangman}},
+        {{R"(Games\Numbers)", R"(Games\Numbers\ScoresArchive)"}, {buildNumbers}},
+        {{R"(Games\RussianRoulette)"}, {buildRussianRoulette}},
+        {{R"(Games\SlotMachine)"}, {buildSlotMachine}},
+        {{R"(Games\ThreeCardMonty)"}, {buildThreeCardMonty}},
         {{R"(Games\Trivia)", R"(Games\Trivia\ScoresArchive)", R"(Games\Trivia\QuestionFiles)"},
          {buildTrivia}},
 

@@ -9,67 +9,107 @@
 namespace quillfen {
 namespace {
 
-/// A row of a nested table of flags.
-struct FlagRow
+/// A row of a nested table.
+struct NestedRow
 {
-    std::string name;    ///< among the values
-    std::string key;     ///< as the readers know it
-    std::string written; ///< the key as it stands in the file
+    std::string name;     ///< among the values
+    std::string key;      ///< as the readers know it
+    std::string written;  ///< the key as it stands in the file
+    std::string standard; ///< what stands in for a missing or an empty one at a rebuild
 };
 
-std::vector<FlagRow> flagRows(const Setting& setting, const HubProfiles& profiles)
+std::vector<NestedRow> profileRows(const Setting& setting, const HubProfiles& profiles)
 {
-    std::vector<FlagRow> rows;
-    if (setting.kind == Setting::Kind::Profiles) {
-        for (std::size_t row = setting.firstProfile; row < profiles.count(); ++row) {
-            const std::string key = HubProfiles::key(row);
-            rows.push_back({profileRow(setting, row), key, "[" + key + "]"});
-        }
-    } else if (setting.kind == Setting::Kind::Flags) {
+    std::vector<NestedRow> rows;
+    for (std::size_t row = setting.firstProfile; row < profiles.count(); ++row) {
+        const std::string key = HubProfiles::key(row);
+        rows.push_back({profileRow(setting, row), key, "[" + key + "]", "0"});
+    }
+    return rows;
+}
+
+std::vector<NestedRow> nestedRows(const Setting& setting, const HubProfiles& profiles)
+{
+    if (setting.kind == Setting::Kind::Profiles)
+        return profileRows(setting, profiles);
+    std::vector<NestedRow> rows;
+    if (setting.kind == Setting::Kind::Flags) {
         for (const std::string& each : setting.entries)
-            rows.push_back({flagRow(setting, each), "b" + each, "b" + each});
+            rows.push_back({flagRow(setting, each), "b" + each, "b" + each, "0"});
+    } else if (setting.kind == Setting::Kind::Texts) {
+        for (std::size_t at = 0; at < setting.entries.size(); ++at) {
+            const std::string& each = setting.entries[at];
+            rows.push_back({textRow(setting, each), each, each, setting.standards.at(at)});
+        }
     }
     return rows;
 }
 
 bool isNested(const Setting& setting)
 {
-    return setting.kind == Setting::Kind::Profiles || setting.kind == Setting::Kind::Flags;
+    return setting.kind == Setting::Kind::Profiles || setting.kind == Setting::Kind::Flags ||
+           setting.kind == Setting::Kind::Texts;
+}
+
+std::string quoted(const std::string& text)
+{
+    return '"' + text + '"';
 }
 
 std::string tableText(const Setting& setting, const SettingValues& values, const HubProfiles& profiles,
                       const std::string& indent)
 {
     std::string rows = indent + setting.key + " = {\r\n";
-    for (const FlagRow& row : flagRows(setting, profiles))
-        rows += indent + "\t" + row.written + " = " + values.at(row.name) + ",\r\n";
+    for (const NestedRow& row : nestedRows(setting, profiles)) {
+        const std::string& value = values.at(row.name);
+        rows += indent + "\t" + row.written + " = " +
+                (setting.kind == Setting::Kind::Texts ? quoted(value) : value) + ",\r\n";
+    }
     return rows + indent + "},\r\n";
 }
 
-std::string rowText(const Setting& setting, const SettingValues& values, const HubProfiles& profiles)
+std::string constantTable(const Setting& setting, RowOrder order, const std::string& indent)
+{
+    const bool differs = order == RowOrder::Rebuild && !setting.rebuildEntries.empty();
+    std::string rows = indent + setting.key + " = {\r\n";
+    for (const std::string& row : differs ? setting.rebuildEntries : setting.entries)
+        rows += indent + "\t" + row + ",\r\n";
+    return rows + indent + "},\r\n";
+}
+
+std::string rowText(const Setting& setting, const SettingValues& values, RowOrder order,
+                    const HubProfiles& profiles)
 {
     const std::string indent = setting.nest.empty() ? "\t" : "\t\t";
+    const bool saves = order == RowOrder::Save;
+    const std::string opening =
+        indent + (saves && !setting.keyInSave.empty() ? setting.keyInSave : setting.key) + " = ";
     switch (setting.kind) {
     case Setting::Kind::Flag:
     case Setting::Kind::Number:
     case Setting::Kind::Options:
     case Setting::Kind::Profile:
-        return indent + setting.key + " = " + values.at(setting.key) + ",\r\n";
+        return opening + values.at(setting.key) + ",\r\n";
     case Setting::Kind::Text:
     case Setting::Kind::Entry:
     case Setting::Kind::Letter:
-        return indent + setting.key + " = \"" + values.at(setting.key) + "\",\r\n";
+        return opening + quoted(saves && setting.constant ? *setting.constant : values.at(setting.key)) +
+               ",\r\n";
     case Setting::Kind::Profiles:
     case Setting::Kind::Flags:
+    case Setting::Kind::Texts:
         return tableText(setting, values, profiles, indent);
+    case Setting::Kind::Rows:
+        return constantTable(setting, order, indent);
     }
     return {};
 }
 
-/// Takes each value from `valueOf(key, table)`, "0" standing in for a flag of a nested table that has none.
+/// Takes each value from `valueOf(setting, key, table)`, the standard of a nested row standing in for one
+/// that is empty if `fills` says so for its setting.
 template <typename ValueOf>
 SettingValues gathered(
-    const TableFile& file, const HubProfiles& profiles, const ValueOf& valueOf,
+    const TableFile& file, const HubProfiles& profiles, const ValueOf& valueOf, bool (*fills)(const Setting&),
     bool (*skips)(const Setting&) = [](const Setting&) { return false; })
 {
     SettingValues values;
@@ -78,12 +118,23 @@ SettingValues gathered(
             continue;
         if (!isNested(setting))
             values[setting.key] = valueOf(setting, setting.key, std::string());
-        for (const FlagRow& row : flagRows(setting, profiles)) {
+        for (const NestedRow& row : nestedRows(setting, profiles)) {
             const auto value = valueOf(setting, row.key, setting.key);
-            values[row.name] = value.empty() ? "0" : value;
+            values[row.name] = value.empty() && fills(setting) ? row.standard : value;
         }
     }
     return values;
+}
+
+/// A missing flag is off for every reader; a missing text is filled in by a rebuild only.
+bool isFlags(const Setting& setting)
+{
+    return setting.kind != Setting::Kind::Texts;
+}
+
+bool isAny(const Setting& /*setting*/)
+{
+    return true;
 }
 
 /// The lines of the nested tables that end and begin between one setting and the next.
@@ -99,7 +150,7 @@ std::vector<const Setting*> inOrder(const TableFile& file, RowOrder order)
     std::vector<const Setting*> settings;
     if (order == RowOrder::Save || file.rebuildOrder.empty()) {
         for (const Setting& setting : file.settings) {
-            if (setting.saved || order == RowOrder::Rebuild)
+            if (!setting.idle && (setting.saved || order == RowOrder::Rebuild))
                 settings.push_back(&setting);
         }
         return settings;
@@ -171,6 +222,34 @@ Setting profileKey(std::string key, std::string control, std::string label)
     return {Setting::Kind::Profile, std::move(key), std::move(control), std::move(label), "0"};
 }
 
+Setting namedTexts(std::string key, std::string control, std::string label, std::vector<std::string> entries,
+                   std::vector<std::string> standards)
+{
+    Setting setting = namedFlags(std::move(key), std::move(control), std::move(label), std::move(entries));
+    setting.kind = Setting::Kind::Texts;
+    setting.standards = std::move(standards);
+    return setting;
+}
+
+Setting constantRows(std::string key, std::vector<std::string> rows)
+{
+    Setting setting = namedFlags(std::move(key), {}, {}, std::move(rows));
+    setting.kind = Setting::Kind::Rows;
+    return setting;
+}
+
+Setting constantText(std::string key, std::string constant)
+{
+    Setting setting = text(std::move(key), {}, {}, {});
+    setting.constant = std::move(constant);
+    return setting;
+}
+
+bool hasControl(const Setting& setting)
+{
+    return setting.saved && !setting.constant && setting.kind != Setting::Kind::Rows;
+}
+
 Setting letter(std::string key, std::string control, std::string label, std::string standard,
                std::vector<std::string> entries)
 {
@@ -198,6 +277,11 @@ Setting notSaved(Setting setting)
     return setting;
 }
 
+std::string textRow(const Setting& setting, const std::string& entry)
+{
+    return setting.key + "/" + entry;
+}
+
 std::string profileRow(const Setting& setting, std::size_t row)
 {
     return setting.key + "/" + HubProfiles::key(row);
@@ -205,11 +289,13 @@ std::string profileRow(const Setting& setting, std::size_t row)
 
 SettingValues loaded(const TableFile& file, const TableIndex& index, const HubProfiles& profiles)
 {
-    return gathered(file, profiles,
-                    [&index](const Setting& setting, const std::string& key, const std::string& table) {
-                        const auto value = index.value(key, table);
-                        return setting.shown ? setting.shown(value) : value;
-                    });
+    return gathered(
+        file, profiles,
+        [&index](const Setting& setting, const std::string& key, const std::string& table) {
+            const auto value = index.value(key, table);
+            return setting.shown ? setting.shown(value) : value;
+        },
+        isFlags);
 }
 
 SettingValues restored(const TableFile& file, const HubProfiles& profiles)
@@ -217,18 +303,20 @@ SettingValues restored(const TableFile& file, const HubProfiles& profiles)
     return gathered(
         file, profiles,
         [](const Setting& setting, const std::string&, const std::string&) { return setting.standard; },
-        [](const Setting& setting) { return setting.keptByRestore; });
+        isAny, [](const Setting& setting) { return setting.keptByRestore; });
 }
 
 SettingValues rebuilt(const TableFile& file, const TableIndex& index, const HubProfiles& profiles)
 {
     return gathered(
-        file, profiles, [&](const Setting& setting, const std::string& key, const std::string& table) {
+        file, profiles,
+        [&](const Setting& setting, const std::string& key, const std::string& table) {
             const std::string& home = setting.nest.empty() ? file.table : setting.nest;
             const auto value = index.value(key, table.empty() ? home : table);
             return value.empty() || setting.resets ? setting.rebuildStandard.value_or(setting.standard)
                                                    : value;
-        });
+        },
+        isAny);
 }
 
 std::string composedRows(const TableFile& file, const SettingValues& values, RowOrder order,
@@ -237,7 +325,7 @@ std::string composedRows(const TableFile& file, const SettingValues& values, Row
     std::string text;
     std::string nest;
     for (const Setting* setting : inOrder(file, order)) {
-        text += passage(nest, setting->nest) + rowText(*setting, values, profiles);
+        text += passage(nest, setting->nest) + rowText(*setting, values, order, profiles);
         nest = setting->nest;
     }
     return text + passage(nest, {});
@@ -268,8 +356,10 @@ std::vector<std::string> faults(const TableFile& file)
 {
     std::vector<std::string> found;
     std::multiset<std::string> keys;
-    for (const Setting& setting : file.settings)
-        keys.insert(setting.key);
+    for (const Setting& setting : file.settings) {
+        if (!setting.idle)
+            keys.insert(setting.key);
+    }
     for (const std::string& key : std::set<std::string>(keys.begin(), keys.end())) {
         if (keys.count(key) > 1)
             found.push_back("key twice: " + key);

@@ -26,6 +26,8 @@ struct Setting
         Flags,    ///< a nested table of a flag per entry, its key a `b` and the entry; a check list
         Profile,  ///< a profile key, bare; a combo box of the hub's profiles without "Unregistered"
         Letter,   ///< quoted, the first letter of an entry; a combo box with the entries to pick
+        Texts,    ///< a nested table of one quoted text per entry, which is its key; a control of the form's
+        Rows,     ///< a nested table whose rows, the entries, nothing changes; no control
     };
 
     Kind kind;
@@ -39,6 +41,7 @@ struct Setting
     int firstOption = 0;     ///< the place of an option group's first button in its control array
     int limit = 0;           ///< the most characters that a text box takes; 0 for no limit
     bool onlyArrows = false; ///< a number that is changed by its arrows and not typed
+    int step = 1;            ///< by how much a number's arrows change it
 
     std::string unit{}; ///< behind a field, "Days"
     std::string toolTip{};
@@ -54,6 +57,12 @@ struct Setting
 
     std::size_t firstProfile = 0; ///< the first row of the profiles: 1 leaves "Unregistered" out
     bool saved = true;            ///< false: only the rebuild writes it; the form has no control for it
+    bool idle = false;            ///< a number that is shown and neither read nor written
+
+    std::optional<std::string> constant{};     ///< what each save writes; there is no control
+    std::string keyInSave{};                   ///< the key as a save writes it, where it is another
+    std::vector<std::string> standards{};      ///< the default of each of the entries' texts
+    std::vector<std::string> rebuildEntries{}; ///< the rows that a rebuild writes, where they are others
 };
 
 Setting flag(std::string key, std::string control, std::string label, std::string standard);
@@ -81,6 +90,19 @@ Setting letter(std::string key, std::string control, std::string label, std::str
 /// Profile flags without "Unregistered": the first row is the hub's first profile, 0.
 Setting hubProfileFlags(std::string key, std::string control, std::string label);
 
+/// The standards are the entries' own, in their order.
+Setting namedTexts(std::string key, std::string control, std::string label, std::vector<std::string> entries,
+                   std::vector<std::string> standards);
+
+/// Rows as they stand in the file, without indent and comma.
+Setting constantRows(std::string key, std::vector<std::string> rows);
+
+/// A text that the form's user can't change: the rebuild keeps it, each save writes the constant.
+Setting constantText(std::string key, std::string constant);
+
+/// Whether the kit or the form makes a control for it.
+bool hasControl(const Setting& setting);
+
 /// The same setting without a control: the rebuild keeps it, each save of the form drops it.
 Setting notSaved(Setting setting);
 
@@ -96,17 +118,20 @@ struct TableFile
 };
 
 /// The texts of a file's settings by key; the row of a profile stands under profileRow(), that
-/// of a flag under flagRow().
+/// of a flag under flagRow(), that of a named text under textRow().
 using SettingValues = std::map<std::string, std::string>;
 
 /// The name of one entry's flag among the values.
 std::string flagRow(const Setting& setting, const std::string& entry);
 
+/// The name of one entry's text among the values.
+std::string textRow(const Setting& setting, const std::string& entry);
+
 /// The name of one profile's flag among the values; the row is counted from 0, "Unregistered" first.
 std::string profileRow(const Setting& setting, std::size_t row);
 
 /// What the form shows of a file: each key as it stands, wherever it is; a flag of a nested table
-/// is "0" when it is missing.
+/// is "0" when it is missing, a text of one empty.
 SettingValues loaded(const TableFile& file, const TableIndex& index, const HubProfiles& profiles);
 
 /// The defaults, as RESTORE shows them: no profile is ticked. What RESTORE leaves alone is not among them.

@@ -55,14 +55,21 @@ double leadingNumber(std::string_view text)
     return std::isfinite(number) ? number : 0;
 }
 
-bool isOne(std::string_view text)
+std::optional<double> wholeNumber(std::string_view text)
 {
     text = trimBlanks(text);
     if (text.starts_with('+'))
         text.remove_prefix(1);
     double number = 0;
     const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
-    return error == std::errc() && end == text.data() + text.size() && number == 1.0;
+    if (error != std::errc() || end != text.data() + text.size() || !std::isfinite(number))
+        return std::nullopt;
+    return number;
+}
+
+bool isOne(std::string_view text)
+{
+    return wholeNumber(text) == 1.0;
 }
 
 } // namespace quillfen

@@ -42,6 +42,9 @@ std::string_view trimBlanks(std::string_view text);
 /// The number that a text begins with, blanks aside; 0 if it begins with none.
 double leadingNumber(std::string_view text);
 
+/// The number that the whole text is, blanks aside; nothing if it is none.
+std::optional<double> wholeNumber(std::string_view text);
+
 /// Whether a text is a number whose value is exactly 1 ("1", " 1 ", "1.0", "+1").
 bool isOne(std::string_view text);
 

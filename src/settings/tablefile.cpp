@@ -65,8 +65,11 @@ public:
             return;
         }
         const auto [left, right, found] = splitInPieces(line, m_delimiter);
-        if (!found)
+        if (!found) {
+            if (m_rows == Rows::Undivided && m_inTable)
+                list.push_back({std::string(trimmedTableKey(left))});
             return;
+        }
         const auto first = trimmedTableKey(left);
         const auto second = trimmedTableValue(right);
         // The opening line counts as row 1, so the rows behind an empty table are taken in its place: the

@@ -34,11 +34,13 @@ void TrimTableValue(std::string& text);
 std::string_view trimmedTableKey(std::string_view text);
 std::string_view trimmedTableValue(std::string_view text);
 
-/// Whether ReadTableToList ticks its rows or fills their second column.
+/// Whether ReadTableToList ticks its rows or fills their second column, and whether a line without the
+/// delimiter is a row too.
 enum class Rows
 {
     Plain,
-    Checked
+    Checked,
+    Undivided
 };
 
 /// The readers and the writer of the settings tree. Readers are silent: what can't be read is empty. File

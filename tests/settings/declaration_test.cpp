@@ -36,6 +36,14 @@ protected:
         return hub.file("A.tbl");
     }
 
+    /// What a rebuild writes where there was no file.
+    std::string built(const TableFile& file)
+    {
+        hub.store.files.erase(hub.root + "/A.tbl");
+        rebuildTableFile(file, hub.files, hub.profiles);
+        return hub.file("A.tbl");
+    }
+
     test::Hub hub;
 };
 
@@ -274,6 +282,60 @@ TEST_F(Declaration, AProfileKeyStandsBareAndIsTheHubsFirstByDefault)
     EXPECT_EQ(composed(file, {{"iProfile", "2"}}, RowOrder::Save, hub.profiles),
               "tSample = {\r\n\tiProfile = 2,\r\n}");
     EXPECT_EQ(restored(file, hub.profiles).at("iProfile"), "0");
+}
+
+TEST_F(Declaration, NamedTextsStandInATableOfTheirOwnAndARebuildFillsThemIn)
+{
+    const TableFile file = only(namedTexts("tSum", "lvwSum", "Sums", {"sOne", "sTwo"}, {"1", "2"}));
+    const std::string bytes =
+        "tSample = {\r\n\ttSum = {\r\n\t\tsOne = \"a\",\r\n\t\tsTwo = \"\",\r\n\t},\r\n}";
+    const auto values = loaded(file, TableIndex(bytes), hub.profiles);
+    EXPECT_EQ(values, (SettingValues{{"tSum/sOne", "a"}, {"tSum/sTwo", ""}}));
+    EXPECT_EQ(composed(file, values, RowOrder::Save, hub.profiles), bytes);
+    EXPECT_EQ(rebuilt(file, TableIndex(bytes), hub.profiles),
+              (SettingValues{{"tSum/sOne", "a"}, {"tSum/sTwo", "2"}}));
+    EXPECT_EQ(restored(file, hub.profiles), (SettingValues{{"tSum/sOne", "1"}, {"tSum/sTwo", "2"}}));
+}
+
+TEST_F(Declaration, ConstantRowsMayDifferBetweenSaveAndRebuild)
+{
+    TableFile file = only(constantRows("tBang", {"\"Die\"", "\"Live\""}));
+    EXPECT_EQ(built(file), "tSample = {\r\n\ttBang = {\r\n\t\t\"Die\",\r\n\t\t\"Live\",\r\n\t},\r\n}\r\n");
+    file.settings[0].rebuildEntries = {"Die", "Live"};
+    EXPECT_EQ(built(file), "tSample = {\r\n\ttBang = {\r\n\t\tDie,\r\n\t\tLive,\r\n\t},\r\n}\r\n");
+    EXPECT_EQ(composed(file, {}, RowOrder::Save, hub.profiles),
+              "tSample = {\r\n\ttBang = {\r\n\t\t\"Die\",\r\n\t\t\"Live\",\r\n\t},\r\n}");
+    EXPECT_FALSE(hasControl(file.settings[0]));
+}
+
+TEST_F(Declaration, AConstantTextIsWrittenByASaveAndKeptByARebuild)
+{
+    const TableFile file = only(constantText("sLetters", "ABC"));
+    EXPECT_EQ(composed(file, {}, RowOrder::Save, hub.profiles), "tSample = {\r\n\tsLetters = \"ABC\",\r\n}");
+    EXPECT_EQ(built(file), "tSample = {\r\n\tsLetters = \"\",\r\n}\r\n");
+    hub.file("A.tbl") = "tSample = {\r\n\tsLetters = \"X\",\r\n}";
+    rebuildTableFile(file, hub.files, hub.profiles);
+    EXPECT_EQ(hub.file("A.tbl"), "tSample = {\r\n\tsLetters = \"X\",\r\n}\r\n");
+    EXPECT_FALSE(hasControl(file.settings[0]));
+}
+
+TEST_F(Declaration, AnIdleNumberIsNeverWritten)
+{
+    Setting setting = number("iIdle", "txtUpDown", "Idle", "5", 0, 9);
+    setting.idle = true;
+    EXPECT_EQ(composed(only(setting), {}, RowOrder::Save, hub.profiles), "tSample = {\r\n}");
+    EXPECT_EQ(built(only(setting)), "tSample = {\r\n}\r\n");
+    EXPECT_TRUE(hasControl(setting));
+}
+
+TEST_F(Declaration, ASaveMayWriteAKeyInItsOwnWay)
+{
+    Setting setting = number("iCount", "txtUpDown", "Count", "5", 0, 9);
+    setting.keyInSave = "iCount ";
+    const std::string saved = composed(only(setting), {{"iCount", "5"}}, RowOrder::Save, hub.profiles);
+    EXPECT_EQ(saved, "tSample = {\r\n\tiCount  = 5,\r\n}");
+    EXPECT_EQ(loaded(only(setting), TableIndex(saved), hub.profiles).at("iCount"), "5");
+    EXPECT_EQ(built(only(setting)), "tSample = {\r\n\tiCount = 5,\r\n}\r\n");
 }
 
 } // namespace

@@ -72,6 +72,13 @@ TEST_F(Lists, AKeyRowsValueIsCutAtItsSecondEqualsSign)
     EXPECT_EQ(list("t = {\r\n\ts = \"a=b\",\r\n}", "=", "t"), (std::vector<ListRow>{{"s", "a"}}));
 }
 
+TEST_F(Lists, ALineWithoutTheDelimiterIsARowWhereUndividedOnesCount)
+{
+    EXPECT_EQ(list("a*1\r\nb\r\n\r\nc*2\r\n", "*", "", Rows::Undivided),
+              (std::vector<ListRow>{{"a", "1"}, {"b"}, {"c", "2"}}));
+    EXPECT_EQ(list("a*1\r\nb\r\n", "*", ""), (std::vector<ListRow>{{"a", "1"}}));
+}
+
 TEST_F(Lists, CheckedRowsAreTickedForExactlyOne)
 {
     const std::vector<ListRow> expected = {

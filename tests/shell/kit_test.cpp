@@ -237,6 +237,31 @@ TEST(NumberBoxTest, ItsArrowsKeepTheRange)
     EXPECT_EQ(stepped("abc", Qt::Key_Up), "1");
 }
 
+TEST(NumberBoxTest, EitherArrowBringsANumberBackIntoItsRange)
+{
+    NumberBox box("txtUpDown", 1, 10);
+    for (const auto& [key, from] : {std::pair(Qt::Key_Up, "20"), {Qt::Key_Down, "20"}}) {
+        box.setText(from);
+        QTest::keyClick(&box, key);
+        EXPECT_EQ(box.text(), "10");
+    }
+    box.setText("-5");
+    QTest::keyClick(&box, Qt::Key_Down);
+    EXPECT_EQ(box.text(), "1");
+}
+
+TEST(NumberBoxTest, ItsStepMayBeMoreThanOne)
+{
+    NumberBox box("txtUpDown", 50, 5000);
+    box.setStep(5);
+    box.setText("50");
+    QTest::keyClick(&box, Qt::Key_Up);
+    EXPECT_EQ(box.text(), "55");
+    box.setText("4998");
+    QTest::keyClick(&box, Qt::Key_Up);
+    EXPECT_EQ(box.text(), "5000");
+}
+
 TEST(NumberBoxTest, TheWheelDoesNothingWithoutFocus)
 {
     NumberBox box("txtUpDown", 1, 720);

@@ -15,27 +15,14 @@
 #include "shell/kit/tablefilepart.h"
 
 namespace quillfen {
-namespace {
-
-/// A form that is one settings file and nothing else.
-FormMaker settingsForm(const char* name, const char* caption, const TableFile& file)
-{
-    return {name, [name, caption, &file](const FormContext& context) {
-                auto* form = new EditorForm({name, caption});
-                form->add(new TableFilePart(file, context));
-                return form;
-            }};
-}
-
-} // namespace
 
 FormCatalogue communicationForms()
 {
     return {
         {"frmCommunicationAutoCorrect", makeAutoCorrectForm},
-        settingsForm("frmCommunicationChatRooms", "Communication ~ ChatRooms", chatRoomSettings()),
-        settingsForm("frmCommunicationClock", "Communication ~ Clock", clockSettings()),
-        settingsForm("frmCommunicationHubEmail", "Communication ~ HubEmail", hubEmailSettings()),
+        settingsForm({"frmCommunicationChatRooms", "Communication ~ ChatRooms"}, chatRoomSettings()),
+        settingsForm({"frmCommunicationClock", "Communication ~ Clock"}, clockSettings()),
+        settingsForm({"frmCommunicationHubEmail", "Communication ~ HubEmail"}, hubEmailSettings()),
         {"frmCommunicationKickBarChanger", makeKickBarChangerForm},
         {"frmCommunicationMOTD", makeMotdForm},
         {"frmCommunicationMassMessage", makeMassMessageForm},
@@ -45,9 +32,9 @@ FormCatalogue communicationForms()
         {"frmCommunicationTalk", makeTalkForm},
         {"frmCommunicationTopicChanger", makeTopicChangerForm},
         {"frmCommunicationWelcomeInfoNetworkHubs", makeNetworkHubsForm},
-        settingsForm("frmCommunicationWelcomeInfoSettings", "Communication ~ WelcomeInfo ~ Settings",
+        settingsForm({"frmCommunicationWelcomeInfoSettings", "Communication ~ WelcomeInfo ~ Settings"},
                      welcomeInfoSettings()),
-        settingsForm("frmCommunicationWhisper", "Communication ~ Whisper", whisperSettings()),
+        settingsForm({"frmCommunicationWhisper", "Communication ~ Whisper"}, whisperSettings()),
     };
 }
 

@@ -1,13 +1,30 @@
 #include "functions/games/forms.h"
 
+#include "functions/games/chancegamesform.h"
+#include "functions/games/codebreaker.h"
+#include "functions/games/guessthenumber.h"
+#include "functions/games/numbersform.h"
+#include "functions/games/quizgamesform.h"
+#include "functions/games/slotmachine.h"
+#include "functions/games/trivia.h"
 #include "functions/games/triviaform.h"
+#include "shell/kit/tablefilepart.h"
 
 namespace quillfen {
 
 FormCatalogue gamesForms()
 {
     return {
-        {"frmGamesTrivia", makeTriviaForm},
+        {"frmGamesAnagrams", makeAnagramsForm},
+        settingsForm({"frmGamesCodeBreaker", "Games ~ CodeBreaker"}, codeBreakerSettings()),
+        {"frmGamesGlobalsScoreClearers", makeScoreClearersForm},
+        settingsForm({"frmGamesGuessTheNumber", "Games ~ GuessTheNumber"}, guessTheNumberSettings()),
+        {"frmGamesHangman", makeHangmanForm},
+        {"frmGamesNumbers", makeNumbersForm},
+        {"frmGamesRussianRoulette", makeRussianRouletteForm},
+        settingsForm({"frmGamesSlotMachine", "Games ~ SlotMachine"}, slotMachineSettings()),
+        {"frmGamesThreeCardMonty", makeThreeCardMontyForm},
+        settingsForm({"frmGamesTrivia", "Games ~ Trivia ~ Settings"}, triviaSettings()),
         {"frmGamesTriviaQuestions", makeTriviaQuestionsForm},
     };
 }

@@ -2,7 +2,6 @@
 
 #include "functions/games/shared/quizpattern.h"
 #include "settings/filename.h"
-#include "settings/lines.h"
 #include "settings/listfile.h"
 
 #include <algorithm>
@@ -17,13 +16,6 @@ constexpr std::string_view defaultKey = "sDefaultQuestionFile";
 Setting quiz(const std::string& key, const std::string& control)
 {
     return quizSetting(QuizGame::Trivia, key, control);
-}
-
-Setting hintCharacter()
-{
-    Setting setting = text("sHintChar", "txtTextBox(0)", "Hint Character", "\x95");
-    setting.limit = 1;
-    return setting;
 }
 
 bool comesBefore(const std::string& one, const std::string& other)
@@ -50,7 +42,7 @@ const TableFile& triviaSettings()
             options("iFormat", "optOption", "Question Format:", "0", 0,
                     {"Standard", "Expanded", "Trivia Ex"}),
             options("iScoring", "optOption", "Scoring Type:", "1", 3, {"Standard", "Hint Reduction"}),
-            hintCharacter(),
+            oneCharacter("sHintChar", "Hint Character", hintBullet),
             arrowNumber("iHintTime", "txtTextBoxUpDown(0)", "Hint Time", "30", 0, 60),
             arrowNumber("iMaxHints", "txtTextBoxUpDown(1)", "Max Hints", "5", 0, 10),
             quiz("iQuestions", "txtTextBoxUpDown(2)"),
@@ -131,24 +123,10 @@ void createTriviaQuestions(const SettingsFiles& files, std::string_view name)
         "novels?*binkie");
 }
 
-std::vector<std::string> triviaFields(const CellRow& row)
-{
-    const auto [category, question, found] = splitInPieces(row.cells.at(0), ':');
-    return {std::string(trimBlanks(category)), std::string(trimBlanks(question)), row.cells.at(1)};
-}
-
-CellRow triviaRow(const std::vector<std::string>& fields)
-{
-    return {{fields.at(0) + ":" + fields.at(1), fields.at(2)}};
-}
-
 void buildTrivia(const SettingsFiles& files, const HubProfiles& profiles)
 {
     rebuildTableFile(triviaSettings(), files, profiles);
-    writeEmptyTableIfMissing(files, R"(Games\Trivia\TriviaPlayers.tbl)", "tTriviaPlayers");
-    writeEmptyTableIfMissing(files, R"(Games\Trivia\TriviaScoresArchiveIndex.tbl)",
-                             "tTriviaScoresArchiveIndex");
-    writeIfMissing(files, R"(Games\Trivia\TriviaScores.tbl)", "tTriviaScores = {\r\n\tn=0\r\n}");
+    makeScoreFiles(files, "Trivia", "Trivia");
     if (files.store().exists(files.paths().inSettings(questionFilesPath)))
         return;
     files.WriteSettingsFile(

@@ -37,11 +37,6 @@ void saveTriviaQuestions(const SettingsFiles& files, std::string_view name, cons
 /// A new question file with its one row. Throws StoreError.
 void createTriviaQuestions(const SettingsFiles& files, std::string_view name);
 
-/// Category, question and answer of a row. The row is split at every colon, so a question that holds one
-/// loses what stands behind it when it is edited: owners know to avoid it.
-std::vector<std::string> triviaFields(const CellRow& row);
-CellRow triviaRow(const std::vector<std::string>& fields);
-
 void buildTrivia(const SettingsFiles& files, const HubProfiles& profiles);
 
 } // namespace quillfen

@@ -1,5 +1,6 @@
 #include "functions/games/triviaform.h"
 
+#include "functions/games/shared/questions.h"
 #include "functions/games/trivia.h"
 #include "settings/filename.h"
 #include "settings/tablefile.h"
@@ -10,7 +11,6 @@
 #include "shell/kit/labels.h"
 #include "shell/kit/messages.h"
 #include "shell/kit/rowlist.h"
-#include "shell/kit/tablefilepart.h"
 #include "shell/kit/toolbars.h"
 
 #include <QComboBox>
@@ -297,7 +297,7 @@ void QuestionsPart::addQuestion()
                               habitualAddMode(EditForm::ThreeFields),
                               {"Category", "Question", "Answer"}};
     addRows(m_widget, request, [this](const std::vector<std::string>& fields) {
-        m_questionList->append(triviaRow(fields));
+        m_questionList->append(questionRow(fields));
         allowSave();
     });
 }
@@ -312,11 +312,11 @@ void QuestionsPart::editQuestion()
                         "E",
                         habitualEditMode(EditForm::ThreeFields),
                         {"Category", "Question", "Answer"}};
-    request.values = triviaFields(m_questionList->rows()[static_cast<std::size_t>(row)]);
+    request.values = questionFields(m_questionList->rows()[static_cast<std::size_t>(row)]);
     const EditAnswer answer = showEditDialog(m_widget, request);
     if (answer.gEditResult != "1")
         return;
-    m_questionList->replace(row, triviaRow(answer.gEditValues));
+    m_questionList->replace(row, questionRow(answer.gEditValues));
     allowSave();
 }
 
@@ -356,13 +356,6 @@ void QuestionsPart::closeFile()
 }
 
 } // namespace
-
-EditorForm* makeTriviaForm(const FormContext& context)
-{
-    auto* form = new EditorForm({"frmGamesTrivia", "Games ~ Trivia ~ Settings"});
-    form->add(new TableFilePart(triviaSettings(), context));
-    return form;
-}
 
 EditorForm* makeTriviaQuestionsForm(const FormContext& context)
 {

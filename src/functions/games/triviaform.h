@@ -5,7 +5,6 @@ namespace quillfen {
 class EditorForm;
 struct FormContext;
 
-EditorForm* makeTriviaForm(const FormContext& context);
 EditorForm* makeTriviaQuestionsForm(const FormContext& context);
 
 } // namespace quillfen

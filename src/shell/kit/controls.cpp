@@ -33,6 +33,8 @@ Control numberBox(const Setting& setting, const std::function<void()>& changed)
 {
     auto* box = new NumberBox(fromBytes(setting.control), setting.minimum, setting.maximum);
     box->setOnlyArrows(setting.onlyArrows);
+    box->setStep(setting.step);
+    box->setText(QStringLiteral("0")); // what a load that stops half-way leaves
     QObject::connect(box, &NumberBox::textChanged, box, changed);
     return {box,
             [box, key = setting.key](const SettingValues& values) {
@@ -200,6 +202,9 @@ Control controlOfKind(const Setting& setting, const HubProfiles& profiles,
         return profileBox(setting, profiles, changed);
     case Setting::Kind::Letter:
         return letterBox(setting, changed);
+    case Setting::Kind::Texts:
+    case Setting::Kind::Rows:
+        break;
     }
     return {};
 }

@@ -20,7 +20,7 @@ struct Control
 };
 
 /// Makes the control that the setting's kind asks for, named and with its label as accessible name. `changed`
-/// is called at each change.
+/// is called at each change. Named texts and constant rows have none.
 Control makeControl(const Setting& setting, const HubProfiles& profiles,
                     const std::function<void()>& changed);
 

@@ -1,5 +1,6 @@
 #include "shell/kit/editorform.h"
 
+#include "shell/kit/codepagetext.h"
 #include "shell/kit/messages.h"
 #include "shell/kit/toolbars.h"
 #include "shell/kit/units.h"
@@ -9,6 +10,8 @@
 #include <QScopedValueRollback>
 #include <QStatusBar>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 namespace quillfen {
 
@@ -70,12 +73,18 @@ void EditorForm::markDirty()
 void EditorForm::load()
 {
     const QScopedValueRollback loading(m_loading, true);
-    for (FormPart* part : m_parts)
-        part->load();
+    try {
+        for (FormPart* part : m_parts)
+            part->load();
+    } catch (const LoadError& error) {
+        notify(this, m_description.caption, fromBytes(error.what()), QMessageBox::Critical);
+    }
 }
 
 void EditorForm::save()
 {
+    if (!std::all_of(m_parts.begin(), m_parts.end(), [](FormPart* part) { return part->maySave(); }))
+        return;
     // After a failure the form stays dirty and complete, so that nothing typed is lost.
     const bool saved = attempt(this, [this] {
         for (FormPart* part : m_parts)
@@ -101,7 +110,7 @@ void EditorForm::discard()
 
 void EditorForm::restore()
 {
-    if (!confirm(this, "Restore defaults?", "Restore to defaults?"))
+    if (!confirm(this, m_description.restoreTitle, m_description.restoreText))
         return;
     for (FormPart* part : m_parts)
         part->restore();

@@ -31,6 +31,8 @@ struct FormDescription
     AfterDiscard afterDiscard = AfterDiscard::Clean;
     bool hasRestore = true;
     Qt::Orientation parts = Qt::Vertical; ///< how the parts stand to each other
+    QString restoreTitle = "Restore defaults?";
+    QString restoreText = "Restore to defaults?";
 };
 
 /// An editor form: its toolbar, its parts in a frame, its status bar, and the cycle of load, change, save,

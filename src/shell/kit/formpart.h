@@ -6,6 +6,7 @@
 #include <QPoint>
 
 #include <functional>
+#include <stdexcept>
 
 class QMenu;
 class QWidget;
@@ -28,6 +29,13 @@ struct FormContext
     void showMenu(const QString& name, const QPoint& at) const;
 };
 
+/// A file holds what a form can't show: its load stops there, and what is shown by then stays.
+class LoadError : public std::runtime_error
+{
+public:
+    using std::runtime_error::runtime_error;
+};
+
 /// A piece of an editor form that loads, restores and saves files of its own. The form owns it and runs the
 /// cycle.
 class FormPart : public QObject
@@ -38,11 +46,14 @@ public:
     /// The part's controls, to be placed by the form.
     virtual QWidget* widget() = 0;
 
-    /// Files to controls.
+    /// Files to controls. Throws LoadError.
     virtual void load() = 0;
 
     /// Defaults to controls; nothing is written.
     virtual void restore() = 0;
+
+    /// Whether the controls hold what can be saved; tells why if not.
+    virtual bool maySave() { return true; }
 
     /// Controls to files. Throws StoreError.
     virtual void save() = 0;

@@ -27,7 +27,7 @@ void NumberBox::setText(const QString& text)
 
 void NumberBox::stepBy(int steps)
 {
-    const auto stepped = text().trimmed().toLongLong() + steps;
+    const auto stepped = text().trimmed().toLongLong() + static_cast<long long>(steps) * m_step;
     setText(QString::number(std::clamp(stepped, m_minimum, m_maximum)));
 }
 
@@ -43,8 +43,9 @@ QAbstractSpinBox::StepEnabled NumberBox::stepEnabled() const
 {
     const auto value = text().trimmed().toLongLong();
     StepEnabled enabled = StepNone;
-    enabled.setFlag(StepUpEnabled, value < m_maximum);
-    enabled.setFlag(StepDownEnabled, value > m_minimum);
+    // Either arrow brings a number from outside back into the range.
+    enabled.setFlag(StepUpEnabled, value != m_maximum);
+    enabled.setFlag(StepDownEnabled, value != m_minimum);
     return enabled;
 }
 

@@ -22,6 +22,9 @@ public:
     /// Whether the number can be changed by the arrows alone, and not typed.
     void setOnlyArrows(bool onlyArrows) { lineEdit()->setReadOnly(onlyArrows); }
 
+    /// By how much one step of the arrows changes the number; 1 at first.
+    void setStep(int step) { m_step = step; }
+
     void stepBy(int steps) override;
     QSize sizeHint() const override;
 
@@ -35,6 +38,7 @@ protected:
 private:
     long long m_minimum;
     long long m_maximum;
+    int m_step = 1;
 };
 
 } // namespace quillfen

@@ -38,12 +38,12 @@ RowListPart::RowListPart(RowListDeclaration declaration, const FormContext& cont
         m_list->setColumnHidden(columns - hidden, true);
     buildToolbar();
     connect(m_list, &RowList::tickChanged, this, &FormPart::changed);
-    connect(m_list, &RowList::countChanged, this, &RowListPart::followRows);
+    connect(m_list, &RowList::countChanged, this, [this] { followRows(); });
     connect(m_list, &RowList::editAsked, this, [this] { activate(); });
     connect(m_list, &RowList::deleteAsked, this, &RowListPart::removeSelected);
     connect(m_list, &RowList::menuAsked, this,
             [this](const QPoint& at) { m_context.showMenu(fromBytes(m_declaration.menu), at); });
-    followRows();
+    RowListPart::followRows();
 }
 
 void RowListPart::buildToolbar()
@@ -90,10 +90,15 @@ RoutineTable RowListPart::routines()
             {routineName(fromBytes(m_declaration.menu), "Edit"), [this] { edit(); }}};
 }
 
+bool RowListPart::isLit(const char* key) const
+{
+    const auto* action = button(*m_toolbar, key);
+    return action && action->isEnabled();
+}
+
 void RowListPart::add()
 {
-    const auto* action = button(*m_toolbar, "NEW");
-    if (!action || !action->isEnabled()) // the menu does no more than the button
+    if (!isLit("NEW"))
         return;
     addRows(m_list, requestOf(m_declaration.dialog), [this](const std::vector<std::string>& values) {
         CellRow row{std::vector<std::string>(std::max(m_declaration.columns.size(), values.size()))};
@@ -101,18 +106,18 @@ void RowListPart::add()
             m_declaration.take(values, row);
         else
             std::copy(values.begin(), values.end(), row.cells.begin());
-        if (!mayTake(row))
+        if (!mayAdd(row))
             return;
         m_list->append(std::move(row));
         m_list->select(static_cast<int>(m_list->rows().size()) - 1);
-        emit changed();
+        touch();
     });
 }
 
 void RowListPart::edit()
 {
     const int at = m_list->currentRow();
-    if (at < 0)
+    if (at < 0 || !isLit("EDIT"))
         return;
     CellRow row = m_list->rows()[static_cast<std::size_t>(at)];
     const RowDialog dialog = m_declaration.dialogOf ? m_declaration.dialogOf(row) : m_declaration.dialog;
@@ -134,13 +139,13 @@ void RowListPart::edit()
     if (!mayTake(row))
         return;
     m_list->replace(at, std::move(row));
-    emit changed();
+    touch();
 }
 
 void RowListPart::removeSelected()
 {
     const int at = m_list->currentRow();
-    if (at < 0 || m_declaration.dialog.addTitle.empty())
+    if (at < 0 || !isLit("DELETE"))
         return;
     const DeleteWords& words = m_declaration.deletion;
     if (!words.minimum.empty() && m_list->rows().size() == 1) {
@@ -151,7 +156,7 @@ void RowListPart::removeSelected()
         !mayDelete(m_list->rows()[static_cast<std::size_t>(at)]))
         return;
     m_list->remove(at);
-    emit changed();
+    touch();
 }
 
 void RowListPart::followRows()

@@ -32,6 +32,12 @@ protected:
     virtual bool mayTake(const CellRow& /*row*/) { return true; }
     virtual bool mayDelete(const CellRow& /*row*/) { return true; }
 
+    /// The same for an added row alone.
+    virtual bool mayAdd(const CellRow& row) { return mayTake(row); }
+
+    /// What a row's coming, going or change means to the form: it is dirty.
+    virtual void touch() { emit changed(); }
+
     /// What a double click on a row does.
     virtual void activate() { edit(); }
 
@@ -40,13 +46,14 @@ protected:
     void edit();
 
     /// Lets the buttons that need a row follow whether there is one.
-    void followRows();
+    virtual void followRows();
 
 private:
     void buildToolbar();
     QWidget* placed();
     void add();
     void removeSelected();
+    bool isLit(const char* key) const; ///< menus, keys and double clicks do no more than the buttons
 
     RowListDeclaration m_declaration;
     FormContext m_context;

@@ -36,9 +36,10 @@ QWidget* withUnit(const Setting& setting, QWidget* field)
     return widget;
 }
 
-bool isCheckList(const Setting& setting)
+bool isList(const Setting& setting)
 {
-    return setting.kind == Setting::Kind::Profiles || setting.kind == Setting::Kind::Flags;
+    return setting.kind == Setting::Kind::Profiles || setting.kind == Setting::Kind::Flags ||
+           setting.kind == Setting::Kind::Texts;
 }
 
 /// The layout of the frame around a flag: the one that the column ends with, or a new one.
@@ -57,23 +58,36 @@ QLayout* frameOf(const Setting& setting, QFormLayout& column)
 
 } // namespace
 
-TableFilePart::TableFilePart(const TableFile& file, const FormContext& context)
+TableFilePart::TableFilePart(const TableFile& file, const FormContext& context, const OwnControl& own)
     : m_file(file),
       m_context(context)
 {
     for (const Setting& setting : file.settings) {
-        if (!setting.saved)
+        if (!hasControl(setting))
             continue;
         m_settings.push_back(&setting);
-        m_controls.push_back(makeControl(setting, context.profiles, [this] { emit changed(); }));
+        m_controls.push_back(controlOf(setting, own));
     }
     m_widget = placed();
+}
+
+Control TableFilePart::controlOf(const Setting& setting, const OwnControl& own)
+{
+    if (setting.kind == Setting::Kind::Texts)
+        return own(setting);
+    Control control = makeControl(setting, m_context.profiles, [this] { emit changed(); });
+    if (setting.idle) {
+        control.show({{setting.key, setting.standard}});
+        control.show = [](const SettingValues&) {};
+        control.collect = [](SettingValues&) {};
+    }
+    return control;
 }
 
 QWidget* TableFilePart::placed() const
 {
     const auto lists = std::count_if(m_settings.begin(), m_settings.end(),
-                                     [](const Setting* setting) { return isCheckList(*setting); });
+                                     [](const Setting* setting) { return isList(*setting); });
     const auto beside = static_cast<std::ptrdiff_t>(m_settings.size()) - lists;
     const bool crowded = beside > 12; // then check boxes and options get a column of their own
     const bool manyLists = lists > 3; // then they stand below the fields, side by side
@@ -91,7 +105,7 @@ QWidget* TableFilePart::placed() const
                 column->addRow(control);
             else
                 frameOf(setting, *column)->addWidget(control);
-        } else if (isCheckList(setting)) {
+        } else if (isList(setting)) {
             const int row = manyLists ? place / 3 : place;
             const int column = manyLists ? place % 3 : 0;
             grid->addWidget(numberedLabel(setting, control, labels++), 2 * row, column);
@@ -139,6 +153,15 @@ void TableFilePart::save()
     for (const Control& control : m_controls)
         control.collect(values);
     saveTableFile(m_file, values, m_context.files, m_context.profiles);
+}
+
+FormMaker settingsForm(const FormDescription& description, const TableFile& file)
+{
+    return {description.name, [description, &file](const FormContext& context) {
+                auto* form = new EditorForm(description);
+                form->add(new TableFilePart(file, context));
+                return form;
+            }};
 }
 
 } // namespace quillfen

@@ -2,8 +2,9 @@
 
 #include "settings/declaration.h"
 #include "shell/kit/controls.h"
-#include "shell/kit/formpart.h"
+#include "shell/kit/editorform.h"
 
+#include <functional>
 #include <vector>
 
 namespace quillfen {
@@ -15,7 +16,10 @@ class TableFilePart : public FormPart
     Q_OBJECT
 
 public:
-    TableFilePart(const TableFile& file, const FormContext& context);
+    /// Makes the control of a setting that the kit has none for, of named texts.
+    using OwnControl = std::function<Control(const Setting&)>;
+
+    TableFilePart(const TableFile& file, const FormContext& context, const OwnControl& own = {});
 
     QWidget* widget() override { return m_widget; }
     void load() override;
@@ -23,6 +27,7 @@ public:
     void save() override;
 
 private:
+    Control controlOf(const Setting& setting, const OwnControl& own);
     QWidget* placed() const;
 
     const TableFile& m_file;
@@ -31,5 +36,8 @@ private:
     std::vector<Control> m_controls;
     QWidget* m_widget;
 };
+
+/// A form that is one settings file and nothing else.
+FormMaker settingsForm(const FormDescription& description, const TableFile& file);
 
 } // namespace quillfen

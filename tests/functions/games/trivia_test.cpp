@@ -1,3 +1,4 @@
+#include "functions/games/shared/questions.h"
 #include "functions/games/shared/quizpattern.h"
 #include "functions/games/trivia.h"
 #include "support/golden.h"
@@ -134,10 +135,10 @@ TEST_F(Trivia, ANewQuestionFileHasOneRowAndNoLineEndOfItsOwn)
 TEST_F(Trivia, AQuestionThatHoldsAColonLosesItsTailWhenItIsEdited)
 {
     const CellRow row{{"Misc:A:B", "c"}};
-    EXPECT_EQ(triviaFields(row), (std::vector<std::string>{"Misc", "A", "c"}));
-    EXPECT_EQ(triviaRow(triviaFields(row)), (CellRow{{"Misc:A", "c"}}));
-    EXPECT_EQ(triviaFields({{" Misc : A ", "c"}}), (std::vector<std::string>{"Misc", "A", "c"}));
-    EXPECT_EQ(triviaFields({{"no colon", "c"}}), (std::vector<std::string>{"no colon", "", "c"}));
+    EXPECT_EQ(questionFields(row), (std::vector<std::string>{"Misc", "A", "c"}));
+    EXPECT_EQ(questionRow(questionFields(row)), (CellRow{{"Misc:A", "c"}}));
+    EXPECT_EQ(questionFields({{" Misc : A ", "c"}}), (std::vector<std::string>{"Misc", "A", "c"}));
+    EXPECT_EQ(questionFields({{"no colon", "c"}}), (std::vector<std::string>{"no colon", "", "c"}));
 }
 
 TEST_F(Trivia, TheHubScriptSeesTheSettings)

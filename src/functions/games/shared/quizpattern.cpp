@@ -1,5 +1,7 @@
 #include "functions/games/shared/quizpattern.h"
 
+#include "settings/listfile.h"
+
 #include <algorithm>
 #include <array>
 #include <iterator>
@@ -99,6 +101,21 @@ Setting arrowNumber(const std::string& key, const std::string& control, const st
     Setting setting = number(key, control, label, standard, minimum, maximum);
     setting.onlyArrows = true;
     return setting;
+}
+
+Setting oneCharacter(const std::string& key, const std::string& label, const std::string& standard)
+{
+    Setting setting = text(key, "txtTextBox(0)", label, standard);
+    setting.limit = 1;
+    return setting;
+}
+
+void makeScoreFiles(const SettingsFiles& files, const std::string& folder, const std::string& game)
+{
+    const std::string path = "Games\\" + folder + "\\" + game;
+    writeEmptyTableIfMissing(files, path + "Players.tbl", "t" + game + "Players");
+    writeEmptyTableIfMissing(files, path + "ScoresArchiveIndex.tbl", "t" + game + "ScoresArchiveIndex");
+    writeIfMissing(files, path + "Scores.tbl", "t" + game + "Scores = {\r\n\tn=0\r\n}");
 }
 
 } // namespace quillfen

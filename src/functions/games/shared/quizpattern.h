@@ -1,6 +1,7 @@
 #pragma once
 
 #include "settings/declaration.h"
+#include "settings/tablefile.h"
 
 #include <string>
 
@@ -24,5 +25,15 @@ Setting quizSetting(QuizGame game, const std::string& key, const std::string& co
 /// A number of a game's own that behaves like those of the pattern.
 Setting arrowNumber(const std::string& key, const std::string& control, const std::string& label,
                     const std::string& standard, int minimum, int maximum);
+
+/// The bullet that stands for a hidden letter, in the code page.
+inline constexpr const char* hintBullet = "\x95";
+
+/// A box of one character, txtTextBox(0) in every game.
+Setting oneCharacter(const std::string& key, const std::string& label, const std::string& standard);
+
+/// The rebuild's way with a game's players, scores and archive of scores: each that is missing is made, with
+/// nothing in it. Throws StoreError.
+void makeScoreFiles(const SettingsFiles& files, const std::string& folder, const std::string& game);
 
 } // namespace quillfen

@@ -1,0 +1,78 @@
+#include "functions/games/hangman.h"
+
+#include "functions/games/shared/quizpattern.h"
+#include "functions/games/shared/wordlist.h"
+#include "settings/listfile.h"
+
+namespace quillfen {
+namespace {
+
+constexpr const char* wordsPath = R"(Games\Hangman\HangmanWords.lst)";
+
+Setting quiz(const std::string& key, const std::string& control)
+{
+    return quizSetting(QuizGame::Hangman, key, control);
+}
+
+/// A box that other games have is on this form too; the file has no such key.
+Setting idleBonusTime()
+{
+    Setting setting = arrowNumber("iBonusTime", "txtTextBoxUpDown(4)", "Bonus Time", "10", 0, 1000);
+    setting.idle = true;
+    return setting;
+}
+
+} // namespace
+
+const TableFile& hangmanSettings()
+{
+    static const TableFile file = {
+        R"(Games\Hangman\HangmanSettings.tbl)",
+        "tHangmanSettings",
+        {
+            quiz("bManualStart", "chkCheckBox(0)"),
+            quiz("bOpOnlyStart", "chkCheckBox(1)"),
+            quiz("bOpOnlyStop", "chkCheckBox(2)"),
+            quiz("bPlayInMain", "chkCheckBox(3)"),
+            quiz("bAutoClearScores", "chkCheckBox(4)"),
+            quiz("bArchiveScores", "chkCheckBox(5)"),
+            flag("bUseAscii", "chkCheckBox(6)", "Enable Ascii", "1"),
+            quiz("iArchiveScores", "txtTextBoxUpDown(9)"),
+            oneCharacter("sHiddenChar", "Hint Character", hintBullet),
+            // A rebuild knows no default: the key stays empty until the form first saves.
+            constantText("sAllowedCharacters", "ABCDEFGHIJKLMNOPQRSTUVWXYZ-"),
+            arrowNumber("iLostLifeTime", "txtTextBoxUpDown(0)", "Lost Life Time", "30", 0, 60),
+            quiz("iQuestions", "txtTextBoxUpDown(1)"),
+            quiz("iQuestionsPause", "txtTextBoxUpDown(2)"),
+            quiz("iTimeOut", "txtTextBoxUpDown(3)"),
+            idleBonusTime(),
+            quiz("iPoints", "txtTextBoxUpDown(5)"),
+            quiz("iScores", "txtTextBoxUpDown(6)"),
+            quiz("iTopScores", "txtTextBoxUpDown(7)"),
+            quiz("iAutoStartDelay", "txtTextBoxUpDown(8)"),
+        },
+    };
+    return file;
+}
+
+const RowListDeclaration& hangmanWords()
+{
+    static const RowListDeclaration declared = guessedWords(wordsPath, "mnuHangman");
+    return declared;
+}
+
+std::string gallowsFile(int stage)
+{
+    return R"(Games\Hangman\Ascii\)" + std::to_string(lastGallowsStage - stage) + ".asc";
+}
+
+void buildHangman(const SettingsFiles& files, const HubProfiles& profiles)
+{
+    rebuildTableFile(hangmanSettings(), files, profiles);
+    makeScoreFiles(files, "Hangman", "Hangman");
+    writeIfMissing(files, wordsPath, firstWord);
+    for (int stage = 0; stage <= lastGallowsStage; ++stage)
+        writeIfMissing(files, gallowsFile(stage), "");
+}
+
+} // namespace quillfen

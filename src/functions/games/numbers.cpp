@@ -1,0 +1,151 @@
+#include "functions/games/numbers.h"
+
+#include "functions/games/shared/questions.h"
+#include "functions/games/shared/quizpattern.h"
+#include "functions/games/shared/wordlist.h"
+#include "settings/listfile.h"
+
+#include <algorithm>
+
+namespace quillfen {
+namespace {
+
+constexpr const char* questionsPath = R"(Games\Numbers\NumbersQuestions.lst)";
+
+/// How many numbers a calculation has.
+constexpr std::size_t numberCount = 4;
+
+Setting quiz(const std::string& key, const std::string& control)
+{
+    return quizSetting(QuizGame::Numbers, key, control);
+}
+
+Setting questionCount()
+{
+    Setting setting = quiz("iQuestions", "txtTextBoxUpDown(1)");
+    setting.keyInSave = "iQuestions "; // a save puts two blanks before the equals sign, a rebuild one
+    return setting;
+}
+
+Setting calculations()
+{
+    return namedTexts("tCalculation", "lvwNumbers", "Calculations",
+                      {"sAddition", "sSubtraction", "sMultiplication", "sDivision"},
+                      {"0,10000,0,10000", "0,10000,0,10000", "0,20,0,100", "1,10,1,50"});
+}
+
+} // namespace
+
+const std::vector<std::string> calculationOperators = {"+", "-", "*", "/"};
+
+const TableFile& numbersSettings()
+{
+    static const TableFile file = {
+        R"(Games\Numbers\NumbersSettings.tbl)",
+        "tNumbersSettings",
+        {
+            quiz("bManualStart", "chkCheckBox(0)"),
+            quiz("bOpOnlyStart", "chkCheckBox(1)"),
+            quiz("bOpOnlyStop", "chkCheckBox(2)"),
+            quiz("bPlayInMain", "chkCheckBox(3)"),
+            quiz("bAutoClearScores", "chkCheckBox(4)"),
+            quiz("bArchiveScores", "chkCheckBox(5)"),
+            flag("bCalculateOnFly", "chkCheckBox(6)", "Calculate Questions On Fly", "1"),
+            // Captions and keys cross over: owners know the boxes by their captions, the script its keys.
+            flag("bReportCalc", "chkCheckBox(7)", "Prevent Calculator", "1"),
+            flag("bPreventCalc", "chkCheckBox(8)", "Report Calculator", "1"),
+            quiz("iArchiveScores", "txtTextBoxUpDown(9)"),
+            calculations(),
+            arrowNumber("iQuestionTime", "txtTextBoxUpDown(0)", "Question Time", "20", 0, 60),
+            questionCount(),
+            quiz("iQuestionsPause", "txtTextBoxUpDown(2)"),
+            quiz("iTimeOut", "txtTextBoxUpDown(3)"),
+            quiz("iBonusTime", "txtTextBoxUpDown(4)"),
+            quiz("iPoints", "txtTextBoxUpDown(5)"),
+            quiz("iScores", "txtTextBoxUpDown(6)"),
+            quiz("iTopScores", "txtTextBoxUpDown(7)"),
+            quiz("iAutoStartDelay", "txtTextBoxUpDown(8)"),
+        },
+        {"iTimeOut",     "iBonusTime",  "iQuestions",       "iQuestionsPause", "iQuestionTime",
+         "iTopScores",   "iScores",     "iPoints",          "iAutoStartDelay", "bManualStart",
+         "bOpOnlyStart", "bOpOnlyStop", "bPreventCalc",     "bReportCalc",     "bCalculateOnFly",
+         "tCalculation", "bPlayInMain", "bAutoClearScores", "bArchiveScores",  "iArchiveScores"},
+    };
+    return file;
+}
+
+const Setting& numbersCalculations()
+{
+    const auto& settings = numbersSettings().settings;
+    return *std::find_if(settings.begin(), settings.end(),
+                         [](const Setting& setting) { return setting.kind == Setting::Kind::Texts; });
+}
+
+const RowListDeclaration& numbersCalculationList()
+{
+    static const RowListDeclaration declared = [] {
+        RowListDeclaration list;
+        list.list = "lvwNumbers";
+        list.toolbar = "tlbNumbers";
+        list.columns = {"Type", "X Min", "X Max", "Y Min", "Y Max"};
+        list.menu = "mnuNumbersNumbers";
+        list.dialog.form = EditForm::FourFields;
+        list.dialog.editTitle = "Edit Question";
+        list.dialog.labels = {"X Minimum", "X Maximum", "Y Minimum", "Y Maximum"};
+        list.fieldsOf = [](const CellRow& row) {
+            return std::vector<std::string>(row.cells.begin() + 1, row.cells.end());
+        };
+        list.take = [](const std::vector<std::string>& fields, CellRow& row) {
+            std::copy(fields.begin(), fields.end(), row.cells.begin() + 1);
+        };
+        return list;
+    }();
+    return declared;
+}
+
+CellRow calculationRow(const std::string& operatorSign, const std::string& text)
+{
+    CellRow row{{operatorSign}};
+    for (std::size_t from = 0; from <= text.size() && row.cells.size() <= numberCount;) {
+        const std::size_t comma = std::min(text.find(',', from), text.size());
+        row.cells.push_back(text.substr(from, comma - from));
+        from = comma + 1;
+    }
+    return row;
+}
+
+std::string calculationText(const CellRow& row)
+{
+    std::string text = row.cells.at(1);
+    for (std::size_t cell = 2; cell <= numberCount; ++cell)
+        text += "," + row.cells.at(cell);
+    return text;
+}
+
+const RowListDeclaration& numbersQuestions()
+{
+    static const RowListDeclaration declared = [] {
+        RowListDeclaration list = wordList(questionsPath, WordLine::Question);
+        list.columns = {"Questions", "Answers"};
+        list.menu = "mnuNumbers";
+        list.dialog.form = EditForm::ThreeFields;
+        list.dialog.addTitle = "Add Question";
+        list.dialog.editTitle = "Edit Question";
+        list.dialog.labels = {"Category", "Question", "Answer"};
+        list.deletion = {"Delete Word?", "Do you really want to delete this question?",
+                         "There must be a minimum of one Question"};
+        list.fieldsOf = questionFields;
+        list.take = [](const std::vector<std::string>& fields, CellRow& row) { row = questionRow(fields); };
+        return list;
+    }();
+    return declared;
+}
+
+void buildNumbers(const SettingsFiles& files, const HubProfiles& profiles)
+{
+    rebuildTableFile(numbersSettings(), files, profiles);
+    makeScoreFiles(files, "Numbers", "Numbers");
+    writeIfMissing(files, questionsPath, "Mathematics: What is 2 Plus 2 = ??*4\r\n");
+}
+
+} // namespace quillfen

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "settings/declaration.h"
+#include "settings/listdeclaration.h"
+
+#include <string>
+
+namespace quillfen {
+
+const TableFile& numbersSettings();
+
+/// The setting of the four calculations, each a text "X Min,X Max,Y Min,Y Max".
+const Setting& numbersCalculations();
+
+/// The list of the calculations: the operator and the four numbers of each.
+const RowListDeclaration& numbersCalculationList();
+
+/// The rows of that list and back. A text of fewer than four numbers fills what it has.
+CellRow calculationRow(const std::string& operatorSign, const std::string& text);
+std::string calculationText(const CellRow& row);
+
+/// The operators in the order of the calculations.
+extern const std::vector<std::string> calculationOperators;
+
+/// The list of fixed questions.
+const RowListDeclaration& numbersQuestions();
+
+void buildNumbers(const SettingsFiles& files, const HubProfiles& profiles);
+
+} // namespace quillfen

@@ -1,0 +1,115 @@
+#include "functions/games/numbersform.h"
+
+#include "functions/games/numbers.h"
+#include "functions/games/shared/wordlistpart.h"
+#include "settings/lines.h"
+#include "shell/kit/messages.h"
+#include "shell/kit/rowlist.h"
+#include "shell/kit/tablefilepart.h"
+#include "shell/kit/toolbars.h"
+
+#include <QHeaderView>
+
+#include <memory>
+
+namespace quillfen {
+namespace {
+
+/// The width of a calculation's column, and that of a question's.
+constexpr int numberWidth = 60;
+constexpr int questionWidth = 360;
+
+/// The calculations' rows. They stand in the settings file among its keys, so that its part loads and saves
+/// them.
+class CalculationsPart : public RowListPart
+{
+public:
+    explicit CalculationsPart(const FormContext& context) : RowListPart(numbersCalculationList(), context)
+    {
+        button(toolbar(), "EDIT")->setToolTip("Edit question");
+        list().header()->setDefaultSectionSize(numberWidth);
+        list().setMinimumWidth(numberWidth * static_cast<int>(numbersCalculationList().columns.size() + 1));
+    }
+
+    Control control(const Setting& setting);
+
+protected:
+    bool mayTake(const CellRow& row) override;
+    void touch() override {} ///< an edited calculation is saved together with the next other change
+
+private:
+    void show(const Setting& setting, const SettingValues& values);
+};
+
+bool CalculationsPart::mayTake(const CellRow& row)
+{
+    // Only the first field is looked at, and any number will do: the hub script cuts it to an integer.
+    if (wholeNumber(row.cells.at(1)))
+        return true;
+    notify(&list(), "Invalid Entry", "Invalid Entry: Integers required in all fields", QMessageBox::Warning);
+    edit();
+    return false;
+}
+
+void CalculationsPart::show(const Setting& setting, const SettingValues& values)
+{
+    const std::size_t columns = numbersCalculationList().columns.size();
+    list().setRows({});
+    for (std::size_t at = 0; at < setting.entries.size(); ++at) {
+        const std::string& entry = setting.entries[at];
+        CellRow row = calculationRow(calculationOperators.at(at), values.at(textRow(setting, entry)));
+        const bool isWhole = row.cells.size() == columns;
+        row.cells.resize(columns);
+        list().append(std::move(row));
+        if (!isWhole)
+            throw LoadError(entry + " in " + numbersSettings().path + " has fewer than four numbers");
+    }
+}
+
+Control CalculationsPart::control(const Setting& setting)
+{
+    const auto stored = std::make_shared<SettingValues>();
+    return {widget(),
+            [this, &setting, stored](const SettingValues& values) {
+                *stored = values;
+                show(setting, values);
+            },
+            [this, &setting, stored](SettingValues& values) {
+                for (std::size_t at = 0; at < setting.entries.size(); ++at) {
+                    const std::string name = textRow(setting, setting.entries[at]);
+                    // What a stopped load didn't come to stays as it is in the file.
+                    values[name] = at < rows().size() ? calculationText(rows()[at]) : (*stored)[name];
+                }
+            }};
+}
+
+/// The settings, and the menu of the calculations among them.
+class NumbersPart : public TableFilePart
+{
+public:
+    NumbersPart(CalculationsPart* calculations, const FormContext& context)
+        : TableFilePart(numbersSettings(), context,
+                        [calculations](const Setting& setting) { return calculations->control(setting); }),
+          m_calculations(calculations)
+    {
+        calculations->setParent(this);
+    }
+
+    RoutineTable routines() override { return m_calculations->routines(); }
+
+private:
+    CalculationsPart* m_calculations;
+};
+
+} // namespace
+
+EditorForm* makeNumbersForm(const FormContext& context)
+{
+    auto* form = new EditorForm({"frmGamesNumbers", "Games ~ Numbers"});
+    form->add(new NumbersPart(new CalculationsPart(context), context));
+    form->add(new WordListPart(numbersQuestions(), context));
+    form->findChild<RowList*>("lvwWords")->header()->resizeSection(0, questionWidth);
+    return form;
+}
+
+} // namespace quillfen

@@ -1,0 +1,62 @@
+#include "functions/games/russianroulette.h"
+
+#include "functions/games/shared/comments.h"
+
+namespace quillfen {
+namespace {
+
+/// The six chambers. A save quotes them, a rebuild writes them bare.
+Setting chambers()
+{
+    Setting setting =
+        constantRows("tBang", {R"("Die")", R"("Live")", R"("Die")", R"("Die")", R"("Die")", R"("Die")"});
+    setting.rebuildEntries = {"Die", "Live", "Die", "Die", "Die", "Die"};
+    return setting;
+}
+
+// The boxes speak of winning and losing, as three card monty's do.
+const CommentList live = {{R"(Games\RussianRoulette\RussianRouletteLive.tbl)", "tRussianRouletteLive"},
+                          "lvwLive",
+                          "tlbLive",
+                          "Live",
+                          "mnuFirst",
+                          "Win"};
+const CommentList die = {{R"(Games\RussianRoulette\RussianRouletteDie.tbl)", "tRussianRouletteDie"},
+                         "lvwDie",
+                         "tlbDie",
+                         "Die",
+                         "mnuSecond",
+                         "Lose"};
+
+} // namespace
+
+const TableFile& russianRouletteSettings()
+{
+    static const TableFile file = {
+        R"(Games\RussianRoulette\RussianRouletteSettings.tbl)",
+        "tRussianRouletteSettings",
+        {flag("bInMain", "chkPlayInMain", "Play In Main", "1"), chambers()},
+    };
+    return file;
+}
+
+const RowListDeclaration& russianRouletteLive()
+{
+    static const RowListDeclaration declared = commentList(live);
+    return declared;
+}
+
+const RowListDeclaration& russianRouletteDie()
+{
+    static const RowListDeclaration declared = commentList(die);
+    return declared;
+}
+
+void buildRussianRoulette(const SettingsFiles& files, const HubProfiles& profiles)
+{
+    rebuildTableFile(russianRouletteSettings(), files, profiles);
+    makeComments(files, live, "You have survived... for now");
+    makeComments(files, die, "You're dead, now whose gonna clean up this mess?");
+}
+
+} // namespace quillfen

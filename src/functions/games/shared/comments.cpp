@@ -1,0 +1,29 @@
+#include "functions/games/shared/comments.h"
+
+namespace quillfen {
+
+RowListDeclaration commentList(const CommentList& comments)
+{
+    const std::string comment = comments.word + " Comment";
+    RowListDeclaration list;
+    list.list = comments.list;
+    list.toolbar = comments.toolbar;
+    list.label = comments.label;
+    list.columns = {comments.label};
+    list.menu = comments.menu;
+    list.dialog.addTitle = "Add " + comment;
+    list.dialog.editTitle = "Edit " + comment;
+    list.dialog.labels = {comment};
+    list.deletion = {"Delete " + comment + "?", "Do you really want to delete this " + comment + "?",
+                     "There must be a minimum of one " + comment};
+    list.load = loadOf(comments.file);
+    list.save = saveOf(comments.file);
+    return list;
+}
+
+void makeComments(const SettingsFiles& files, const CommentList& comments, const std::string& row)
+{
+    writeIfMissing(files, comments.file.path, composedList(comments.file, {{row}}));
+}
+
+} // namespace quillfen

@@ -1,0 +1,63 @@
+#include "functions/games/threecardmonty.h"
+
+#include "functions/games/shared/comments.h"
+
+namespace quillfen {
+namespace {
+
+/// The three cards. A save spells them with a small "of", a rebuild with a capital one.
+Setting deal()
+{
+    Setting setting =
+        constantRows("tDeal", {R"("Ace of Spades")", R"("Queen of Hearts")", R"("Ace of Clubs")"});
+    setting.rebuildEntries = {R"("Ace Of Spades")", R"("Queen Of Hearts")", R"("Ace Of Clubs")"};
+    return setting;
+}
+
+const CommentList win = {{R"(Games\ThreeCardMonty\ThreeCardMontyWin.tbl)", "tThreeCardMontyWin"},
+                         "lvwWin",
+                         "tlbWin",
+                         "Win",
+                         "mnuFirst",
+                         "Win"};
+const CommentList lose = {{R"(Games\ThreeCardMonty\ThreeCardMontyLose.tbl)", "tThreeCardMontyLose"},
+                          "lvwLose",
+                          "tlbLose",
+                          "Lose",
+                          "mnuSecond",
+                          "Lose"};
+
+} // namespace
+
+const TableFile& threeCardMontySettings()
+{
+    static const TableFile file = {
+        R"(Games\ThreeCardMonty\ThreeCardMontySettings.tbl)",
+        "tThreeCardMontySettings",
+        {flag("bPlayInMain", "chkPlayInMain", "Play In Main", "1"),
+         number("iWager", "txtUpDown(0)", "Wager", "1", 1, 50),
+         number("iMarker", "txtUpDown(1)", "Marker", "25", 10, 500), deal()},
+    };
+    return file;
+}
+
+const RowListDeclaration& threeCardMontyWin()
+{
+    static const RowListDeclaration declared = commentList(win);
+    return declared;
+}
+
+const RowListDeclaration& threeCardMontyLose()
+{
+    static const RowListDeclaration declared = commentList(lose);
+    return declared;
+}
+
+void buildThreeCardMonty(const SettingsFiles& files, const HubProfiles& profiles)
+{
+    rebuildTableFile(threeCardMontySettings(), files, profiles);
+    makeComments(files, win, "The Gods smile upon you, this day");
+    makeComments(files, lose, "You lost. Play again, what else have you got going?");
+}
+
+} // namespace quillfen
