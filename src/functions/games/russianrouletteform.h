@@ -1,0 +1,9 @@
+#pragma once
+
+#include "shell/kit/editorform.h"
+
+namespace quillfen {
+
+EditorForm* makeRussianRouletteForm(const FormContext& context);
+
+} // namespace quillfen

@@ -1,0 +1,9 @@
+#pragma once
+
+#include "shell/kit/editorform.h"
+
+namespace quillfen {
+
+EditorForm* makeThreeCardMontyForm(const FormContext& context);
+
+} // namespace quillfen
