@@ -11,6 +11,7 @@
 #include "functions/communication/rotatingmessages.h"
 #include "functions/communication/welcomeinfo.h"
 #include "functions/communication/whisper.h"
+#include "functions/customise/introsoutros.h"
 #include "functions/games/trivia.h"
 #include "functions/general/bots.h"
 #include "functions/general/settings.h"
@@ -44,7 +45,8 @@ const FolderCatalogue& folderCatalogue()
         {{R"(CustomiseUser\CustomRightClick)"}},
         {{R"(CustomiseUser\DescriptionTags)"}},
         {{R"(CustomiseUser\HideShare)"}},
-        {{R"(CustomiseUser\IntroOutro)", R"(CustomiseUser\IntroOutro\Ascii)"}},
+        {{R"(CustomiseUser\IntroOutro)", R"(CustomiseUser\IntroOutro\Ascii)"},
+         {buildIntrosOutros}},
 
         {{"Communication"}},
         {{R"(Communication\AutoCorrect)"}, {buildAutoCorrect}},

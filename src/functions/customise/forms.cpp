@@ -1,10 +1,15 @@
 #include "functions/customise/forms.h"
 
+#include "functions/customise/introsoutrosform.h"
+
 namespace quillfen {
 
 FormCatalogue customiseForms()
 {
-    return {};
+    return {
+        {"frmCustomiseUserCustomIntroOutro", makeCustomIntroOutroForm},
+        {"frmCustomiseUserIntroOutro", makeIntroOutroForm},
+    };
 }
 
 } // namespace quillfen
