@@ -11,6 +11,7 @@
 #include "functions/communication/rotatingmessages.h"
 #include "functions/communication/welcomeinfo.h"
 #include "functions/communication/whisper.h"
+#include "functions/customise/asciiintros.h"
 #include "functions/customise/introsoutros.h"
 #include "functions/games/trivia.h"
 #include "functions/general/bots.h"
@@ -46,7 +47,7 @@ const FolderCatalogue& folderCatalogue()
         {{R"(CustomiseUser\DescriptionTags)"}},
         {{R"(CustomiseUser\HideShare)"}},
         {{R"(CustomiseUser\IntroOutro)", R"(CustomiseUser\IntroOutro\Ascii)"},
-         {buildIntrosOutros}},
+         {buildIntrosOutros, buildAsciiIntros}},
 
         {{"Communication"}},
         {{R"(Communication\AutoCorrect)"}, {buildAutoCorrect}},

@@ -1,5 +1,6 @@
 #include "functions/customise/forms.h"
 
+#include "functions/customise/asciiintrosform.h"
 #include "functions/customise/introsoutrosform.h"
 
 namespace quillfen {
@@ -7,6 +8,7 @@ namespace quillfen {
 FormCatalogue customiseForms()
 {
     return {
+        {"frmCustomiseUserAsciiIntro", makeAsciiIntroForm},
         {"frmCustomiseUserCustomIntroOutro", makeCustomIntroOutroForm},
         {"frmCustomiseUserIntroOutro", makeIntroOutroForm},
     };
