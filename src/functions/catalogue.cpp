@@ -12,6 +12,7 @@
 #include "functions/communication/welcomeinfo.h"
 #include "functions/communication/whisper.h"
 #include "functions/customise/asciiintros.h"
+#include "functions/customise/customrightclick.h"
 #include "functions/customise/introsoutros.h"
 #include "functions/games/trivia.h"
 #include "functions/general/bots.h"
@@ -43,7 +44,7 @@ const FolderCatalogue& folderCatalogue()
 {
     static const FolderCatalogue catalogue = {
         {{"CustomiseUser"}},
-        {{R"(CustomiseUser\CustomRightClick)"}},
+        {{R"(CustomiseUser\CustomRightClick)"}, {buildCustomRightClicks}},
         {{R"(CustomiseUser\DescriptionTags)"}},
         {{R"(CustomiseUser\HideShare)"}},
         {{R"(CustomiseUser\IntroOutro)", R"(CustomiseUser\IntroOutro\Ascii)"},

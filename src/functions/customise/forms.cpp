@@ -1,6 +1,7 @@
 #include "functions/customise/forms.h"
 
 #include "functions/customise/asciiintrosform.h"
+#include "functions/customise/customrightclickform.h"
 #include "functions/customise/introsoutrosform.h"
 
 namespace quillfen {
@@ -10,6 +11,7 @@ FormCatalogue customiseForms()
     return {
         {"frmCustomiseUserAsciiIntro", makeAsciiIntroForm},
         {"frmCustomiseUserCustomIntroOutro", makeCustomIntroOutroForm},
+        {"frmCustomiseUserCustomRightClick", makeCustomRightClickForm},
         {"frmCustomiseUserIntroOutro", makeIntroOutroForm},
     };
 }
