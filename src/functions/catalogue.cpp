@@ -13,6 +13,8 @@
 #include "functions/communication/whisper.h"
 #include "functions/customise/asciiintros.h"
 #include "functions/customise/customrightclick.h"
+#include "functions/customise/descriptiontags.h"
+#include "functions/customise/hideshare.h"
 #include "functions/customise/introsoutros.h"
 #include "functions/games/trivia.h"
 #include "functions/general/bots.h"
@@ -45,8 +47,8 @@ const FolderCatalogue& folderCatalogue()
     static const FolderCatalogue catalogue = {
         {{"CustomiseUser"}},
         {{R"(CustomiseUser\CustomRightClick)"}, {buildCustomRightClicks}},
-        {{R"(CustomiseUser\DescriptionTags)"}},
-        {{R"(CustomiseUser\HideShare)"}},
+        {{R"(CustomiseUser\DescriptionTags)"}, {buildDescriptionTags}},
+        {{R"(CustomiseUser\HideShare)"}, {buildHideShare}},
         {{R"(CustomiseUser\IntroOutro)", R"(CustomiseUser\IntroOutro\Ascii)"},
          {buildIntrosOutros, buildAsciiIntros}},
 

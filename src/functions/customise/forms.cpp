@@ -2,6 +2,8 @@
 
 #include "functions/customise/asciiintrosform.h"
 #include "functions/customise/customrightclickform.h"
+#include "functions/customise/descriptiontagsform.h"
+#include "functions/customise/hideshareform.h"
 #include "functions/customise/introsoutrosform.h"
 
 namespace quillfen {
@@ -12,6 +14,8 @@ FormCatalogue customiseForms()
         {"frmCustomiseUserAsciiIntro", makeAsciiIntroForm},
         {"frmCustomiseUserCustomIntroOutro", makeCustomIntroOutroForm},
         {"frmCustomiseUserCustomRightClick", makeCustomRightClickForm},
+        {"frmCustomiseUserDescriptionTags", makeDescriptionTagsForm},
+        {"frmCustomiseUserHideShare", makeHideShareForm},
         {"frmCustomiseUserIntroOutro", makeIntroOutroForm},
     };
 }
