@@ -11,6 +11,11 @@
 #include "functions/communication/rotatingmessages.h"
 #include "functions/communication/welcomeinfo.h"
 #include "functions/communication/whisper.h"
+#include "functions/customise/asciiintros.h"
+#include "functions/customise/customrightclick.h"
+#include "functions/customise/descriptiontags.h"
+#include "functions/customise/hideshare.h"
+#include "functions/customise/introsoutros.h"
 #include "functions/games/anagrams.h"
 #include "functions/games/codebreaker.h"
 #include "functions/games/guessthenumber.h"
@@ -50,10 +55,11 @@ const FolderCatalogue& folderCatalogue()
 {
     static const FolderCatalogue catalogue = {
         {{"CustomiseUser"}},
-        {{R"(CustomiseUser\CustomRightClick)"}},
-        {{R"(CustomiseUser\DescriptionTags)"}},
-        {{R"(CustomiseUser\HideShare)"}},
-        {{R"(CustomiseUser\IntroOutro)", R"(CustomiseUser\IntroOutro\Ascii)"}},
+        {{R"(CustomiseUser\CustomRightClick)"}, {buildCustomRightClicks}},
+        {{R"(CustomiseUser\DescriptionTags)"}, {buildDescriptionTags}},
+        {{R"(CustomiseUser\HideShare)"}, {buildHideShare}},
+        {{R"(CustomiseUser\IntroOutro)", R"(CustomiseUser\IntroOutro\Ascii)"},
+         {buildIntrosOutros, buildAsciiIntros}},
 
         {{"Communication"}},
         {{R"(Communication\AutoCorrect)"}, {buildAutoCorrect}},

@@ -69,9 +69,11 @@ struct RowListDeclaration
     using Load = std::function<std::vector<CellRow>(const SettingsFiles&, const HubProfiles&)>;
     using Save = std::function<void(const SettingsFiles&, const HubProfiles&, const std::vector<CellRow>&)>;
 
-    std::string list;    ///< lvw...
-    std::string toolbar; ///< tlb...
-    std::string label{}; ///< above the list; may be empty
+    std::string list;       ///< lvw...
+    std::string toolbar;    ///< tlb...
+    std::string movement{}; ///< the toolbar that moves rows, tlb...; empty: they keep their places
+    std::vector<std::string> toolTips{}; ///< of NEW, DELETE and EDIT, where they tell more than those
+    std::string label{};                 ///< above the list; may be empty
     std::vector<std::string> columns{};
     int hiddenColumns = 0; ///< how many of the last ones don't show
     bool ticks = false;

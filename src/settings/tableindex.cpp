@@ -1,16 +1,16 @@
 #include "settings/tableindex.h"
 
-#include "settings/lines.h"
 #include "settings/tablefile.h"
 
 #include <algorithm>
 
 namespace quillfen {
 
-TableIndex::TableIndex(std::string bytes) : m_bytes(std::make_unique<const std::string>(std::move(bytes)))
+TableIndex::TableIndex(std::string bytes, std::size_t lines)
+    : m_bytes(std::make_unique<const std::string>(std::move(bytes)))
 {
     LineCursor cursor(*m_bytes);
-    for (std::size_t number = 1; number <= lineLimit; ++number) {
+    for (std::size_t number = 1; number <= lines; ++number) {
         const auto line = cursor.next();
         if (!line)
             break;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "settings/lines.h"
+
 #include <cstddef>
 #include <memory>
 #include <string>
@@ -14,8 +16,9 @@ namespace quillfen {
 class TableIndex
 {
 public:
-    /// Indexes the bytes of a table file. Only the first 5000 lines count: a key behind them reads as empty.
-    explicit TableIndex(std::string bytes);
+    /// Indexes the bytes of a table file. Only the first 5000 lines count, unless the caller says otherwise:
+    /// a key behind them reads as empty.
+    explicit TableIndex(std::string bytes, std::size_t lines = lineLimit);
 
     /// The value of the first row with this key behind the first line that opens the table, or anywhere if no
     /// table is named; empty if there is none. A closing brace doesn't end a table: rows behind it stay

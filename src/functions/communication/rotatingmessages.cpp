@@ -1,6 +1,7 @@
 #include "functions/communication/rotatingmessages.h"
 
-#include <algorithm>
+#include "settings/textfolder.h"
+
 #include <unordered_map>
 
 namespace quillfen {
@@ -51,9 +52,24 @@ const RotatingMessages& rotatingPrivateMessages()
     return messages;
 }
 
-std::string rotatingTextFile(const RotatingMessages& messages, const std::string& name)
+RowListDeclaration rotatingFiles(const RotatingMessages& messages)
 {
-    return messages.folder + "\\" + name + ".asc";
+    RowListDeclaration list;
+    list.list = "lvwFiles";
+    list.toolbar = "tlbFiles";
+    list.columns = {"Filename"};
+    list.ticks = true;
+    list.menu = "mnuFirst";
+    list.dialog.addTitle = "Enter filename";
+    // The private messages' form asks in the words of the main messages' too.
+    list.dialog.labels = {"Enter filename for new Rotating Main Message"};
+    list.deletion = {"Delete File?", "Do you really want to delete this File?"};
+    list.load = [&messages](const SettingsFiles& files, const HubProfiles&) {
+        return loadRotatingNames(messages, files);
+    };
+    list.save = [&messages](const SettingsFiles& files, const HubProfiles&,
+                            const std::vector<CellRow>& rows) { saveRotatingNames(messages, rows, files); };
+    return list;
 }
 
 std::vector<CellRow> loadRotatingNames(const RotatingMessages& messages, const SettingsFiles& files)
@@ -68,9 +84,7 @@ std::vector<CellRow> loadRotatingNames(const RotatingMessages& messages, const S
         places.try_emplace(name.text, rows.size());
         rows.push_back({{std::move(name.text)}});
     }
-    for (const std::string& file : files.fileNames(messages.folder)) {
-        // Whatever the extension is, four characters go.
-        std::string name = file.substr(0, file.size() - std::min<std::size_t>(file.size(), 4));
+    for (std::string& name : textNames(files, messages.folder)) {
         const auto [place, isNew] = places.try_emplace(name, rows.size());
         if (isNew)
             rows.push_back({{std::move(name)}});

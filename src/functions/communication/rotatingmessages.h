@@ -20,8 +20,8 @@ struct RotatingMessages
 const RotatingMessages& rotatingMainMessages();
 const RotatingMessages& rotatingPrivateMessages();
 
-/// The told path of a message's text.
-std::string rotatingTextFile(const RotatingMessages& messages, const std::string& name);
+/// The list of the text files, ticked while they take part.
+RowListDeclaration rotatingFiles(const RotatingMessages& messages);
 
 /// The names in the table, ticked where there is a file of that name, and behind them the other files.
 std::vector<CellRow> loadRotatingNames(const RotatingMessages& messages, const SettingsFiles& files);

@@ -87,6 +87,7 @@ const RowListDeclaration& numbersCalculationList()
         RowListDeclaration list;
         list.list = "lvwNumbers";
         list.toolbar = "tlbNumbers";
+        list.toolTips = {"Edit question"};
         list.columns = {"Type", "X Min", "X Max", "Y Min", "Y Max"};
         list.menu = "mnuNumbersNumbers";
         list.dialog.form = EditForm::FourFields;

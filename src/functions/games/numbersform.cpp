@@ -6,7 +6,6 @@
 #include "shell/kit/messages.h"
 #include "shell/kit/rowlist.h"
 #include "shell/kit/tablefilepart.h"
-#include "shell/kit/toolbars.h"
 
 #include <QHeaderView>
 
@@ -26,7 +25,6 @@ class CalculationsPart : public RowListPart
 public:
     explicit CalculationsPart(const FormContext& context) : RowListPart(numbersCalculationList(), context)
     {
-        button(toolbar(), "EDIT")->setToolTip("Edit question");
         list().header()->setDefaultSectionSize(numberWidth);
         list().setMinimumWidth(numberWidth * static_cast<int>(numbersCalculationList().columns.size() + 1));
     }

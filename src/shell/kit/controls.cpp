@@ -52,10 +52,12 @@ Control textBox(const Setting& setting, const std::function<void()>& changed)
     if (setting.limit > 0)
         box->setMaxLength(setting.limit);
     QObject::connect(box, &QLineEdit::textChanged, box, changed);
-    return {
-        box,
-        [box, key = setting.key](const SettingValues& values) { box->setText(fromBytes(values.at(key))); },
-        [box, key = setting.key](SettingValues& values) { values[key] = toBytes(box->text()); }};
+    return {box,
+            [box, key = setting.key](const SettingValues& values) {
+                box->setText(fromBytes(values.at(key)));
+                box->home(false); // a long text shows its beginning
+            },
+            [box, key = setting.key](SettingValues& values) { values[key] = toBytes(box->text()); }};
 }
 
 Control comboBox(const Setting& setting, const std::function<void()>& changed)
@@ -214,7 +216,7 @@ Control controlOfKind(const Setting& setting, const HubProfiles& profiles,
 Control makeControl(const Setting& setting, const HubProfiles& profiles, const std::function<void()>& changed)
 {
     Control control = controlOfKind(setting, profiles, changed);
-    control.widget->setAccessibleName(fromBytes(setting.label));
+    control.widget->setAccessibleName(fromBytes(setting.label.empty() ? setting.toolTip : setting.label));
     control.widget->setToolTip(fromBytes(setting.toolTip));
     return control;
 }

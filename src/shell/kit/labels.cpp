@@ -2,7 +2,6 @@
 
 #include "shell/kit/codepagetext.h"
 
-#include <QToolBar>
 #include <QVBoxLayout>
 
 namespace quillfen {
@@ -23,7 +22,7 @@ QStringList texts(const std::vector<std::string>& bytes)
     return all;
 }
 
-QWidget* listWithToolbar(const QString& label, QToolBar* toolbar, QWidget* list)
+QWidget* listWithToolbar(const QString& label, QWidget* toolbar, QWidget* list)
 {
     auto* widget = new QWidget;
     auto* layout = new QVBoxLayout(widget);

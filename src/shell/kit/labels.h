@@ -7,7 +7,6 @@
 #include <string>
 #include <vector>
 
-class QToolBar;
 class QWidget;
 
 namespace quillfen {
@@ -18,8 +17,8 @@ QLabel* labelFor(const QString& text, QWidget* buddy);
 /// Code page texts as screen texts.
 QStringList texts(const std::vector<std::string>& bytes);
 
-/// A list below its toolbar, and both below the list's label; there may be no toolbar, and without a text
-/// there is no label.
-QWidget* listWithToolbar(const QString& label, QToolBar* toolbar, QWidget* list);
+/// A list below its toolbar or toolbars, and both below the list's label; there may be no toolbar, and
+/// without a text there is no label.
+QWidget* listWithToolbar(const QString& label, QWidget* toolbar, QWidget* list);
 
 } // namespace quillfen

@@ -53,6 +53,19 @@ public:
         return true;
     }
 
+    void move(int row, int place)
+    {
+        // Qt counts the place as the row before which this one comes to stand.
+        if (row == place || !beginMoveRows({}, row, row, {}, place > row ? place + 1 : place))
+            return;
+        const auto at = [this](int each) { return m_rows.begin() + each; };
+        if (row < place)
+            std::rotate(at(row), at(row + 1), at(place + 1));
+        else
+            std::rotate(at(place), at(row), at(row + 1));
+        endMoveRows();
+    }
+
     int rowCount(const QModelIndex& parent = {}) const override
     {
         return parent.isValid() ? 0 : static_cast<int>(m_rows.size());
@@ -144,6 +157,11 @@ void RowList::replace(int row, CellRow cells)
 void RowList::remove(int row)
 {
     m_rows->removeRows(row, 1);
+}
+
+void RowList::move(int row, int place)
+{
+    m_rows->move(row, place);
 }
 
 } // namespace quillfen

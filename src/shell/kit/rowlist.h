@@ -25,6 +25,9 @@ public:
     void replace(int row, CellRow cells);
     void remove(int row);
 
+    /// Puts a row in another's place; those between close up.
+    void move(int row, int place);
+
 signals:
     /// The user ticked or unticked a row.
     void tickChanged(int row);

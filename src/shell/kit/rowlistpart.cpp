@@ -8,6 +8,7 @@
 #include "shell/kit/toolbars.h"
 
 #include <QGridLayout>
+#include <QHBoxLayout>
 
 #include <algorithm>
 
@@ -31,12 +32,15 @@ RowListPart::RowListPart(RowListDeclaration declaration, const FormContext& cont
       m_context(context),
       m_list(new RowList(fromBytes(m_declaration.list), texts(m_declaration.columns), m_declaration.ticks)),
       m_toolbar(new QToolBar),
+      m_movement(m_declaration.movement.empty() ? nullptr : new QToolBar),
       m_widget(placed())
 {
     const int columns = static_cast<int>(m_declaration.columns.size());
     for (int hidden = 1; hidden <= m_declaration.hiddenColumns; ++hidden)
         m_list->setColumnHidden(columns - hidden, true);
     buildToolbar();
+    if (m_movement)
+        buildMovement();
     connect(m_list, &RowList::tickChanged, this, &FormPart::changed);
     connect(m_list, &RowList::countChanged, this, [this] { followRows(); });
     connect(m_list, &RowList::editAsked, this, [this] { activate(); });
@@ -55,16 +59,46 @@ void RowListPart::buildToolbar()
         AddEditButton(*m_toolbar, index);
     else
         BuildListToolbar(*m_toolbar, index);
+    for (std::size_t place = 0; place < m_declaration.toolTips.size(); ++place)
+        m_toolbar->actions()
+            .at(static_cast<int>(place))
+            ->setToolTip(fromBytes(m_declaration.toolTips[place]));
     connectButton(*m_toolbar, "NEW", this, &RowListPart::add);
     connectButton(*m_toolbar, "EDIT", this, &RowListPart::edit);
     connectButton(*m_toolbar, "DELETE", this, &RowListPart::removeSelected);
+}
+
+void RowListPart::buildMovement()
+{
+    m_movement->setObjectName(fromBytes(m_declaration.movement));
+    m_movement->setIconSize({16, 16});
+    int index = 0;
+    BuildMovementToolbar(*m_movement, index);
+    m_list->addActions(m_movement->actions());
+    connectButton(*m_movement, "MoveTop", this, [this] { moveSelected(0); });
+    connectButton(*m_movement, "MoveUp", this, [this] { moveSelected(m_list->currentRow() - 1); });
+    connectButton(*m_movement, "MoveDown", this, [this] { moveSelected(m_list->currentRow() + 1); });
+    connectButton(*m_movement, "MoveBottom", this,
+                  [this] { moveSelected(static_cast<int>(m_list->rows().size()) - 1); });
+    connect(m_list->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+            &RowListPart::followSelection);
+    connect(m_list, &RowList::countChanged, this, &RowListPart::followSelection);
+    followSelection();
 }
 
 QWidget* RowListPart::placed()
 {
     const QString label = fromBytes(m_declaration.label);
     m_list->setAccessibleName(label.isEmpty() ? fromBytes(m_declaration.columns.front()) : label);
-    return listWithToolbar(label, m_toolbar, m_list);
+    if (!m_movement)
+        return listWithToolbar(label, m_toolbar, m_list);
+    auto* toolbars = new QWidget;
+    auto* layout = new QHBoxLayout(toolbars);
+    layout->setContentsMargins({});
+    layout->addWidget(m_toolbar);
+    layout->addWidget(m_movement);
+    layout->addStretch();
+    return listWithToolbar(label, toolbars, m_list);
 }
 
 void RowListPart::load()
@@ -100,7 +134,7 @@ void RowListPart::add()
 {
     if (!isLit("NEW"))
         return;
-    addRows(m_list, requestOf(m_declaration.dialog), [this](const std::vector<std::string>& values) {
+    addRows(m_list, requestOf(dialog()), [this](const std::vector<std::string>& values) {
         CellRow row{std::vector<std::string>(std::max(m_declaration.columns.size(), values.size()))};
         if (m_declaration.take)
             m_declaration.take(values, row);
@@ -120,11 +154,11 @@ void RowListPart::edit()
     if (at < 0 || !isLit("EDIT"))
         return;
     CellRow row = m_list->rows()[static_cast<std::size_t>(at)];
-    const RowDialog dialog = m_declaration.dialogOf ? m_declaration.dialogOf(row) : m_declaration.dialog;
-    EditRequest request = requestOf(dialog);
+    const RowDialog offered = m_declaration.dialogOf ? m_declaration.dialogOf(row) : dialog();
+    EditRequest request = requestOf(offered);
     request.gEditResult = "E";
-    request.gEditMode = dialog.editMode.value_or(habitualEditMode(dialog.form));
-    request.title = m_declaration.editTitleOf ? m_declaration.editTitleOf(row) : dialog.editTitle;
+    request.gEditMode = offered.editMode.value_or(habitualEditMode(offered.form));
+    request.title = m_declaration.editTitleOf ? m_declaration.editTitleOf(row) : offered.editTitle;
     if (m_declaration.labelsOf)
         request.labels = m_declaration.labelsOf(row);
     request.values = m_declaration.fieldsOf ? m_declaration.fieldsOf(row) : row.cells;
@@ -147,16 +181,40 @@ void RowListPart::removeSelected()
     const int at = m_list->currentRow();
     if (at < 0 || !isLit("DELETE"))
         return;
-    const DeleteWords& words = m_declaration.deletion;
-    if (!words.minimum.empty() && m_list->rows().size() == 1) {
-        notify(m_list, "Cannot delete", fromBytes(words.minimum), QMessageBox::Critical);
+    const CellRow& row = m_list->rows()[static_cast<std::size_t>(at)];
+    const std::string refused = refusal(row);
+    if (!refused.empty()) {
+        notify(m_list, "Cannot delete", fromBytes(refused), QMessageBox::Critical);
         return;
     }
-    if (!confirm(m_list, fromBytes(words.title), fromBytes(words.text)) ||
-        !mayDelete(m_list->rows()[static_cast<std::size_t>(at)]))
+    const DeleteWords& words = m_declaration.deletion;
+    if (!confirm(m_list, fromBytes(words.title), fromBytes(words.text)) || !mayDelete(row))
         return;
     m_list->remove(at);
     touch();
+}
+
+std::string RowListPart::refusal(const CellRow& /*row*/) const
+{
+    return m_list->rows().size() == 1 ? m_declaration.deletion.minimum : std::string();
+}
+
+void RowListPart::moveSelected(int place)
+{
+    m_list->move(m_list->currentRow(), place);
+    m_list->select(place);
+    followSelection(); // the selection may have moved with its row, which no signal tells
+    touch();
+}
+
+void RowListPart::followSelection()
+{
+    const int row = m_list->currentRow();
+    const int last = static_cast<int>(m_list->rows().size()) - 1;
+    for (const char* key : {"MoveTop", "MoveUp"})
+        button(*m_movement, key)->setEnabled(row > 0);
+    for (const char* key : {"MoveDown", "MoveBottom"})
+        button(*m_movement, key)->setEnabled(row >= 0 && row < last);
 }
 
 void RowListPart::followRows()

@@ -27,6 +27,12 @@ public:
     const std::vector<CellRow>& rows() const;
 
 protected:
+    /// The dialog as it is offered at this moment.
+    virtual RowDialog dialog() const { return m_declaration.dialog; }
+
+    /// Why a row can't go, told before anything is asked; empty if it can.
+    virtual std::string refusal(const CellRow& row) const;
+
     /// What a form does before an added or edited row is taken, and before a row goes; false leaves the list
     /// as it is.
     virtual bool mayTake(const CellRow& /*row*/) { return true; }
@@ -41,24 +47,31 @@ protected:
     /// What a double click on a row does.
     virtual void activate() { edit(); }
 
+    virtual void add();
+    virtual void edit();
+
+    const RowListDeclaration& declaration() const { return m_declaration; }
+    const FormContext& context() const { return m_context; }
     RowList& list() const { return *m_list; }
     QToolBar& toolbar() const { return *m_toolbar; }
-    void edit();
 
     /// Lets the buttons that need a row follow whether there is one.
     virtual void followRows();
 
 private:
     void buildToolbar();
+    void buildMovement();
     QWidget* placed();
-    void add();
     void removeSelected();
     bool isLit(const char* key) const; ///< menus, keys and double clicks do no more than the buttons
+    void moveSelected(int place);
+    void followSelection();
 
     RowListDeclaration m_declaration;
     FormContext m_context;
     RowList* m_list;
     QToolBar* m_toolbar;
+    QToolBar* m_movement; ///< null where rows keep their places
     QWidget* m_widget;
 };
 

@@ -111,6 +111,8 @@ QWidget* TableFilePart::placed() const
             grid->addWidget(numberedLabel(setting, control, labels++), 2 * row, column);
             grid->addWidget(control, 2 * row + 1, column);
             ++place;
+        } else if (setting.label.empty()) {
+            fields->addRow(withUnit(setting, control));
         } else {
             fields->addRow(numberedLabel(setting, control, labels++), withUnit(setting, control));
         }

@@ -123,6 +123,20 @@ void BuildFileEditToolbar(QToolBar& toolbar, int& index)
     addDisabled("DELETE", "Delete question", "delete");
 }
 
+void BuildMovementToolbar(QToolBar& toolbar, int& index)
+{
+    const auto addMove = [&](const char* key, const char* toolTip, const char* icon, Qt::Key pressed) {
+        auto* action = addButton(toolbar, index, key, toolTip, icon);
+        action->setShortcut(QKeySequence(Qt::ALT | pressed));
+        action->setShortcutContext(Qt::WidgetShortcut);
+        action->setToolTip(toolTip);
+    };
+    addMove("MoveTop", "Move to the top", "movetop", Qt::Key_Home);
+    addMove("MoveUp", "Move up", "moveup", Qt::Key_Up);
+    addMove("MoveDown", "Move down", "movedown", Qt::Key_Down);
+    addMove("MoveBottom", "Move to the bottom", "movebottom", Qt::Key_End);
+}
+
 bool SetControlsDirty(QToolBar& toolbar, QStatusBar& statusBar)
 {
     setState(toolbar, statusBar, true);

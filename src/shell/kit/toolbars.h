@@ -21,6 +21,10 @@ void BuildListToolbar(QToolBar& toolbar, int& index);
 void BuildFileListToolbar(QToolBar& toolbar, int& index);
 void BuildFileEditToolbar(QToolBar& toolbar, int& index);
 
+/// The buttons that move a list's selected row: "MoveTop", "MoveUp", "MoveDown", "MoveBottom". Their keys
+/// (Alt and Home, Up, Down, End) work in the widgets that they are added to.
+void BuildMovementToolbar(QToolBar& toolbar, int& index);
+
 /// One button by its key; the icon is the one of that name.
 QAction* addButton(QToolBar& toolbar, int& index, const QString& key, const QString& toolTip,
                    const QString& icon);

@@ -237,6 +237,22 @@ TEST_P(RotatingForms, AFileThatCannotBeDeletedStaysInTheListAndIsTold)
     EXPECT_FALSE(isDirty(form));
 }
 
+TEST_P(RotatingForms, ANameInTheTableThatLeavesTheFolderIsNeitherOpenedNorDeleted)
+{
+    namesFile = table("\t\"..\\..\\one\",\r\n");
+    auto& form = openForm();
+    clickRow(list(form), 0);
+    hub.store.log.clear();
+    auto boxes = answering(QMessageBox::Ok, [&form] { tool(form, "EDIT").trigger(); });
+    ASSERT_EQ(boxes.size(), 1);
+    EXPECT_EQ(boxes[0].title, "Cannot create file");
+    boxes = answering(QMessageBox::Ok, [&form] { tool(form, "DELETE").trigger(); });
+    ASSERT_EQ(boxes.size(), 2);
+    EXPECT_EQ(boxes[1].title, "Cannot create file");
+    EXPECT_TRUE(hub.store.log.empty());
+    EXPECT_EQ(list(form).rows().size(), 3U);
+}
+
 TEST_P(RotatingForms, DeleteAndEditFollowTheRows)
 {
     namesFile = table("");

@@ -1,89 +1,14 @@
 #pragma once
 
-#include "shell/kit/numberbox.h"
-#include "shell/kit/rowlist.h"
-#include "support/formtest.h"
-#include "support/golden.h"
-
-#include <QLineEdit>
-
-#include <string>
-#include <utility>
+#include "support/groupforms.h"
 
 namespace quillfen::test {
 
-/// The main window over a built tree, with what the tests of the security forms share.
-class SecurityForms : public FormTest
+/// The main window over a built tree, with the files of the security functions.
+class SecurityForms : public GroupForms
 {
 protected:
-    std::string& file(const std::string& path) { return hub.file("Security/" + path); }
-    static std::string golden(const std::string& name) { return test::golden("security/" + name); }
-
-    /// Ticks or unticks the rows of these places, "Unregistered" being 0.
-    static void tick(EditorForm& form, const char* list, std::initializer_list<int> rows)
-    {
-        for (const int row : rows)
-            clickTick(find<RowList>(form, list), row);
-    }
-
-    /// The ticks of a list: "0110".
-    static std::string ticks(EditorForm& form, const char* list)
-    {
-        std::string all;
-        for (const CellRow& row : find<RowList>(form, list).rows())
-            all += row.checked ? '1' : '0';
-        return all;
-    }
-
-    static void save(EditorForm& form)
-    {
-        EXPECT_TRUE(isDirty(form));
-        button(form, "SAVE").trigger();
-        EXPECT_FALSE(isDirty(form));
-    }
-
-    /// Presses RESTORE, answers its question with OK, and checks that the form is dirty then.
-    static void restore(EditorForm& form)
-    {
-        const auto boxes = answering(QMessageBox::Ok, [&form] { button(form, "RESTORE").trigger(); });
-        ASSERT_EQ(boxes.size(), 1);
-        EXPECT_EQ(boxes[0].title, "Restore defaults?");
-        EXPECT_EQ(boxes[0].text, "Restore to defaults?");
-        EXPECT_TRUE(isDirty(form));
-    }
-
-    /// Presses DISCARD and answers its question with OK.
-    static void discard(EditorForm& form)
-    {
-        answering(QMessageBox::Ok, [&form] { button(form, "DISCARD").trigger(); });
-        EXPECT_FALSE(isDirty(form));
-    }
-
-    /// Puts a text in the place of what a text or number box holds, by keys.
-    static void type(EditorForm& form, const char* box, const QString& text)
-    {
-        auto& edit = find<QLineEdit>(form, box);
-        edit.selectAll();
-        QTest::keyClicks(&edit, text);
-    }
-
-    /// The ends at which the arrows of a number box stop.
-    static std::pair<std::string, std::string> range(EditorForm& form, const char* upDown)
-    {
-        auto& box = find<NumberBox>(form, upDown);
-        box.setText("-99999999");
-        QTest::keyClick(&box, Qt::Key_Up);
-        const std::string lowest = box.text().toStdString();
-        box.setText("99999999");
-        QTest::keyClick(&box, Qt::Key_Down);
-        return {lowest, box.text().toStdString()};
-    }
-
-    static std::string text(const QWidget& form, const char* label)
-    {
-        const auto* found = form.findChild<QLabel*>(label);
-        return found ? found->text().toStdString() : "no such label";
-    }
+    SecurityForms() : GroupForms("Security", "security") {}
 };
 
 } // namespace quillfen::test

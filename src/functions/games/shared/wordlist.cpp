@@ -37,6 +37,7 @@ RowListDeclaration wordList(const std::string& path, WordLine line)
     RowListDeclaration words;
     words.list = "lvwWords";
     words.toolbar = "tlbListview";
+    words.toolTips = {"Add new Word", "Delete Word", "Edit Word"}; // also where the rows are questions
     words.load = [path, line](const SettingsFiles& files, const HubProfiles&) {
         return loadWords(files, path, line);
     };

@@ -14,10 +14,6 @@ WordListPart::WordListPart(const RowListDeclaration& words, const FormContext& c
     addButton(toolbar(), index, "OPEN", "Open Words file", "open");
     addButton(toolbar(), index, "SAVE", "Save Words file", "save");
     addButton(toolbar(), index, "CLOSE", "Close Words file", "close");
-    // All games call their rows words, also where they are questions.
-    button(toolbar(), "NEW")->setToolTip("Add new Word");
-    button(toolbar(), "DELETE")->setToolTip("Delete Word");
-    button(toolbar(), "EDIT")->setToolTip("Edit Word");
     connectButton(toolbar(), "OPEN", this, &WordListPart::openFile);
     connectButton(toolbar(), "SAVE", this, &WordListPart::saveFile);
     connectButton(toolbar(), "CLOSE", this, &WordListPart::closeFile);

@@ -1,0 +1,91 @@
+#include "functions/customise/asciiintros.h"
+
+#include "functions/customise/shared/enabledprofiles.h"
+#include "settings/listfile.h"
+#include "settings/textfolder.h"
+
+namespace quillfen {
+namespace {
+
+const ListFile usersFile = {R"(CustomiseUser\IntroOutro\AsciiIntro.tbl)", "tAsciiIntro",
+                            ListFile::Form::Keyed};
+const ListFile indexFile = {R"(CustomiseUser\IntroOutro\AsciiIntroIndex.tbl)", "tAsciiIntroIndex"};
+
+std::vector<CellRow> loadFiles(const SettingsFiles& files, const HubProfiles& /*profiles*/)
+{
+    std::vector<CellRow> rows;
+    for (std::string& name : textNames(files, asciiIntroFolder))
+        rows.push_back({{std::move(name)}});
+    return rows;
+}
+
+RowListDeclaration declaredUsers()
+{
+    RowListDeclaration list;
+    list.list = "lvwAscii";
+    list.toolbar = "tlbAscii";
+    list.toolTips = {"Add new user", "Delete user", "Edit user"};
+    list.label = "Ascii Profiles";
+    list.columns = {"Username", "Filename"};
+    list.menu = "mnuFirst";
+    list.dialog.form = EditForm::TextCombo;
+    list.dialog.addTitle = "Add Ascii Profile for User";
+    list.dialog.labels = list.columns;
+    list.dialog.addMode = 2; // the script could show nothing for a user without a file
+    list.dialog.editMode = 2;
+    list.editTitleOf = [](const CellRow& row) { return "Edit Ascii Intro for " + row.cells[0]; };
+    list.deletion = {"Delete Intro?", "Do you really want to delete this intro?"};
+    list.load = loadOf(usersFile);
+    list.save = saveOf(usersFile);
+    list.restored = noRows;
+    return list;
+}
+
+RowListDeclaration declaredFiles()
+{
+    RowListDeclaration list;
+    list.list = "lvwFiles";
+    list.toolbar = "tlbFiles";
+    list.toolTips = {"Add new file", "Delete file", "Edit file"};
+    list.label = "Ascii Files";
+    list.columns = {"Filename"};
+    list.menu = "mnuSecond";
+    list.dialog.addTitle = "Enter filename";
+    list.dialog.labels = {"Enter filename for new Ascii Intro"};
+    list.deletion = {"Delete Ascii Intro?", "Do you really want to delete this Ascii Intro?"};
+    list.load = loadFiles;
+    list.save = saveOf(indexFile);
+    return list;
+}
+
+} // namespace
+
+const TableFile& asciiIntroSettings()
+{
+    static const TableFile file = {
+        R"(CustomiseUser\IntroOutro\AsciiIntroSettings.tbl)",
+        "tAsciiIntroSettings",
+        {flag("bNotifyOps", "chkNotifyOps", "Notify Ops", "1"), enabledProfiles("Ascii Enabled Profiles")}};
+    return file;
+}
+
+const RowListDeclaration& asciiIntroUsers()
+{
+    static const RowListDeclaration list = declaredUsers();
+    return list;
+}
+
+const RowListDeclaration& asciiIntroFiles()
+{
+    static const RowListDeclaration list = declaredFiles();
+    return list;
+}
+
+void buildAsciiIntros(const SettingsFiles& files, const HubProfiles& profiles)
+{
+    rebuildTableFile(asciiIntroSettings(), files, profiles);
+    for (const ListFile& file : {usersFile, indexFile})
+        writeEmptyTableIfMissing(files, file.path, file.table);
+}
+
+} // namespace quillfen

@@ -1,0 +1,153 @@
+#include "functions/customise/customrightclick.h"
+
+#include "settings/lines.h"
+#include "settings/listfile.h"
+#include "settings/profiles.h"
+
+#include <algorithm>
+#include <charconv>
+#include <limits>
+#include <optional>
+
+namespace quillfen {
+namespace {
+
+constexpr std::string_view path = R"(CustomiseUser\CustomRightClick\CustomRightClick.tbl)";
+constexpr std::string_view table = "tCustomRightClick";
+
+/// The cells of a row.
+enum Cell
+{
+    RightClick,
+    Profile,
+    Location
+};
+
+/// Where in the client's menus a line stands; the file counts them from 1.
+const std::vector<std::string> locations = {"Hub", "Users", "Hub & Users", "Search"};
+
+/// Who sees a line, beside the profiles: as it is shown, and as it is stored.
+const std::vector<std::pair<std::string, std::string>> groups = {{"Operators Only", "ops"},
+                                                                 {"All Profiles", "all"}};
+
+/// The whole number that a text is; nothing if it is another text.
+std::optional<long long> wholeNumber(const std::string& text)
+{
+    long long number = 0;
+    const auto [end, fault] = std::from_chars(text.data(), text.data() + text.size(), number);
+    return fault == std::errc() && end == text.data() + text.size() ? std::optional(number) : std::nullopt;
+}
+
+std::string shownProfile(const std::string& stored, const HubProfiles& profiles)
+{
+    for (const auto& [word, code] : groups) {
+        if (stored == code)
+            return word;
+    }
+    const auto row = wholeNumber(stored).value_or(-2) + 1; // the key of the first row is -1
+    const bool isThere = row >= 0 && row < static_cast<long long>(profiles.count());
+    return isThere ? profiles.names()[static_cast<std::size_t>(row)] : stored;
+}
+
+/// The key of a profile that is gone is shown as it stands, and stays a bare number.
+std::string storedProfile(const std::string& shown, const HubProfiles& profiles)
+{
+    for (const auto& [word, code] : groups) {
+        if (shown == word)
+            return "\"" + code + "\"";
+    }
+    const auto& names = profiles.names();
+    const auto name = std::find(names.begin(), names.end(), shown);
+    if (name != names.end())
+        return HubProfiles::key(static_cast<std::size_t>(name - names.begin()));
+    return wholeNumber(shown) ? shown : "\"" + shown + "\"";
+}
+
+std::string shownLocation(const std::string& stored)
+{
+    const auto place = wholeNumber(stored).value_or(0) - 1;
+    const bool isThere = place >= 0 && place < static_cast<long long>(locations.size());
+    return isThere ? locations[static_cast<std::size_t>(place)] : stored;
+}
+
+/// A place that is none of the four stays as it stands; a row that has none would stop the script from
+/// loading the file.
+std::string storedLocation(const std::string& shown)
+{
+    const auto place = std::find(locations.begin(), locations.end(), shown);
+    if (place != locations.end())
+        return std::to_string(place - locations.begin() + 1);
+    return shown.empty() ? "0" : shown;
+}
+
+/// Every line of the file counts here, where other settings end at the 5000th: rows that a load left out
+/// would be lost at the next save.
+std::vector<CellRow> loadRows(const SettingsFiles& files, const HubProfiles& profiles)
+{
+    std::string bytes = files.store().read(files.paths().resolve(path)).value_or(std::string());
+    const auto most =
+        static_cast<double>(bytes.size()); // no row is shorter than a byte, whatever the count says
+    const TableIndex index(std::move(bytes), std::numeric_limits<std::size_t>::max());
+    const auto count =
+        static_cast<int>(std::clamp(leadingNumber(index.value("iCommands", table)), 0.0, most));
+    std::vector<CellRow> rows;
+    for (int number = 1; number <= count; ++number) {
+        const std::string block = std::to_string(number);
+        rows.push_back(
+            {{index.value("sRightClick", block), shownProfile(index.value("sProfile", block), profiles),
+              shownLocation(index.value("iWhere", block))},
+             isOne(index.value("bEnabled", block))});
+    }
+    return rows;
+}
+
+void saveRows(const SettingsFiles& files, const HubProfiles& profiles, const std::vector<CellRow>& rows)
+{
+    std::string text = std::string(table) + " = {\r\n\tiCommands = " + std::to_string(rows.size()) + ",\r\n";
+    int number = 0;
+    for (const CellRow& row : rows) {
+        // The rows of a block stand two tabs deeper than its brace.
+        text += "\t[" + std::to_string(++number) + "] = {\r\n";
+        text += std::string("\t\t\tbEnabled = ") + (row.checked ? "1" : "0") + ",\r\n";
+        text += "\t\t\tiWhere = " + storedLocation(row.cells[Location]) + ",\r\n";
+        text += "\t\t\tsProfile = " + storedProfile(row.cells[Profile], profiles) + ",\r\n";
+        text += "\t\t\tsRightClick = \"" + row.cells[RightClick] + "\",\r\n\t},\r\n";
+    }
+    files.WriteSettingsFile(path, text + "}");
+}
+
+} // namespace
+
+RowListDeclaration customRightClicks(const HubProfiles& profiles)
+{
+    std::vector<std::string> whose = profiles.names();
+    for (const auto& group : groups)
+        whose.push_back(group.first);
+
+    RowListDeclaration list;
+    list.list = "lvwCustomRightClicks";
+    list.toolbar = "tlbHubs";
+    list.movement = "tlbListviewMovement";
+    list.label = "Hub Settings"; // copied from the list of hubs, as the toolbar's name is
+    list.columns = {"Right Click", "Profile", "Location"};
+    list.ticks = true;
+    list.menu = "mnuFirst";
+    list.dialog.form = EditForm::OneTextTwoCombo;
+    list.dialog.addTitle = "Add Right Click";
+    list.dialog.editTitle = "Edit Right Click";
+    list.dialog.labels = list.columns;
+    list.dialog.entries = {whose, locations};
+    list.dialog.addMode = 4; // a line without one of the three is none
+    list.dialog.editMode = 4;
+    list.deletion = {"Delete right click?", "Do you really want to delete this right click?"};
+    list.load = loadRows;
+    list.save = saveRows;
+    return list;
+}
+
+void buildCustomRightClicks(const SettingsFiles& files, const HubProfiles& /*profiles*/)
+{
+    writeEmptyTableIfMissing(files, path, table); // without a count, which reads as none
+}
+
+} // namespace quillfen

@@ -1,0 +1,125 @@
+#include "functions/customise/descriptiontags.h"
+
+#include "settings/listfile.h"
+#include "settings/profiles.h"
+
+namespace quillfen {
+namespace {
+
+constexpr const char* path = R"(CustomiseUser\DescriptionTags\DescriptionTagSettings.tbl)";
+constexpr const char* table = "tDescriptionTagSettings";
+constexpr const char* tagTable = "tProfiles";
+
+/// No control holds this flag: only the rebuild writes it, and each save of the form loses it again.
+const TableFile& rebuiltOnly()
+{
+    static const TableFile file = {path, table, {flag("bNotifyOps", "", "", "1")}};
+    return file;
+}
+
+std::string standardTag(const std::string& profile)
+{
+    return "[" + profile + "]";
+}
+
+/// The tags that the file has, by profile key.
+std::map<std::string, std::string> storedTags(const SettingsFiles& files)
+{
+    std::vector<ListRow> rows;
+    files.ReadTableToList(path, rows, "=", tagTable);
+    std::map<std::string, std::string> tags;
+    for (ListRow& row : rows)
+        tags.try_emplace(std::move(row.text), std::move(row.second));
+    return tags;
+}
+
+/// The row of each profile with the tag that `tagOf(row)` gives it.
+template <typename TagOf>
+std::vector<CellRow> tagRows(const HubProfiles& profiles, const TagOf& tagOf)
+{
+    std::vector<CellRow> rows;
+    for (std::size_t row = 0; row < profiles.count(); ++row)
+        rows.push_back({{profiles.names()[row], tagOf(row)}});
+    return rows;
+}
+
+/// A tag ends at its `=` here: lists are read so.
+std::vector<CellRow> loadTags(const SettingsFiles& files, const HubProfiles& profiles)
+{
+    auto tags = storedTags(files);
+    return tagRows(profiles, [&tags](std::size_t row) { return tags[HubProfiles::key(row)]; });
+}
+
+std::vector<CellRow> standardTags(const HubProfiles& profiles)
+{
+    return tagRows(profiles, [&profiles](std::size_t row) { return standardTag(profiles.names()[row]); });
+}
+
+std::vector<CellRow> rebuiltTags(const SettingsFiles& files, const HubProfiles& profiles)
+{
+    const auto index = files.index(path);
+    const auto tags = storedTags(files);
+    return tagRows(profiles, [&](std::size_t row) {
+        const std::string key = HubProfiles::key(row);
+        // Asked for a tag that is missing, the index would find a flag of the table behind.
+        const auto value = tags.contains(key) ? index.value(key, tagTable) : std::string();
+        return value.empty() ? standardTag(profiles.names()[row]) : value;
+    });
+}
+
+std::string tagText(const std::vector<CellRow>& tags)
+{
+    std::string text = std::string("\t") + tagTable + " = {\r\n";
+    for (std::size_t row = 0; row < tags.size(); ++row)
+        text += "\t\t[" + HubProfiles::key(row) + "] = \"" + tags[row].cells[1] + "\",\r\n";
+    return text + "\t},\r\n";
+}
+
+void write(const std::string& rows, const SettingsFiles& files)
+{
+    files.WriteSettingsFile(path, std::string(table) + " = {\r\n" + rows + "}");
+}
+
+} // namespace
+
+const TableFile& taggedProfiles()
+{
+    static const TableFile file = {
+        path, table, {profileFlags("tEnabledProfiles", "lvwEnabledProfiles", "Enabled Profiles")}};
+    return file;
+}
+
+RowListDeclaration descriptionTags()
+{
+    RowListDeclaration list;
+    list.list = "lvwDescriptionTags";
+    list.toolbar = "tlbListview";
+    list.columns = {"Profile", "Tag"};
+    list.menu = "mnuOnlyEdit";
+    list.dialog.editTitle = "Edit File"; // copied from a list of files
+    list.labelsOf = [](const CellRow& row) { return std::vector<std::string>{row.cells[0] + " Tag"}; };
+    list.fieldsOf = [](const CellRow& row) { return std::vector<std::string>{row.cells[1]}; };
+    list.take = [](const std::vector<std::string>& fields, CellRow& row) { row.cells[1] = fields[0]; };
+    list.load = loadTags;
+    list.restored = standardTags;
+    return list;
+}
+
+void saveDescriptionTags(const SettingValues& tagged, const std::vector<CellRow>& tags,
+                         const SettingsFiles& files, const HubProfiles& profiles)
+{
+    write(composedRows(taggedProfiles(), tagged, RowOrder::Save, profiles) + tagText(tags), files);
+}
+
+void buildDescriptionTags(const SettingsFiles& files, const HubProfiles& profiles)
+{
+    const auto index = files.index(path);
+    const auto kept = [&](const TableFile& file) {
+        return composedRows(file, rebuilt(file, index, profiles), RowOrder::Rebuild, profiles);
+    };
+    write(kept(rebuiltOnly()) + tagText(rebuiltTags(files, profiles)) + kept(taggedProfiles()), files);
+    writeEmptyTableIfMissing(files, R"(CustomiseUser\DescriptionTags\DescriptionTags.tbl)",
+                             "tDescriptionTags");
+}
+
+} // namespace quillfen

@@ -1,0 +1,169 @@
+#include "functions/customise/introsoutros.h"
+
+#include "functions/customise/shared/enabledprofiles.h"
+#include "settings/listfile.h"
+#include "settings/profiles.h"
+
+namespace quillfen {
+namespace {
+
+// The lines for everybody that RESTORE shows. A fresh tree has none of them.
+const std::vector<CellRow> standardIntros = {
+    {{"!username! appears in a blaze of octarine"}},
+    {{"!username! staggers in and collapses in relief"}},
+    {{"Like a demon, !username! materialises in the hub"}},
+    {{"The trapdoor creaks open and !username! climbs out, covered in cobwebs"}},
+    {{"A passing troll spits out !username!, complaining about the taste"}},
+    {{"!username! falls out of the sky and blames the carpet"}},
+    {{"The crystal ball clears, and !username! is pulling faces inside it"}},
+    {{"!username! rides in on a very tired donkey and insists that it is a unicorn"}},
+    {{"The third wish is granted: !username! is here. The first two were better"}},
+    {{"!username! kicks the door down, then notices that it was open"}},
+    {{"A frog is kissed, there is a pop, and !username! asks for a towel"}},
+    {{"Somebody polishes the lamp, and !username! comes out yawning"}},
+    {{"!username! steps out of the portrait on the wall and straightens the frame"}},
+    {{"The prophecy promised a hero. It got !username!, and !random! is to blame"}},
+};
+
+const std::vector<CellRow> standardOutros = {
+    {{"!username! hops onto their broomstick and flies off into the night"}},
+    {{"With a burst of flame, the dragon incinerates !username!"}},
+    {{"Morvaleth banishes !username! to the Hubland wastes"}},
+    {{"!username! says the magic word backwards and is gone"}},
+    {{"The carpet takes off before !username! has sat down properly"}},
+    {{"A large net drops from the ceiling, and goblins carry !username! away"}},
+    {{"!username! drinks from the wrong bottle and hops away, croaking"}},
+    {{"The spell wears off, and !username! is a turnip again"}},
+    {{"The floor opens under !username! and closes with a satisfied burp"}},
+    {{"!username! puts on the cloak of invisibility and trips over it on the way out"}},
+    {{"!username! bows, vanishes in green smoke, and is heard coughing down the corridor"}},
+    {{"A giant picks up !username! between two fingers and asks where to put this one"}},
+    {{"!username! loses a staring contest with the basilisk"}},
+    {{"The ferryman calls the last boat, and !username! runs for it"}},
+    {{"!username! sets out for the treasure, holding the map upside down"}},
+    {{"A raven brings the tavern bill, and !username! leaves through the window"}},
+    {{"!username! signs up as a squire and is marched off to polish armour"}},
+    {{"The moon is full, and !username! leaves in a hurry, growing hair"}},
+};
+
+const std::vector<CellRow> customIntros = {
+    {{"morvaleth", "Morvaleth arrives in a blaze of octarine as all in the hub bow before him"}}};
+const std::vector<CellRow> customOutros = {
+    {{"morvaleth", "Morvaleth vanishes in a burst of octarine flames"}}};
+
+/// What differs between the lines for everybody and those for named users.
+struct Family
+{
+    std::string word;   ///< in the names of files and tables
+    std::string label;  ///< in the labels of the lists
+    bool named = false; ///< each line has its user
+    const std::vector<CellRow>& intros;
+    const std::vector<CellRow>& outros;
+    std::string askedOutro; ///< how the question before an outro goes calls it
+};
+
+const Family standard = {"", "Standard", false, standardIntros, standardOutros, "outro"};
+const Family custom = {"Custom", "Custom", true, customIntros, customOutros, "Outro"};
+
+std::string pathOf(const std::string& name)
+{
+    return R"(CustomiseUser\IntroOutro\)" + name + ".tbl";
+}
+
+/// The file of the intros or of the outros.
+ListFile linesFile(const Family& family, const std::string& noun)
+{
+    return {pathOf(family.word + noun), "t" + family.word + noun,
+            family.named ? ListFile::Form::Keyed : ListFile::Form::Plain};
+}
+
+/// `noun` is "Intro" or "Outro"; `asked` is the same in the question before a line goes.
+RowListDeclaration linesOf(const Family& family, const std::string& noun, const std::string& asked,
+                           const std::vector<CellRow>& restored)
+{
+    RowListDeclaration list;
+    list.list = "lvw" + noun;
+    list.toolbar = "tlb" + noun;
+    list.label = family.label + " " + noun + "s";
+    list.columns = {noun};
+    list.menu = "mnu" + noun;
+    list.dialog.addTitle = "Add " + noun;
+    list.dialog.editTitle = "Edit " + noun;
+    list.dialog.labels = {noun};
+    list.deletion = {"Delete " + noun + "?", "Do you really want to delete this " + asked + "?",
+                     "There must be a minimum of one " + noun};
+    list.load = loadOf(linesFile(family, noun));
+    list.restored = [&restored](const HubProfiles&) { return restored; };
+    if (family.named) {
+        list.columns = {"Username", noun};
+        list.dialog.form = EditForm::TwoFields;
+        list.dialog.labels = {noun + " for", noun};
+        list.labelsOf = [noun](const CellRow& row) {
+            return std::vector<std::string>{noun + " for " + row.cells[0], noun};
+        };
+    }
+    return list;
+}
+
+RowListGroup linesOf(const Family& family)
+{
+    RowListGroup group;
+    group.lists = {linesOf(family, "Intro", "intro", family.intros),
+                   linesOf(family, "Outro", family.askedOutro, family.outros)};
+    group.save = [&family](const SettingsFiles& files, const std::vector<std::vector<CellRow>>& rows) {
+        saveOf(linesFile(family, "Intro"))(files, {}, rows.at(0));
+        saveOf(linesFile(family, "Outro"))(files, {}, rows.at(1));
+    };
+    return group;
+}
+
+TableFile settingsOf(const Family& family, std::vector<Setting> settings)
+{
+    settings.push_back(enabledProfiles(family.label + " Enabled Profiles"));
+    return {pathOf(family.word + "IntroOutroSettings"), "t" + family.word + "IntroOutroSettings",
+            std::move(settings)};
+}
+
+/// The keys of the first two say registered where the controls say unregistered: both stay.
+std::vector<Setting> unregisteredIntro()
+{
+    Setting line = text("sRegIntro", "txtUnregIntro", "",
+                        "Welcome !nick! to !hubname!. Type !prefix!!regcommand! to register");
+    line.toolTip = "Unregistered User Intro";
+    return {flag("bRegIntroEnabled", "chkEnableUnregIntro", "Enable Unregistered User Intro", "1"), line};
+}
+
+void build(const Family& family, const TableFile& settings, const SettingsFiles& files,
+           const HubProfiles& profiles)
+{
+    rebuildTableFile(settings, files, profiles);
+    for (const char* noun : {"Intro", "Outro"}) {
+        const ListFile lines = linesFile(family, noun);
+        writeEmptyTableIfMissing(files, lines.path, lines.table);
+    }
+}
+
+} // namespace
+
+const IntrosOutros& standardIntrosOutros()
+{
+    static const IntrosOutros all = {settingsOf(standard, unregisteredIntro()), linesOf(standard)};
+    return all;
+}
+
+const IntrosOutros& customIntrosOutros()
+{
+    static const IntrosOutros all = {
+        settingsOf(custom,
+                   {flag("bNotifyOps", "chkNotifyOps", "Notify Ops when Custom Intro/Outro changed", "1")}),
+        linesOf(custom)};
+    return all;
+}
+
+void buildIntrosOutros(const SettingsFiles& files, const HubProfiles& profiles)
+{
+    build(standard, standardIntrosOutros().settings, files, profiles);
+    build(custom, customIntrosOutros().settings, files, profiles);
+}
+
+} // namespace quillfen
