@@ -183,6 +183,7 @@ RowListDeclaration permissions()
     RowListDeclaration list;
     list.list = "lvwPermissions";
     list.toolbar = "tlbPermissions";
+    list.label = "Permissions";
     list.columns = {"Profile", "Setting", "Data", "iProfile"};
     list.hiddenColumns = 1;
     list.menu = "mnuOnlyEdit";
