@@ -5,6 +5,7 @@
 #include "news/newsclient.h"
 #include "settings/rebuild.h"
 #include "shell/kit/codepagetext.h"
+#include "shell/kit/contraststyle.h"
 #include "shell/kit/messages.h"
 
 #include <QStatusBar>
@@ -19,6 +20,7 @@ Program::Program(FileStore& store, const QString& programFolder, ProgramInfo inf
 
 std::optional<int> Program::start()
 {
+    ContrastStyle::install();
     // The navigator comes before the rebuild and shows the tree's switches as they stand now.
     m_window = std::make_unique<MainWindow>(m_info, FormContext{m_files, m_profiles}, formCatalogue());
     const auto ask = [](const RebuildQuestion& question) {

@@ -44,9 +44,10 @@ public:
           m_widget(listWithToolbar({}, m_toolbar, m_list))
     {
         m_list->setAccessibleName("News");
-        m_list->header()->resizeSection(Date, 90);
-        m_list->header()->resizeSection(Story, 320);
-        m_list->header()->resizeSection(Symbol, 80);
+        for (const Column narrow : {Date, Symbol, Number})
+            m_list->header()->resizeSection(narrow, 12 * m_list->fontMetrics().averageCharWidth());
+        m_list->header()->setStretchLastSection(false);
+        m_list->header()->setSectionResizeMode(Story, QHeaderView::Stretch);
         m_toolbar->setObjectName("tlbListview");
         m_toolbar->setIconSize({16, 16});
         int index = 0;

@@ -83,6 +83,7 @@ public:
     explicit HubListHabits(RowList& list) : QObject(&list), m_list(list)
     {
         list.header()->setStretchLastSection(false);
+        list.setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff); // the columns follow the list's width
         list.installEventFilter(this);
         list.viewport()->installEventFilter(this);
     }

@@ -1,6 +1,13 @@
-// Walks through the program in a hub's scripts folder and leaves a picture of each stop.
+// Takes pictures of the program in a hub's scripts folder: of a walk through it as the screen shows it, or of
+// every form and every dialog by itself, in a light or a dark palette.
 #include "app/start.h"
+#include "functions/forms.h"
 #include "settings/diskstore.h"
+#include "shell/kit/editdialog.h"
+#include "shell/kit/textedit.h"
+#include "shell/window/aboutbox.h"
+#include "shell/window/navigatortable.h"
+#include "shell/window/windowsdialog.h"
 #include "support/boxes.h"
 
 #include <QAction>
@@ -9,6 +16,7 @@
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QScreen>
+#include <QStyleFactory>
 #include <QTest>
 #include <QToolBar>
 #include <QTreeView>
@@ -29,17 +37,42 @@ public:
     {
         QTest::qWait(150);
         const QRect frame(window.mapToGlobal(QPoint()), window.size());
-        const QPixmap shot =
-            window.screen()->grabWindow(0, frame.x(), frame.y(), frame.width(), frame.height());
-        const QString file = m_folder + '/' + name + QStringLiteral(".png");
-        if (!shot.save(file))
-            std::fprintf(stderr, "no picture: %s\n", qPrintable(file));
-        else
-            std::printf("%s\n", qPrintable(file));
+        store(window.screen()->grabWindow(0, frame.x(), frame.y(), frame.width(), frame.height()), name);
+    }
+
+    /// A picture of a window by itself, also where it is larger than the screen.
+    void portrait(QWidget& window, const QString& name)
+    {
+        QTest::qWait(20); // scroll bars come and go
+        store(window.grab(), name);
+    }
+
+    /// A portrait of a dialog, which then goes.
+    void portraitOf(QDialog&& dialog)
+    {
+        dialog.show();
+        portrait(dialog, "dialog-" + dialog.objectName());
+    }
+
+    bool complete() const { return m_complete; }
+    void miss(const QString& what)
+    {
+        std::fprintf(stderr, "no picture: %s\n", qPrintable(what));
+        m_complete = false;
     }
 
 private:
+    void store(const QPixmap& shot, const QString& name)
+    {
+        const QString file = m_folder + '/' + name + QStringLiteral(".png");
+        if (shot.save(file))
+            std::printf("%s\n", qPrintable(file));
+        else
+            miss(file);
+    }
+
     QString m_folder;
+    bool m_complete = true;
 };
 
 EditorForm* formOf(QWidget& window, const char* name)
@@ -52,21 +85,8 @@ void trigger(QWidget& parent, const char* toolbar, const char* key)
     parent.findChild<QToolBar*>(toolbar)->findChild<QAction*>(key)->trigger();
 }
 
-/// A picture of one form alone, and of what its list's EDIT shows.
-void visit(quillfen::MainWindow& window, Tour& tour, const QString& key)
-{
-    auto* area = window.findChild<QMdiArea*>();
-    area->closeAllSubWindows();
-    window.OpenFunctionForm(key);
-    tour.picture(*area->currentSubWindow(), "form-" + QString(key).replace('~', '-'));
-}
-
 void walk(quillfen::MainWindow& window, Tour& tour)
 {
-    window.show();
-    if (!QTest::qWaitForWindowExposed(&window))
-        std::fprintf(stderr, "the main window doesn't show\n");
-    trigger(window, "tlbSidebar", "EXPAND");
     tour.picture(window, "02-main-window");
 
     window.OpenFunctionForm("General~Settings");
@@ -101,10 +121,77 @@ void walk(quillfen::MainWindow& window, Tour& tour)
                                   tour.picture(box, "09-about");
                                   box.close();
                               });
-    for (const char* key : {"General~Bots", "General~Commands", "General~News", "Communication~Portal",
-                            "Communication~TopicChanger", "Games~Trivia~Settings", "Games~Trivia~Questions",
-                            "Security~Kicks~Settings", "Security~Kicks~Permissions"})
-        visit(window, tour, key);
+}
+
+void closeForms(QMdiArea& area)
+{
+    area.closeAllSubWindows();
+    QCoreApplication::sendPostedEvents(nullptr,
+                                       QEvent::DeferredDelete); // no event loop runs that would do it
+}
+
+/// Every form that the catalogue makes, each opened by its key.
+void showForms(quillfen::MainWindow& window, Tour& tour)
+{
+    auto* area = window.findChild<QMdiArea*>();
+    QStringList shown;
+    for (const QString& key : quillfen::formKeys()) {
+        closeForms(*area);
+        window.OpenFunctionForm(key);
+        auto* form = area->currentSubWindow();
+        if (!form || form->widget()->objectName() != quillfen::formName(key))
+            continue; // not built yet
+        shown.append(form->widget()->objectName());
+        tour.portrait(*form, "form-" + QString(key).replace('~', '-'));
+    }
+    for (const quillfen::FormMaker& maker : quillfen::formCatalogue()) {
+        if (!shown.contains(maker.name))
+            tour.miss(maker.name);
+    }
+}
+
+void showEditDialogs(QWidget& parent, Tour& tour)
+{
+    for (int form = 0; form <= static_cast<int>(quillfen::EditForm::FourCombos); ++form) {
+        const auto kind = static_cast<quillfen::EditForm>(form);
+        quillfen::EditRequest request{kind,
+                                      "Add Row",
+                                      "A",
+                                      quillfen::habitualAddMode(kind),
+                                      {"Bad Nick", "Minimum Share", "Action", "Profile"}};
+        request.values = {"Warn", "60", "Warn", "Warn"};
+        request.entries.assign(4, {"Warn", "60"});
+        tour.portraitOf(quillfen::EditDialog(request, &parent));
+    }
+}
+
+void showDialogs(quillfen::MainWindow& window, const quillfen::SettingsFiles& files, Tour& tour)
+{
+    closeForms(*window.findChild<QMdiArea*>());
+    for (const char* key : {"General~Switches", "General~Settings"})
+        window.OpenFunctionForm(key);
+    showEditDialogs(window, tour);
+    tour.portraitOf(quillfen::TextEditDialog(files, R"(Security\Kick\KickAscii.asc)",
+                                             quillfen::TextEditDialog::Mode::Edit, &window));
+    tour.portraitOf(quillfen::WindowsDialog(window.openWindows(), &window));
+    tour.portraitOf(quillfen::AboutBox({QUILLFEN_VERSION}, &window));
+    quillfen::test::withModal(
+        [&] { trigger(*formOf(window, "frmGeneralGeneral"), "tlbFormToolbar", "RESTORE"); },
+        [&](QWidget& box) {
+            tour.portrait(box, "dialog-question");
+            box.close();
+        });
+}
+
+QPalette paletteNamed(const QString& name)
+{
+    if (name == "light")
+        return QStyleFactory::create("fusion")->standardPalette();
+    QPalette dark(QColor(0x3b, 0x3d, 0x40), QColor(0x2b, 0x2d, 0x30));
+    dark.setColor(QPalette::Base, QColor(0x1e, 0x1f, 0x22));
+    dark.setColor(QPalette::Highlight, QColor(0x2f, 0x65, 0xca));
+    dark.setColor(QPalette::Link, QColor(0x6c, 0xa8, 0xff));
+    return dark;
 }
 
 } // namespace
@@ -113,13 +200,17 @@ int main(int argc, char** argv)
 {
     const QApplication application(argc, argv);
     const auto arguments = QCoreApplication::arguments();
-    if (arguments.size() < 3) {
-        std::fprintf(stderr, "usage: quillfen_tour SCRIPTS_FOLDER PICTURE_FOLDER\n");
+    const QString palette = arguments.value(3);
+    if (arguments.size() < 3 || !QStringList{"", "light", "dark"}.contains(palette)) {
+        std::fprintf(stderr, "usage: quillfen_tour SCRIPTS_FOLDER PICTURE_FOLDER [light|dark]\n");
         return 2;
     }
+    const QString scripts = QDir(arguments.at(1)).absolutePath();
     Tour tour(arguments.at(2));
+    if (!palette.isEmpty())
+        QApplication::setPalette(paletteNamed(palette));
     quillfen::DiskStore disk;
-    quillfen::Program program(disk, QDir(arguments.at(1)).absolutePath(), {QUILLFEN_VERSION});
+    quillfen::Program program(disk, scripts, {QUILLFEN_VERSION});
     std::optional<int> exitCode;
     quillfen::test::withModal([&] { exitCode = program.start(); },
                               [&](QWidget& box) {
@@ -128,6 +219,17 @@ int main(int argc, char** argv)
                               });
     if (exitCode)
         return *exitCode;
-    walk(program.window(), tour);
-    return 0;
+    quillfen::MainWindow& window = program.window();
+    window.show();
+    if (!QTest::qWaitForWindowExposed(&window))
+        tour.miss("the main window doesn't show");
+    trigger(window, "tlbSidebar", "EXPAND");
+    if (palette.isEmpty()) {
+        walk(window, tour);
+    } else {
+        tour.portrait(window, "main-window");
+        showForms(window, tour);
+        showDialogs(window, {disk, quillfen::SettingsPaths(scripts.toStdString())}, tour);
+    }
+    return tour.complete() ? 0 : 1;
 }

@@ -6,7 +6,6 @@
 
 #include <algorithm>
 #include <charconv>
-#include <cmath>
 
 namespace quillfen {
 namespace {
@@ -54,24 +53,23 @@ struct Unit
 constexpr Unit units[] = {
     {"KB", 1024., 7}, {"MB", 1048576., 10}, {"GB", 1073741824., 13}, {"TB", 1099511627776., 0}};
 
-/// A number with up to 15 significant digits, no matter what the platform's language is.
+/// A number with as many digits as tell it from its neighbours, no matter what the platform's language is.
+/// The units are powers of two, so a count of up to 2 to the 53rd comes back from its unit as it was.
 std::string numberText(double number)
 {
-    char buffer[32];
-    const auto end =
-        std::to_chars(buffer, buffer + sizeof buffer, number, std::chars_format::general, 15).ptr;
-    std::string text(buffer, end);
-    std::replace(text.begin(), text.end(), 'e', 'E');
-    return text;
+    char buffer[512]; // the longest number has 309 digits before its point, the smallest 340 behind it
+    const auto end = std::to_chars(buffer, buffer + sizeof buffer, number, std::chars_format::fixed).ptr;
+    return {buffer, end};
 }
 
-/// The cells of a profile's row.
+/// The cells of a profile's row; the last two don't show.
 enum Cell
 {
     Profile,
     RuleName,
     Data,
-    ProfileKey
+    ProfileKey,
+    Stored ///< what the file holds for the data: it stands as it is until the row is edited
 };
 
 const Rule& ruleOf(const CellRow& row)
@@ -90,19 +88,17 @@ std::vector<CellRow> loadPermissions(const SettingsFiles& files, const HubProfil
             const bool first = &rule == &rules().front();
             const std::string value = index.value(keyOf(rule), key);
             rows.push_back({{first ? profiles.names()[profile] : "", std::string(rule.name),
-                             rule.isShare ? shownShare(value) : value, key}});
+                             rule.isShare ? shownShare(value) : value, key, value}});
         }
     }
     return rows;
 }
 
-std::string storedData(const Rule& rule, const std::string& data)
+std::string writtenData(const Rule& rule, const std::string& stored)
 {
     if (rule.letter == 's')
-        return "\"" + data + "\"";
-    if (rule.isShare)
-        return storedShare(data);
-    return data.empty() ? "0" : data; // what was never set is a rule of 0
+        return "\"" + stored + "\"";
+    return stored.empty() ? "0" : stored; // what was never set is a rule of 0
 }
 
 /// The block of messages or redirects: keys with quoted texts.
@@ -131,7 +127,7 @@ void saveRules(const SettingsFiles& files, const std::vector<std::vector<CellRow
         const Rule& rule = rules()[place];
         if (place == 0)
             text += "\t[" + row.cells[ProfileKey] + "] = {\r\n";
-        text += "\t\t" + keyOf(rule) + " = " + storedData(rule, row.cells[Data]) + ",\r\n";
+        text += "\t\t" + keyOf(rule) + " = " + writtenData(rule, row.cells[Stored]) + ",\r\n";
         place = (place + 1) % rules().size();
         if (place == 0)
             text += "\t},\r\n";
@@ -172,9 +168,14 @@ std::vector<std::string> fieldsOf(const CellRow& row)
 
 void take(const std::vector<std::string>& fields, CellRow& row)
 {
-    row.cells[Data] = fields[0];
+    const Rule& rule = ruleOf(row);
+    std::string data = fields[0];
     if (fields.size() > 1)
-        row.cells[Data] += separatorOf(ruleOf(row)) + fields[1];
+        data += separatorOf(rule) + fields[1];
+    if (data == row.cells[Data])
+        return;
+    row.cells[Stored] = rule.isShare ? storedShare(data) : data;
+    row.cells[Data] = std::move(data);
 }
 
 RowListDeclaration permissions()
@@ -182,6 +183,7 @@ RowListDeclaration permissions()
     RowListDeclaration list;
     list.list = "lvwPermissions";
     list.toolbar = "tlbPermissions";
+    list.label = "Permissions";
     list.columns = {"Profile", "Setting", "Data", "iProfile"};
     list.hiddenColumns = 1;
     list.menu = "mnuOnlyEdit";
@@ -305,10 +307,7 @@ std::string storedShare(std::string_view shown)
     const auto [number, name, found] = splitOnce(shown, ' ');
     const auto* unit = std::find_if(std::begin(units), std::end(units) - 1,
                                     [&name = name](const Unit& each) { return each.name == name; });
-    const double bytes = leadingNumber(number) * unit->bytes;
-    // The 15 digits that were shown may miss the whole count by a hair: that hair isn't the user's.
-    const double whole = std::round(bytes);
-    return numberText(std::abs(bytes - whole) <= whole * 1e-14 ? whole : bytes);
+    return numberText(leadingNumber(number) * unit->bytes);
 }
 
 void buildProfileRules(const SettingsFiles& files, const HubProfiles& profiles)

@@ -3,10 +3,28 @@
 #include <QContextMenuEvent>
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QScrollBar>
 
 #include <algorithm>
 
 namespace quillfen {
+
+namespace {
+
+/// The narrowest and the widest that a list opens a column with, in characters. The last one may show
+/// sentences.
+constexpr int narrowest = 10;
+constexpr int widest = 40;
+constexpr int lastNarrowest = 24;
+constexpr int lastWidest = 60;
+
+} // namespace
+
+QSize RowDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const
+{
+    const QSize size = QStyledItemDelegate::sizeHint(option, index);
+    return {size.width(), size.height() + std::max(4, size.height() / 4)};
+}
 
 ListView::ListView(const QString& name, QWidget* parent) : QTreeView(parent)
 {
@@ -17,6 +35,8 @@ ListView::ListView(const QString& name, QWidget* parent) : QTreeView(parent)
     setTabKeyNavigation(false);
     setEditTriggers(NoEditTriggers);
     setExpandsOnDoubleClick(false);
+    setItemDelegate(new RowDelegate(this));
+    header()->setResizeContentsPrecision(64); // so many rows tell how wide a column is
     connect(this, &QTreeView::doubleClicked, this, [this](const QModelIndex& index) {
         if (index.isValid() && m_doubleClickEdits)
             emit editAsked();
@@ -34,14 +54,42 @@ void ListView::select(int row)
     setCurrentIndex(model()->index(row, 0));
 }
 
+void ListView::setModel(QAbstractItemModel* model)
+{
+    QTreeView::setModel(model);
+    connect(model, &QAbstractItemModel::modelReset, this, &ListView::fitColumns);
+}
+
+void ListView::fitColumns()
+{
+    if (m_fitted || model()->rowCount() == 0)
+        return;
+    m_fitted = true;
+    const int character = fontMetrics().averageCharWidth();
+    const int last = header()->count() - header()->hiddenSectionCount() - 1; // the hidden ones are the last
+    for (int column = 0; column <= last; ++column) {
+        const int wanted =
+            std::max(sizeHintForColumn(column), header()->sectionSizeHint(column)) + 2 * character;
+        if (column < last)
+            header()->resizeSection(column, std::clamp(wanted, narrowest * character, widest * character));
+        else
+            m_lastColumnHint = wanted;
+    }
+}
+
 QSize ListView::sizeHint() const
 {
     const int fewest = header()->isHidden() ? 6 : 10; // the small ones beside other controls have no header
-    constexpr int most = 26;
+    constexpr int most = 20;
     const int rowHeight = std::max(sizeHintForRow(0), fontMetrics().height());
     const int rows = model() ? model()->rowCount() : 0;
-    const int columns = header()->count() - header()->hiddenSectionCount();
-    return {fontMetrics().averageCharWidth() * (header()->isHidden() ? 34 : 20 + 24 * std::max(columns, 1)),
+    const int last = header()->count() - header()->hiddenSectionCount() - 1;
+    const int character = fontMetrics().averageCharWidth();
+    int width = std::clamp(m_lastColumnHint, lastNarrowest * character, lastWidest * character);
+    for (int column = 0; column < last; ++column)
+        width += header()->sectionSize(column);
+    width = std::clamp(width, 34 * character, 110 * character);
+    return {width + verticalScrollBar()->sizeHint().width() + 2 * frameWidth(),
             rowHeight * std::clamp(rows + 1, fewest, most) + 2 * frameWidth()};
 }
 

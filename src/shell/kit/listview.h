@@ -1,8 +1,20 @@
 #pragma once
 
+#include <QStyledItemDelegate>
 #include <QTreeView>
 
 namespace quillfen {
+
+/// Draws rows with some air between them.
+class RowDelegate : public QStyledItemDelegate
+{
+    Q_OBJECT
+
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
+};
 
 /// A flat list with columns, as every form uses it: one selected row, quick at any length, and the moves that
 /// all lists share.
@@ -20,8 +32,10 @@ public:
     /// Off where a click does something of its own, which a double click is to do once.
     void setDoubleClickEdits(bool edits) { m_doubleClickEdits = edits; }
 
-    /// Tall enough for its rows, within reason.
+    /// Wide enough for its columns and tall enough for its rows, within reason: what is more scrolls.
     QSize sizeHint() const override;
+
+    void setModel(QAbstractItemModel* model) override;
 
 signals:
     void editAsked();                     ///< double click or Enter on a row
@@ -33,7 +47,11 @@ protected:
     void contextMenuEvent(QContextMenuEvent* event) override;
 
 private:
+    void fitColumns();
+
     bool m_doubleClickEdits = true;
+    bool m_fitted = false;    ///< the columns got their widths from the first rows that came
+    int m_lastColumnHint = 0; ///< what the last one wants; it takes what the others leave
 };
 
 } // namespace quillfen

@@ -14,6 +14,10 @@
 namespace quillfen {
 namespace {
 
+/// The least and the most characters of a text that a field has room for.
+constexpr int shortText = 24;
+constexpr int longText = 64;
+
 QLabel* numberedLabel(const Setting& setting, QWidget* field, int number)
 {
     auto* label = labelFor(fromBytes(setting.label), field);
@@ -21,18 +25,28 @@ QLabel* numberedLabel(const Setting& setting, QWidget* field, int number)
     return label;
 }
 
-/// The field, and its unit behind it if it has one.
-QWidget* withUnit(const Setting& setting, QWidget* field)
+/// The field as wide as its content may be, and its unit behind it if it has one: a number doesn't stretch
+/// across the window, and neither does a choice.
+QWidget* sized(const Setting& setting, QWidget* field)
 {
-    if (setting.unit.empty())
-        return field;
+    const int character = field->fontMetrics().averageCharWidth();
+    const bool takesText = setting.kind == Setting::Kind::Text || setting.kind == Setting::Kind::Entry;
+    if (takesText && setting.limit == 0)
+        field->setMinimumWidth(shortText * character);
     auto* widget = new QWidget;
     auto* layout = new QHBoxLayout(widget);
     layout->setContentsMargins({});
-    layout->addWidget(field, 1);
-    auto* unit = new QLabel(fromBytes(setting.unit));
-    unit->setTextFormat(Qt::PlainText);
-    layout->addWidget(unit);
+    if (takesText)
+        field->setMaximumWidth(longText * character);
+    else
+        field->setSizePolicy(QSizePolicy::Fixed, field->sizePolicy().verticalPolicy());
+    layout->addWidget(field, takesText ? 1 : 0);
+    if (!setting.unit.empty()) {
+        auto* unit = new QLabel(fromBytes(setting.unit));
+        unit->setTextFormat(Qt::PlainText);
+        layout->addWidget(unit);
+    }
+    layout->addStretch();
     return widget;
 }
 
@@ -55,6 +69,35 @@ QLayout* frameOf(const Setting& setting, QFormLayout& column)
     column.addRow(frame);
     return new QVBoxLayout(frame);
 }
+
+/// The check lists of a form: one or two stand below each other beside the fields, more below the fields,
+/// side by side. A last row of fewer lists is as wide as the others.
+class CheckLists
+{
+public:
+    explicit CheckLists(int count) : m_count(count), m_perRow(count <= 2 ? 1 : count == 4 ? 2 : 3) {}
+
+    bool areMany() const { return m_perRow > 1; }
+
+    void add(QGridLayout& grid, QLabel* label, QWidget* list)
+    {
+        const int row = m_place / m_perRow;
+        const int span = columns / std::min(m_perRow, m_count - row * m_perRow);
+        const int column = m_place % m_perRow * span;
+        grid.addWidget(label, 2 * row, column, 1, span);
+        grid.addWidget(list, 2 * row + 1, column, 1, span);
+        for (int each = column; each < column + span; ++each)
+            grid.setColumnStretch(each, 1);
+        ++m_place;
+    }
+
+private:
+    static constexpr int columns = 6; ///< one, two and three lists share them evenly
+
+    int m_count;
+    int m_perRow;
+    int m_place = 0;
+};
 
 } // namespace
 
@@ -86,16 +129,15 @@ Control TableFilePart::controlOf(const Setting& setting, const OwnControl& own)
 
 QWidget* TableFilePart::placed() const
 {
-    const auto lists = std::count_if(m_settings.begin(), m_settings.end(),
+    const auto count = std::count_if(m_settings.begin(), m_settings.end(),
                                      [](const Setting* setting) { return isList(*setting); });
-    const auto beside = static_cast<std::ptrdiff_t>(m_settings.size()) - lists;
+    CheckLists lists(static_cast<int>(count));
+    const auto beside = static_cast<std::ptrdiff_t>(m_settings.size()) - count;
     const bool crowded = beside > 12; // then check boxes and options get a column of their own
-    const bool manyLists = lists > 3; // then they stand below the fields, side by side
     auto* choices = new QFormLayout;
     auto* fields = new QFormLayout;
     auto* grid = new QGridLayout;
     int labels = 0;
-    int place = 0;
     for (std::size_t at = 0; at < m_controls.size(); ++at) {
         const Setting& setting = *m_settings[at];
         QWidget* control = m_controls[at].widget;
@@ -106,27 +148,25 @@ QWidget* TableFilePart::placed() const
             else
                 frameOf(setting, *column)->addWidget(control);
         } else if (isList(setting)) {
-            const int row = manyLists ? place / 3 : place;
-            const int column = manyLists ? place % 3 : 0;
-            grid->addWidget(numberedLabel(setting, control, labels++), 2 * row, column);
-            grid->addWidget(control, 2 * row + 1, column);
-            ++place;
+            lists.add(*grid, numberedLabel(setting, control, labels++), control);
         } else if (setting.label.empty()) {
-            fields->addRow(withUnit(setting, control));
+            fields->addRow(sized(setting, control));
         } else {
-            fields->addRow(numberedLabel(setting, control, labels++), withUnit(setting, control));
+            fields->addRow(numberedLabel(setting, control, labels++), sized(setting, control));
         }
     }
     auto* widget = new QWidget;
-    auto* layout = new QBoxLayout(manyLists ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight, widget);
+    auto* layout =
+        new QBoxLayout(lists.areMany() ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight, widget);
     layout->setContentsMargins({});
+    layout->setSpacing(12);
     for (auto* column : {choices, fields}) {
         if (column->rowCount() > 0)
-            layout->addLayout(column, manyLists ? 0 : 1);
+            layout->addLayout(column, lists.areMany() ? 0 : 1);
         else
             delete column;
     }
-    if (lists > 0)
+    if (count > 0)
         layout->addLayout(grid, 1);
     else
         delete grid;

@@ -170,7 +170,10 @@ void MainWindow::showForm(EditorForm* form)
             [this, form] { FindOpenWindow(form->tag().isEmpty() ? form->caption() : form->tag()); });
     const int caption =
         window->fontMetrics().horizontalAdvance(form->caption()) + twips(2400); // and its buttons
-    window->resize(window->sizeHint().expandedTo({caption, 0}));
+    window->resize(window->sizeHint()
+                       .expandedTo({caption, 0})
+                       .boundedTo(m_area->viewport()->size()) // what is more scrolls inside
+                       .expandedTo(window->minimumSizeHint()));
     window->show();
 }
 

@@ -1,5 +1,6 @@
 #include "shell/window/navigator.h"
 
+#include "shell/kit/listview.h"
 #include "shell/kit/toolbars.h"
 #include "shell/window/navigatortable.h"
 
@@ -71,6 +72,7 @@ void Navigator::buildTree(bool portalShown)
     m_tree->setAccessibleName("Functions");
     m_tree->setHeaderHidden(true);
     m_tree->setUniformRowHeights(true);
+    m_tree->setItemDelegate(new RowDelegate(m_tree));
     auto* root = node("Quillfen", "Quillfen", true);
     QHash<QString, QTreeWidgetItem*> nodes = {{QString(), root}};
     for (const NavigatorRow& row : navigatorRows()) {

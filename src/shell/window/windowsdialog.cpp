@@ -1,5 +1,6 @@
 #include "shell/window/windowsdialog.h"
 
+#include "shell/kit/listview.h"
 #include "shell/window/openwindows.h"
 
 #include <QDialogButtonBox>
@@ -19,6 +20,7 @@ WindowsDialog::WindowsDialog(const COpenWindows& windows, QWidget* parent)
     m_list->setAccessibleName("Open windows");
     m_list->setHeaderLabels({"window"});
     m_list->setRootIsDecorated(false);
+    m_list->setItemDelegate(new RowDelegate(m_list));
     for (const COpenWindow& window : windows) {
         auto* row = new QTreeWidgetItem(m_list, {window.Caption()});
         row->setData(0, Qt::UserRole, window.Key());

@@ -131,6 +131,28 @@ TEST_F(ProfileRuleForms, ADoubleClickAndTheMenusEditAndACancelTakesNothing)
     EXPECT_EQ(entering({{{"1"}}}, form.routine("gMenuEditClick")).size(), 1);
 }
 
+TEST_F(ProfileRuleForms, ARowKeepsItsStoredTextUntilItIsEdited)
+{
+    const auto rulesWith = [](const char* minShare, const char* maxShare, const char* minSlots) {
+        QByteArray text = QByteArray::fromStdString(golden("ProfileRules.save.tbl"));
+        text.replace("iMinShare = 2097152,", QByteArray("iMinShare = ") + minShare + ',');
+        text.replace("iMaxShare = 1125899906842624,", QByteArray("iMaxShare = ") + maxShare + ',');
+        return text.replace("iMinSlots = 2,", QByteArray("iMinSlots = ") + minSlots + ',').toStdString();
+    };
+    // The first has more digits than a number, and the second would be written without its exponent.
+    rules = rulesWith("11320000000000001", "1.12589990684262E+15", "2");
+    auto& form = open("Security~ProfileRules~Rules");
+    EXPECT_EQ(edit(form, "Permissions", 14, {"3"}).values, QStringList{"2"});
+    save(form);
+    EXPECT_TRUE(sameBytes(rules, rulesWith("11320000000000001", "1.12589990684262E+15", "3")));
+    edit(form, "Permissions", 0, {}); // OK without a change
+    save(form);
+    EXPECT_TRUE(sameBytes(rules, rulesWith("11320000000000001", "1.12589990684262E+15", "3")));
+    edit(form, "Permissions", 0, {"1024"});
+    save(form);
+    EXPECT_TRUE(sameBytes(rules, rulesWith("1125899906842624", "1.12589990684262E+15", "3")));
+}
+
 TEST_F(ProfileRuleForms, AMissingFileShowsNothingAndSavesRulesOfZero)
 {
     hub.store.files.erase(hub.root + "/Security/ProfileRules/ProfileRules.tbl");

@@ -58,5 +58,14 @@ TEST_F(RulesForm, ItsOwnSaveWritesNothingAndMakesItClean)
     EXPECT_TRUE(hub.store.log.empty());
 }
 
+TEST_F(RulesForm, ADiscardMakesItCleanAlthoughItHoldsNoSettings)
+{
+    auto& form = open("Security~Rules");
+    restore(form);
+    discard(form, QMessageBox::Cancel);
+    discard(form);
+    EXPECT_EQ(shown(list(form)), (QStringList{"Unregistered", "Master", "Operator", "VIP"}));
+}
+
 } // namespace
 } // namespace quillfen
