@@ -60,11 +60,17 @@ protected:
         EXPECT_TRUE(isDirty(form));
     }
 
-    /// Presses DISCARD and answers its question with OK.
-    static void discard(EditorForm& form)
+    /// Presses DISCARD, answers its question, and checks that the form is clean then, or still dirty after a
+    /// Cancel.
+    static void discard(EditorForm& form, QMessageBox::StandardButton answer = QMessageBox::Ok)
     {
-        answering(QMessageBox::Ok, [&form] { button(form, "DISCARD").trigger(); });
-        EXPECT_FALSE(isDirty(form));
+        const auto boxes = answering(answer, [&form] { button(form, "DISCARD").trigger(); });
+        ASSERT_EQ(boxes.size(), 1);
+        EXPECT_EQ(boxes[0].title, "Discard changes?");
+        EXPECT_EQ(boxes[0].text, "Discard all unsaved changes?");
+        EXPECT_EQ(boxes[0].buttons, QMessageBox::Ok | QMessageBox::Cancel);
+        EXPECT_EQ(boxes[0].icon, QMessageBox::Question);
+        EXPECT_EQ(isDirty(form), answer == QMessageBox::Cancel);
     }
 
     /// Puts a text in the place of what a text or number box holds, by keys.

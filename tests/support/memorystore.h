@@ -2,6 +2,7 @@
 
 #include "settings/filestore.h"
 
+#include <functional>
 #include <map>
 #include <set>
 #include <vector>
@@ -18,11 +19,16 @@ public:
     mutable std::map<std::string, int> readings; ///< how often each file was read
     int failingCall = -1;                        ///< the write, make or remove of this number, from 0, fails
 
+    /// What a reader gets of a file's bytes, where that is something else.
+    std::function<std::string(const std::string& bytes)> damage;
+
     std::optional<std::string> read(const std::string& path) const override
     {
         ++readings[path];
         const auto file = files.find(path);
-        return file == files.end() ? std::nullopt : std::optional(file->second);
+        if (file == files.end())
+            return std::nullopt;
+        return damage ? damage(file->second) : file->second;
     }
 
     void write(const std::string& path, std::string_view bytes) override
@@ -30,6 +36,8 @@ public:
         note("write ", path);
         if (folders.count(parent(path)) == 0)
             throw StoreError(path, "No such file or directory");
+        if (folders.count(path) > 0)
+            throw StoreError(path, "Is a directory");
         files[path] = bytes;
     }
 

@@ -3,8 +3,9 @@
 #include "functions/customise/asciiintrosform.h"
 #include "functions/customise/customrightclickform.h"
 #include "functions/customise/descriptiontagsform.h"
-#include "functions/customise/hideshareform.h"
+#include "functions/customise/hideshare.h"
 #include "functions/customise/introsoutrosform.h"
+#include "shell/kit/tablefilepart.h"
 
 namespace quillfen {
 
@@ -15,7 +16,7 @@ FormCatalogue customiseForms()
         {"frmCustomiseUserCustomIntroOutro", makeCustomIntroOutroForm},
         {"frmCustomiseUserCustomRightClick", makeCustomRightClickForm},
         {"frmCustomiseUserDescriptionTags", makeDescriptionTagsForm},
-        {"frmCustomiseUserHideShare", makeHideShareForm},
+        settingsForm({"frmCustomiseUserHideShare", "CustomiseUser ~ HideShare"}, hideShareSettings()),
         {"frmCustomiseUserIntroOutro", makeIntroOutroForm},
     };
 }

@@ -3,16 +3,22 @@
 #include "functions/general/botsform.h"
 #include "functions/general/languages.h"
 #include "functions/general/languagesform.h"
-#include "functions/general/settingsform.h"
+#include "functions/general/settings.h"
 #include "functions/general/switchesform.h"
 #include "shell/kit/codepagetext.h"
+#include "shell/kit/tablefilepart.h"
 
 namespace quillfen {
 
 FormCatalogue generalForms()
 {
     FormCatalogue forms = {
-        {"frmGeneralGeneral", makeGeneralSettingsForm},
+        // This form was never set clean by a discard: its "SAVE" stays lit until the next save.
+        settingsForm({"frmGeneralGeneral",
+                      "General ~ Settings",
+                      {3165, 3450},
+                      FormDescription::AfterDiscard::AsItStood},
+                     generalSettings()),
         {"frmGeneralBots", makeBotsForm},
         {"frmGeneralSwitches", makeSwitchesForm},
         {"frmGeneralRightClicks", makeEnabledRightClicksForm},

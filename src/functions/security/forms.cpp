@@ -5,15 +5,19 @@
 #include "functions/security/clientcheckerform.h"
 #include "functions/security/floodform.h"
 #include "functions/security/kicksform.h"
+#include "functions/security/mainchat.h"
 #include "functions/security/mainchatform.h"
-#include "functions/security/privatehubform.h"
+#include "functions/security/privatehub.h"
+#include "functions/security/profilerules.h"
 #include "functions/security/profilerulesform.h"
-#include "functions/security/ptokaxform.h"
+#include "functions/security/ptokax.h"
 #include "functions/security/registrationform.h"
-#include "functions/security/reportform.h"
+#include "functions/security/report.h"
 #include "functions/security/rulesform.h"
+#include "functions/security/spies.h"
 #include "functions/security/spiesform.h"
-#include "functions/security/userlogform.h"
+#include "functions/security/userlog.h"
+#include "shell/kit/tablefilepart.h"
 
 namespace quillfen {
 
@@ -26,22 +30,23 @@ FormCatalogue securityForms()
         {"frmSecurityBadNickBlocker", makeBadNickBlockerForm},
         {"frmSecurityClientCheckerSettings", makeClientCheckerForm},
         {"frmSecurityCloneBlocker", makeCloneBlockerForm},
-        {"frmSecurityCommandSpy", makeCommandSpyForm},
+        settingsForm({"frmSecurityCommandSpy", "Security ~ CommandSpy"}, commandSpySettings()),
         {"frmSecurityFlood", makeFloodForm},
         {"frmSecurityKickPermissions", makeKickPermissionsForm},
         {"frmSecurityKickSettings", makeKickSettingsForm},
-        {"frmSecurityMainBlock", makeMainBlockForm},
+        settingsForm({"frmSecurityMainBlock", "Security ~ MainBlock"}, mainBlockSettings()),
         {"frmSecurityMainCleaner", makeMainCleanerForm},
-        {"frmSecurityMainLock", makeMainLockForm},
-        {"frmSecurityPrivateHub", makePrivateHubForm},
+        settingsForm({"frmSecurityMainLock", "Security ~ MainLock"}, mainLockSettings()),
+        settingsForm({"frmSecurityPrivateHub", "Security~ PrivateHub"}, privateHubSettings()),
         {"frmSecurityProfileRuleRules", makeProfileRulesForm},
-        {"frmSecurityProfileRuleSettings", makeProfileRuleSettingsForm},
-        {"frmSecurityPtokaXSettings", makePtokaXSettingsForm},
+        settingsForm({"frmSecurityProfileRuleSettings", "Security ~ ProfileRules ~ Settings"},
+                     profileRuleSettings()),
+        settingsForm({"frmSecurityPtokaXSettings", "Security~ PtokaXSettings"}, ptokaXSettings()),
         {"frmSecurityRegistration", makeRegistrationForm},
-        {"frmSecurityReport", makeReportForm},
+        settingsForm({"frmSecurityReport", "Security ~ Report"}, reportSettings()),
         {"frmSecurityRules", makeRulesForm},
         {"frmSecuritySearchSpy", makeSearchSpyForm},
-        {"frmSecurityUserLogSettings", makeUserLogForm},
+        settingsForm({"frmSecurityUserLogSettings", "Security ~ UserLog"}, userLogSettings()),
     };
 }
 

@@ -7,20 +7,6 @@
 
 namespace quillfen {
 
-EditorForm* makeMainBlockForm(const FormContext& context)
-{
-    auto* form = new EditorForm({"frmSecurityMainBlock", "Security ~ MainBlock"});
-    form->add(new TableFilePart(mainBlockSettings(), context));
-    return form;
-}
-
-EditorForm* makeMainLockForm(const FormContext& context)
-{
-    auto* form = new EditorForm({"frmSecurityMainLock", "Security ~ MainLock"});
-    form->add(new TableFilePart(mainLockSettings(), context));
-    return form;
-}
-
 EditorForm* makeMainCleanerForm(const FormContext& context)
 {
     auto* form = new EditorForm({"frmSecurityMainCleaner", "Security ~ MainCleaner"});

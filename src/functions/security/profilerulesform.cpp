@@ -3,16 +3,8 @@
 #include "functions/security/profilerules.h"
 #include "shell/kit/editorform.h"
 #include "shell/kit/rowlistpart.h"
-#include "shell/kit/tablefilepart.h"
 
 namespace quillfen {
-
-EditorForm* makeProfileRuleSettingsForm(const FormContext& context)
-{
-    auto* form = new EditorForm({"frmSecurityProfileRuleSettings", "Security ~ ProfileRules ~ Settings"});
-    form->add(new TableFilePart(profileRuleSettings(), context));
-    return form;
-}
 
 EditorForm* makeProfileRulesForm(const FormContext& context)
 {

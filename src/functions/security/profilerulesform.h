@@ -5,7 +5,6 @@ namespace quillfen {
 class EditorForm;
 struct FormContext;
 
-EditorForm* makeProfileRuleSettingsForm(const FormContext& context);
 EditorForm* makeProfileRulesForm(const FormContext& context);
 
 } // namespace quillfen

@@ -7,13 +7,6 @@
 
 namespace quillfen {
 
-EditorForm* makeCommandSpyForm(const FormContext& context)
-{
-    auto* form = new EditorForm({"frmSecurityCommandSpy", "Security ~ CommandSpy"});
-    form->add(new TableFilePart(commandSpySettings(), context));
-    return form;
-}
-
 EditorForm* makeSearchSpyForm(const FormContext& context)
 {
     FormDescription description{"frmSecuritySearchSpy", "Security ~ SearchSpy"};

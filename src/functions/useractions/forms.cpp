@@ -2,9 +2,11 @@
 
 #include "functions/useractions/actiontextsform.h"
 #include "functions/useractions/asciiform.h"
-#include "functions/useractions/calculatorform.h"
+#include "functions/useractions/calculator.h"
 #include "functions/useractions/collectionsform.h"
+#include "functions/useractions/spells.h"
 #include "functions/useractions/spellsform.h"
+#include "shell/kit/tablefilepart.h"
 
 namespace quillfen {
 
@@ -12,7 +14,7 @@ FormCatalogue useractionsForms()
 {
     return {
         {"frmUserActionsAscii", makeAsciiForm},
-        {"frmUserActionsCalculator", makeCalculatorForm},
+        settingsForm({"frmUserActionsCalculator", "UserActions ~ Calculator"}, calculatorSettings()),
         {"frmUserActionsInsultsStandard", makeInsultsForm},
         {"frmUserActionsInsultsMedieval", makeMedievalInsultsForm},
         {"frmUserActionsInsultsModern", makeModernInsultsForm},
@@ -24,7 +26,8 @@ FormCatalogue useractionsForms()
         {"frmUserActionsQuotations", makeQuotationsForm},
         {"frmUserActionsSpellSettings", makeSpellSettingsForm},
         {"frmUserActionsSpellsSpellBook", makeSpellBookForm},
-        {"frmUserActionsNickSpellSettings", makeNickSpellSettingsForm},
+        settingsForm({"frmUserActionsNickSpellSettings", "UserActions ~ NickSpells ~ Settings"},
+                     nickSpellSettings()),
         {"frmUserActionsNickSpellsSpellBook", makeNickSpellBookForm},
     };
 }

@@ -230,13 +230,6 @@ EditorForm* makeSpellSettingsForm(const FormContext& context)
     return form;
 }
 
-EditorForm* makeNickSpellSettingsForm(const FormContext& context)
-{
-    auto* form = new EditorForm({"frmUserActionsNickSpellSettings", "UserActions ~ NickSpells ~ Settings"});
-    form->add(new TableFilePart(nickSpellSettings(), context));
-    return form;
-}
-
 EditorForm* makeSpellBookForm(const FormContext& context)
 {
     return makeBookForm("frmUserActionsSpellsSpellBook", "UserActions ~ Spells ~ SpellBook", spellBook(),

@@ -6,7 +6,6 @@ class EditorForm;
 struct FormContext;
 
 EditorForm* makeSpellSettingsForm(const FormContext& context);
-EditorForm* makeNickSpellSettingsForm(const FormContext& context);
 EditorForm* makeSpellBookForm(const FormContext& context);
 EditorForm* makeNickSpellBookForm(const FormContext& context);
 
