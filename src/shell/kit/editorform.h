@@ -65,6 +65,7 @@ protected:
     void closeEvent(QCloseEvent* event) override;
 
 private:
+    void focusFirstControl();
     void load();
     void save();
     void discard();
