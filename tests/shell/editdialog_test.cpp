@@ -139,6 +139,9 @@ TEST_F(EditDialogTest, EachModeColoursItsRequiredFieldsAndMayOrMayNotAdd)
             if (fields[field]->palette().color(QPalette::Base) == lightRed) {
                 required += std::to_string(field);
                 EXPECT_EQ(fields[field]->palette().color(QPalette::Text), QColor(Qt::black)) << what;
+                EXPECT_EQ(fields[field]->palette().color(QPalette::Button) == lightRed,
+                          qobject_cast<QComboBox*>(fields[field]) != nullptr)
+                    << what << ": the arrows of a number stay readable";
             }
         }
         EXPECT_EQ(required, each.required) << what;

@@ -2,6 +2,11 @@
 #include "support/formtest.h"
 
 #include <QAbstractButton>
+#include <QAccessible>
+#include <QRadioButton>
+#include <QRegularExpression>
+#include <QSet>
+#include <QToolButton>
 
 namespace quillfen {
 namespace {
@@ -23,6 +28,29 @@ class EveryForm : public test::FormTest, public testing::WithParamInterface<std:
 {
 protected:
     EditorForm& openForm() { return open(GetParam().c_str()); }
+
+    static std::string nameOf(const QWidget& widget)
+    {
+        return widget.metaObject()->className() + (' ' + widget.objectName()).toStdString();
+    }
+
+    static bool isUnchosenOption(const QWidget& widget)
+    {
+        const auto* option = qobject_cast<const QRadioButton*>(&widget);
+        return option && !option->isChecked();
+    }
+
+    /// What Tab must come to: of a group of options it is the chosen one.
+    static QSet<QWidget*> reachable(const EditorForm& form)
+    {
+        QSet<QWidget*> all;
+        for (auto* each : form.findChildren<QWidget*>()) {
+            if ((each->focusPolicy() & Qt::TabFocus) != 0 && each->isVisible() && each->isEnabled() &&
+                !each->focusProxy() && !isUnchosenOption(*each))
+                all.insert(each);
+        }
+        return all;
+    }
 };
 
 TEST_P(EveryForm, OpensWithinTheWindow)
@@ -46,6 +74,49 @@ TEST_P(EveryForm, CutsNoTextOfALabelOrButton)
         check(*label, label->text());
     for (const auto* each : form.findChildren<QAbstractButton*>())
         check(*each, each->text());
+}
+
+TEST_P(EveryForm, StartsInItsFirstControlAndTabGoesOnInTheOrderSeen)
+{
+    auto& form = openForm();
+    auto* first = QApplication::focusWidget();
+    ASSERT_TRUE(first && form.isAncestorOf(first));
+    EXPECT_FALSE(qobject_cast<QToolButton*>(first)) << "the form's own toolbar comes last";
+    QList<QWidget*> met = {first};
+    while (met.size() < 200) {
+        QTest::keyClick(met.last(), Qt::Key_Tab);
+        auto* next = QApplication::focusWidget();
+        if (next == first)
+            break;
+        ASSERT_TRUE(next && form.isAncestorOf(next)) << "Tab leaves the form";
+        met.append(next);
+    }
+    met.removeIf([](const QWidget* each) { return isUnchosenOption(*each); }); // Tab may stop at one at first
+    EXPECT_EQ(QSet<QWidget*>(met.begin(), met.end()), reachable(form));
+    EXPECT_EQ(met.size(), reachable(form).size()) << "each control once";
+    const auto placeOf = [&form](const QWidget* widget) {
+        return QRect(widget->mapTo(&form, QPoint()), widget->size());
+    };
+    // Behind the last control Tab begins anew with the form's toolbar, above all others.
+    const auto* toolbar = form.findChild<QToolBar*>("tlbFormToolbar");
+    for (qsizetype at = 1; at < met.size(); ++at) {
+        const QRect before = placeOf(met[at - 1]);
+        const QRect place = placeOf(met[at]);
+        const bool forward = place.bottom() >= before.top() || place.left() > before.left();
+        EXPECT_TRUE(forward || met[at]->parentWidget() == toolbar)
+            << nameOf(*met[at - 1]) << " is followed by " << nameOf(*met[at]);
+    }
+}
+
+TEST_P(EveryForm, NamesEveryControlForAssistiveTools)
+{
+    auto& form = openForm();
+    for (QWidget* each : reachable(form)) {
+        EXPECT_FALSE(QAccessible::queryAccessibleInterface(each)->text(QAccessible::Name).isEmpty())
+            << nameOf(*each);
+    }
+    for (const auto* label : form.findChildren<QLabel*>(QRegularExpression("^lblLabel")))
+        EXPECT_TRUE(label->buddy()) << label->text().toStdString();
 }
 
 INSTANTIATE_TEST_SUITE_P(Forms, EveryForm, testing::ValuesIn(builtKeys()), [](const auto& test) {

@@ -107,6 +107,26 @@ TEST_F(MainWindowTest, HasItsMenus)
     EXPECT_TRUE(find<QAction>(window(), "mnuWindowsSplitter").isSeparator());
 }
 
+TEST_F(MainWindowTest, EveryMenuAndItemHasAMnemonicOfItsOwn)
+{
+    const auto mnemonics = [](const QList<QAction*>& actions) {
+        QStringList letters;
+        for (const QAction* action : actions) {
+            if (!action->isSeparator())
+                letters.append(QKeySequence::mnemonic(action->text()).toString());
+        }
+        return letters;
+    };
+    QList<QStringList> menus = {mnemonics(window().menuBar()->actions())};
+    for (const QAction* action : window().menuBar()->actions())
+        menus.append(mnemonics(action->menu()->actions()));
+    for (QStringList& letters : menus) {
+        EXPECT_FALSE(letters.contains(QString())) << letters.join(' ').toStdString();
+        EXPECT_EQ(letters.removeDuplicates(), 0) << letters.join(' ').toStdString();
+    }
+    EXPECT_EQ(find<QAction>(window(), "mnuFileClose").shortcut(), QKeySequence(QKeySequence::Quit));
+}
+
 TEST_F(MainWindowTest, OpensTheMakersPages)
 {
     WebPages pages;

@@ -98,11 +98,14 @@ QWidget* QuestionsPart::placed()
     for (auto* toolbar : {m_fileBar, m_questionBar})
         toolbar->setIconSize({16, 16});
 
-    auto* files = listWithToolbar(QString(), m_fileBar, m_fileList);
     auto* fields = new QFormLayout;
     fields->setRowWrapPolicy(QFormLayout::WrapAllRows);
     fields->addRow(labelFor("Default Question File", m_default), m_default);
-    qobject_cast<QVBoxLayout*>(files->layout())->insertLayout(0, fields);
+    auto* files = new QWidget;
+    auto* column = new QVBoxLayout(files);
+    column->setContentsMargins({});
+    column->addLayout(fields);
+    column->addWidget(listWithToolbar(QString(), m_fileBar, m_fileList), 1);
     auto* splitter = new QSplitter;
     splitter->addWidget(files);
     splitter->addWidget(listWithToolbar(QString(), m_questionBar, m_questionList));

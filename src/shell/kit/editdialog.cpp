@@ -78,11 +78,15 @@ Value valueAt(const std::vector<Value>& values, std::size_t at, const Value& oth
 /// theme.
 void colourAsRequired(QWidget& input)
 {
+    const QColor lightRed(0xFF, 0x80, 0x80);
     QPalette palette = input.palette();
-    for (const auto role : {QPalette::Base, QPalette::Button})
-        palette.setColor(role, QColor(0xFF, 0x80, 0x80));
-    for (const auto role : {QPalette::Text, QPalette::ButtonText})
-        palette.setColor(role, Qt::black);
+    palette.setColor(QPalette::Base, lightRed);
+    palette.setColor(QPalette::Text, Qt::black);
+    // A combo box is a button all over; those of a number keep the theme's colours, as their arrows do.
+    if (qobject_cast<QComboBox*>(&input)) {
+        palette.setColor(QPalette::Button, lightRed);
+        palette.setColor(QPalette::ButtonText, Qt::black);
+    }
     input.setPalette(palette);
 }
 

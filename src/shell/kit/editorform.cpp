@@ -9,6 +9,7 @@
 #include <QFrame>
 #include <QScopedValueRollback>
 #include <QStatusBar>
+#include <QToolButton>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -60,8 +61,21 @@ void EditorForm::add(FormPart* part)
 
 void EditorForm::open()
 {
+    letTabReachButtons(*this);
+    focusFirstControl();
     load();
     bDirty = SetControlsClean(*m_toolbar, *m_statusBar);
+}
+
+void EditorForm::focusFirstControl()
+{
+    for (QWidget* each = m_frame->nextInFocusChain(); each != m_frame; each = each->nextInFocusChain()) {
+        if (m_frame->isAncestorOf(each) && (each->focusPolicy() & Qt::TabFocus) != 0 && each->isEnabled() &&
+            !qobject_cast<QToolButton*>(each)) {
+            each->setFocus();
+            return;
+        }
+    }
 }
 
 void EditorForm::markDirty()

@@ -67,6 +67,7 @@ protected:
     void closeEvent(QCloseEvent* event) override;
 
 private:
+    void focusFirstControl();
     void load();
     void save();
     void discard();

@@ -84,6 +84,8 @@ public:
         const int row = m_place / m_perRow;
         const int span = columns / std::min(m_perRow, m_count - row * m_perRow);
         const int column = m_place % m_perRow * span;
+        grid.setVerticalSpacing(2); // a label stands close to its list
+        label->setContentsMargins(0, row > 0 ? 6 : 0, 0, 0);
         grid.addWidget(label, 2 * row, column, 1, span);
         grid.addWidget(list, 2 * row + 1, column, 1, span);
         for (int each = column; each < column + span; ++each)

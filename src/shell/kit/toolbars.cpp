@@ -6,6 +6,7 @@
 
 #include <QLabel>
 #include <QStatusBar>
+#include <QToolButton>
 #include <QTreeView>
 
 namespace quillfen {
@@ -57,6 +58,14 @@ QAction* button(const QToolBar& toolbar, const QString& key)
 void removeButton(QToolBar& toolbar, const QString& key)
 {
     delete button(toolbar, key);
+}
+
+void letTabReachButtons(QWidget& window)
+{
+    for (auto* each : window.findChildren<QToolButton*>()) {
+        if (qobject_cast<QToolBar*>(each->parentWidget()))
+            each->setFocusPolicy(Qt::TabFocus);
+    }
 }
 
 void BuildFormToolbar(QToolBar& toolbar, int& index)

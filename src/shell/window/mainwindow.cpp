@@ -68,6 +68,10 @@ MainWindow::MainWindow(const ProgramInfo& program, const FormContext& context, c
     m_navigator = new Navigator(portalShown);
     connect(m_navigator, &Navigator::chosen, this, [this] { OpenFunctionForm(QString()); });
     buildMenus();
+    auto* search = new QAction(this);
+    search->setShortcut(QKeySequence::Find);
+    addAction(search);
+    connect(search, &QAction::triggered, this, &MainWindow::findFunction);
 
     auto* splitter = new QSplitter;
     splitter->addWidget(m_navigator);
@@ -98,7 +102,9 @@ void MainWindow::addToolbar(bool portalShown)
 void MainWindow::buildMenus()
 {
     auto* file = addMenu(*menuBar(), "mnuFile", "&File");
-    connect(addItem(*file, "mnuFileClose", "&Close"), &QAction::triggered, this, &MainWindow::close);
+    auto* close = addItem(*file, "mnuFileClose", "&Close");
+    close->setShortcut(QKeySequence::Quit);
+    connect(close, &QAction::triggered, this, &MainWindow::close);
 
     auto* tools = addMenu(*menuBar(), "mnuTools", "&Tools");
     connect(addItem(*tools, "mnuToolsSideBar", "Show/Hide Functions &Sidebar"), &QAction::triggered, this,
@@ -192,6 +198,12 @@ EditorForm* MainWindow::activeForm() const
 void MainWindow::ToggleSideBar()
 {
     m_navigator->setVisible(m_navigator->isHidden());
+}
+
+void MainWindow::findFunction()
+{
+    m_navigator->show();
+    m_navigator->find();
 }
 
 void MainWindow::showAllWindows()

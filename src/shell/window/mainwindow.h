@@ -47,6 +47,7 @@ private:
     void showForm(EditorForm* form);
     void FindOpenWindow(const QString& caption);
     void ToggleSideBar();
+    void findFunction();
     void showAllWindows();
     void openWebPage(const QString& path);
     EditorForm* activeForm() const;

@@ -5,10 +5,14 @@
 #include "shell/window/navigatortable.h"
 
 #include <QHash>
+#include <QKeyEvent>
+#include <QLineEdit>
 #include <QToolBar>
 #include <QTreeWidget>
 #include <QTreeWidgetItemIterator>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 namespace quillfen {
 namespace {
@@ -36,20 +40,38 @@ bool isExpandedGroup(const QString& key)
     return groups.contains(key);
 }
 
+/// Leaves the nodes whose words, with those of the headings above, hold all that are sought, and the headings
+/// of such nodes. Returns whether the node is left.
+bool narrowed(QTreeWidgetItem& item, const QString& above, const QStringList& sought)
+{
+    const QString words = above + ' ' + item.text(0);
+    bool left = std::all_of(sought.begin(), sought.end(), [&words](const QString& word) {
+        return words.contains(word, Qt::CaseInsensitive);
+    });
+    for (int child = 0; child < item.childCount(); ++child)
+        left = narrowed(*item.child(child), words, sought) || left;
+    item.setHidden(!left);
+    item.setExpanded(left);
+    return left;
+}
+
 } // namespace
 
 Navigator::Navigator(bool portalShown, QWidget* parent)
     : QWidget(parent),
       m_toolbar(new QToolBar),
+      m_find(new QLineEdit),
       m_tree(new QTreeWidget)
 {
     setObjectName("picSideBar");
     buildToolbar();
+    buildFindBox();
     buildTree(portalShown);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins({});
     layout->setSpacing(0);
     layout->addWidget(m_toolbar);
+    layout->addWidget(m_find);
     layout->addWidget(m_tree, 1);
     connect(m_tree, &QTreeWidget::itemClicked, this, &Navigator::chosen);
     connect(m_tree, &QTreeWidget::itemActivated, this, &Navigator::chosen);
@@ -64,6 +86,18 @@ void Navigator::buildToolbar()
             &Navigator::expandGroups);
     connect(addButton(*m_toolbar, index, "CLOSE", "Close Nodes", "collapse"), &QAction::triggered, this,
             &Navigator::collapseAll);
+}
+
+void Navigator::buildFindBox()
+{
+    m_find->setObjectName("txtFind");
+    m_find->setAccessibleName("Find a function");
+    m_find->setPlaceholderText("Find a function (" +
+                               QKeySequence(QKeySequence::Find).toString(QKeySequence::NativeText) + ')');
+    m_find->setClearButtonEnabled(true);
+    m_find->installEventFilter(this);
+    connect(m_find, &QLineEdit::textChanged, this, &Navigator::narrow);
+    connect(m_find, &QLineEdit::returnPressed, this, &Navigator::chooseMatch);
 }
 
 void Navigator::buildTree(bool portalShown)
@@ -96,6 +130,77 @@ bool Navigator::headingSelected() const
 {
     const auto* item = m_tree->currentItem();
     return item && item->font(0).bold();
+}
+
+void Navigator::find()
+{
+    m_find->setFocus(Qt::ShortcutFocusReason);
+    m_find->selectAll();
+}
+
+bool Navigator::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == m_find && event->type() == QEvent::KeyPress) {
+        const int key = static_cast<QKeyEvent*>(event)->key();
+        if (key == Qt::Key_Escape)
+            m_find->clear();
+        else if (key == Qt::Key_Down)
+            m_tree->setFocus(Qt::OtherFocusReason);
+        if (key == Qt::Key_Escape || key == Qt::Key_Down)
+            return true;
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
+void Navigator::narrow(const QString& text)
+{
+    const QStringList sought = text.split(' ', Qt::SkipEmptyParts);
+    if (sought.isEmpty()) {
+        showWholeTree();
+        return;
+    }
+    if (!m_expanded) {
+        m_expanded.emplace();
+        for (QTreeWidgetItemIterator item(m_tree); *item; ++item) {
+            if ((*item)->isExpanded())
+                m_expanded->insert(*item);
+        }
+    }
+    auto* root = m_tree->topLevelItem(0);
+    root->setExpanded(true);
+    for (int group = 0; group < root->childCount(); ++group)
+        narrowed(*root->child(group), QString(), sought);
+    selectFirstMatch();
+}
+
+void Navigator::showWholeTree()
+{
+    if (!m_expanded)
+        return;
+    for (QTreeWidgetItemIterator item(m_tree); *item; ++item) {
+        (*item)->setHidden(false);
+        (*item)->setExpanded(m_expanded->contains(*item));
+    }
+    m_expanded.reset();
+    if (auto* current = m_tree->currentItem())
+        m_tree->scrollToItem(current);
+}
+
+void Navigator::selectFirstMatch()
+{
+    for (QTreeWidgetItemIterator item(m_tree, QTreeWidgetItemIterator::NotHidden); *item; ++item) {
+        if (!formName(keyOf(**item)).isEmpty()) {
+            m_tree->setCurrentItem(*item);
+            return;
+        }
+    }
+    m_tree->setCurrentItem(nullptr);
+}
+
+void Navigator::chooseMatch()
+{
+    if (!selectedKey().isEmpty())
+        emit chosen();
 }
 
 void Navigator::expandGroups()

@@ -1,15 +1,20 @@
 #pragma once
 
+#include <QSet>
 #include <QString>
 #include <QWidget>
 
+#include <optional>
+
+class QLineEdit;
 class QToolBar;
 class QTreeWidget;
 class QTreeWidgetItem;
 
 namespace quillfen {
 
-/// The side bar with the tree of functions and its two buttons.
+/// The side bar with the tree of functions, its two buttons, and a box that narrows the tree to what is
+/// typed.
 class Navigator : public QWidget
 {
     Q_OBJECT
@@ -23,6 +28,11 @@ public:
     /// Whether a group heading is selected.
     bool headingSelected() const;
 
+    /// Lets the user type what to look for.
+    void find();
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 signals:
     /// The user chose the selected node.
     void chosen();
@@ -30,11 +40,18 @@ signals:
 private:
     void buildTree(bool portalShown);
     void buildToolbar();
+    void buildFindBox();
     void expandGroups();
     void collapseAll();
+    void narrow(const QString& text);
+    void showWholeTree();
+    void selectFirstMatch();
+    void chooseMatch();
 
     QToolBar* m_toolbar;
+    QLineEdit* m_find;
     QTreeWidget* m_tree;
+    std::optional<QSet<QTreeWidgetItem*>> m_expanded; ///< the open nodes before the tree was narrowed
 };
 
 } // namespace quillfen
