@@ -106,13 +106,14 @@ std::string textBlock(const std::string& table, const std::vector<std::pair<std:
 {
     std::string block = "\t" + table + " = {\r\n";
     for (const auto& [key, text] : texts)
-        block += "\t\t" + key + " = \"" + text + "\",\r\n";
+        block.append("\t\t").append(key).append(" = \"").append(text).append("\",\r\n");
     return block + "\t},\r\n";
 }
 
 std::string textBlock(const std::string& table, const std::vector<CellRow>& rows)
 {
     std::vector<std::pair<std::string, std::string>> texts;
+    texts.reserve(rows.size());
     for (const CellRow& row : rows)
         texts.emplace_back("s" + row.cells[0], row.cells[1]);
     return textBlock(table, texts);
@@ -206,6 +207,7 @@ RowListDeclaration textList(const std::string& word, const std::string& menu, co
         std::vector<ListRow> texts;
         files.ReadTableToList(rulesFile.path, texts, "=", table);
         std::vector<CellRow> rows;
+        rows.reserve(texts.size());
         for (const ListRow& text : texts)
             rows.push_back({{text.text.substr(std::min<std::size_t>(1, text.text.size())), text.second}});
         return rows;
