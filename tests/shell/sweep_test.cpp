@@ -245,13 +245,14 @@ INSTANTIATE_TEST_SUITE_P(Profiles, SweepOfAHub, testing::Values(1, 5, 64),
 
 TEST_P(SweepOfAHub, EveryFormShowsWhatItSaved)
 {
-    int forms = 0;
+    int count = 0;
     forEachForm([&](const std::string& key, EditorForm& form) {
-        ++forms;
+        ++count;
         EXPECT_FALSE(isDirty(form));
         changeEverything(form);
-        if (form.isDirty())
+        if (form.isDirty()) {
             EXPECT_EQ(useModals([&form] { button(form, "SAVE").trigger(); }), QStringList());
+        }
         EXPECT_FALSE(isDirty(form));
         const Shown before = shownBy(form);
         EXPECT_TRUE(close(form));
@@ -259,7 +260,7 @@ TEST_P(SweepOfAHub, EveryFormShowsWhatItSaved)
         expectSame(key, before, shownBy(again));
         EXPECT_FALSE(isDirty(again));
     });
-    EXPECT_EQ(forms, 97);
+    EXPECT_EQ(count, 97);
 }
 
 TEST_P(SweepOfAHub, EveryFormDiscardsToWhatItShowedAndAsksBeforeItCloses)
@@ -310,14 +311,16 @@ TEST_P(SweepOfAHub, TheHubScriptLoadsWhatEveryFormSavedAndSeesItsNumbersAndTexts
         for (const auto* edit : form.findChildren<QLineEdit*>()) {
             const bool idle = form.objectName() == "frmGamesHangman" && edit->objectName().endsWith("(4)");
             const bool inCombo = qobject_cast<QComboBox*>(edit->parentWidget());
-            if (wroteTable && !idle && !inCombo)
+            if (wroteTable && !idle && !inCombo) {
                 EXPECT_TRUE(seen.count(edit->text()) > 0)
                     << edit->objectName().toStdString() << " shows " << edit->text().toStdString();
+            }
         }
     });
     for (const auto& [path, bytes] : hub.store.files) {
-        if (path.ends_with(".tbl"))
+        if (path.ends_with(".tbl")) {
             EXPECT_NO_THROW(test::luaValues(bytes)) << path;
+        }
     }
 }
 
@@ -442,8 +445,9 @@ TEST_P(SweepOfDamage, EveryFormOpensAndSavesAndIsWholeAgainWhenReopened)
         hub.store.damage = nullptr;
         EXPECT_FALSE(isDirty(*form));
         changeEverything(*form);
-        if (form->isDirty())
+        if (form->isDirty()) {
             EXPECT_EQ(useModals([form] { button(*form, "SAVE").trigger(); }), QStringList());
+        }
     });
 }
 

@@ -21,25 +21,20 @@ const TableFile& anagramSettings()
     static const TableFile file = {
         R"(Games\Anagrams\AnagramSettings.tbl)", // of this game's names the folder's alone has an "s"
         "tAnagramSettings",
-        {
-            quiz("bManualStart", "chkCheckBox(0)"),
-            quiz("bOpOnlyStart", "chkCheckBox(1)"),
-            quiz("bOpOnlyStop", "chkCheckBox(2)"),
-            quiz("bPlayInMain", "chkCheckBox(3)"),
-            quiz("bAutoClearScores", "chkCheckBox(4)"),
-            quiz("bArchiveScores", "chkCheckBox(5)"),
-            quiz("iArchiveScores", "txtTextBoxUpDown(9)"),
-            oneCharacter("sHintChar", "Hint Character", hintBullet),
-            arrowNumber("iHintTime", "txtTextBoxUpDown(0)", "Hint Time", "20", 0, 60),
-            quiz("iQuestions", "txtTextBoxUpDown(1)"),
-            quiz("iQuestionsPause", "txtTextBoxUpDown(2)"),
-            quiz("iTimeOut", "txtTextBoxUpDown(3)"),
-            quiz("iBonusTime", "txtTextBoxUpDown(4)"),
-            quiz("iPoints", "txtTextBoxUpDown(5)"),
-            quiz("iScores", "txtTextBoxUpDown(6)"),
-            quiz("iTopScores", "txtTextBoxUpDown(7)"),
-            quiz("iAutoStartDelay", "txtTextBoxUpDown(8)"),
-        },
+        withQuizFlags("chkCheckBox",
+                      {
+                          quiz("iArchiveScores", "txtTextBoxUpDown(9)"),
+                          oneCharacter("sHintChar", "Hint Character", hintBullet),
+                          arrowNumber("iHintTime", "txtTextBoxUpDown(0)", "Hint Time", "20", 0, 60),
+                          quiz("iQuestions", "txtTextBoxUpDown(1)"),
+                          quiz("iQuestionsPause", "txtTextBoxUpDown(2)"),
+                          quiz("iTimeOut", "txtTextBoxUpDown(3)"),
+                          quiz("iBonusTime", "txtTextBoxUpDown(4)"),
+                          quiz("iPoints", "txtTextBoxUpDown(5)"),
+                          quiz("iScores", "txtTextBoxUpDown(6)"),
+                          quiz("iTopScores", "txtTextBoxUpDown(7)"),
+                          quiz("iAutoStartDelay", "txtTextBoxUpDown(8)"),
+                      }),
     };
     return file;
 }

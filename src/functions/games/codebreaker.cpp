@@ -17,28 +17,24 @@ const TableFile& codeBreakerSettings()
     static const TableFile file = {
         R"(Games\CodeBreaker\CodeBreakerSettings.tbl)",
         "tCodeBreakerSettings",
-        {
-            quiz("bManualStart", "chkCheckBox(0)"),
-            quiz("bOpOnlyStart", "chkCheckBox(1)"),
-            quiz("bOpOnlyStop", "chkCheckBox(2)"),
-            quiz("bPlayInMain", "chkCheckBox(3)"),
-            quiz("bAutoClearScores", "chkCheckBox(4)"),
-            quiz("bArchiveScores", "chkCheckBox(5)"),
-            quiz("iArchiveScores", "txtTextBoxUpDown(9)"),
-            text("sAllowedCharacters", "txtAllowedCharacters", "Allowed Characters", "0123456789"),
-            // The bullet is the default of a hint character, which this game doesn't have: its hidden one is
-            // empty until its owner types it.
-            oneCharacter("sHiddenChar", "Hidden Character", ""),
-            arrowNumber("iQuestionLength", "txtTextBoxUpDown(0)", "Question Length", "3", 0, 60),
-            quiz("iQuestions", "txtTextBoxUpDown(1)"),
-            quiz("iQuestionsPause", "txtTextBoxUpDown(2)"),
-            quiz("iTimeOut", "txtTextBoxUpDown(3)"),
-            arrowNumber("iQuestionsTime", "txtTextBoxUpDown(4)", "Question Time", "90", 0, 1000),
-            quiz("iPoints", "txtTextBoxUpDown(5)"),
-            quiz("iScores", "txtTextBoxUpDown(6)"),
-            quiz("iTopScores", "txtTextBoxUpDown(7)"),
-            quiz("iAutoStartDelay", "txtTextBoxUpDown(8)"),
-        },
+        withQuizFlags(
+            "chkCheckBox",
+            {
+                quiz("iArchiveScores", "txtTextBoxUpDown(9)"),
+                text("sAllowedCharacters", "txtAllowedCharacters", "Allowed Characters", "0123456789"),
+                // The bullet is the default of a hint character, which this game doesn't have: its hidden one
+                // is empty until its owner types it.
+                oneCharacter("sHiddenChar", "Hidden Character", ""),
+                arrowNumber("iQuestionLength", "txtTextBoxUpDown(0)", "Question Length", "3", 0, 60),
+                quiz("iQuestions", "txtTextBoxUpDown(1)"),
+                quiz("iQuestionsPause", "txtTextBoxUpDown(2)"),
+                quiz("iTimeOut", "txtTextBoxUpDown(3)"),
+                arrowNumber("iQuestionsTime", "txtTextBoxUpDown(4)", "Question Time", "90", 0, 1000),
+                quiz("iPoints", "txtTextBoxUpDown(5)"),
+                quiz("iScores", "txtTextBoxUpDown(6)"),
+                quiz("iTopScores", "txtTextBoxUpDown(7)"),
+                quiz("iAutoStartDelay", "txtTextBoxUpDown(8)"),
+            }),
     };
     return file;
 }

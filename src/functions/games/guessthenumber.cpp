@@ -24,27 +24,23 @@ const TableFile& guessTheNumberSettings()
     static const TableFile file = {
         R"(Games\GuessTheNumber\GuessTheNumberSettings.tbl)",
         "tGuessTheNumberSettings",
-        {
-            quiz("bManualStart", "chkCheckBox(0)"),
-            quiz("bOpOnlyStart", "chkCheckBox(1)"),
-            quiz("bOpOnlyStop", "chkCheckBox(2)"),
-            quiz("bPlayInMain", "chkCheckBox(3)"),
-            quiz("bAutoClearScores", "chkCheckBox(4)"),
-            quiz("bArchiveScores", "chkCheckBox(5)"),
-            quiz("iArchiveScores", "txtTextBoxUpDown(9)"),
-            quiz("iQuestions", "txtTextBoxUpDown(0)"),
-            quiz("iQuestionsPause", "txtTextBoxUpDown(1)"),
-            quiz("iTimeOut", "txtTextBoxUpDown(2)"),
-            arrowNumber("iHints", "txtTextBoxUpDown(3)", "Hint Delay", "5", 0, 60),
-            // The defaults of these two stand above what their arrows reach.
-            arrowNumber("iHintTime", "txtTextBoxUpDown(4)", "Hints", "20", 0, 10),
-            arrowNumber("iMaxHints", "txtTextBoxUpDown(5)", "Max User Hints", "20", 0, 10),
-            arrowNumber("iQuestionMin", "txtTextBoxUpDown(6)", "Min Question Value", "1", 0, 100),
-            arrowNumber("iQuestionMax", "txtTextBoxUpDown(7)", "Max Question Value", "500", 100, 5000),
-            captioned(quiz("iScores", "txtTextBoxUpDown(8)"), "Scores"),
-            captioned(quiz("iTopScores", "txtTextBoxUpDown(10)"), "End Of Game Scores"),
-            quiz("iAutoStartDelay", "txtTextBoxUpDown(11)"),
-        },
+        withQuizFlags(
+            "chkCheckBox",
+            {
+                quiz("iArchiveScores", "txtTextBoxUpDown(9)"),
+                quiz("iQuestions", "txtTextBoxUpDown(0)"),
+                quiz("iQuestionsPause", "txtTextBoxUpDown(1)"),
+                quiz("iTimeOut", "txtTextBoxUpDown(2)"),
+                arrowNumber("iHints", "txtTextBoxUpDown(3)", "Hint Delay", "5", 0, 60),
+                // The defaults of these two stand above what their arrows reach.
+                arrowNumber("iHintTime", "txtTextBoxUpDown(4)", "Hints", "20", 0, 10),
+                arrowNumber("iMaxHints", "txtTextBoxUpDown(5)", "Max User Hints", "20", 0, 10),
+                arrowNumber("iQuestionMin", "txtTextBoxUpDown(6)", "Min Question Value", "1", 0, 100),
+                arrowNumber("iQuestionMax", "txtTextBoxUpDown(7)", "Max Question Value", "500", 100, 5000),
+                captioned(quiz("iScores", "txtTextBoxUpDown(8)"), "Scores"),
+                captioned(quiz("iTopScores", "txtTextBoxUpDown(10)"), "End Of Game Scores"),
+                quiz("iAutoStartDelay", "txtTextBoxUpDown(11)"),
+            }),
     };
     return file;
 }

@@ -29,28 +29,23 @@ const TableFile& hangmanSettings()
     static const TableFile file = {
         R"(Games\Hangman\HangmanSettings.tbl)",
         "tHangmanSettings",
-        {
-            quiz("bManualStart", "chkCheckBox(0)"),
-            quiz("bOpOnlyStart", "chkCheckBox(1)"),
-            quiz("bOpOnlyStop", "chkCheckBox(2)"),
-            quiz("bPlayInMain", "chkCheckBox(3)"),
-            quiz("bAutoClearScores", "chkCheckBox(4)"),
-            quiz("bArchiveScores", "chkCheckBox(5)"),
-            flag("bUseAscii", "chkCheckBox(6)", "Enable Ascii", "1"),
-            quiz("iArchiveScores", "txtTextBoxUpDown(9)"),
-            oneCharacter("sHiddenChar", "Hint Character", hintBullet),
-            // A rebuild knows no default: the key stays empty until the form first saves.
-            constantText("sAllowedCharacters", "ABCDEFGHIJKLMNOPQRSTUVWXYZ-"),
-            arrowNumber("iLostLifeTime", "txtTextBoxUpDown(0)", "Lost Life Time", "30", 0, 60),
-            quiz("iQuestions", "txtTextBoxUpDown(1)"),
-            quiz("iQuestionsPause", "txtTextBoxUpDown(2)"),
-            quiz("iTimeOut", "txtTextBoxUpDown(3)"),
-            idleBonusTime(),
-            quiz("iPoints", "txtTextBoxUpDown(5)"),
-            quiz("iScores", "txtTextBoxUpDown(6)"),
-            quiz("iTopScores", "txtTextBoxUpDown(7)"),
-            quiz("iAutoStartDelay", "txtTextBoxUpDown(8)"),
-        },
+        withQuizFlags("chkCheckBox",
+                      {
+                          flag("bUseAscii", "chkCheckBox(6)", "Enable Ascii", "1"),
+                          quiz("iArchiveScores", "txtTextBoxUpDown(9)"),
+                          oneCharacter("sHiddenChar", "Hint Character", hintBullet),
+                          // A rebuild knows no default: the key stays empty until the form first saves.
+                          constantText("sAllowedCharacters", "ABCDEFGHIJKLMNOPQRSTUVWXYZ-"),
+                          arrowNumber("iLostLifeTime", "txtTextBoxUpDown(0)", "Lost Life Time", "30", 0, 60),
+                          quiz("iQuestions", "txtTextBoxUpDown(1)"),
+                          quiz("iQuestionsPause", "txtTextBoxUpDown(2)"),
+                          quiz("iTimeOut", "txtTextBoxUpDown(3)"),
+                          idleBonusTime(),
+                          quiz("iPoints", "txtTextBoxUpDown(5)"),
+                          quiz("iScores", "txtTextBoxUpDown(6)"),
+                          quiz("iTopScores", "txtTextBoxUpDown(7)"),
+                          quiz("iAutoStartDelay", "txtTextBoxUpDown(8)"),
+                      }),
     };
     return file;
 }

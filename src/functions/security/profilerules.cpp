@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <charconv>
+#include <cmath>
 
 namespace quillfen {
 namespace {
@@ -53,13 +54,15 @@ struct Unit
 constexpr Unit units[] = {
     {"KB", 1024., 7}, {"MB", 1048576., 10}, {"GB", 1073741824., 13}, {"TB", 1099511627776., 0}};
 
-/// A number with as many digits as tell it from its neighbours, no matter what the platform's language is.
-/// The units are powers of two, so a count of up to 2 to the 53rd comes back from its unit as it was.
+/// A number with up to 15 significant digits, no matter what the platform's language is.
 std::string numberText(double number)
 {
-    char buffer[512]; // the longest number has 309 digits before its point, the smallest 340 behind it
-    const auto end = std::to_chars(buffer, buffer + sizeof buffer, number, std::chars_format::fixed).ptr;
-    return {buffer, end};
+    char buffer[32];
+    const auto end =
+        std::to_chars(buffer, buffer + sizeof buffer, number, std::chars_format::general, 15).ptr;
+    std::string text(buffer, end);
+    std::replace(text.begin(), text.end(), 'e', 'E');
+    return text;
 }
 
 /// The cells of a profile's row; the last two don't show.
@@ -309,7 +312,10 @@ std::string storedShare(std::string_view shown)
     const auto [number, name, found] = splitOnce(shown, ' ');
     const auto* unit = std::find_if(std::begin(units), std::end(units) - 1,
                                     [&name = name](const Unit& each) { return each.name == name; });
-    return numberText(leadingNumber(number) * unit->bytes);
+    const double bytes = leadingNumber(number) * unit->bytes;
+    // The 15 digits that were shown may miss the whole count by a hair: that hair isn't the user's.
+    const double whole = std::round(bytes);
+    return numberText(std::abs(bytes - whole) <= whole * 1e-14 ? whole : bytes);
 }
 
 void buildProfileRules(const SettingsFiles& files, const HubProfiles& profiles)

@@ -15,8 +15,8 @@ const TableFile& profileRuleSettings();
 /// holds: in the order permissions, messages, redirects.
 const RowListGroup& profileRules();
 
-/// A stored count of bytes as the form shows it: divided by a unit that goes by how many digits it has, and
-/// the unit. Nothing is rounded up to 2 to the 53rd, about 9007 TB. Empty for no count.
+/// A stored count of bytes as the form shows it: divided by a unit that goes by how many digits it has, with
+/// up to 15 significant digits, and the unit. Empty for no count.
 std::string shownShare(std::string_view bytes);
 
 /// The count of bytes of a shown share.

@@ -208,20 +208,21 @@ TEST(QuizPattern, EachGameHasItsOwnDefaultsAndRanges)
     }
 }
 
-TEST(QuizPattern, ItsFlagsAreTheSameInEveryGame)
+TEST(QuizPattern, ItsFlagsStandInFrontAndAreTheSameInEveryGame)
 {
     const std::vector<std::vector<std::string>> expected = {
         {"bManualStart", "Manual Start Only", "0"},     {"bOpOnlyStart", "Operator Start", "0"},
         {"bOpOnlyStop", "Operator Stop", "0"},          {"bPlayInMain", "Play Game In Main", "1"},
         {"bAutoClearScores", "Auto Clear Scores", "1"}, {"bArchiveScores", "Auto Archive Scores", "1"}};
-    for (const auto& row : expected) {
-        for (int game = 0; game < 6; ++game) {
-            const Setting setting = quizSetting(static_cast<QuizGame>(game), row[0], "chkCheckBox(0)");
-            EXPECT_EQ(setting.kind, Setting::Kind::Flag);
-            EXPECT_EQ(setting.label, row[1]);
-            EXPECT_EQ(setting.standard, row[2]);
-        }
+    const auto settings = withQuizFlags("chkBox", {number("iOwn", "txtUpDown", "Own", "1", 0, 9)});
+    ASSERT_EQ(settings.size(), 7U);
+    for (std::size_t at = 0; at < expected.size(); ++at) {
+        EXPECT_EQ(settings[at].kind, Setting::Kind::Flag);
+        EXPECT_EQ((std::vector<std::string>{settings[at].key, settings[at].label, settings[at].standard}),
+                  expected[at]);
+        EXPECT_EQ(settings[at].control, "chkBox(" + std::to_string(at) + ")");
     }
+    EXPECT_EQ(settings[6].key, "iOwn");
 }
 
 } // namespace

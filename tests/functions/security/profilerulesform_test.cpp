@@ -131,26 +131,40 @@ TEST_F(ProfileRuleForms, ADoubleClickAndTheMenusEditAndACancelTakesNothing)
     EXPECT_EQ(entering({{{"1"}}}, form.routine("gMenuEditClick")).size(), 1);
 }
 
-TEST_F(ProfileRuleForms, ARowKeepsItsStoredTextUntilItIsEdited)
+/// The saved rules with other values of the first profile's least share and of another's least slots.
+std::string rulesWith(const std::string& saved, const std::string& minShare, const char* minSlots)
 {
-    const auto rulesWith = [](const char* minShare, const char* maxShare, const char* minSlots) {
-        QByteArray text = QByteArray::fromStdString(golden("ProfileRules.save.tbl"));
-        text.replace("iMinShare = 2097152,", QByteArray("iMinShare = ") + minShare + ',');
-        text.replace("iMaxShare = 1125899906842624,", QByteArray("iMaxShare = ") + maxShare + ',');
-        return text.replace("iMinSlots = 2,", QByteArray("iMinSlots = ") + minSlots + ',').toStdString();
-    };
-    // The first has more digits than a number, and the second would be written without its exponent.
-    rules = rulesWith("11320000000000001", "1.12589990684262E+15", "2");
+    QByteArray text = QByteArray::fromStdString(saved);
+    text.replace("iMinShare = 2097152,", QByteArray::fromStdString("iMinShare = " + minShare + ','));
+    return text.replace("iMinSlots = 2,", QByteArray("iMinSlots = ") + minSlots + ',').toStdString();
+}
+
+TEST_F(ProfileRuleForms, AShareOfAnyCountOfDigitsStaysAsItIsUntilItsRowIsEdited)
+{
+    const std::string saved = golden("ProfileRules.save.tbl");
+    for (std::size_t digits = 1; digits <= 17; ++digits) {
+        const std::string share = std::string("11320000000000001").substr(0, digits);
+        rules = rulesWith(saved, share, "2");
+        auto& form = open("Security~ProfileRules~Rules");
+        EXPECT_EQ(edit(form, "Permissions", 14, {"3"}).values, QStringList{"2"});
+        save(form);
+        EXPECT_TRUE(sameBytes(rules, rulesWith(saved, share, "3")));
+        edit(form, "Permissions", 0, {}); // OK without a change
+        save(form);
+        EXPECT_TRUE(sameBytes(rules, rulesWith(saved, share, "3")));
+        form.parentWidget()->close();
+        QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+}
+
+TEST_F(ProfileRuleForms, AnEditedShareIsWrittenWithFifteenDigits)
+{
+    const std::string saved = golden("ProfileRules.save.tbl");
+    rules = rulesWith(saved, "11320000000000001", "2");
     auto& form = open("Security~ProfileRules~Rules");
-    EXPECT_EQ(edit(form, "Permissions", 14, {"3"}).values, QStringList{"2"});
-    save(form);
-    EXPECT_TRUE(sameBytes(rules, rulesWith("11320000000000001", "1.12589990684262E+15", "3")));
-    edit(form, "Permissions", 0, {}); // OK without a change
-    save(form);
-    EXPECT_TRUE(sameBytes(rules, rulesWith("11320000000000001", "1.12589990684262E+15", "3")));
     edit(form, "Permissions", 0, {"1024"});
     save(form);
-    EXPECT_TRUE(sameBytes(rules, rulesWith("1125899906842624", "1.12589990684262E+15", "3")));
+    EXPECT_TRUE(sameBytes(rules, rulesWith(saved, "1.12589990684262E+15", "2")));
 }
 
 TEST_F(ProfileRuleForms, AMissingFileShowsNothingAndSavesRulesOfZero)

@@ -85,14 +85,22 @@ std::string captionOf(QuizGame game, const QuizNumber& quizNumber)
 
 Setting quizSetting(QuizGame game, const std::string& key, const std::string& control)
 {
-    const auto* const isFlag = std::find_if(std::begin(flags), std::end(flags),
-                                            [&key](const QuizFlag& each) { return each.key == key; });
-    if (isFlag != std::end(flags))
-        return flag(key, control, isFlag->caption, isFlag->standard);
     const auto* const found = std::find_if(std::begin(numbers), std::end(numbers),
                                            [&key](const QuizNumber& each) { return each.key == key; });
     const Range& range = found->ranges.at(static_cast<std::size_t>(game));
     return arrowNumber(key, control, captionOf(game, *found), range.standard, range.minimum, range.maximum);
+}
+
+std::vector<Setting> withQuizFlags(const std::string& checkBoxes, std::vector<Setting> further)
+{
+    std::vector<Setting> settings;
+    for (const QuizFlag& each : flags) {
+        const std::string control = checkBoxes + "(" + std::to_string(settings.size()) + ")";
+        settings.push_back(flag(each.key, control, each.caption, each.standard));
+    }
+    settings.insert(settings.end(), std::make_move_iterator(further.begin()),
+                    std::make_move_iterator(further.end()));
+    return settings;
 }
 
 Setting arrowNumber(const std::string& key, const std::string& control, const std::string& label,

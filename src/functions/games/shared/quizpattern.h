@@ -4,6 +4,7 @@
 #include "settings/tablefile.h"
 
 #include <string>
+#include <vector>
 
 namespace quillfen {
 
@@ -18,9 +19,13 @@ enum class QuizGame
     GuessTheNumber
 };
 
-/// A key of the pattern with the caption, default and range that it has in this game, in the control of that
-/// name. Numbers are changed by their arrows and not typed.
+/// A number of the pattern with the caption, default and range that it has in this game, in the control of
+/// that name. Numbers are changed by their arrows and not typed.
 Setting quizSetting(QuizGame game, const std::string& key, const std::string& control);
+
+/// The six flags with which every game's settings start, in the check boxes 0 to 5 of that array, and the
+/// game's further settings behind them.
+std::vector<Setting> withQuizFlags(const std::string& checkBoxes, std::vector<Setting> further);
 
 /// A number of a game's own that behaves like those of the pattern.
 Setting arrowNumber(const std::string& key, const std::string& control, const std::string& label,
