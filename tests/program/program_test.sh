@@ -2,68 +2,15 @@
 # Starts the built program in a copy of the sample hub, on a display of its own, and answers its boxes by keyboard.
 # usage: program_test.sh PROGRAM SAMPLE_HUB WORK_FOLDER VERSION
 set -euo pipefail
-
-if [ -z "${QUILLFEN_ON_DISPLAY:-}" ]; then
-  export QUILLFEN_ON_DISPLAY=1
-  exec xvfb-run -a -s "-screen 0 1400x950x24" "$0" "$@"
-fi
-
 program=$1 sample=$2 work=$3 version=$4
-export QT_QPA_PLATFORM=xcb
-scripts=$work/hub/scripts
-tree="$scripts/Morvaleth's Quillfen/Settings"
-version_box="Morvaleth's Quillfen: Version Change Detected"
+source "$(dirname "$0")/starts.sh"
 profile_box="Morvaleth's Quillfen: PtokaX Profile Change Detected"
-main_window="Morvaleth's Quillfen $version"
-pid=
-
-fail() {
-  echo "FAILED: $*" >&2
-  [ -n "$pid" ] && kill "$pid" 2>/dev/null
-  exit 1
-}
 
 fresh_hub() {
   rm -rf "$work/hub"
   mkdir -p "$work"
   cp -R "$sample" "$work/hub"
   cp "$program" "$scripts/quillfen"
-}
-
-begin() {
-  echo "- $*"
-  "$scripts/quillfen" &
-  pid=$!
-}
-
-# The id of the window with exactly this title, once it shows.
-await() {
-  for _ in $(seq 300); do
-    if xdotool search --onlyvisible --name "^$1\$" 2>/dev/null | head -n 1 | grep . ; then return; fi
-    kill -0 "$pid" 2>/dev/null || fail "the program ended before '$1' came"
-    sleep 0.1
-  done
-  fail "no window '$1'"
-}
-
-press() { # TITLE KEY...
-  local window
-  window=$(await "$1")
-  shift
-  xdotool windowfocus --sync "$window"
-  xdotool key --delay 50 "$@"
-}
-
-ends_with() {
-  local code=0
-  wait "$pid" || code=$?
-  pid=
-  [ "$code" -eq "$1" ] || fail "exit code $code, not $1"
-}
-
-close_main() {
-  press "$main_window" alt+f c
-  ends_with 0
 }
 
 state() { (cd "$work/hub" && find . -type f ! -name quillfen -exec md5sum {} + | sort -k 2; find . -type d | sort); }

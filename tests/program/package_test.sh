@@ -1,0 +1,32 @@
+#!/usr/bin/env bash
+# Makes the archive, unpacks it into an empty hub, and starts the program that comes out.
+# usage: package_test.sh CPACK CONFIG WORK_FOLDER VERSION
+set -euo pipefail
+cpack=$1 config=$2 work=$3 version=$4
+source "$(dirname "$0")/starts.sh"
+
+rm -rf "$work"
+mkdir -p "$work/archive" "$scripts/Morvaleth's Quillfen" # the folder comes with the hub script
+"$cpack" --config "$config" -B "$work/archive" >"$work/cpack.log" || fail "no archive: $(cat "$work/cpack.log")"
+tar -xf "$work"/archive/quillfen-*.tar.gz -C "$scripts"
+
+[ "$(LC_ALL=C ls -A "$scripts")" = "Morvaleth's Quillfen
+quillfen
+quillfen-docs" ] || fail "the archive litters the folder: $(ls -A "$scripts")"
+[ -z "$(ls -A "$scripts/Morvaleth's Quillfen")" ] || fail "the archive brings something for the script's own folder"
+[ -f "$scripts/quillfen-docs/LICENSE" ] || fail "no licence"
+for picture in $(grep -o 'pictures/[a-z-]*.png' "$scripts/quillfen-docs/guide.md"); do
+  [ -f "$scripts/quillfen-docs/$picture" ] || fail "the guide shows $picture, which isn't there"
+done
+
+begin "first start of the unpacked program builds the tree"
+press "$version_box" Return
+close_main
+grep -q "sVersion = \"$version\"," "$tree/General/Globals/Version.tbl" || fail "no version record"
+# By group, for a hub without profiles: 14 Customise User, 25 Communication, 52 Games, 6 General, 46 Security,
+# 21 User Actions, 18 The Archive.
+count=$(find "$tree" -type f | wc -l)
+[ "$count" -eq 182 ] || fail "$count files, not 182"
+
+rm -rf "$work"
+echo "the package starts as it should"
