@@ -157,8 +157,8 @@ protected:
                 test::typeInto(modal, "swept" + QString::number(count));
             } else if (auto* editor = qobject_cast<TextEditDialog*>(&modal)) {
                 find<QPlainTextEdit>(*editor, "txtTextBox").setPlainText("swept");
-                find<QAction>(*editor, "SAVE").trigger();
-                editor->close();
+                boxes += useModals([editor] { find<QAction>(*editor, "SAVE").trigger(); });
+                boxes += useModals([editor] { editor->close(); });
             } else {
                 fillIn(modal);
             }
@@ -462,8 +462,8 @@ TEST_F(Sweep, OnAnEmptySettingsFolderEveryFormOpensAndTellsThatItCannotSave)
         if (!form.isDirty())
             return;
         const auto boxes = useModals([&form] { button(form, "SAVE").trigger(); });
-        if (key == "Communication~HubEmail") // whose save makes its own folder
-            return;
+        if (key == "Communication~HubEmail" || key == "Communication~Portal")
+            return; // whose saves make their folders
         EXPECT_EQ(boxes.size(), 1);
         EXPECT_TRUE(isDirty(form));
     });

@@ -88,13 +88,15 @@ QWidget* GallowsPart::placed()
     m_picture->setLineWrapMode(QPlainTextEdit::NoWrap);
     m_picture->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
 
+    auto* stage = new QHBoxLayout;
+    stage->addWidget(labelFor("Ascii", m_stage));
+    stage->addWidget(m_stage, 1);
+    stage->addWidget(m_toolbar);
     auto* widget = new QWidget;
     auto* layout = new QVBoxLayout(widget);
     layout->setContentsMargins({});
     layout->setSpacing(2);
-    layout->addWidget(labelFor("Ascii", m_stage));
-    layout->addWidget(m_toolbar);
-    layout->addWidget(m_stage);
+    layout->addLayout(stage);
     layout->addWidget(m_picture, 1);
     return widget;
 }
