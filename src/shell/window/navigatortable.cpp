@@ -211,6 +211,18 @@ bool isHeading(const QString& key)
     return parents.contains(key);
 }
 
+QStringList formKeys()
+{
+    QStringList keys;
+    for (const NavigatorRow& row : navigatorRows()) {
+        if (!formName(row.key).isEmpty())
+            keys.append(row.key);
+    }
+    for (const char* key : formsWithoutNode)
+        keys.append(key);
+    return keys;
+}
+
 QString formName(const QString& key)
 {
     for (const NamedForm& named : namedForms) {

@@ -2,6 +2,7 @@
 
 #include <QList>
 #include <QString>
+#include <QStringList>
 
 namespace quillfen {
 
@@ -25,6 +26,9 @@ QString parentKey(const QString& key);
 
 /// Whether a node has children. A heading opens nothing.
 bool isHeading(const QString& key);
+
+/// Every key with a form behind it: rows in their order, then the forms that no node reaches.
+QStringList formKeys();
 
 /// The form behind a key; empty if there is none.
 QString formName(const QString& key);
