@@ -1,7 +1,9 @@
-// The yardstick: a plain Qt multiple-document window with as many nodes, buttons and drop-down entries as
-// ours, up to its first paint.
+// The yardstick: a plain Qt multiple-document window with the same tree and toolbars as ours, up to its first
+// paint.
 #include "firstpaint.h"
+#include "shell/window/navigatortable.h"
 
+#include <QHash>
 #include <QMainWindow>
 #include <QMdiArea>
 #include <QMenu>
@@ -11,6 +13,67 @@
 #include <QStyle>
 #include <QToolBar>
 #include <QTreeWidget>
+#include <QVBoxLayout>
+
+namespace {
+
+using quillfen::isHeading;
+using quillfen::NavigatorRow;
+using quillfen::navigatorRows;
+using quillfen::parentKey;
+
+QIcon plainIcon(const QWidget& widget)
+{
+    return widget.style()->standardIcon(QStyle::SP_FileIcon);
+}
+
+QMenu* dropDown(const QString& group, QWidget* parent)
+{
+    auto* menu = new QMenu(parent);
+    for (const NavigatorRow& row : navigatorRows()) {
+        if (row.key.section('~', 0, 0) == group && !isHeading(row.key))
+            menu->addAction(row.dropDown);
+    }
+    return menu;
+}
+
+void addToolbar(QMainWindow& window)
+{
+    auto* toolbar = window.addToolBar("Functions");
+    const QIcon icon = plainIcon(window);
+    for (const char* button : {"Tree", "Scripts", "Donate"})
+        toolbar->addAction(icon, button);
+    for (const NavigatorRow& row : navigatorRows()) {
+        if (parentKey(row.key).isEmpty())
+            toolbar->addAction(icon, row.caption)->setMenu(dropDown(row.key, toolbar));
+    }
+}
+
+QTreeWidget* tree()
+{
+    auto* tree = new QTreeWidget;
+    tree->setHeaderHidden(true);
+    auto* root = new QTreeWidgetItem(tree, {"Quillfen"});
+    QHash<QString, QTreeWidgetItem*> nodes = {{QString(), root}};
+    for (const NavigatorRow& row : navigatorRows())
+        nodes.insert(row.key, new QTreeWidgetItem(nodes.value(parentKey(row.key)), {row.caption}));
+    root->setExpanded(true);
+    return tree;
+}
+
+QWidget* sidebar()
+{
+    auto* widget = new QWidget;
+    auto* layout = new QVBoxLayout(widget);
+    auto* toolbar = new QToolBar;
+    for (const char* button : {"Expand", "Collapse"})
+        toolbar->addAction(plainIcon(*widget), button);
+    layout->addWidget(toolbar);
+    layout->addWidget(tree());
+    return widget;
+}
+
+} // namespace
 
 int main(int argc, char** argv)
 {
@@ -19,35 +82,13 @@ int main(int argc, char** argv)
     window.resize(1180, 780);
     for (const char* name : {"&File", "&Tools", "&Window", "&Help"})
         window.menuBar()->addMenu(name)->addAction("Entry");
-
-    auto* toolbar = window.addToolBar("Functions");
-    const QIcon icon = window.style()->standardIcon(QStyle::SP_FileIcon);
-    for (int button = 0; button < 15; ++button) {
-        auto* action = toolbar->addAction(icon, "Button");
-        if (button >= 12)
-            continue;
-        auto* menu = new QMenu(&window);
-        for (int entry = 0; entry < 8; ++entry)
-            menu->addAction("Entry");
-        action->setMenu(menu);
-    }
-
-    auto* tree = new QTreeWidget;
-    tree->setHeaderHidden(true);
-    auto* root = new QTreeWidgetItem(tree, {"Root"});
-    for (int group = 0; group < 12; ++group) {
-        auto* heading = new QTreeWidgetItem(root, {"Group"});
-        for (int leaf = 0; leaf < 9; ++leaf)
-            new QTreeWidgetItem(heading, {"Function"});
-    }
-    root->setExpanded(true);
-
+    addToolbar(window);
     auto* splitter = new QSplitter;
-    splitter->addWidget(tree);
+    splitter->addWidget(sidebar());
     splitter->addWidget(new QMdiArea);
     window.setCentralWidget(splitter);
     window.statusBar()->showMessage("Ready");
-    const quillfen::bench::FirstPaint ending(window);
+    const quillfen::bench::FirstPaint ending(window, quillfen::bench::endProgram);
     window.show();
     return QApplication::exec();
 }

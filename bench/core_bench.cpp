@@ -1,13 +1,9 @@
-#include "functions/catalogue.h"
-#include "settings/diskstore.h"
 #include "settings/profiles.h"
-#include "settings/rebuild.h"
 #include "settings/tablefile.h"
 #include "support/plainscan.h"
 #include "support/portalfakes.h"
 
 #include <benchmark/benchmark.h>
-#include <filesystem>
 
 namespace quillfen {
 namespace {
@@ -71,22 +67,6 @@ void scannedGrid(benchmark::State& state)
     state.SetItemsProcessed(state.iterations() * gridFiles * state.range(0) * state.range(0));
 }
 
-void rebuildTree(benchmark::State& state)
-{
-    const auto folder = std::filesystem::temp_directory_path() / "quillfen-bench" / "scripts";
-    std::filesystem::remove_all(folder);
-    std::filesystem::create_directories(folder / "Morvaleth's Quillfen");
-    DiskStore disk;
-    const SettingsFiles files(disk, SettingsPaths(folder.string()));
-    const auto profiles = hubOf(static_cast<std::size_t>(state.range(0)));
-    const Reconciliation start{files, folderCatalogue(), "bench",
-                               [](const RebuildQuestion&) { return true; }};
-    CheckSettingsRebuild(start, 'P', profiles);
-    for (auto _ : state)
-        CheckSettingsRebuild(start, 'P', profiles);
-    std::filesystem::remove_all(folder.parent_path());
-}
-
 /// A burst of chat from hub 1 to hub 2, in one go or a byte at a time.
 void relayBurst(benchmark::State& state, std::size_t piece)
 {
@@ -118,7 +98,6 @@ BENCHMARK(relayInOneGo)->Arg(10'000)->Arg(100'000)->Arg(1'000'000)->Unit(benchma
 BENCHMARK(relayByteByByte)->Arg(10'000)->Arg(100'000)->Arg(1'000'000)->Unit(benchmark::kMillisecond);
 BENCHMARK(indexedGrid)->Arg(5)->Arg(20)->Arg(64)->Unit(benchmark::kMillisecond);
 BENCHMARK(scannedGrid)->Arg(5)->Arg(20)->Arg(64)->Unit(benchmark::kMillisecond);
-BENCHMARK(rebuildTree)->Arg(5)->Arg(20)->Arg(64)->Unit(benchmark::kMillisecond);
 
 } // namespace
 } // namespace quillfen

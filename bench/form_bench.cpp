@@ -1,135 +1,167 @@
-// The heaviest forms, through their real widgets: the kick grid, and a question file of 50,000 rows.
-#include "functions/catalogue.h"
-#include "functions/forms.h"
+// The forms through their real widgets, in the main window over a tree on the disk: the opening of each, and
+// the heaviest grid's and the heaviest list's work.
+#include "figures.h"
+#include "formopening.h"
 #include "functions/games/trivia.h"
-#include "functions/security/kicks.h"
-#include "settings/rebuild.h"
+#include "hubfolder.h"
 #include "shell/kit/listview.h"
-#include "shell/window/mainwindow.h"
-#include "support/hub.h"
 
 #include <QAction>
-#include <QApplication>
-#include <QMdiArea>
-#include <QMdiSubWindow>
 #include <QMenu>
 
-#include <benchmark/benchmark.h>
+#include <algorithm>
 #include <memory>
 
-namespace quillfen {
+namespace quillfen::bench {
 namespace {
 
-/// A hub in memory with a built tree and a shown main window.
+/// A hub with a built tree and a shown main window.
 class Desk
 {
 public:
-    explicit Desk(int profiles)
+    explicit Desk(int profiles) : hub(static_cast<std::size_t>(profiles))
     {
-        while (hub.profiles.count() < static_cast<std::size_t>(profiles))
-            hub.profiles.add("Profile" + std::to_string(hub.profiles.count()));
-        CheckSettingsRebuild(
-            {hub.files, folderCatalogue(), "bench", [](const RebuildQuestion&) { return true; }}, 'P',
-            hub.profiles);
-        window = std::make_unique<MainWindow>(ProgramInfo{"bench"}, FormContext{hub.files, hub.profiles},
-                                              formCatalogue());
+        hub.start();
+        window = std::make_unique<MainWindow>(ProgramInfo{QUILLFEN_VERSION},
+                                              FormContext{hub.files, hub.profiles}, formCatalogue());
         window->show();
-    }
-
-    EditorForm& open(const char* key)
-    {
-        window->OpenFunctionForm(key);
         QApplication::processEvents();
-        return *qobject_cast<EditorForm*>(window->findChild<QMdiArea*>()->currentSubWindow()->widget());
     }
 
-    void closeAll()
-    {
-        window->findChild<QMdiArea*>()->closeAllSubWindows();
-        QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    }
-
-    test::Hub hub;
+    HubFolder hub;
     std::unique_ptr<MainWindow> window;
 };
 
-constexpr const char* gridKey = "Security~Kicks~Permissions";
-
-void openGrid(benchmark::State& state)
+void openEach(benchmark::State& state, Desk& desk, const QString& key)
 {
-    Desk desk(static_cast<int>(state.range(0)));
-    for (auto _ : state) {
-        desk.open(gridKey);
-        state.PauseTiming();
-        desk.closeAll();
-        state.ResumeTiming();
-    }
+    for (auto _ : state)
+        state.SetIterationTime(secondsOf([&] { openForm(*desk.window, key); }));
+    closeForms(*desk.window);
 }
 
-void filterGrid(benchmark::State& state)
+const QString gridKey = QStringLiteral("Security~Kicks~Permissions");
+
+void filterGrid(benchmark::State& state, Desk& desk)
 {
-    Desk desk(static_cast<int>(state.range(0)));
-    auto& form = desk.open(gridKey);
+    const EditorForm& form = openForm(*desk.window, gridKey);
     auto* filter = form.findChild<QAction*>("COMMAND");
     auto* ban = filter->menu()->findChild<QAction*>("C*Ban");
-    for (auto _ : state) {
+    const auto thereAndBack = [&] {
         ban->trigger();
         QApplication::processEvents();
-        filter->trigger(); // and back to all rows
+        filter->trigger();
         QApplication::processEvents();
-    }
+    };
+    for (auto _ : state)
+        state.SetIterationTime(secondsOf(thereAndBack));
+    closeForms(*desk.window);
 }
 
-void toggleCell(benchmark::State& state)
+void toggleAndSave(benchmark::State& state, Desk& desk, bool timesToggle)
 {
-    Desk desk(static_cast<int>(state.range(0)));
-    auto& form = desk.open(gridKey);
+    const EditorForm& form = openForm(*desk.window, gridKey);
     auto* list = form.findChild<ListView*>("lvwPermissions");
     list->select(list->model()->rowCount() - 1);
-    auto* edit = form.findChild<QAction*>("EDIT");
+    QApplication::processEvents();
+    const auto press = [&](const char* button) {
+        return secondsOf([&] {
+            form.findChild<QAction*>(button)->trigger();
+            QApplication::processEvents();
+        });
+    };
     for (auto _ : state) {
-        edit->trigger();
-        QApplication::processEvents();
+        const double toggling = press("EDIT");
+        const double saving = press("SAVE"); // leaves the form clean, so that it closes without a question
+        state.SetIterationTime(timesToggle ? toggling : saving);
     }
-    form.findChild<QAction*>("SAVE")->trigger(); // leaves the form clean
+    closeForms(*desk.window);
 }
 
-void saveGridForm(benchmark::State& state)
+void loadQuestions(benchmark::State& state, Desk& desk)
 {
-    Desk desk(static_cast<int>(state.range(0)));
-    auto& form = desk.open(gridKey);
-    auto* save = form.findChild<QAction*>("SAVE");
-    for (auto _ : state) {
-        save->setEnabled(true);
-        save->trigger();
-        QApplication::processEvents();
-    }
-}
-
-void loadQuestions(benchmark::State& state)
-{
-    test::Hub hub{"Games", "Games/Trivia", "Games/Trivia/QuestionFiles"};
-    std::string& bytes = hub.file("Games/Trivia/QuestionFiles/big.lst");
-    for (int row = 0; row < state.range(0); ++row)
+    std::string bytes;
+    for (int row = 0; row < 50'000; ++row)
         bytes += "Category:Question number " + std::to_string(row) + "?*the answer is a word\r\n";
-    for (auto _ : state)
-        benchmark::DoNotOptimize(loadTriviaQuestions(hub.files, "big"));
+    desk.hub.files.WriteSettingsFile(R"(Games\Trivia\QuestionFiles\big.lst)", bytes);
+    for (auto _ : state) {
+        const auto load = [&] { benchmark::DoNotOptimize(loadTriviaQuestions(desk.hub.files, "big")); };
+        state.SetIterationTime(secondsOf(load));
+    }
+    desk.hub.files.removeFile(R"(Games\Trivia\QuestionFiles\big.lst)");
 }
 
-BENCHMARK(openGrid)->Arg(5)->Arg(20)->Arg(64)->Unit(benchmark::kMillisecond);
-BENCHMARK(filterGrid)->Arg(5)->Arg(20)->Arg(64)->Unit(benchmark::kMillisecond);
-BENCHMARK(toggleCell)->Arg(5)->Arg(20)->Arg(64)->Unit(benchmark::kMillisecond);
-BENCHMARK(saveGridForm)->Arg(5)->Arg(20)->Arg(64)->Unit(benchmark::kMillisecond);
-BENCHMARK(loadQuestions)->Arg(50000)->Unit(benchmark::kMillisecond);
+constexpr int repetitions = 15;
+
+std::string opening(int profiles, const QString& key)
+{
+    return "open/" + std::to_string(profiles) + '/' + key.toStdString();
+}
+
+void registerAll(int profiles, Desk& desk, const QStringList& keys)
+{
+    const auto add = [&desk](const std::string& name, auto work) {
+        repeated(benchmark::RegisterBenchmark(name.c_str(),
+                                              [&desk, work](benchmark::State& state) { work(state, desk); }),
+                 repetitions);
+    };
+    for (const QString& key : keys)
+        add(opening(profiles, key),
+            [key](benchmark::State& state, Desk& where) { openEach(state, where, key); });
+    const std::string count = '/' + std::to_string(profiles);
+    add("filter" + count, filterGrid);
+    add("toggle" + count, [](benchmark::State& state, Desk& where) { toggleAndSave(state, where, true); });
+    add("save" + count, [](benchmark::State& state, Desk& where) { toggleAndSave(state, where, false); });
+    add("questions" + count, loadQuestions);
+}
+
+void printOpenings(const Figures& figures, int profiles, double worstAllowed, const QStringList& keys)
+{
+    std::vector<std::pair<double, QString>> times;
+    for (const QString& key : keys) {
+        if (const auto* medians = figures.of(opening(profiles, key)))
+            times.emplace_back(medians->milliseconds, key);
+    }
+    if (times.empty())
+        return;
+    std::sort(times.begin(), times.end());
+    const std::string where = "opening a form, " + std::to_string(profiles) + " profiles: ";
+    printTime(where + "median of " + std::to_string(times.size()) + " forms", times[times.size() / 2].first,
+              profiles == 5 ? std::optional(10.0) : std::nullopt);
+    printTime(where + "worst (" + captionOfKey(times.back().second).toStdString() + ")", times.back().first,
+              worstAllowed);
+}
+
+void printTable(const Figures& figures, const QStringList& keys)
+{
+    printOpenings(figures, 5, 60, keys);
+    printOpenings(figures, 64, 150, keys);
+    const auto print = [&figures](const std::string& what, const std::string& benchmark) {
+        if (const auto* medians = figures.of(benchmark))
+            printTime(what, medians->milliseconds);
+    };
+    const std::string grid = "who may kick whom, 64 profiles, 24,576 rows: ";
+    print(grid + "open and load", opening(64, gridKey));
+    print(grid + "filter by command, and back to all rows", "filter/64");
+    print(grid + "toggle a cell", "toggle/64");
+    print(grid + "save and reload", "save/64");
+    print("reading a question file of 50,000 rows", "questions/5");
+}
 
 } // namespace
-} // namespace quillfen
+} // namespace quillfen::bench
 
 int main(int argc, char** argv)
 {
+    using namespace quillfen::bench;
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const QApplication application(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
+    const QStringList keys = builtKeys();
+    Desk few(5);
+    Desk many(64);
+    registerAll(5, few, keys);
+    registerAll(64, many, keys);
+    Figures figures;
+    figures.run(argc, argv);
+    printTable(figures, keys);
     return 0;
 }

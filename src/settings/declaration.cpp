@@ -12,19 +12,16 @@ namespace {
 /// A row of a nested table.
 struct NestedRow
 {
-    std::string name;     ///< among the values
-    std::string key;      ///< as the readers know it
-    std::string written;  ///< the key as it stands in the file
-    std::string standard; ///< what stands in for a missing or an empty one at a rebuild
+    std::string key;           ///< as the readers know it
+    std::string_view standard; ///< what stands in for a missing or an empty one at a rebuild
 };
 
 std::vector<NestedRow> profileRows(const Setting& setting, const HubProfiles& profiles)
 {
     std::vector<NestedRow> rows;
-    for (std::size_t row = setting.firstProfile; row < profiles.count(); ++row) {
-        const std::string key = HubProfiles::key(row);
-        rows.push_back({profileRow(setting, row), key, "[" + key + "]", "0"});
-    }
+    rows.reserve(profiles.count());
+    for (std::size_t row = setting.firstProfile; row < profiles.count(); ++row)
+        rows.push_back({HubProfiles::key(row), "0"});
     return rows;
 }
 
@@ -35,12 +32,10 @@ std::vector<NestedRow> nestedRows(const Setting& setting, const HubProfiles& pro
     std::vector<NestedRow> rows;
     if (setting.kind == Setting::Kind::Flags) {
         for (const std::string& each : setting.entries)
-            rows.push_back({flagRow(setting, each), "b" + each, "b" + each, "0"});
+            rows.push_back({"b" + each, "0"});
     } else if (setting.kind == Setting::Kind::Texts) {
-        for (std::size_t at = 0; at < setting.entries.size(); ++at) {
-            const std::string& each = setting.entries[at];
-            rows.push_back({textRow(setting, each), each, each, setting.standards.at(at)});
-        }
+        for (std::size_t at = 0; at < setting.entries.size(); ++at)
+            rows.push_back({setting.entries[at], setting.standards.at(at)});
     }
     return rows;
 }
@@ -51,6 +46,19 @@ bool isNested(const Setting& setting)
            setting.kind == Setting::Kind::Texts;
 }
 
+/// Makes the name that a nested row has among the values, in a text that serves row after row: a rebuild has
+/// thousands of them.
+const std::string& nameRow(std::string& name, const Setting& setting, std::string_view key)
+{
+    return name.assign(setting.key).append("/").append(key);
+}
+
+std::string rowName(const Setting& setting, std::string_view key)
+{
+    std::string name;
+    return nameRow(name, setting, key);
+}
+
 std::string quoted(const std::string& text)
 {
     return '"' + text + '"';
@@ -59,11 +67,14 @@ std::string quoted(const std::string& text)
 std::string tableText(const Setting& setting, const SettingValues& values, const HubProfiles& profiles,
                       const std::string& indent)
 {
+    const bool isProfile = setting.kind == Setting::Kind::Profiles; // a profile's key stands in brackets
+    const bool isText = setting.kind == Setting::Kind::Texts;
     std::string rows = indent + setting.key + " = {\r\n";
+    std::string name;
     for (const NestedRow& row : nestedRows(setting, profiles)) {
-        const std::string& value = values.at(row.name);
-        rows += indent + "\t" + row.written + " = " +
-                (setting.kind == Setting::Kind::Texts ? quoted(value) : value) + ",\r\n";
+        const std::string& value = values.at(nameRow(name, setting, row.key));
+        rows.append(indent).append(isProfile ? "\t[" : "\t").append(row.key);
+        rows.append(isProfile ? "] = " : " = ").append(isText ? quoted(value) : value).append(",\r\n");
     }
     return rows + indent + "},\r\n";
 }
@@ -113,14 +124,17 @@ SettingValues gathered(
     bool (*skips)(const Setting&) = [](const Setting&) { return false; })
 {
     SettingValues values;
+    std::string name;
     for (const Setting& setting : file.settings) {
         if (skips(setting))
             continue;
         if (!isNested(setting))
             values[setting.key] = valueOf(setting, setting.key, std::string());
         for (const NestedRow& row : nestedRows(setting, profiles)) {
-            const auto value = valueOf(setting, row.key, setting.key);
-            values[row.name] = value.empty() && fills(setting) ? row.standard : value;
+            auto value = valueOf(setting, row.key, setting.key);
+            if (value.empty() && fills(setting))
+                value = row.standard;
+            values.insert_or_assign(nameRow(name, setting, row.key), std::move(value));
         }
     }
     return values;
@@ -261,7 +275,7 @@ Setting letter(std::string key, std::string control, std::string label, std::str
 
 std::string flagRow(const Setting& setting, const std::string& entry)
 {
-    return setting.key + "/b" + entry;
+    return rowName(setting, "b" + entry);
 }
 
 Setting hubProfileFlags(std::string key, std::string control, std::string label)
@@ -279,12 +293,12 @@ Setting notSaved(Setting setting)
 
 std::string textRow(const Setting& setting, const std::string& entry)
 {
-    return setting.key + "/" + entry;
+    return rowName(setting, entry);
 }
 
 std::string profileRow(const Setting& setting, std::size_t row)
 {
-    return setting.key + "/" + HubProfiles::key(row);
+    return rowName(setting, HubProfiles::key(row));
 }
 
 SettingValues loaded(const TableFile& file, const TableIndex& index, const HubProfiles& profiles)

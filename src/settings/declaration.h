@@ -1,9 +1,9 @@
 #pragma once
 
 #include <functional>
-#include <map>
 #include <optional>
 #include <string>
+#include <unordered_map>
 #include <vector>
 
 namespace quillfen {
@@ -119,7 +119,7 @@ struct TableFile
 
 /// The texts of a file's settings by key; the row of a profile stands under profileRow(), that
 /// of a flag under flagRow(), that of a named text under textRow().
-using SettingValues = std::map<std::string, std::string>;
+using SettingValues = std::unordered_map<std::string, std::string>;
 
 /// The name of one entry's flag among the values.
 std::string flagRow(const Setting& setting, const std::string& entry);

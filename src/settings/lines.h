@@ -15,8 +15,23 @@ class LineCursor
 public:
     explicit LineCursor(std::string_view bytes) : m_rest(bytes) {}
 
-    /// The next line without its end; nothing at the end of the file.
-    std::optional<std::string_view> next();
+    /// The next line without its end; nothing at the end of the file. Inline, as a rebuild reads tens of
+    /// thousands of short lines.
+    std::optional<std::string_view> next()
+    {
+        if (m_rest.empty())
+            return std::nullopt;
+        const char* const begin = m_rest.data();
+        const char* const last = begin + m_rest.size();
+        const char* end = begin;
+        while (end != last && *end != '\r' && *end != '\n')
+            ++end;
+        const char* next = end;
+        if (next != last && *next++ == '\r' && next != last && *next == '\n')
+            ++next;
+        m_rest = {next, static_cast<std::size_t>(last - next)};
+        return std::string_view(begin, static_cast<std::size_t>(end - begin));
+    }
 
 private:
     std::string_view m_rest;
@@ -31,13 +46,27 @@ struct SplitLine
 };
 
 /// Splits at the first separator only: the right side may hold more of them.
-SplitLine splitOnce(std::string_view line, char separator);
+inline SplitLine splitOnce(std::string_view line, char separator)
+{
+    for (std::size_t at = 0; at < line.size(); ++at) {
+        if (line[at] == separator)
+            return {line.substr(0, at), line.substr(at + 1), true};
+    }
+    return {line, {}, false};
+}
 
 /// Splits at every separator and keeps the first two pieces.
 SplitLine splitInPieces(std::string_view line, char separator);
 
 /// Without the blanks at both ends.
-std::string_view trimBlanks(std::string_view text);
+inline std::string_view trimBlanks(std::string_view text)
+{
+    while (text.starts_with(' '))
+        text.remove_prefix(1);
+    while (text.ends_with(' '))
+        text.remove_suffix(1);
+    return text;
+}
 
 /// The number that a text begins with, blanks aside; 0 if it begins with none.
 double leadingNumber(std::string_view text);

@@ -5,23 +5,27 @@
 namespace quillfen {
 namespace {
 
-/// The text of one command's file; `valueOf(by, on)` gives the cells' values row by row.
+/// The text of one command's file; `valueOf(by, on)` gives the cells' values row by row, both counted in the
+/// keys.
 template <typename ValueOf>
-std::string composed(const GridCommand& command, std::size_t firstProfile, const HubProfiles& profiles,
-                     const ValueOf& valueOf)
+std::string composed(const GridCommand& command, const std::vector<std::string>& keys, const ValueOf& valueOf)
 {
+    std::vector<std::string> openings; // of each row, alike in every table
+    for (const std::string& key : keys)
+        openings.push_back("\t\t[" + key + "] = ");
+    std::size_t rows = 0; // about the bytes of a table's rows
+    for (const std::string& opening : openings)
+        rows += opening.size() + 4;
     std::string text = command.table + " = {\r\n";
-    for (std::size_t by = firstProfile; by < profiles.count(); ++by) {
-        text.append("\t[").append(HubProfiles::key(by)).append("] = {\r\n");
-        for (std::size_t on = firstProfile; on < profiles.count(); ++on)
-            text.append("\t\t[")
-                .append(HubProfiles::key(on))
-                .append("] = ")
-                .append(valueOf(by, on))
-                .append(",\r\n");
+    text.reserve(text.size() + keys.size() * (rows + 20));
+    for (std::size_t by = 0; by < keys.size(); ++by) {
+        text.append("\t[").append(keys[by]).append("] = {\r\n");
+        for (std::size_t on = 0; on < keys.size(); ++on)
+            text.append(openings[on]).append(valueOf(by, on)).append(",\r\n");
         text.append("\t},\r\n");
     }
-    return text + "}";
+    text += '}';
+    return text;
 }
 
 } // namespace
@@ -29,14 +33,17 @@ std::string composed(const GridCommand& command, std::size_t firstProfile, const
 std::vector<PermissionCell> loadGrid(const PermissionGrid& grid, const SettingsFiles& files,
                                      const HubProfiles& profiles)
 {
+    const auto keys = profiles.keys(grid.firstProfile);
     std::vector<PermissionCell> cells;
+    cells.reserve(grid.commands.size() * keys.size() * keys.size());
     for (std::size_t command = 0; command < grid.commands.size(); ++command) {
         const auto index = files.index(grid.commands[command].path);
-        for (std::size_t by = grid.firstProfile; by < profiles.count(); ++by) {
-            for (std::size_t on = grid.firstProfile; on < profiles.count(); ++on) {
-                const auto value = index.value(HubProfiles::key(on), HubProfiles::key(by));
-                cells.push_back({command, by, on, isOne(value)});
-            }
+        TableCells values(index, keys);
+        for (std::size_t by = 0; by < keys.size(); ++by) {
+            values.enter(keys[by]);
+            for (std::size_t on = 0; on < keys.size(); ++on)
+                cells.push_back(
+                    {command, grid.firstProfile + by, grid.firstProfile + on, isOne(values.at(on))});
         }
     }
     return cells;
@@ -58,24 +65,28 @@ GridSource sourceOf(const PermissionGrid& grid)
 void saveGrid(const PermissionGrid& grid, const std::vector<PermissionCell>& cells,
               const SettingsFiles& files, const HubProfiles& profiles)
 {
+    const auto keys = profiles.keys(grid.firstProfile);
     auto cell = cells.begin();
     for (const GridCommand& command : grid.commands) {
-        files.WriteSettingsFile(command.path, composed(command, grid.firstProfile, profiles,
-                                                       [&cell](std::size_t, std::size_t) -> std::string {
-                                                           return (cell++)->allowed ? "1" : "0";
-                                                       }));
+        files.WriteSettingsFile(command.path,
+                                composed(command, keys, [&cell](std::size_t, std::size_t) -> const char* {
+                                    return (cell++)->allowed ? "1" : "0";
+                                }));
     }
 }
 
 void rebuildGridFile(const GridCommand& command, std::size_t firstProfile, const SettingsFiles& files,
                      const HubProfiles& profiles)
 {
+    const auto keys = profiles.keys(firstProfile);
     const auto index = files.index(command.path);
-    files.WriteSettingsFile(
-        command.path, composed(command, firstProfile, profiles, [&index](std::size_t by, std::size_t on) {
-            const auto value = index.value(HubProfiles::key(on), HubProfiles::key(by));
-            return value.empty() ? std::string("0") : value;
-        }));
+    TableCells values(index, keys);
+    files.WriteSettingsFile(command.path, composed(command, keys, [&](std::size_t by, std::size_t on) {
+                                if (on == 0)
+                                    values.enter(keys[by]);
+                                const auto value = values.at(on);
+                                return value.empty() ? std::string_view("0") : value;
+                            }));
 }
 
 } // namespace quillfen

@@ -26,6 +26,15 @@ public:
     /// hub's first profile. A key is a place in the list and never a name.
     static std::string key(std::size_t row) { return std::to_string(static_cast<long long>(row) - 1); }
 
+    /// The keys of all rows from the first one that takes part.
+    std::vector<std::string> keys(std::size_t firstRow = 0) const
+    {
+        std::vector<std::string> all;
+        for (std::size_t row = firstRow; row < count(); ++row)
+            all.push_back(key(row));
+        return all;
+    }
+
 private:
     std::vector<std::string> m_names;
 };

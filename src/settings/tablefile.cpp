@@ -8,13 +8,17 @@
 namespace quillfen {
 namespace {
 
-constexpr std::string_view valueDelimiters = "\t\", ";
-constexpr std::string_view keyFront = "\t\", [";
-constexpr std::string_view keyBack = "\t\", ]";
-
-std::string_view withoutBack(std::string_view text, std::string_view delimiters)
+constexpr bool isDelimiter(char character)
 {
-    return text.substr(0, text.find_last_not_of(delimiters) + 1);
+    return character == '\t' || character == '"' || character == ',' || character == ' ';
+}
+
+/// Strips delimiters behind a text, and with them a bracket if one is named.
+std::string_view withoutBack(std::string_view text, char bracket = ' ')
+{
+    while (!text.empty() && (isDelimiter(text.back()) || text.back() == bracket))
+        text.remove_suffix(1);
+    return text;
 }
 
 /// The whole lines of ReadTableToList, those of one table or of the file.
@@ -116,19 +120,20 @@ std::string_view withoutListedExtension(std::string_view name)
 std::string_view trimmedTableKey(std::string_view text)
 {
     for (;;) {
-        if (text.starts_with("[\"[")) // a bracketed key that begins with a bracket of its own
+        if (text.starts_with('[') && text.substr(1, 2) == "\"[") // a key with a leading bracket of its own
             text = text.size() > 3 ? text.substr(2, text.size() - 3) : std::string_view();
-        else if (!text.empty() && keyFront.find(text.front()) != std::string_view::npos)
+        else if (!text.empty() && (isDelimiter(text.front()) || text.front() == '['))
             text.remove_prefix(1);
         else
-            return withoutBack(text, keyBack);
+            return withoutBack(text, ']');
     }
 }
 
 std::string_view trimmedTableValue(std::string_view text)
 {
-    text.remove_prefix(std::min(text.find_first_not_of(valueDelimiters), text.size()));
-    return withoutBack(text, valueDelimiters);
+    while (!text.empty() && isDelimiter(text.front()))
+        text.remove_prefix(1);
+    return withoutBack(text);
 }
 
 void TrimTableKey(std::string& text)
@@ -239,8 +244,9 @@ std::string SettingsFiles::ReadTextFile(std::string_view file) const
 
 void SettingsFiles::WriteSettingsFile(std::string_view file, std::string_view text, bool bAppRelative) const
 {
-    std::string bytes(text);
-    bytes += lineEnd;
+    std::string bytes;
+    bytes.reserve(text.size() + lineEnd.size());
+    bytes.append(text).append(lineEnd);
     m_store.write(m_paths.resolve(file, bAppRelative), bytes);
 }
 

@@ -38,6 +38,8 @@ TEST_F(Profiles, KeysBeginAtMinusOne)
     EXPECT_EQ(HubProfiles::key(1), "0");
     EXPECT_EQ(HubProfiles::key(2), "1");
     EXPECT_EQ(HubProfiles::key(3), "2");
+    EXPECT_EQ(hub.profiles.keys(), (Names{"-1", "0", "1", "2"}));
+    EXPECT_EQ(hub.profiles.keys(2), (Names{"1", "2"}));
 }
 
 TEST_F(Profiles, WithoutTheHubsFileOnlyUnregisteredIsThere)

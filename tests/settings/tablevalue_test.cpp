@@ -236,6 +236,35 @@ TEST(TableIndex, AnswersLikeAScanFromTheStartOnThousandsOfDamagedFiles)
     EXPECT_GT(found, 1000); // the files are worth the comparison
 }
 
+TEST(TableCells, AnswerLikeAScanFromTheStartInWhateverOrderTheTablesAreEntered)
+{
+    int found = 0;
+    for (unsigned seed = 0; seed < 1000; ++seed) {
+        RandomFile file(seed);
+        const std::string bytes = file.bytes();
+        const TableIndex index(bytes);
+        const std::vector<std::string> keys = {file.name(), file.name(), file.name()};
+        TableCells cells(index, keys);
+        for (const std::string table : {"tB", "a", "tA", "b", "tA", "none", "0"}) {
+            cells.enter(table);
+            for (std::size_t at = 0; at < keys.size(); ++at) {
+                const std::string expected = test::plainScan(bytes, keys[at], table);
+                found += expected.empty() ? 0 : 1;
+                ASSERT_EQ(cells.at(at), expected)
+                    << "seed " << seed << " key " << keys[at] << " table " << table;
+            }
+        }
+    }
+    EXPECT_GT(found, 1000);
+}
+
+TEST(TableCells, AreEmptyBeforeATableIsEntered)
+{
+    const TableIndex index("a = 1");
+    TableCells cells(index, {"a"});
+    EXPECT_EQ(cells.at(0), "");
+}
+
 TEST(TableIndex, AnswersLikeAScanAroundTheLineLimit)
 {
     for (std::size_t before = 4990; before < 5010; ++before) {

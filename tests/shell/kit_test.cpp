@@ -1,4 +1,5 @@
 #include "settings/declaration.h"
+#include "shell/icons/icons.h"
 #include "shell/kit/codepagetext.h"
 #include "shell/kit/numberbox.h"
 #include "shell/kit/permissiongridpart.h"
@@ -51,6 +52,13 @@ QStringList keysAndTips(const QToolBar& toolbar)
         seen.append(action->isSeparator() ? QStringLiteral("|")
                                           : action->objectName() + '=' + action->toolTip());
     return seen;
+}
+
+TEST(Icons, AreLoadedOnceForAllForms)
+{
+    EXPECT_EQ(themedIcon("save").cacheKey(), themedIcon("save").cacheKey());
+    EXPECT_NE(themedIcon("save").cacheKey(), themedIcon("edit").cacheKey());
+    EXPECT_FALSE(themedIcon("save").pixmap(16, 16).isNull());
 }
 
 TEST(Toolbars, EachBuilderAddsItsButtons)

@@ -14,12 +14,13 @@ std::string opening()
     return massMessageSettings().table + " = {\r\n";
 }
 
-std::string cellText(const std::string& key, const std::string& value)
+std::string cellText(std::string_view key, std::string_view value)
 {
-    return "\t\t" + key + " = " + value + ",\r\n";
+    std::string text = "\t\t";
+    return text.append(key).append(" = ").append(value).append(",\r\n");
 }
 
-std::string profileCell(std::size_t target, const std::string& value)
+std::string profileCell(std::size_t target, std::string_view value)
 {
     return cellText("[" + HubProfiles::key(target) + "]", value);
 }
@@ -90,19 +91,20 @@ void saveMassMessage(const MassMessage& message, const SettingsFiles& files, con
 void buildMassMessage(const SettingsFiles& files, const HubProfiles& profiles)
 {
     const auto index = files.index(massMessageSettings().path);
-    const auto kept = [&index](const std::string& key, std::size_t by) {
-        const auto value = index.value(key, HubProfiles::key(by));
-        return value.empty() ? std::string("0") : value;
-    };
+    auto keys = profiles.keys();
+    keys.insert(keys.end(), std::begin(rebuiltTargets), std::end(rebuiltTargets));
+    TableCells cells(index, keys);
     std::string text =
         opening() + composedRows(massMessageSettings(), rebuilt(massMessageSettings(), index, profiles),
                                  RowOrder::Rebuild, profiles);
     for (std::size_t by = 0; by < profiles.count(); ++by) {
         text += blockOpening(by);
-        for (std::size_t on = 0; on < profiles.count(); ++on)
-            text += profileCell(on, kept(HubProfiles::key(on), by));
-        for (const char* target : rebuiltTargets)
-            text += cellText(target, kept(target, by));
+        cells.enter(keys[by]);
+        for (std::size_t on = 0; on < keys.size(); ++on) {
+            const auto stored = cells.at(on);
+            const auto kept = stored.empty() ? std::string_view("0") : stored;
+            text += on < profiles.count() ? profileCell(on, kept) : cellText(keys[on], kept);
+        }
         text += "\t},\r\n";
     }
     files.WriteSettingsFile(massMessageSettings().path, text + "}");

@@ -3,6 +3,8 @@
 #include "settings/listfile.h"
 #include "settings/profiles.h"
 
+#include <map>
+
 namespace quillfen {
 namespace {
 

@@ -1,0 +1,73 @@
+#pragma once
+
+#include "functions/forms.h"
+#include "shell/kit/editorform.h"
+#include "shell/window/mainwindow.h"
+#include "shell/window/navigatortable.h"
+
+#include <QApplication>
+#include <QEvent>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+
+#include <set>
+#include <stdexcept>
+
+namespace quillfen::bench {
+
+/// Notes that its widget is painted.
+class PaintWatch : public QObject
+{
+public:
+    explicit PaintWatch(QWidget& widget) { widget.installEventFilter(this); }
+
+    bool eventFilter(QObject* object, QEvent* event) override
+    {
+        m_painted = m_painted || event->type() == QEvent::Paint;
+        return QObject::eventFilter(object, event);
+    }
+
+    bool painted() const { return m_painted; }
+
+private:
+    bool m_painted = false;
+};
+
+/// The keys whose forms are built; a drop-down may name one that is still to come.
+inline QStringList builtKeys()
+{
+    std::set<QString> names;
+    for (const FormMaker& maker : formCatalogue())
+        names.insert(maker.name);
+    QStringList keys;
+    for (const QString& key : formKeys()) {
+        if (names.count(formName(key)) > 0)
+            keys.append(key);
+    }
+    return keys;
+}
+
+/// Opens a form as a click in the tree does, up to its first paint.
+inline EditorForm& openForm(MainWindow& window, const QString& key)
+{
+    window.OpenFunctionForm(key);
+    const auto* place = window.findChild<QMdiArea*>()->currentSubWindow();
+    auto* form = place ? qobject_cast<EditorForm*>(place->widget()) : nullptr;
+    if (!form)
+        throw std::runtime_error("no form: " + key.toStdString());
+    const PaintWatch watch(*form);
+    QApplication::processEvents();
+    if (!watch.painted())
+        throw std::runtime_error("the form was not painted: " + key.toStdString());
+    return *form;
+}
+
+/// Closes all forms, up to their destruction.
+inline void closeForms(MainWindow& window)
+{
+    window.findChild<QMdiArea*>()->closeAllSubWindows();
+    QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QApplication::processEvents();
+}
+
+} // namespace quillfen::bench

@@ -1,0 +1,79 @@
+#pragma once
+
+#include "functions/catalogue.h"
+#include "settings/diskstore.h"
+#include "settings/paths.h"
+#include "settings/profiles.h"
+#include "settings/rebuild.h"
+#include "settings/tablefile.h"
+
+#include <cstddef>
+#include <filesystem>
+#include <fstream>
+#include <random>
+#include <string>
+
+namespace quillfen::bench {
+
+/// A copy of the sample hub on the disk, in a temporary folder that goes with it. Its hub file has so many
+/// profiles that the program counts as many as are asked for, "Unregistered" among them.
+class HubFolder
+{
+public:
+    explicit HubFolder(std::size_t profileCount)
+        : m_folder(std::filesystem::temp_directory_path() /
+                   ("quillfen-bench-" + std::to_string(std::random_device()()))),
+          files(m_disk, SettingsPaths(scripts()))
+    {
+        std::filesystem::copy(QUILLFEN_SAMPLE_HUB, m_folder, std::filesystem::copy_options::recursive);
+        writeProfiles(profileCount);
+    }
+
+    HubFolder(const HubFolder&) = delete;
+    HubFolder& operator=(const HubFolder&) = delete;
+
+    ~HubFolder()
+    {
+        std::error_code ignored;
+        std::filesystem::remove_all(m_folder, ignored);
+    }
+
+    std::string scripts() const { return (m_folder / "scripts").string(); }
+    std::filesystem::path folder() const { return m_folder; }
+    std::filesystem::path tree() const { return files.paths().settingsRoot(); }
+
+    /// The program's start as far as the tree goes, each question answered with OK. A start that follows has
+    /// nothing to ask.
+    void start() { reconcileSettings(reconciliation(files), profiles); }
+
+    /// The rebuild for more profiles, through a store of the caller's if it likes.
+    void rebuild() const { rebuild(files); }
+    void rebuild(const SettingsFiles& through) const
+    {
+        CheckSettingsRebuild(reconciliation(through), 'P', profiles);
+    }
+
+private:
+    static Reconciliation reconciliation(const SettingsFiles& through)
+    {
+        return {through, folderCatalogue(), QUILLFEN_VERSION, [](const RebuildQuestion&) { return true; }};
+    }
+
+    void writeProfiles(std::size_t count) const
+    {
+        std::ofstream file(m_folder / "cfg" / "Profiles.xml", std::ios::binary | std::ios::trunc);
+        file << "<Profiles>\r\n";
+        for (std::size_t profile = 1; profile < count; ++profile)
+            file << "<Profile>\r\n<Name>Profile" << profile << "</Name>\r\n</Profile>\r\n";
+        file << "</Profiles>\r\n";
+    }
+
+    std::filesystem::path m_folder;
+    DiskStore m_disk;
+
+public:
+    SettingsFiles files;
+    HubProfiles profiles; ///< filled by the start
+};
+
+} // namespace quillfen::bench

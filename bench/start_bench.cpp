@@ -1,0 +1,154 @@
+// Whole processes, each beside the bare window: the start, the memory, and every form's first opening. The
+// programs start_window and bare_window must lie beside this one.
+#include "figures.h"
+#include "hubfolder.h"
+
+#include <QCoreApplication>
+#include <QProcess>
+
+#include <algorithm>
+#include <stdexcept>
+
+namespace quillfen::bench {
+namespace {
+
+constexpr double kibPerMib = 1024;
+
+/// What a process said of itself.
+struct Ran
+{
+    double startSeconds = 0; ///< until its window was painted
+    double peakKiB = 0;
+    std::vector<double> heapKiB;                          ///< behind each round
+    std::vector<std::map<std::string, double>> opened{1}; ///< by round and key, in milliseconds
+};
+
+Ran ran(const QString& program, const QStringList& arguments)
+{
+    QProcess process;
+    process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    const auto begin = Clock::now();
+    process.start(QCoreApplication::applicationDirPath() + '/' + program, arguments);
+    if (!process.waitForFinished(300'000) || process.exitCode() != 0)
+        throw std::runtime_error("no figures: " + program.toStdString());
+    Ran result;
+    for (const QString& line : QString::fromLocal8Bit(process.readAllStandardOutput()).split('\n')) {
+        const QString word = line.section(' ', 0, 0);
+        const QString value = line.section(' ', 1, 1);
+        if (word == "painted") {
+            const Clock::time_point painted{std::chrono::nanoseconds(value.toLongLong())};
+            result.startSeconds = std::chrono::duration<double>(painted - begin).count();
+        } else if (word == "peak") {
+            result.peakKiB = value.toDouble();
+        } else if (word == "heap") {
+            result.heapKiB.push_back(value.toDouble());
+            result.opened.emplace_back();
+        } else if (word == "opened") {
+            result.opened.back()[line.section(' ', 2).trimmed().toStdString()] = value.toDouble();
+        }
+    }
+    return result;
+}
+
+Ran ranBare()
+{
+    return ran("bare_window", {});
+}
+
+void startWindow(benchmark::State& state, const HubFolder& hub)
+{
+    for (auto _ : state) {
+        const Ran ours = ran("start_window", {QString::fromStdString(hub.scripts())});
+        const Ran bare = ranBare();
+        reportPair(state, ours.startSeconds, bare.startSeconds);
+        state.counters["peak"] = ours.peakKiB / kibPerMib;
+        state.counters["barePeak"] = bare.peakKiB / kibPerMib;
+    }
+}
+
+std::string mebibytes(double value)
+{
+    return number(value, 1) + " MiB";
+}
+
+void printPeak(const std::string& what, double peak, double bare)
+{
+    printRatio("peak memory, " + what, mebibytes(peak), mebibytes(bare), peak / bare, 1.4);
+}
+
+void printStart(const Figures& figures, const std::string& display)
+{
+    const auto* start = figures.of("startWindow");
+    if (!start)
+        return;
+    printPair("start to the first painted window, " + display + ", beside the bare window", start, 1.25);
+    printPeak("start, " + display + ", beside the bare window", start->counters.at("peak").value,
+              start->counters.at("barePeak").value);
+}
+
+double medianOf(std::vector<double> values)
+{
+    std::sort(values.begin(), values.end());
+    return values.at(values.size() / 2);
+}
+
+/// Each form's first opening in a process, the median of some processes.
+void printFirstOpenings(const std::vector<Ran>& runs, const std::string& profiles)
+{
+    std::vector<std::pair<double, std::string>> forms;
+    for (const auto& [key, time] : runs.front().opened.front()) {
+        std::vector<double> times;
+        for (const Ran& each : runs)
+            times.push_back(each.opened.front().at(key));
+        forms.emplace_back(medianOf(times), key);
+    }
+    std::sort(forms.begin(), forms.end());
+    const std::string what = "first opening in a process, " + profiles + ": ";
+    printTime(what + "median of " + std::to_string(forms.size()) + " forms", forms[forms.size() / 2].first);
+    printTime(what + "worst (" + forms.back().second + ")", forms.back().first);
+}
+
+void printRounds(std::size_t profileCount)
+{
+    constexpr int processes = 5;
+    HubFolder hub(profileCount);
+    hub.start();
+    std::vector<Ran> runs;
+    std::vector<double> peaks;
+    std::vector<double> growths;
+    for (int process = 0; process < processes; ++process) {
+        runs.push_back(ran("start_window", {QString::fromStdString(hub.scripts()), "2"}));
+        peaks.push_back(runs.back().peakKiB / kibPerMib);
+        growths.push_back(runs.back().heapKiB.at(1) - runs.back().heapKiB.at(0));
+    }
+    const std::string profiles = std::to_string(profileCount) + " profiles";
+    printPeak("all forms opened and closed twice, " + profiles + ", beside the bare window", medianOf(peaks),
+              ranBare().peakKiB / kibPerMib);
+    const double growth = medianOf(growths);
+    printRow("heap held more behind the second round than behind the first, " + profiles,
+             number(growth, 1) + " KiB", "", "", "0", growth <= 0);
+    printFirstOpenings(runs, profiles);
+}
+
+} // namespace
+} // namespace quillfen::bench
+
+int main(int argc, char** argv)
+{
+    using namespace quillfen::bench;
+    const QCoreApplication application(argc, argv);
+    HubFolder hub(5);
+    hub.start();
+    repeated(benchmark::RegisterBenchmark("startWindow",
+                                          [&hub](benchmark::State& state) { startWindow(state, hub); }),
+             31);
+    Figures figures;
+    figures.run(argc, argv);
+    const bool offscreen = qgetenv("QT_QPA_PLATFORM") == "offscreen";
+    printStart(figures, offscreen ? "Qt's offscreen platform" : "virtual X display");
+    if (!offscreen)
+        return 0;
+    for (const std::size_t profiles : {std::size_t{5}, std::size_t{64}})
+        printRounds(profiles);
+    return 0;
+}
