@@ -46,7 +46,10 @@ constexpr const char* words[] = {"|",
                                  "tNews",
                                  "[",
                                  "]",
-                                 "iLastID"};
+                                 "iLastID",
+                                 "*",
+                                 "<Name>",
+                                 "</Name>"};
 
 Bytes randomInput(std::mt19937& random)
 {
