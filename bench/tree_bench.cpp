@@ -3,6 +3,7 @@
 #include "figures.h"
 #include "hubfolder.h"
 
+#include <ctime>
 #include <utility>
 
 #ifdef __unix__
@@ -34,12 +35,30 @@ void settle()
 #endif
 }
 
-/// The wall time of some work on a disk at rest.
+/// What some work took, in seconds.
+struct Spent
+{
+    double wall;
+    double processor;
+};
+
+/// Times some work on a disk at rest. On a busy machine most of the wall time is waiting, which makes any two
+/// works alike; the processor's time shows what the work itself costs.
 template <typename Work>
-double settledSecondsOf(const Work& work)
+Spent spentOn(const Work& work)
 {
     settle();
-    return secondsOf(work);
+    const std::clock_t begin = std::clock();
+    const double wall = secondsOf(work);
+    return {wall, static_cast<double>(std::clock() - begin) / CLOCKS_PER_SEC};
+}
+
+void reportBoth(benchmark::State& state, const Spent& ours, const Spent& yardstick)
+{
+    reportPair(state, ours.wall, yardstick.wall);
+    state.counters["cpu"] = ours.processor * millisecondsPerSecond;
+    state.counters["cpuYardstick"] = yardstick.processor * millisecondsPerSecond;
+    state.counters["cpuRatio"] = ours.processor / yardstick.processor;
 }
 
 void firstBuild(benchmark::State& state)
@@ -48,12 +67,12 @@ void firstBuild(benchmark::State& state)
     hub.start();
     for (auto _ : state) {
         std::filesystem::remove_all(hub.tree());
-        const double ours = settledSecondsOf([&] { hub.rebuild(); });
+        const Spent ours = spentOn([&] { hub.rebuild(); });
         const auto copyTree = [&] {
             std::filesystem::copy(hub.tree(), hub.folder() / "copy",
                                   std::filesystem::copy_options::recursive);
         };
-        reportPair(state, ours, settledSecondsOf(copyTree));
+        reportBoth(state, ours, spentOn(copyTree));
     }
 }
 
@@ -70,8 +89,8 @@ void rebuildTree(benchmark::State& state)
         }
     };
     for (auto _ : state) {
-        const double ours = settledSecondsOf([&] { hub.rebuild(); });
-        reportPair(state, ours, settledSecondsOf(writePlainly));
+        const Spent ours = spentOn([&] { hub.rebuild(); });
+        reportBoth(state, ours, spentOn(writePlainly));
     }
     std::size_t bytes = 0;
     for (const auto& [path, content] : recorder.written)
@@ -88,19 +107,28 @@ std::string profilesOf(int count)
     return std::to_string(count) + " profiles";
 }
 
+void printBoth(const std::string& what, const Figures::Medians& medians, std::optional<double> limit)
+{
+    printPair(what, &medians, limit);
+    const auto counter = [&medians](const char* name) { return medians.counters.at(name).value; };
+    printRatio(what + ", processor time", milliseconds(counter("cpu")), milliseconds(counter("cpuYardstick")),
+               counter("cpuRatio"), limit);
+}
+
 void printTable(const Figures& figures)
 {
-    for (const int count : profileCounts)
-        printPair("first build of the tree, " + profilesOf(count) + ", beside copying it",
-                  figures.of("firstBuild/" + std::to_string(count)), 1.5);
+    for (const int count : profileCounts) {
+        if (const auto* build = figures.of("firstBuild/" + std::to_string(count)))
+            printBoth("first build of the tree, " + profilesOf(count) + ", beside copying it", *build, 1.5);
+    }
     for (const int count : profileCounts) {
         const auto* rebuild = figures.of("rebuildTree/" + std::to_string(count));
         if (!rebuild)
             continue;
-        printPair("rebuild, " + profilesOf(count) + " (" + number(rebuild->counters.at("files").value, 0) +
+        printBoth("rebuild, " + profilesOf(count) + " (" + number(rebuild->counters.at("files").value, 0) +
                       " files, " + number(rebuild->counters.at("KiB").value, 0) +
                       " KiB), beside writing the same bytes",
-                  rebuild, count == 64 ? std::optional(3.0) : std::nullopt);
+                  *rebuild, count == 64 ? std::optional(3.0) : std::nullopt);
     }
 }
 
