@@ -1,6 +1,5 @@
 #include "functions/customise/customiseformtest.h"
 
-
 namespace quillfen {
 namespace {
 
