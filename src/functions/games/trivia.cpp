@@ -1,6 +1,7 @@
 #include "functions/games/trivia.h"
 
 #include "functions/games/shared/quizpattern.h"
+#include "functions/games/shared/wordlist.h"
 #include "settings/filename.h"
 #include "settings/listfile.h"
 
@@ -94,13 +95,7 @@ std::string triviaQuestionFile(std::string_view name)
 
 std::vector<CellRow> loadTriviaQuestions(const SettingsFiles& files, std::string_view name)
 {
-    std::vector<ListRow> list;
-    files.ReadTableToList(triviaQuestionFile(name), list, "*");
-    std::vector<CellRow> rows;
-    rows.reserve(list.size());
-    for (ListRow& row : list)
-        rows.push_back({{std::move(row.text), std::move(row.second)}});
-    return rows;
+    return listFileRows(files, triviaQuestionFile(name), "*", Rows::Plain);
 }
 
 void saveTriviaQuestions(const SettingsFiles& files, std::string_view name, const std::vector<CellRow>& rows)

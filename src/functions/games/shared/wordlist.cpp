@@ -1,22 +1,18 @@
 #include "functions/games/shared/wordlist.h"
 
-#include "settings/tablefile.h"
-
 namespace quillfen {
-namespace {
 
-std::vector<CellRow> loadWords(const SettingsFiles& files, const std::string& path, WordLine line)
+std::vector<CellRow> listFileRows(const SettingsFiles& files, const std::string& path,
+                                  std::string_view delimiter, Rows rows)
 {
     std::vector<ListRow> list;
-    files.ReadTableToList(path, list, line == WordLine::Question ? "*" : "", {}, Rows::Undivided);
-    std::vector<CellRow> rows;
-    rows.reserve(list.size());
+    files.ReadTableToList(path, list, delimiter, {}, rows);
+    std::vector<CellRow> cells;
+    cells.reserve(list.size());
     for (ListRow& row : list)
-        rows.push_back({{std::move(row.text), std::move(row.second)}});
-    return rows;
+        cells.push_back({{std::move(row.text), std::move(row.second)}});
+    return cells;
 }
-
-} // namespace
 
 std::string composedWords(WordLine line, const std::vector<CellRow>& rows)
 {
@@ -39,7 +35,7 @@ RowListDeclaration wordList(const std::string& path, WordLine line)
     words.toolbar = "tlbListview";
     words.toolTips = {"Add new Word", "Delete Word", "Edit Word"}; // also where the rows are questions
     words.load = [path, line](const SettingsFiles& files, const HubProfiles&) {
-        return loadWords(files, path, line);
+        return listFileRows(files, path, line == WordLine::Question ? "*" : "", Rows::Undivided);
     };
     words.save = [path, line](const SettingsFiles& files, const HubProfiles&,
                               const std::vector<CellRow>& rows) {

@@ -1,8 +1,11 @@
 #pragma once
 
 #include "settings/listdeclaration.h"
+#include "settings/tablefile.h"
 
 #include <string>
+#include <string_view>
+#include <vector>
 
 namespace quillfen {
 
@@ -12,6 +15,10 @@ enum class WordLine
     Word,    ///< the word
     Question ///< a question, an asterisk, its answer
 };
+
+/// The rows of a game's list file as its lists show them: the text and what stands behind the delimiter.
+std::vector<CellRow> listFileRows(const SettingsFiles& files, const std::string& path,
+                                  std::string_view delimiter, Rows rows);
 
 /// The game's own list of words, lvwWords, over a list file. Loading shows as many rows as the file has
 /// lines: a question without an asterisk has an empty answer, but a line with one that ends in "t" is lost to
