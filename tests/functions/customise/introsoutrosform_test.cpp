@@ -220,7 +220,7 @@ TEST_P(IntroOutroForms, TheSettingsAreWrittenBeforeIntrosAndOutros)
                                                        folder + "Intro.tbl", folder + "Outro.tbl"}));
 }
 
-TEST_P(IntroOutroForms, FiftyThousandLinesAreShownAndSavedAtOnce)
+TEST_P(IntroOutroForms, FiftyThousandLinesAreShownAndSaved)
 {
     std::string text = table("Intro", {});
     text.resize(text.size() - 3);
