@@ -1,5 +1,6 @@
 #include "portal/portalpart.h"
 
+#include "settings/codepage.h"
 #include "settings/tablefile.h"
 #include "shell/kit/codepagetext.h"
 #include "shell/kit/editdialog.h"
@@ -35,11 +36,6 @@ CellRow hubRow(const HubRow& hub)
 CellRow nickRow(std::string nick)
 {
     return {{"1", std::move(nick)}};
-}
-
-std::string lowerCased(const std::string& text)
-{
-    return toBytes(fromBytes(text).toLower());
 }
 
 EditRequest hubRequest(const char* title)
@@ -290,7 +286,7 @@ void PortalPart::followTick(int row)
 void PortalPart::addNick()
 {
     addRows(m_nicks, nickRequest("Add Nick"), [this](const std::vector<std::string>& values) {
-        m_nicks->append(nickRow(lowerCased(values[0])));
+        m_nicks->append(nickRow(codepage::lowered(values[0])));
         emit changed();
     });
 }

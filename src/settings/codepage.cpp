@@ -53,6 +53,38 @@ std::optional<char32_t> takeCharacter(std::string_view& text)
     return character;
 }
 
+/// The letters beyond ASCII whose other case lies 32 places on: À to Þ and à to þ, but for × and ÷.
+bool isAccentedCapital(unsigned char byte)
+{
+    return byte >= 0xC0 && byte <= 0xDE && byte != 0xD7;
+}
+
+unsigned char lowerByte(unsigned char byte)
+{
+    if ((byte >= 'A' && byte <= 'Z') || isAccentedCapital(byte))
+        return static_cast<unsigned char>(byte + 32);
+    switch (byte) {
+    case 0x8A: // S with caron
+    case 0x8C: // OE
+    case 0x8E: // Z with caron
+        return static_cast<unsigned char>(byte + 16);
+    case 0x9F: // Y with diaeresis
+        return 0xFF;
+    default:
+        return byte;
+    }
+}
+
+unsigned char upperByte(unsigned char byte)
+{
+    for (int other = 0; other < 256; ++other) {
+        const auto capital = static_cast<unsigned char>(other);
+        if (capital != byte && lowerByte(capital) == byte)
+            return capital;
+    }
+    return byte;
+}
+
 } // namespace
 
 char32_t toUnicode(unsigned char byte)
@@ -101,6 +133,22 @@ std::optional<std::string> fromUtf8(std::string_view text)
         bytes += static_cast<char>(*byte);
     }
     return bytes;
+}
+
+std::string lowered(std::string_view text)
+{
+    std::string result(text);
+    std::transform(result.begin(), result.end(), result.begin(),
+                   [](char each) { return static_cast<char>(lowerByte(static_cast<unsigned char>(each))); });
+    return result;
+}
+
+std::string raised(std::string_view text)
+{
+    std::string result(text);
+    std::transform(result.begin(), result.end(), result.begin(),
+                   [](char each) { return static_cast<char>(upperByte(static_cast<unsigned char>(each))); });
+    return result;
 }
 
 } // namespace quillfen::codepage

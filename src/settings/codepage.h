@@ -21,4 +21,10 @@ std::string toUtf8(std::string_view bytes);
 /// A UTF-8 text in the code page; nothing if it isn't UTF-8 or has a character that the code page lacks.
 std::optional<std::string> fromUtf8(std::string_view text);
 
+/// The same text in lower case: the letters of the code page, and only those, change.
+std::string lowered(std::string_view text);
+
+/// The same in upper case.
+std::string raised(std::string_view text);
+
 } // namespace quillfen::codepage

@@ -1,5 +1,7 @@
 #include "settings/filename.h"
 
+#include "settings/codepage.h"
+
 #include <algorithm>
 
 namespace quillfen {
@@ -11,55 +13,7 @@ constexpr std::string_view devices[] = {"con",  "prn",  "aux",  "nul",  "com1", 
                                         "com5", "com6", "com7", "com8", "com9", "lpt1", "lpt2", "lpt3",
                                         "lpt4", "lpt5", "lpt6", "lpt7", "lpt8", "lpt9"};
 
-/// The letters beyond ASCII whose other case lies 32 places on: À to Þ and à to þ, but for × and ÷.
-bool isAccentedCapital(unsigned char byte)
-{
-    return byte >= 0xC0 && byte <= 0xDE && byte != 0xD7;
-}
-
-unsigned char lowerByte(unsigned char byte)
-{
-    if ((byte >= 'A' && byte <= 'Z') || isAccentedCapital(byte))
-        return static_cast<unsigned char>(byte + 32);
-    switch (byte) {
-    case 0x8A: // S with caron
-    case 0x8C: // OE
-    case 0x8E: // Z with caron
-        return static_cast<unsigned char>(byte + 16);
-    case 0x9F: // Y with diaeresis
-        return 0xFF;
-    default:
-        return byte;
-    }
-}
-
-unsigned char upperByte(unsigned char byte)
-{
-    for (int other = 0; other < 256; ++other) {
-        const auto capital = static_cast<unsigned char>(other);
-        if (capital != byte && lowerByte(capital) == byte)
-            return capital;
-    }
-    return byte;
-}
-
 } // namespace
-
-std::string lowered(std::string_view text)
-{
-    std::string result(text);
-    std::transform(result.begin(), result.end(), result.begin(),
-                   [](char each) { return static_cast<char>(lowerByte(static_cast<unsigned char>(each))); });
-    return result;
-}
-
-std::string raised(std::string_view text)
-{
-    std::string result(text);
-    std::transform(result.begin(), result.end(), result.begin(),
-                   [](char each) { return static_cast<char>(upperByte(static_cast<unsigned char>(each))); });
-    return result;
-}
 
 std::string fileNameFault(std::string_view name)
 {
@@ -74,7 +28,7 @@ std::string fileNameFault(std::string_view name)
         return "A file name can't hold control characters.";
     if (name.starts_with(' ') || name.ends_with(' ') || name.ends_with('.'))
         return "A file name can't begin or end with a blank, or end with a dot.";
-    const std::string stem = lowered(name.substr(0, name.find('.')));
+    const std::string stem = codepage::lowered(name.substr(0, name.find('.')));
     if (std::find(std::begin(devices), std::end(devices), stem) != std::end(devices))
         return "The name is one of the system's devices.";
     return {};

@@ -9,10 +9,4 @@ namespace quillfen {
 /// name.
 std::string fileNameFault(std::string_view name);
 
-/// The same text in lower case: the letters of the code page, and only those, change.
-std::string lowered(std::string_view text);
-
-/// The same in upper case.
-std::string raised(std::string_view text);
-
 } // namespace quillfen

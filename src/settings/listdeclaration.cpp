@@ -4,14 +4,18 @@
 
 namespace quillfen {
 
+std::vector<CellRow> cellRows(std::vector<ListRow> list)
+{
+    std::vector<CellRow> rows;
+    rows.reserve(list.size());
+    for (ListRow& row : list)
+        rows.push_back({{std::move(row.text), std::move(row.second)}, row.checked});
+    return rows;
+}
+
 RowListDeclaration::Load loadOf(const ListFile& file)
 {
-    return [file](const SettingsFiles& files, const HubProfiles&) {
-        std::vector<CellRow> rows;
-        for (ListRow& row : loadList(files, file))
-            rows.push_back({{std::move(row.text), std::move(row.second)}, row.checked});
-        return rows;
-    };
+    return [file](const SettingsFiles& files, const HubProfiles&) { return cellRows(loadList(files, file)); };
 }
 
 RowListDeclaration::Save saveOf(const ListFile& file)

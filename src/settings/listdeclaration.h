@@ -11,6 +11,7 @@ namespace quillfen {
 class HubProfiles;
 class SettingsFiles;
 struct ListFile;
+struct ListRow;
 struct NestedListsFile;
 
 /// A row of a list view: its columns' texts, and its tick where the list has ticks.
@@ -107,6 +108,9 @@ struct RowListGroup
     Save save;                             ///< takes the rows of each list; throws StoreError
     bool reloads = false;                  ///< the lists are loaded again after a save
 };
+
+/// What a list reader gave, as a list view holds it: text, second column and tick.
+std::vector<CellRow> cellRows(std::vector<ListRow> list);
 
 /// The loading and saving of lists that one file holds in nested tables.
 RowListDeclaration::Load loadOf(const NestedListsFile& file, std::size_t list);

@@ -21,8 +21,7 @@ struct GridCommand
 struct PermissionGrid
 {
     std::vector<GridCommand> commands;
-    std::size_t firstProfile =
-        0; ///< the first row of the profile list that takes part: 1 leaves "Unregistered" out
+    std::size_t firstProfile = 0; ///< of the profile list's rows: 1 leaves "Unregistered" out
 };
 
 /// One cell: command and profiles by their places, the profiles' counted in the profile list.

@@ -69,8 +69,7 @@ public:
                                   bool bAsFlag = false) const;
 
     /// Adds the rows of a table, or of the whole file if no table is named. An empty delimiter takes whole
-    /// lines;
-    /// "=" takes key rows and "*" the rows of list files, each with its first two pieces only.
+    /// lines; "=" takes key rows and "*" the rows of list files, each with its first two pieces only.
     void ReadTableToList(std::string_view file, std::vector<ListRow>& list, std::string_view delimiter,
                          std::string_view table = {}, Rows rows = Rows::Plain,
                          bool bAppRelative = false) const;

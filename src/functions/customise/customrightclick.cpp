@@ -30,8 +30,8 @@ const std::vector<std::string> locations = {"Hub", "Users", "Hub & Users", "Sear
 const std::vector<std::pair<std::string, std::string>> groups = {{"Operators Only", "ops"},
                                                                  {"All Profiles", "all"}};
 
-/// The whole number that a text is; nothing if it is another text.
-std::optional<long long> wholeNumber(const std::string& text)
+/// The integer that a text is; nothing if it is another text.
+std::optional<long long> integer(const std::string& text)
 {
     long long number = 0;
     const auto [end, fault] = std::from_chars(text.data(), text.data() + text.size(), number);
@@ -44,7 +44,7 @@ std::string shownProfile(const std::string& stored, const HubProfiles& profiles)
         if (stored == code)
             return word;
     }
-    const auto row = wholeNumber(stored).value_or(-2) + 1; // the key of the first row is -1
+    const auto row = integer(stored).value_or(-2) + 1; // the key of the first row is -1
     const bool isThere = row >= 0 && row < static_cast<long long>(profiles.count());
     return isThere ? profiles.names()[static_cast<std::size_t>(row)] : stored;
 }
@@ -60,12 +60,12 @@ std::string storedProfile(const std::string& shown, const HubProfiles& profiles)
     const auto name = std::find(names.begin(), names.end(), shown);
     if (name != names.end())
         return HubProfiles::key(static_cast<std::size_t>(name - names.begin()));
-    return wholeNumber(shown) ? shown : "\"" + shown + "\"";
+    return integer(shown) ? shown : "\"" + shown + "\"";
 }
 
 std::string shownLocation(const std::string& stored)
 {
-    const auto place = wholeNumber(stored).value_or(0) - 1;
+    const auto place = integer(stored).value_or(0) - 1;
     const bool isThere = place >= 0 && place < static_cast<long long>(locations.size());
     return isThere ? locations[static_cast<std::size_t>(place)] : stored;
 }

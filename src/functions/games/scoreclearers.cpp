@@ -1,6 +1,6 @@
 #include "functions/games/scoreclearers.h"
 
-#include "settings/filename.h"
+#include "settings/codepage.h"
 #include "settings/listfile.h"
 
 #include <algorithm>
@@ -34,8 +34,8 @@ const RowListDeclaration& scoreClearers()
 
 bool isClearer(const std::vector<CellRow>& rows, std::string_view nick)
 {
-    return std::any_of(rows.begin(), rows.end(), [wanted = lowered(nick)](const CellRow& row) {
-        return lowered(row.cells.at(0)) == wanted;
+    return std::any_of(rows.begin(), rows.end(), [wanted = codepage::lowered(nick)](const CellRow& row) {
+        return codepage::lowered(row.cells.at(0)) == wanted;
     });
 }
 

@@ -2,7 +2,7 @@
 
 #include "functions/games/shared/quizpattern.h"
 #include "functions/games/shared/wordlist.h"
-#include "settings/filename.h"
+#include "settings/codepage.h"
 #include "settings/listfile.h"
 
 #include <algorithm>
@@ -21,7 +21,7 @@ Setting quiz(const std::string& key, const std::string& control)
 
 bool comesBefore(const std::string& one, const std::string& other)
 {
-    return lowered(one) < lowered(other);
+    return codepage::lowered(one) < codepage::lowered(other);
 }
 
 } // namespace
@@ -69,8 +69,8 @@ TriviaQuestionFiles loadTriviaQuestionFiles(const SettingsFiles& files)
     std::vector<ListRow> rows;
     files.ReadTableToList(questionFilesPath, rows, "", questionFilesTable);
     for (const ListRow& row : rows) {
-        if (!row.text.starts_with(
-                defaultKey)) // the table's own default line, in the form's words or the build's
+        // The table's own line of the default, in the form's words or the build's, is no file.
+        if (!row.text.starts_with(defaultKey))
             result.names.push_back(row.text);
     }
     std::stable_sort(result.names.begin(), result.names.end(), comesBefore);

@@ -2,7 +2,7 @@
 
 #include "functions/games/shared/questions.h"
 #include "functions/games/trivia.h"
-#include "settings/filename.h"
+#include "settings/codepage.h"
 #include "settings/tablefile.h"
 #include "shell/kit/codepagetext.h"
 #include "shell/kit/editdialog.h"
@@ -208,12 +208,12 @@ void QuestionsPart::addFile(const std::string& name)
 void QuestionsPart::createFile()
 {
     const std::string name =
-        lowered(toBytes(QInputDialog::getText(m_widget, "Enter filename", "Enter filename")));
+        codepage::lowered(toBytes(QInputDialog::getText(m_widget, "Enter filename", "Enter filename")));
     if (name.empty() || refuseFileName(m_widget, name))
         return;
     const auto& rows = m_fileList->rows();
     if (std::any_of(rows.begin(), rows.end(),
-                    [&name](const CellRow& row) { return lowered(row.cells[0]) == name; })) {
+                    [&name](const CellRow& row) { return codepage::lowered(row.cells[0]) == name; })) {
         // The box bears the language form's title.
         notify(m_widget, "Cannot create language file", fromBytes(name) + " already exists",
                QMessageBox::Warning);

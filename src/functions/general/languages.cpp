@@ -63,15 +63,6 @@ std::string pathOf(const LanguageSet& set, std::string_view name)
     return std::string(set.folder).append(name).append(".tbl");
 }
 
-std::vector<CellRow> cellRows(std::vector<ListRow> list)
-{
-    std::vector<CellRow> rows;
-    rows.reserve(list.size());
-    for (ListRow& row : list)
-        rows.push_back({{std::move(row.text), std::move(row.second)}});
-    return rows;
-}
-
 std::vector<ListRow> referenceList(const SettingsFiles& files, const LanguageSet& set)
 {
     std::vector<ListRow> list;

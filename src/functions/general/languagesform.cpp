@@ -1,7 +1,7 @@
 #include "functions/general/languagesform.h"
 
 #include "functions/general/languages.h"
-#include "settings/filename.h"
+#include "settings/codepage.h"
 #include "settings/tablefile.h"
 #include "shell/kit/codepagetext.h"
 #include "shell/kit/editdialog.h"
@@ -159,7 +159,7 @@ bool LanguagesPart::isListed(const std::string& name, bool anyCase) const
 {
     const auto& rows = m_files->rows();
     return std::any_of(rows.begin(), rows.end(), [&](const CellRow& row) {
-        return anyCase ? lowered(row.cells[0]) == lowered(name) : row.cells[0] == name;
+        return anyCase ? codepage::lowered(row.cells[0]) == codepage::lowered(name) : row.cells[0] == name;
     });
 }
 
@@ -236,7 +236,7 @@ void LanguagesPart::openLanguage()
     if (m_readOnly)
         notify(m_widget, "Read Only", "DEFAULT file cannot be edited", QMessageBox::Information);
     // The name goes on in upper case, and so does the file that is saved; the list keeps its own spelling.
-    showTexts(loadLanguageTexts(m_context.files, m_set, name), raised(name));
+    showTexts(loadLanguageTexts(m_context.files, m_set, name), codepage::raised(name));
 }
 
 void LanguagesPart::showTexts(std::vector<CellRow> rows, const std::string& name)

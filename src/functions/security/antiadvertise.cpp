@@ -48,8 +48,6 @@ TableFile declaredSettings()
 {
     Setting ipBlock = flag("bEnableIPBlock", "chkCheckBox(0)", "Enable IP Block", "1");
     ipBlock.toolTip = "Allows IPs beginning with 0 (such as 0.3.6.0)";
-    Setting blockedProfiles = profileFlags("tBlockedProfiles", "lvwBlockedProfiles", "Blocked Profiles");
-    blockedProfiles.keptByRestore = true;
     return {
         R"(Security\AntiAdvertise\AntiAdvertiseSettings.tbl)",
         "tAntiAdvertiseSettings",
@@ -59,7 +57,7 @@ TableFile declaredSettings()
             flag("bAllowToOps", "chkCheckBox(2)", "Allow In PM to Ops", "1"),
             banTimeSetting("iTempBanTime"),
             actionSetting("TempBan"),
-            blockedProfiles,
+            notRestored(profileFlags("tBlockedProfiles", "lvwBlockedProfiles", "Blocked Profiles")),
         },
     };
 }

@@ -68,16 +68,10 @@ RowListDeclaration declaredVersions()
 }
 
 /// RESTORE sets the action and its time; the lists stay.
-Setting kept(Setting setting)
-{
-    setting.keptByRestore = true;
-    return setting;
-}
-
 TableFile declaredSettings()
 {
-    Setting types = kept(namedFlags("tBlock", "lvwBlockedTypes", "Blocked Connection Types",
-                                    {"Sockets", "Passive", "Active", "Undeclared"}));
+    Setting types = notRestored(namedFlags("tBlock", "lvwBlockedTypes", "Blocked Connection Types",
+                                           {"Sockets", "Passive", "Active", "Undeclared"}));
     types.resets = true; // a rebuild opens the hub to every kind of connection again
     return {
         R"(Security\ClientChecker\ClientCheckerSettings.tbl)",
@@ -86,7 +80,7 @@ TableFile declaredSettings()
             banTimeSetting("iBanTime"),
             actionSetting("TempBan"),
             // The key says enabled and the label says exempt: one list, and both words stay.
-            kept(profileFlags("tEnabledProfiles", "lvwEnabledProfiles", "Exempt Profiles")),
+            notRestored(profileFlags("tEnabledProfiles", "lvwEnabledProfiles", "Exempt Profiles")),
             types,
         },
         {"sAction", "iBanTime", "tBlock", "tEnabledProfiles"},

@@ -8,22 +8,6 @@ GridCommand command(const std::string& word, const std::string& name)
     return {word, R"(Security\Registration\Registration)" + name + ".tbl", "tRegistration" + name};
 }
 
-TableFile declaredSettings()
-{
-    Setting profile = profileKey("iRegProfile", "cboComboBox", "Registration Profile");
-    profile.keptByRestore = true;
-    return {
-        R"(Security\Registration\RegistrationSettings.tbl)",
-        "tRegistrationSettings",
-        {
-            flag("bAllowRegme", "chkCheckBox(0)", "Enable Regme", "1"),
-            flag("bKeepLog", "chkCheckBox(1)", "Keep Log", "1"),
-            text("sPrefix", "txtTextBox(0)", "Prefix", ""),
-            profile,
-        },
-    };
-}
-
 /// A rebuild looks for each setting under swapped names, finds none, and writes the defaults whatever the
 /// file holds. Its last key has an `s` too many, so that the form shows the hub's first profile after it and
 /// writes the right key with its next save. The hub script lives with both.
@@ -42,7 +26,16 @@ void resetSettings(const SettingsFiles& files)
 
 const TableFile& registrationSettings()
 {
-    static const TableFile file = declaredSettings();
+    static const TableFile file = {
+        R"(Security\Registration\RegistrationSettings.tbl)",
+        "tRegistrationSettings",
+        {
+            flag("bAllowRegme", "chkCheckBox(0)", "Enable Regme", "1"),
+            flag("bKeepLog", "chkCheckBox(1)", "Keep Log", "1"),
+            text("sPrefix", "txtTextBox(0)", "Prefix", ""),
+            notRestored(profileKey("iRegProfile", "cboComboBox", "Registration Profile")),
+        },
+    };
     return file;
 }
 

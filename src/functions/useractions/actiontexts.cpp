@@ -27,10 +27,7 @@ using Restored = std::function<std::vector<CellRow>(const HubProfiles&)>;
 
 Restored rowsOf(const std::vector<ListRow>& rows)
 {
-    std::vector<CellRow> cells;
-    for (const ListRow& row : rows)
-        cells.push_back({{row.text, row.second}});
-    return [cells](const HubProfiles&) { return cells; };
+    return [cells = cellRows(rows)](const HubProfiles&) { return cells; };
 }
 
 /// How the boxes and dialogs of a list call its rows. They were copied from list to list, so that some ask

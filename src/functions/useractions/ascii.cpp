@@ -43,13 +43,6 @@ void saveIndex(const SettingsFiles& files, const HubProfiles& /*profiles*/, cons
     files.WriteSettingsFile(indexPath, text + "}");
 }
 
-Setting keptProfiles(const std::string& key, const std::string& control, const std::string& label)
-{
-    Setting setting = profileFlags(key, control, label);
-    setting.keptByRestore = true;
-    return setting;
-}
-
 } // namespace
 
 const TableFile& asciiSettings()
@@ -61,8 +54,8 @@ const TableFile& asciiSettings()
             flag("bInMain", "chkCheckBox(0)", "Show In Main", "1"),
             flag("bInMainGlobal", "chkCheckBox(1)", "Show In Main To All", "1"),
             flag("bEnableNoCommand", "chkCheckBox(2)", "Enable No Command", "1"),
-            keptProfiles("tEnabledProfiles", "lvwEnabledProfiles", "Enabled Profiles"),
-            keptProfiles("tEnabledRC", "lvwEnabledRCs", "Enabled Right Clicks"),
+            notRestored(profileFlags("tEnabledProfiles", "lvwEnabledProfiles", "Enabled Profiles")),
+            notRestored(profileFlags("tEnabledRC", "lvwEnabledRCs", "Enabled Right Clicks")),
         },
         {"bInMain", "bInMainGlobal", "bEnableNoCommand", "tEnabledRC", "tEnabledProfiles"},
     };

@@ -1,6 +1,6 @@
 #include "functions/useractions/spells.h"
 
-#include "settings/filename.h"
+#include "settings/codepage.h"
 #include "settings/listfile.h"
 #include "settings/profiles.h"
 
@@ -167,9 +167,10 @@ std::vector<CellRow> loadPhrases(const SpellBook& book, const std::string& spell
 void gatherPhrases(std::vector<CellRow>& spells, const std::string& spell,
                    const std::vector<CellRow>& phrases)
 {
-    const auto row = std::find_if(spells.begin(), spells.end(), [name = lowered(spell)](const CellRow& each) {
-        return lowered(each.cells.at(SpellName)) == name;
-    });
+    const auto row =
+        std::find_if(spells.begin(), spells.end(), [name = codepage::lowered(spell)](const CellRow& each) {
+            return codepage::lowered(each.cells.at(SpellName)) == name;
+        });
     if (row == spells.end())
         return;
     // What was gathered before is not cleared: each time, all phrases come again behind it.

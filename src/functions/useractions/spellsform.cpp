@@ -1,7 +1,7 @@
 #include "functions/useractions/spellsform.h"
 
 #include "functions/useractions/spells.h"
-#include "settings/filename.h"
+#include "settings/codepage.h"
 #include "shell/kit/codepagetext.h"
 #include "shell/kit/editorform.h"
 #include "shell/kit/messages.h"
@@ -188,7 +188,7 @@ void SpellBookPart::followSpells()
 {
     const auto& rows = m_spells->rows();
     const bool isThere = std::any_of(rows.begin(), rows.end(), [this](const CellRow& row) {
-        return lowered(row.cells[SpellName]) == lowered(m_current);
+        return codepage::lowered(row.cells[SpellName]) == codepage::lowered(m_current);
     });
     if (!m_current.empty() && !isThere) {
         if (rows.size() < m_spellCount)

@@ -169,9 +169,8 @@ void EditDialog::addButtons()
     auto* buttons = new QDialogButtonBox;
     m_ok = buttons->addButton(QDialogButtonBox::Ok);
     m_ok->setObjectName("cmdOK");
-    m_add = buttons->addButton("&Add", QDialogButtonBox::ActionRole);
+    m_add = buttons->addButton("Add", QDialogButtonBox::ActionRole);
     m_add->setObjectName("cmdAdd");
-    m_add->setText("Add");
     auto* cancel = buttons->addButton(QDialogButtonBox::Cancel);
     cancel->setObjectName("cmdCancel");
     cancel->setText("Cancel");

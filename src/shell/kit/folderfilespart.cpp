@@ -1,6 +1,6 @@
 #include "shell/kit/folderfilespart.h"
 
-#include "settings/filename.h"
+#include "settings/codepage.h"
 #include "settings/tablefile.h"
 #include "settings/textfolder.h"
 #include "shell/kit/codepagetext.h"
@@ -33,7 +33,7 @@ bool FolderFilesPart::isGoodName(const QString& typed)
         return false;
     // Only the typed name is lowered: it is refused for a row "hello", and not for a row "Hello".
     if (std::any_of(rows().begin(), rows().end(),
-                    [&](const CellRow& row) { return row.cells[0] == lowered(name); })) {
+                    [&](const CellRow& row) { return row.cells[0] == codepage::lowered(name); })) {
         notify(widget(), "Error", "File already exists", QMessageBox::Warning);
         return false;
     }
@@ -71,8 +71,8 @@ void FolderFilesPart::edit()
     if (row < 0)
         return;
     const std::string& name = rows()[static_cast<std::size_t>(row)].cells[0];
-    if (!refuseFileName(widget(),
-                        name)) // a table written by hand can hold a name that leads out of the folder
+    // A table written by hand can hold a name that leads out of the folder.
+    if (!refuseFileName(widget(), name))
         editTextFile(widget()->window(), context().files, textFile(m_folder, name));
 }
 

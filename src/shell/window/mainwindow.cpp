@@ -94,9 +94,8 @@ void MainWindow::addToolbar(bool portalShown)
     addToolBar(toolbar);
     connect(toolbar, &TopToolbar::formChosen, this, &MainWindow::OpenFunctionForm);
     connect(toolbar, &TopToolbar::sideBarToggled, this, &MainWindow::ToggleSideBar);
-    connect(toolbar, &TopToolbar::scriptsChosen, this, [this] { openWebPage("scripts/"); });
-    connect(toolbar, &TopToolbar::donateChosen, this,
-            [this] { openWebPage("scripts/donate/" + m_program.word + '/'); });
+    connect(toolbar, &TopToolbar::scriptsChosen, this, &MainWindow::openScriptsPage);
+    connect(toolbar, &TopToolbar::donateChosen, this, &MainWindow::openDonationPage);
 }
 
 void MainWindow::buildMenus()
@@ -116,9 +115,9 @@ void MainWindow::buildMenus()
 
     auto* help = addMenu(*menuBar(), "mnuHelp", "&Help");
     connect(addItem(*help, "mnuHelpVisit", "&Visit Morvaleth's Scripts"), &QAction::triggered, this,
-            [this] { openWebPage("scripts/"); });
+            &MainWindow::openScriptsPage);
     connect(addItem(*help, "mnuHelpDonate", "Make A &Donation"), &QAction::triggered, this,
-            [this] { openWebPage("scripts/donate/" + m_program.word + '/'); });
+            &MainWindow::openDonationPage);
     connect(addItem(*help, "mnuHelpAbout", "&About"), &QAction::triggered, this,
             [this] { AboutBox(m_program, this).exec(); });
 }

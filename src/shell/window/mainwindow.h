@@ -49,6 +49,8 @@ private:
     void ToggleSideBar();
     void findFunction();
     void showAllWindows();
+    void openScriptsPage() { openWebPage("scripts/"); }
+    void openDonationPage() { openWebPage("scripts/donate/" + m_program.word + '/'); }
     void openWebPage(const QString& path);
     EditorForm* activeForm() const;
 

@@ -178,8 +178,8 @@ QString archiveForm(const QString& word, const QString& function)
         return "frm" + word + "Week";
     if (function == "NewLinks")
         return "frm" + word + "NewItems";
-    if (function == "RightClicks" &&
-        word != "Hyperlink") // of the six, only Hyperlink's right clicks have a form
+    // Of the six, only Hyperlink's right clicks have a form.
+    if (function == "RightClicks" && word != "Hyperlink")
         return {};
     return "frm" + word + function;
 }

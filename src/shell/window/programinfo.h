@@ -11,8 +11,8 @@ struct ProgramInfo
     QString webBase{}; ///< the maker's web folder, with its last slash; may be empty
     QString product{"Morvaleth's Quillfen"};
     QString word{"Quillfen"}; ///< the product as the maker's web folders name it
-    QString newsBase{};        ///< the maker's news folder, with its last slash; may be empty
-    QString updatesBase{};     ///< the same of the version texts
+    QString newsBase{};       ///< the maker's news folder, with its last slash; may be empty
+    QString updatesBase{};    ///< the same of the version texts
 };
 
 } // namespace quillfen

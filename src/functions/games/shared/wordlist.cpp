@@ -7,11 +7,7 @@ std::vector<CellRow> listFileRows(const SettingsFiles& files, const std::string&
 {
     std::vector<ListRow> list;
     files.ReadTableToList(path, list, delimiter, {}, rows);
-    std::vector<CellRow> cells;
-    cells.reserve(list.size());
-    for (ListRow& row : list)
-        cells.push_back({{std::move(row.text), std::move(row.second)}});
-    return cells;
+    return cellRows(std::move(list));
 }
 
 std::string composedWords(WordLine line, const std::vector<CellRow>& rows)

@@ -1,0 +1,28 @@
+#include "settings/codepage.h"
+#include "settings/filename.h"
+
+#include <gtest/gtest.h>
+
+namespace quillfen {
+namespace {
+
+TEST(FileNames, ThatNoFileCanBearAreFaulty)
+{
+    for (const char* name :
+         {"",   ".",  "..",   "a/b", "a\\b", "..\\x", "c:x", "a*",  "a?",       "\"a", "a<",
+          "a>", "a|", "a\tb", " a",  "a ",   "a.",    "con", "NUL", "com1.txt", "Lpt9"})
+        EXPECT_NE(fileNameFault(name), "") << name;
+    EXPECT_NE(fileNameFault(std::string(300, 'x')), "");
+    for (const char* name :
+         {"a", "TriviaQuestions", "my words 2", "caf\xE9", "a.b", "control", ".hidden", "it's"})
+        EXPECT_EQ(fileNameFault(name), "") << name;
+}
+
+TEST(FileNames, ChangeTheirCaseInTheCodePage)
+{
+    EXPECT_EQ(codepage::lowered("FOO \xC9\x8A\x9F\xD7"), "foo \xE9\x9A\xFF\xD7");
+    EXPECT_EQ(codepage::raised("foo \xE9\x9A\xFF\xF7\xDF"), "FOO \xC9\x8A\x9F\xF7\xDF");
+}
+
+} // namespace
+} // namespace quillfen
