@@ -5,10 +5,9 @@
 #include "shell/kit/codepagetext.h"
 #include "shell/kit/controls.h"
 #include "shell/kit/editdialog.h"
+#include "shell/kit/editorform.h"
 #include "shell/kit/labels.h"
-#include "shell/kit/permissiongridpart.h"
 #include "shell/kit/rowlistpart.h"
-#include "shell/kit/tablefilepart.h"
 #include "shell/kit/toolbars.h"
 
 #include <QHBoxLayout>
@@ -124,75 +123,14 @@ void WeekPart::editChangeTime()
     emit changed();
 }
 
+} // namespace
+
 EditorForm* makeWeekForm(const ArchiveMember& member, const FormContext& context)
 {
     const QString word = fromBytes(member.word);
     auto* form = new EditorForm({"frm" + word + "Week", word + " ~ Link Of The Week", {7500, 6000}});
     form->add(new WeekPart(member, context));
     return form;
-}
-
-EditorForm* makeNewItemsForm(const ArchiveMember& member, const FormContext& context)
-{
-    const QString word = fromBytes(member.word);
-    auto* form = new EditorForm({"frm" + word + "NewItems", word + " ~ New " + fromBytes(member.items)});
-    form->add(new TableFilePart(newItems(member), context));
-    return form;
-}
-
-EditorForm* makeGridForm(const QString& name, const QString& caption, const GridSource& grid,
-                         const GridWords& words, const FormContext& context)
-{
-    FormDescription description{name, caption, {7500, 6000}};
-    description.hasRestore = false;
-    auto* form = new EditorForm(description);
-    form->add(new PermissionGridPart(grid, words, context));
-    return form;
-}
-
-/// One value for each command and profile, which a click turns.
-GridWords gridWords()
-{
-    GridWords words;
-    words.columns = {"Command", "Profile", "Setting"};
-    words.targets = false;
-    words.clickToggles = true;
-    return words;
-}
-
-EditorForm* makePermissionsForm(const ArchiveMember& member, const FormContext& context)
-{
-    const QString word = fromBytes(member.word);
-    return makeGridForm("frm" + word + "Permissions", word + " ~ Permissions", archivePermissions(member),
-                        gridWords(), context);
-}
-
-EditorForm* makeRightClicksForm(const FormContext& context)
-{
-    GridWords words = gridWords();
-    // A press of this button doesn't take its filter off: only a button of the key COMMAND does so.
-    words.commandFilter = "RIGHTCLICK";
-    words.commandFilterTip = "View By Right Click";
-    return makeGridForm("frmHyperlinkRightClicks", "Hyperlink ~ Right Clicks", hyperlinkRightClicks(), words,
-                        context);
-}
-
-} // namespace
-
-FormCatalogue makersOfArchiveForms()
-{
-    FormCatalogue forms;
-    for (const ArchiveMember& member : archiveMembers()) {
-        const auto made = [&member](auto* make) {
-            return [&member, make](const FormContext& context) { return make(member, context); };
-        };
-        const QString name = "frm" + fromBytes(member.word);
-        forms.push_back({name + "Week", made(makeWeekForm)});
-        forms.push_back({name + "NewItems", made(makeNewItemsForm)});
-        forms.push_back({name + "Permissions", made(makePermissionsForm)});
-    }
-    forms.push_back({"frmHyperlinkRightClicks", makeRightClicksForm});
-    return forms;
 }
 
 } // namespace quillfen

@@ -1,10 +1,12 @@
 #pragma once
 
-#include "shell/kit/editorform.h"
-
 namespace quillfen {
 
-/// The three forms of each member, and Hyperlink's right clicks.
-FormCatalogue makersOfArchiveForms();
+class EditorForm;
+struct ArchiveMember;
+struct FormContext;
+
+/// A member's link of the week.
+EditorForm* makeWeekForm(const ArchiveMember& member, const FormContext& context);
 
 } // namespace quillfen

@@ -37,20 +37,11 @@ private:
     QWidget* m_widget;
 };
 
-GridWords gridWords()
-{
-    GridWords words;
-    words.columns += {"iProfileBy", "iProfileOn"};
-    words.filters = false;
-    words.namesTarget = true;
-    return words;
-}
-
 MassMessagePart::MassMessagePart(const FormContext& context)
     : m_context(context),
       m_immune(
           makeControl(massMessageSettings().settings.front(), context.profiles, [this] { emit changed(); })),
-      m_grid(new PermissionGridPart(source(), gridWords(), context)),
+      m_grid(new PermissionGridPart(source(), unfilteredGrid(), context)),
       m_widget(placed())
 {
     m_grid->setParent(this);

@@ -11,14 +11,6 @@ const ListFile badNickFile = {R"(Security\BadNickBlocker\BadNickBlockerNickList.
 const ListFile exemptUserFile = {R"(Security\CloneBlocker\CloneBlockerExemptUsers.tbl)",
                                  "tCloneBlockerExemptUsers", ListFile::Form::Presence};
 
-/// RESTORE sets the action and its time; the lists stay.
-Setting profileList(const std::string& key, const std::string& control, const std::string& label)
-{
-    Setting setting = profileFlags(key, control, label);
-    setting.keptByRestore = true;
-    return setting;
-}
-
 /// A list of one-word rows, worded by what a row is called.
 RowListDeclaration wordedList(const ListFile& file, const std::string& word)
 {
@@ -54,15 +46,24 @@ RowListDeclaration declaredExemptUsers()
     return list;
 }
 
+/// The hub script knows no key for this check box: it only makes the form dirty.
+Setting idleNotification()
+{
+    Setting setting = flag("bSendNotification", "chkCheckBox", "Send Notification", "0");
+    setting.idle = true;
+    return setting;
+}
+
 } // namespace
 
+// RESTORE sets the action and its time; the lists of profiles stay.
 const TableFile& badNickSettings()
 {
     static const TableFile file = {
         R"(Security\BadNickBlocker\BadNickBlockerSettings.tbl)",
         "tBadNickBlockerSettings",
         {banTimeSetting("iTempBanTime"), actionSetting("TempBan"),
-         profileList("tExemptProfiles", "lvwExemptProfiles", "Exempt Profiles")},
+         notRestored(profileFlags("tExemptProfiles", "lvwExemptProfiles", "Exempt Profiles"))},
         {"sAction", "iTempBanTime", "tExemptProfiles"},
     };
     return file;
@@ -80,8 +81,8 @@ const TableFile& cloneSettings()
         R"(Security\CloneBlocker\CloneBlockerSettings.tbl)",
         "tCloneBlockerSettings",
         {banTimeSetting("iTempBanTime"), actionSetting("TempBan"),
-         profileList("tEnabledProfiles", "lvwEnabledProfiles", "Enabled Profiles"),
-         profileList("tExemptProfiles", "lvwExemptProfiles", "Exempt Profiles")},
+         notRestored(profileFlags("tEnabledProfiles", "lvwEnabledProfiles", "Enabled Profiles")),
+         notRestored(profileFlags("tExemptProfiles", "lvwExemptProfiles", "Exempt Profiles"))},
         {"sAction", "iTempBanTime", "tExemptProfiles", "tEnabledProfiles"},
     };
     return file;
@@ -98,7 +99,7 @@ const TableFile& antiVirusSettings()
     static const TableFile file = {
         R"(Security\AntiVirus\AntiVirusSettings.tbl)",
         "tAntiVirusSettings",
-        {banTimeSetting("iTempBanTime"), actionSetting("Disconnect")},
+        {banTimeSetting("iTempBanTime"), actionSetting("Disconnect"), idleNotification()},
         {"sAction", "iTempBanTime"},
     };
     return file;

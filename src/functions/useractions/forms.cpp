@@ -1,33 +1,46 @@
 #include "functions/useractions/forms.h"
 
-#include "functions/useractions/actiontextsform.h"
+#include "functions/useractions/actiontexts.h"
 #include "functions/useractions/asciiform.h"
 #include "functions/useractions/calculator.h"
-#include "functions/useractions/collectionsform.h"
+#include "functions/useractions/collections.h"
 #include "functions/useractions/spells.h"
 #include "functions/useractions/spellsform.h"
-#include "shell/kit/tablefilepart.h"
+#include "shell/kit/declaredforms.h"
 
 namespace quillfen {
+namespace {
+
+constexpr QSize listSize = {9000, 5400};
+
+FormMaker collectionForm(const char* name, const char* caption, const Collection& (*collection)())
+{
+    return settingsAndListForm(
+        {name, caption, {9000, 6000}}, [collection]() -> const TableFile& { return collection().settings; },
+        [collection]() -> const RowListDeclaration& { return collection().texts; });
+}
+
+} // namespace
 
 FormCatalogue useractionsForms()
 {
     return {
         {"frmUserActionsAscii", makeAsciiForm},
-        settingsForm({"frmUserActionsCalculator", "UserActions ~ Calculator"}, calculatorSettings()),
-        {"frmUserActionsInsultsStandard", makeInsultsForm},
-        {"frmUserActionsInsultsMedieval", makeMedievalInsultsForm},
-        {"frmUserActionsInsultsModern", makeModernInsultsForm},
-        {"frmUserActionsAttacks", makeAttacksForm},
-        {"frmUserActionsDoAction", makeDoActionForm},
-        {"frmUserActionsJokes", makeJokesForm},
-        {"frmUserActionsLimericks", makeLimericksForm},
-        {"frmUserActionsProverbs", makeProverbsForm},
-        {"frmUserActionsQuotations", makeQuotationsForm},
+        settingsForm({"frmUserActionsCalculator", "UserActions ~ Calculator"}, calculatorSettings),
+        listForm({"frmUserActionsInsultsStandard", "UserActions ~ Insults ~ Standard", listSize}, insults),
+        listsForm({"frmUserActionsInsultsMedieval", "UserActions ~ Insults ~ Medieval", listSize},
+                  medievalInsults),
+        listsForm({"frmUserActionsInsultsModern", "UserActions ~ Insults ~ Modern", listSize}, modernInsults),
+        listForm({"frmUserActionsAttacks", "UserActions ~ Attacks", listSize}, attacks),
+        listForm({"frmUserActionsDoAction", "UserActions ~ DoAction", listSize}, doActions),
+        collectionForm("frmUserActionsJokes", "User Actions ~ Jokes", jokes),
+        collectionForm("frmUserActionsLimericks", "User Actions ~ Limericks", limericks),
+        collectionForm("frmUserActionsProverbs", "User Actions ~ Proverbs", proverbs),
+        collectionForm("frmUserActionsQuotations", "User Actions ~ Quotations", quotations),
         {"frmUserActionsSpellSettings", makeSpellSettingsForm},
         {"frmUserActionsSpellsSpellBook", makeSpellBookForm},
         settingsForm({"frmUserActionsNickSpellSettings", "UserActions ~ NickSpells ~ Settings"},
-                     nickSpellSettings()),
+                     nickSpellSettings),
         {"frmUserActionsNickSpellsSpellBook", makeNickSpellBookForm},
     };
 }

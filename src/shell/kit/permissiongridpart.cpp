@@ -274,4 +274,13 @@ void PermissionGridPart::showMenu(const QPoint& at)
     menu->popup(at);
 }
 
+GridWords unfilteredGrid()
+{
+    GridWords words;
+    words.columns += {"iProfileBy", "iProfileOn"};
+    words.filters = false;
+    words.namesTarget = true;
+    return words;
+}
+
 } // namespace quillfen

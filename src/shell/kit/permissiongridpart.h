@@ -30,6 +30,10 @@ struct GridWords
     QString commandFilterTip = "View By Command";
 };
 
+/// The words of a grid without filters: each row names its target, and hidden columns hold the profiles'
+/// keys.
+GridWords unfilteredGrid();
+
 /// A permission grid: one row per command, acting profile and target profile, toggled between yes and no, and
 /// filtered by command and by acting profile. What a filter hides is saved all the same.
 class PermissionGridPart : public FormPart

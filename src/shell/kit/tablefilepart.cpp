@@ -199,13 +199,4 @@ void TableFilePart::save()
     saveTableFile(m_file, values, m_context.files, m_context.profiles);
 }
 
-FormMaker settingsForm(const FormDescription& description, const TableFile& file)
-{
-    return {description.name, [description, &file](const FormContext& context) {
-                auto* form = new EditorForm(description);
-                form->add(new TableFilePart(file, context));
-                return form;
-            }};
-}
-
 } // namespace quillfen

@@ -37,7 +37,4 @@ private:
     QWidget* m_widget;
 };
 
-/// A form that is one settings file and nothing else.
-FormMaker settingsForm(const FormDescription& description, const TableFile& file);
-
 } // namespace quillfen

@@ -1,9 +1,0 @@
-#pragma once
-
-#include "shell/kit/editorform.h"
-
-namespace quillfen {
-
-EditorForm* makeRussianRouletteForm(const FormContext& context);
-
-} // namespace quillfen

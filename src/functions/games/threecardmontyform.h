@@ -1,9 +1,0 @@
-#pragma once
-
-#include "shell/kit/editorform.h"
-
-namespace quillfen {
-
-EditorForm* makeThreeCardMontyForm(const FormContext& context);
-
-} // namespace quillfen
