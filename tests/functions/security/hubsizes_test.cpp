@@ -8,6 +8,7 @@
 #include <QComboBox>
 #include <QPlainTextEdit>
 
+#include <ostream>
 #include <set>
 #include <tuple>
 
@@ -31,6 +32,12 @@ struct SecurityForm
     const char* file;
     std::vector<ProfileList> lists;
 };
+
+// Test runners name a case by its form.
+void PrintTo(const SecurityForm& form, std::ostream* stream)
+{
+    *stream << form.key;
+}
 
 const std::vector<SecurityForm> formsWithLists = {
     {"Security~AntiAdvertise~Settings",
@@ -95,6 +102,11 @@ struct GridForm
     const char* list;
     const PermissionGrid& (*grid)();
 };
+
+void PrintTo(const GridForm& form, std::ostream* stream)
+{
+    *stream << form.key;
+}
 
 const GridForm formsWithGrids[] = {
     {"Security~Flooder", "lvwPermissions", floodPermissions},
@@ -300,6 +312,11 @@ struct DiscardedForm
     const char* list;
     bool grid = false;
 };
+
+void PrintTo(const DiscardedForm& form, std::ostream* stream)
+{
+    *stream << form.key;
+}
 
 std::vector<DiscardedForm> discardedForms()
 {

@@ -1,0 +1,224 @@
+#include "settings/declaration.h"
+#include "shell/kit/permissiongridpart.h"
+#include "shell/kit/rowlist.h"
+#include "shell/kit/rowlistpart.h"
+#include "shell/kit/tablefilepart.h"
+#include "shell/kit/ticklistpart.h"
+#include "support/dialogs.h"
+#include "support/formtest.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QGroupBox>
+#include <QLineEdit>
+
+namespace quillfen {
+namespace {
+
+/// A form of one declared file of the settings that a test gives it.
+class FormOf : public test::FormTest
+{
+protected:
+    EditorForm& formOf(std::vector<Setting> settings, const std::string& rows)
+    {
+        file = {"A.tbl", "tSample", std::move(settings)};
+        hub.file("A.tbl") = "tSample = {\r\n" + rows + "}\r\n";
+        std::erase_if(forms, [](const FormMaker& maker) { return maker.name == "frmGamesAnagrams"; });
+        forms.push_back({"frmGamesAnagrams", [this](const FormContext& context) {
+                             auto* form = new EditorForm({"frmGamesAnagrams", "Games ~ Anagrams"});
+                             form->add(new TableFilePart(file, context));
+                             return form;
+                         }});
+        return open("Games~Anagrams");
+    }
+
+    std::string saved(EditorForm& form)
+    {
+        button(form, "SAVE").setEnabled(true);
+        button(form, "SAVE").trigger();
+        return hub.file("A.tbl");
+    }
+
+    TableFile file;
+};
+
+TEST_F(FormOf, ALetterShowsAsItsEntryAndIsSavedAsTheLetter)
+{
+    auto& form = formOf({letter("sAction", "cboComboBox", "Action", "T", {"Kick", "TempBan"})},
+                        "\tsAction = \"K\",\r\n");
+    auto& combo = find<QComboBox>(form, "cboComboBox");
+    EXPECT_EQ(combo.currentText(), "Kick");
+    EXPECT_FALSE(combo.isEditable());
+    QTest::keyClick(&combo, Qt::Key_Down);
+    EXPECT_EQ(combo.currentText(), "TempBan");
+    EXPECT_TRUE(isDirty(form));
+    EXPECT_EQ(saved(form), "tSample = {\r\n\tsAction = \"T\",\r\n}\r\n");
+    combo.setCurrentIndex(0);
+    test::answering(QMessageBox::Ok, [&form] { button(form, "RESTORE").trigger(); });
+    EXPECT_EQ(combo.currentText(), "TempBan");
+}
+
+TEST_F(FormOf, ALetterOfNoEntryShowsAsNoChoice)
+{
+    auto& form = formOf({letter("sAction", "cboComboBox", "Action", "T", {"Kick", "TempBan"})},
+                        "\tsAction = \"k\",\r\n");
+    EXPECT_EQ(find<QComboBox>(form, "cboComboBox").currentText(), "");
+    EXPECT_EQ(saved(form), "tSample = {\r\n\tsAction = \"\",\r\n}\r\n");
+}
+
+TEST_F(FormOf, ARestoreLeavesAloneWhatIsKept)
+{
+    Setting kept = text("sText", "txtTextBox", "Text", "x");
+    kept.keptByRestore = true;
+    auto& form = formOf({kept, number("iNumber", "txtUpDown", "Number", "5", 1, 50)},
+                        "\tsText = \"mine\",\r\n\tiNumber = 7,\r\n");
+    test::answering(QMessageBox::Ok, [&form] { button(form, "RESTORE").trigger(); });
+    EXPECT_EQ(find<QLineEdit>(form, "txtTextBox").text(), "mine");
+    EXPECT_EQ(find<QLineEdit>(form, "txtUpDown").text(), "5");
+    EXPECT_TRUE(isDirty(form));
+}
+
+TEST_F(FormOf, NamedFlagsAreACheckListWithoutTheirLetter)
+{
+    auto& form = formOf({namedFlags("tBlock", "lvwBlocked", "Blocked", {"Active", "Passive"})},
+                        "\ttBlock = {\r\n\t\tbPassive = 1,\r\n\t},\r\n");
+    auto& list = find<RowList>(form, "lvwBlocked");
+    EXPECT_EQ(list.rows(), (std::vector<CellRow>{{{"Active"}}, {{"Passive"}, true}}));
+    clickTick(list, 0);
+    EXPECT_TRUE(isDirty(form));
+    EXPECT_EQ(saved(form),
+              "tSample = {\r\n\ttBlock = {\r\n\t\tbActive = 1,\r\n\t\tbPassive = 1,\r\n\t},\r\n}\r\n");
+}
+
+TEST_F(FormOf, UnitsToolTipsAndHeadingsAreShown)
+{
+    Setting number = quillfen::number("iNumber", "txtUpDown", "Number", "5", 1, 50);
+    number.unit = "Days";
+    Setting flag = quillfen::flag("bFlag", "chkCheckBox", "Flag", "1");
+    flag.toolTip = "a < b";
+    Setting list = profileFlags("tMain", "lvwMain", "Main");
+    list.column = "Enabled Main";
+    auto& form = formOf({number, flag, list}, "");
+    const auto labels = form.findChildren<QLabel*>();
+    EXPECT_TRUE(
+        std::any_of(labels.begin(), labels.end(), [](auto* label) { return label->text() == "Days"; }));
+    EXPECT_EQ(find<QCheckBox>(form, "chkCheckBox").toolTip(), "a < b");
+    auto& main = find<RowList>(form, "lvwMain");
+    EXPECT_FALSE(main.isHeaderHidden());
+    EXPECT_EQ(main.model()->headerData(0, Qt::Horizontal), "Enabled Main");
+}
+
+TEST_F(FormOf, AGridMayNameEachTargetAndCarryTheProfilesKeys)
+{
+    const PermissionGrid grid = {{{"Do", "A.tbl", "tDo"}, {"Undo", "B.tbl", "tUndo"}}, 3};
+    GridWords words;
+    words.columns = {"Command", "By Profile", "On Profile", "Allow", "iProfileBy", "iProfileOn"};
+    words.filters = false;
+    words.namesTarget = true;
+    PermissionGridPart part(grid, words, {hub.files, hub.profiles});
+    const std::unique_ptr<QWidget> widget(part.widget());
+    part.load();
+    auto& list = find<QTreeView>(*widget, "lvwPermissions");
+    EXPECT_EQ(shown(list), (QStringList{"Do|VIP|VIP|No", "Undo|VIP|VIP|No"}));
+    EXPECT_EQ(list.model()->headerData(4, Qt::Horizontal), "iProfileBy");
+    EXPECT_EQ(list.model()->index(1, 5).data(), "2");
+    EXPECT_TRUE(list.isColumnHidden(4));
+    EXPECT_TRUE(list.isColumnHidden(5));
+}
+
+TEST_F(FormOf, ATickListMayHaveALabelNoHelpAndTicksThatARestoreLeaves)
+{
+    hub.file("A.tbl") = "tA = {\r\n\tbMute = 1,\r\n\tbTalk = 0,\r\n}\r\n";
+    TickListDescription description{"lvwFilters", "Filters", {"A.tbl", "tA", ListFile::Form::Flags}};
+    description.label = "Filtered";
+    description.restoreTicks = false;
+    TickListPart part(description, {hub.files, hub.profiles});
+    const std::unique_ptr<QWidget> widget(part.widget());
+    part.load();
+    auto& list = find<RowList>(*widget, "lvwFilters");
+    EXPECT_EQ(find<QLabel>(*widget, "").buddy(), &list);
+    EXPECT_TRUE(list.isHeaderHidden());
+    part.restore();
+    EXPECT_EQ(list.rows(), (std::vector<CellRow>{{{"Mute", ""}, true}, {{"Talk", ""}}}));
+    clickRow(list, 1);
+    part.save();
+    EXPECT_EQ(hub.file("A.tbl"), "tA = {\r\n\tbMute = 1,\r\n\tbTalk = 0,\r\n}\r\n");
+}
+
+TEST_F(FormOf, FlagsOfOneFrameStandInItTogether)
+{
+    std::vector<Setting> settings = {
+        number("iNumber", "txtUpDown", "Number", "5", 1, 50), flag("bA", "chkCheckBox(0)", "A", "0"),
+        flag("bB", "chkCheckBox(1)", "B", "0"), flag("bC", "chkCheckBox(2)", "C", "0"),
+        flag("bD", "chkCheckBox(3)", "D", "0")};
+    settings[1].frame = settings[2].frame = "Tell";
+    settings[3].frame = "Ask";
+    auto& form = formOf(settings, "");
+    QStringList captions;
+    for (int at = 0; at < 4; ++at) {
+        auto* frame = qobject_cast<QGroupBox*>(
+            find<QCheckBox>(form, QString("chkCheckBox(%1)").arg(at)).parentWidget());
+        captions.append(frame ? frame->title() : QString());
+    }
+    EXPECT_EQ(captions, (QStringList{"Tell", "Tell", "Ask", QString()}));
+    EXPECT_EQ(form.findChildren<QGroupBox*>().size(), 2);
+}
+
+TEST(RowLists, ABoldRowStandsApart)
+{
+    RowList list("lvwList", {}, true);
+    list.setRows({{{"a"}}, {{"b"}, true, true}});
+    EXPECT_FALSE(list.model()->index(0, 0).data(Qt::FontRole).isValid());
+    EXPECT_TRUE(list.model()->index(1, 0).data(Qt::FontRole).value<QFont>().bold());
+}
+
+TEST_F(FormOf, AProfileKeyIsChosenAmongTheHubsOwnProfiles)
+{
+    const Setting setting = profileKey("iProfile", "cboComboBox", "Profile");
+    auto& form = formOf({setting}, "\tiProfile = 1,\r\n");
+    auto& combo = find<QComboBox>(form, "cboComboBox");
+    EXPECT_EQ(combo.count(), 3);
+    EXPECT_EQ(combo.itemText(0), "Master");
+    EXPECT_EQ(combo.currentText(), "Operator");
+    QTest::keyClick(&combo, Qt::Key_Down);
+    EXPECT_TRUE(isDirty(form));
+    EXPECT_EQ(saved(form), "tSample = {\r\n\tiProfile = 2,\r\n}\r\n");
+}
+
+TEST_F(FormOf, AProfileKeyOfNoProfileIsKeptAndNoKeyIsTheFirst)
+{
+    const Setting setting = profileKey("iProfile", "cboComboBox", "Profile");
+    auto& form = formOf({setting}, "\tiProfile = 9,\r\n");
+    EXPECT_EQ(find<QComboBox>(form, "cboComboBox").currentText(), "");
+    EXPECT_EQ(saved(form), "tSample = {\r\n\tiProfile = 9,\r\n}\r\n");
+    form.parentWidget()->close();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    auto& other = formOf({setting}, "");
+    EXPECT_EQ(find<QComboBox>(other, "cboComboBox").currentText(), "Master");
+    EXPECT_EQ(saved(other), "tSample = {\r\n\tiProfile = 0,\r\n}\r\n");
+}
+
+TEST_F(FormOf, ANewRowStartsWithTheDeclaredValues)
+{
+    RowListDeclaration list;
+    list.list = "lvwRows";
+    list.toolbar = "tlbRows";
+    list.columns = {"Word", "Choice"};
+    list.dialog.form = EditForm::TextCombo;
+    list.dialog.addTitle = "Add";
+    list.dialog.labels = {"Word", "Choice"};
+    list.dialog.entries = {{"One", "Two"}};
+    list.dialog.addValues = {"", "Two"};
+    list.load = [](const SettingsFiles&, const HubProfiles&) { return std::vector<CellRow>(); };
+    RowListPart part(list, {hub.files, hub.profiles});
+    const std::unique_ptr<QWidget> widget(part.widget());
+    part.load();
+    widget->show();
+    const auto seen = test::entering({{{"a"}}}, [&widget] { find<QAction>(*widget, "NEW").trigger(); });
+    ASSERT_EQ(seen.size(), 1);
+    EXPECT_EQ(seen[0].values, (QStringList{"", "Two"}));
+    EXPECT_EQ(shown(find<RowList>(*widget, "lvwRows")), QStringList{"a|Two"});
+}
+
+} // namespace
+} // namespace quillfen
