@@ -70,29 +70,46 @@ QToolBar* listToolbar(const QString& name)
     return toolbar;
 }
 
-/// Keeps the hub list's columns at half of its width, a quarter, and a little less than a quarter. And since
-/// a tick works on the selected row, a press on a tick box, which by itself selects nothing, selects its row
-/// first.
-class HubListHabits : public QObject
+/// Lets a list's columns follow its width.
+class ColumnWidths : public QObject
 {
 public:
-    explicit HubListHabits(RowList& list) : QObject(&list), m_list(list)
+    /// `fit` gives the columns their widths.
+    ColumnWidths(RowList& list, std::function<void(QHeaderView& columns, int width)> fit)
+        : QObject(&list),
+          m_list(list),
+          m_fit(std::move(fit))
     {
         list.header()->setStretchLastSection(false);
-        list.setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff); // the columns follow the list's width
+        list.setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
         list.installEventFilter(this);
+    }
+
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (event->type() == QEvent::Resize)
+            m_fit(*m_list.header(), m_list.width());
+        return QObject::eventFilter(watched, event);
+    }
+
+private:
+    RowList& m_list;
+    std::function<void(QHeaderView& columns, int width)> m_fit;
+};
+
+/// Since a tick works on the selected row, a press on a tick box, which by itself selects nothing, selects
+/// its row first.
+class TickSelects : public QObject
+{
+public:
+    explicit TickSelects(RowList& list) : QObject(&list), m_list(list)
+    {
         list.viewport()->installEventFilter(this);
     }
 
     bool eventFilter(QObject* watched, QEvent* event) override
     {
-        if (event->type() == QEvent::Resize && watched == &m_list) {
-            m_list.header()->resizeSection(0, m_list.width() / 2);
-            m_list.header()->resizeSection(1, m_list.width() / 4);
-            m_list.header()->resizeSection(2, m_list.width() / 4 - twips(300));
-        }
-        // The kind of event is asked first: others still come while the list is being taken down.
-        if (event->type() == QEvent::MouseButtonPress && watched == m_list.viewport()) {
+        if (event->type() == QEvent::MouseButtonPress) {
             const auto at = m_list.indexAt(static_cast<QMouseEvent*>(event)->position().toPoint());
             if (at.isValid())
                 m_list.select(at.row());
@@ -103,6 +120,18 @@ public:
 private:
     RowList& m_list;
 };
+
+void fitHubColumns(QHeaderView& columns, int width)
+{
+    columns.resizeSection(0, width / 2);
+    columns.resizeSection(1, width / 4);
+    columns.resizeSection(2, width / 4 - twips(300));
+}
+
+void fitNickColumn(QHeaderView& columns, int width)
+{
+    columns.resizeSection(1, width - twips(300));
+}
 
 } // namespace
 
@@ -116,8 +145,10 @@ PortalPart::PortalPart(const FormContext& context)
       m_live(new LiveLinks(*this))
 {
     m_hubs->setColumnHidden(static_cast<int>(HubColumn::HubName), true);
-    new HubListHabits(*m_hubs);
+    new ColumnWidths(*m_hubs, fitHubColumns);
+    new TickSelects(*m_hubs);
     m_nicks->setColumnHidden(0, true);
+    new ColumnWidths(*m_nicks, fitNickColumn);
     connectLists();
     followRows();
 }

@@ -36,8 +36,7 @@ void adapt(ListFile::Form form, ListRow& row)
         row.second.clear();
         return;
     case ListFile::Form::Flags:
-        if (row.text.starts_with('b'))
-            row.text.erase(0, 1);
+        row.text.erase(0, 1); // the letter of its type, whichever it is
         return;
     }
 }

@@ -1,8 +1,7 @@
 #include "shell/kit/codepagetext.h"
+#include "support/formtest.h"
 
 #include <QLineEdit>
-
-#include <gtest/gtest.h>
 
 namespace quillfen {
 namespace {

@@ -89,7 +89,7 @@ protected:
         }
         for (auto* edit : form.findChildren<QLineEdit*>()) {
             if (isMine(*edit) && !edit->isReadOnly())
-                edit->setText(edit->maxLength() == 1 ? "z" : "swept");
+                edit->setText("swept over");
         }
         for (auto* box : form.findChildren<QCheckBox*>()) {
             if (box->isEnabled())
@@ -214,6 +214,11 @@ inline const std::map<std::string, std::set<QString>> knownToDiffer = {
     // its box belongs to no key
     {"Security~AntiVirus", {"chkCheckBox"}},
     // the day that a save wrote is not read back
+    {"Bookshelf~LinkOfTheWeek", {"txtChangeTime"}},
+    {"DVDRack~LinkOfTheWeek", {"txtChangeTime"}},
+    {"Jukebox~LinkOfTheWeek", {"txtChangeTime"}},
+    {"Songbook~LinkOfTheWeek", {"txtChangeTime"}},
+    {"Arcade~LinkOfTheWeek", {"txtChangeTime"}},
     {"Hyperlink~LinkOfTheWeek", {"txtChangeTime"}},
 };
 

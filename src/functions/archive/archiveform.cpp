@@ -57,7 +57,8 @@ WeekPart::WeekPart(const ArchiveMember& member, const FormContext& context)
 {
     m_changeTime->setObjectName("txtChangeTime");
     m_changeTime->setAccessibleName("Change Time");
-    m_changeTime->setReadOnly(true); // its dialog knows which times there are
+    limitToCodePage(*m_changeTime);
+    connect(m_changeTime, &QLineEdit::textChanged, this, &FormPart::changed);
     m_changeBar->setObjectName("tlbChangeTime");
     m_changeBar->setIconSize({16, 16});
     int index = 0;
@@ -120,7 +121,7 @@ void WeekPart::editChangeTime()
         return;
     const auto& fields = answer.gEditValues;
     m_changeTime->setText(fromBytes(fields.at(0) + " " + fields.at(1) + ":" + fields.at(2)));
-    emit changed();
+    emit changed(); // also when the same time was chosen
 }
 
 } // namespace

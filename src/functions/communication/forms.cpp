@@ -44,6 +44,13 @@ FormMaker rotatingForm(const FormDescription& description, const RotatingMessage
     });
 }
 
+GridWords chatGrid()
+{
+    GridWords words = unfilteredGrid();
+    words.namesCommandByProfile = true;
+    return words;
+}
+
 } // namespace
 
 FormCatalogue communicationForms()
@@ -57,15 +64,15 @@ FormCatalogue communicationForms()
         {"frmCommunicationMOTD", makeMotdForm},
         {"frmCommunicationMassMessage", makeMassMessageForm},
         gridForm(
-            {"frmCommunicationMute", "Communication ~ Mute"}, [] { return sourceOf(mutePermissions()); },
-            unfilteredGrid()),
+            {.name = "frmCommunicationMute", .caption = "Communication ~ Mute", .hasRestore = false},
+            [] { return sourceOf(mutePermissions()); }, chatGrid()),
         rotatingForm({"frmCommunicationRotatingMainMessage", "Communication ~ RotatingMainMessage"},
                      rotatingMainMessages),
         rotatingForm({"frmCommunicationRotatingPrivateMessage", "Communication ~ RotatingPrivateMessage"},
                      rotatingPrivateMessages),
         gridForm(
-            {"frmCommunicationTalk", "Communication ~ Talk"}, [] { return sourceOf(talkPermissions()); },
-            unfilteredGrid()),
+            {.name = "frmCommunicationTalk", .caption = "Communication ~ Talk", .hasRestore = false},
+            [] { return sourceOf(talkPermissions()); }, chatGrid()),
         changerForm({"frmCommunicationTopicChanger", "Communication ~ TopicChanger"}, topicChanger),
         listForm({"frmCommunicationWelcomeInfoNetworkHubs", "Communication ~ WelcomeInfo ~ NetworkHubs"},
                  networkHubs),

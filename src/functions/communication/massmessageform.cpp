@@ -37,11 +37,18 @@ private:
     QWidget* m_widget;
 };
 
+GridWords gridWords()
+{
+    GridWords words = unfilteredGrid();
+    words.namesCommandByProfile = true;
+    return words;
+}
+
 MassMessagePart::MassMessagePart(const FormContext& context)
     : m_context(context),
       m_immune(
           makeControl(massMessageSettings().settings.front(), context.profiles, [this] { emit changed(); })),
-      m_grid(new PermissionGridPart(source(), unfilteredGrid(), context)),
+      m_grid(new PermissionGridPart(source(), gridWords(), context)),
       m_widget(placed())
 {
     m_grid->setParent(this);

@@ -88,8 +88,8 @@ std::vector<CellRow> loadRotatingNames(const RotatingMessages& messages, const S
         const auto [place, isNew] = places.try_emplace(name, rows.size());
         if (isNew)
             rows.push_back({{std::move(name)}});
-        else if (place->second < names.size())
-            rows[place->second].checked = true;
+        else
+            rows[place->second].checked = true; // also where two files differ in their extension alone
     }
     return rows;
 }

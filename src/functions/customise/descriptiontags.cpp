@@ -1,9 +1,11 @@
 #include "functions/customise/descriptiontags.h"
 
+#include "settings/lines.h"
 #include "settings/listfile.h"
 #include "settings/profiles.h"
 
 #include <map>
+#include <set>
 
 namespace quillfen {
 namespace {
@@ -57,14 +59,32 @@ std::vector<CellRow> standardTags(const HubProfiles& profiles)
     return tagRows(profiles, [&profiles](std::size_t row) { return standardTag(profiles.names()[row]); });
 }
 
+/// The keys of the tags that stand in their own table, which ends at its brace.
+std::set<std::string, std::less<>> tagKeys(std::string_view bytes)
+{
+    std::set<std::string, std::less<>> keys;
+    LineCursor cursor(bytes);
+    bool inTable = false;
+    while (const auto line = cursor.next()) {
+        const auto key = trimmedTableKey(splitOnce(*line, '=').left);
+        if (inTable && key == "}")
+            return keys;
+        if (inTable)
+            keys.emplace(key);
+        inTable = inTable || key == tagTable;
+    }
+    return keys;
+}
+
 std::vector<CellRow> rebuiltTags(const SettingsFiles& files, const HubProfiles& profiles)
 {
-    const auto index = files.index(path);
-    const auto tags = storedTags(files);
+    const auto bytes = files.store().read(files.paths().resolve(path)).value_or(std::string());
+    const auto keys = tagKeys(bytes);
+    const TableIndex index(bytes);
     return tagRows(profiles, [&](std::size_t row) {
         const std::string key = HubProfiles::key(row);
         // Asked for a tag that is missing, the index would find a flag of the table behind.
-        const auto value = tags.contains(key) ? index.value(key, tagTable) : std::string();
+        const auto value = keys.contains(key) ? index.value(key, tagTable) : std::string();
         return value.empty() ? standardTag(profiles.names()[row]) : value;
     });
 }

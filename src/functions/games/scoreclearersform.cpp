@@ -28,9 +28,7 @@ protected:
 
 EditorForm* makeScoreClearersForm(const FormContext& context)
 {
-    FormDescription description{"frmGamesGlobalsScoreClearers", "Games ~ Score Clearers"};
-    description.hasRestore = false;
-    auto* form = new EditorForm(description);
+    auto* form = new EditorForm({"frmGamesGlobalsScoreClearers", "Games ~ Score Clearers"});
     form->add(new ClearersPart(context));
     return form;
 }

@@ -124,9 +124,8 @@ void buildTrivia(const SettingsFiles& files, const HubProfiles& profiles)
         questionFilesPath,
         "tTriviaQuestionFiles = {\r\n[\"sDefaultQuestionFile\"] = \"TriviaQuestions\",\r\n}");
     // Only together with its table: an owner who deleted the file but kept the table doesn't get it back.
-    files.WriteSettingsFile(
-        triviaQuestionFile("TriviaQuestions"),
-        "Misc:Which short word is the title of a novel in Tavis Orlemon's series?*mort\r\n");
+    writeIfMissing(files, triviaQuestionFile("TriviaQuestions"),
+                   "Misc:Which short word is the title of a novel in Tavis Orlemon's series?*mort\r\n");
 }
 
 } // namespace quillfen

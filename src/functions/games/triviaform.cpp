@@ -138,7 +138,7 @@ void QuestionsPart::connectQuestions()
     connectButton(*m_questionBar, "EDIT", this, &QuestionsPart::editQuestion);
     connectButton(*m_questionBar, "DELETE", this, &QuestionsPart::deleteQuestion);
     connect(m_questionList, &RowList::editAsked, this, &QuestionsPart::editQuestion);
-    connect(m_questionList, &RowList::deleteAsked, this, &QuestionsPart::deleteQuestion);
+    connect(m_questionList, &RowList::deleteAsked, button(*m_questionBar, "DELETE"), &QAction::trigger);
     connect(m_questionList, &RowList::menuAsked, this,
             [this](const QPoint& at) { m_context.showMenu("mnuTriviaQuestions", at); });
 }
@@ -233,7 +233,8 @@ void QuestionsPart::addExistingFile()
         QString::fromStdString(m_context.files.paths().inSettings(R"(Games\Trivia\)")), "(*.lst)");
     if (path.size() < 5)
         return;
-    const QString file = QFileInfo(path).fileName().chopped(4);
+    QString file = QFileInfo(path).fileName();
+    file.chop(4);
     const std::string name = toBytes(file);
     if (fromBytes(name) != file) {
         notify(m_widget, "Cannot add file", file + " has characters that the hub script can't read",
@@ -270,10 +271,9 @@ void QuestionsPart::forgetDefault(const QString& name)
     // The deletion reaches the table with the next save; by itself it leaves the form's state as it is.
     const QSignalBlocker quiet(m_default);
     const int entry = m_default->findText(name, Qt::MatchExactly | Qt::MatchCaseSensitive);
-    const bool wasDefault = m_default->currentIndex() == entry;
     m_default->removeItem(entry);
-    if (wasDefault)
-        m_default->setCurrentIndex(std::max(entry - 1, 0));
+    // Whichever was the default before, it is the file before the deleted one now: owners know the form so.
+    m_default->setCurrentIndex(std::max(entry - 1, 0));
 }
 
 void QuestionsPart::openFile()
@@ -354,8 +354,7 @@ void QuestionsPart::closeFile()
 {
     bool bDiscardNow = false;
     ConfirmDiscard(*m_questionList, *m_questionBar, bDiscardNow);
-    if (bDiscardNow)
-        button(*m_questionBar, "SAVE")->setEnabled(false);
+    button(*m_questionBar, "SAVE")->setEnabled(false); // also after Cancel, until the next change
 }
 
 } // namespace

@@ -71,7 +71,9 @@ std::vector<CellRow> loadBots(const SettingsFiles& files, const HubProfiles& pro
         const std::string table = botTable(row.cells[Function]);
         const CellRow stored{{row.cells[Function], index.value("sName", table), index.value("sDesc", table),
                               index.value("sEmail", table), index.value("sFunction", table)}};
-        if (stored != CellRow{{row.cells[Function], "", "", "", ""}})
+        const bool hasBlock =
+            stored != CellRow{{row.cells[Function], "", "", "", ""}} || !index.value("bIsReg", table).empty();
+        if (hasBlock)
             row = stored;
     }
     return rows;

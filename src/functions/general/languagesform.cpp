@@ -124,7 +124,6 @@ void LanguagesPart::connectTexts()
     removeButton(*m_textBar, "DELETE");
     index -= 2;
     AddEditAllButton(*m_textBar, index);
-    button(*m_textBar, "EDIT")->setToolTip("Edit");
     connectButton(*m_textBar, "SAVE", this, &LanguagesPart::saveTexts);
     connectButton(*m_textBar, "CLOSE", this, &LanguagesPart::closeTexts);
     connectButton(*m_textBar, "EDIT", this, &LanguagesPart::editText);
@@ -192,7 +191,8 @@ void LanguagesPart::addExisting()
         QString::fromStdString(m_context.files.paths().inSettings(m_set.folder)), "(*.TBL *.tbl)");
     if (path.isEmpty())
         return;
-    const QString file = QFileInfo(path).fileName().chopped(4);
+    QString file = QFileInfo(path).fileName();
+    file.chop(4);
     const std::string name = toBytes(file);
     if (fromBytes(name) != file) {
         notify(m_widget, "Cannot Add Language File", file + " has characters that the hub script can't read",
@@ -251,7 +251,8 @@ void LanguagesPart::showTexts(std::vector<CellRow> rows, const std::string& name
 
 void LanguagesPart::setTextButtons(bool editable)
 {
-    button(*m_textBar, "SAVE")->setEnabled(false);
+    // Without a reference there are no texts that could change first.
+    button(*m_textBar, "SAVE")->setEnabled(editable && m_texts->isEmpty());
     button(*m_textBar, "CLOSE")->setEnabled(true);
     button(*m_textBar, "EDIT")->setEnabled(editable);
     button(*m_textBar, "EDITALL")->setEnabled(editable);

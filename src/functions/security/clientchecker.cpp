@@ -39,6 +39,14 @@ void saveVersions(const SettingsFiles& files, const HubProfiles& /*profiles*/,
     saveList(files, versionsFile, list);
 }
 
+std::vector<std::string> trimmed(const std::vector<std::string>& texts)
+{
+    std::vector<std::string> all;
+    for (const std::string& text : texts)
+        all.emplace_back(trimBlanks(text));
+    return all;
+}
+
 RowListDeclaration declaredVersions()
 {
     RowListDeclaration list;
@@ -55,11 +63,8 @@ RowListDeclaration declaredVersions()
     list.labelsOf = [](const CellRow& row) {
         return std::vector<std::string>{row.cells[Client] + " Client", "Min Version", "Allow"};
     };
-    list.take = [](const std::vector<std::string>& fields, CellRow& row) {
-        row.cells.clear();
-        for (const std::string& field : fields)
-            row.cells.emplace_back(trimBlanks(field));
-    };
+    list.fieldsOf = [](const CellRow& row) { return trimmed(row.cells); };
+    list.take = [](const std::vector<std::string>& fields, CellRow& row) { row.cells = trimmed(fields); };
     list.deletion = {"Delete Client?", "Do you really want to delete this Client?",
                      "There must be a minimum of one Client"};
     list.load = loadVersions;

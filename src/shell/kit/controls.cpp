@@ -44,13 +44,23 @@ Control numberBox(const Setting& setting, const std::function<void()>& changed)
             [box, key = setting.key](SettingValues& values) { values[key] = toBytes(box->text()); }};
 }
 
+/// Keeps so many characters of a text. A limit on typing would keep out what is typed in front of the last
+/// one.
+void keepFirst(QLineEdit& box, int limit)
+{
+    QObject::connect(&box, &QLineEdit::textChanged, &box, [&box, limit](const QString& text) {
+        if (text.size() > limit)
+            box.setText(text.left(limit));
+    });
+}
+
 Control textBox(const Setting& setting, const std::function<void()>& changed)
 {
     auto* box = new QLineEdit;
     box->setObjectName(fromBytes(setting.control));
     limitToCodePage(*box);
     if (setting.limit > 0)
-        box->setMaxLength(setting.limit);
+        keepFirst(*box, setting.limit);
     QObject::connect(box, &QLineEdit::textChanged, box, changed);
     return {box,
             [box, key = setting.key](const SettingValues& values) {
@@ -133,8 +143,12 @@ Control optionGroup(const Setting& setting, const std::function<void()>& changed
     }
     return {group,
             [buttons, key = setting.key](const SettingValues& values) {
-                for (std::size_t place = 0; place < buttons.size(); ++place)
-                    buttons[place]->setChecked(values.at(key) == std::to_string(place));
+                const std::string chosen = values.at(key).empty() ? "0" : values.at(key);
+                for (std::size_t place = 0; place < buttons.size(); ++place) {
+                    buttons[place]->setAutoExclusive(false); // else the last choice can't be taken back
+                    buttons[place]->setChecked(chosen == std::to_string(place));
+                    buttons[place]->setAutoExclusive(true);
+                }
             },
             [buttons, key = setting.key](SettingValues& values) {
                 const auto chosen =

@@ -104,8 +104,11 @@ void EditorForm::save()
         for (FormPart* part : m_parts)
             part->save();
     });
-    if (saved)
-        bDirty = SetControlsClean(*m_toolbar, *m_statusBar);
+    if (!saved)
+        return;
+    if (m_description.reloadsAfterSave)
+        load();
+    bDirty = SetControlsClean(*m_toolbar, *m_statusBar);
 }
 
 bool EditorForm::confirmDiscard()

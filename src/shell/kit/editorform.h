@@ -30,6 +30,7 @@ struct FormDescription
     QSize minimumTwips{};
     AfterDiscard afterDiscard = AfterDiscard::Clean;
     bool hasRestore = true;
+    bool reloadsAfterSave = false;
     Qt::Orientation parts = Qt::Vertical; ///< how the parts stand to each other
     QString restoreTitle = "Restore defaults?";
     QString restoreText = "Restore to defaults?";

@@ -1,5 +1,6 @@
 #include "shell/kit/numberbox.h"
 
+#include "settings/lines.h"
 #include "shell/kit/codepagetext.h"
 
 #include <QWheelEvent>
@@ -25,9 +26,15 @@ void NumberBox::setText(const QString& text)
     lineEdit()->setText(text);
 }
 
+/// The whole part of the number that the text begins with: what is loaded or typed may be a fraction.
+long long NumberBox::value() const
+{
+    return static_cast<long long>(std::clamp(leadingNumber(toBytes(text())), -1e18, 1e18));
+}
+
 void NumberBox::stepBy(int steps)
 {
-    const auto stepped = text().trimmed().toLongLong() + static_cast<long long>(steps) * m_step;
+    const auto stepped = value() + static_cast<long long>(steps) * m_step;
     setText(QString::number(std::clamp(stepped, m_minimum, m_maximum)));
 }
 
@@ -41,7 +48,7 @@ QSize NumberBox::sizeHint() const
 
 QAbstractSpinBox::StepEnabled NumberBox::stepEnabled() const
 {
-    const auto value = text().trimmed().toLongLong();
+    const long long value = this->value();
     StepEnabled enabled = StepNone;
     // Either arrow brings a number from outside back into the range.
     enabled.setFlag(StepUpEnabled, value != m_maximum);

@@ -36,6 +36,8 @@ protected:
     void wheelEvent(QWheelEvent* event) override;
 
 private:
+    long long value() const;
+
     long long m_minimum;
     long long m_maximum;
     int m_step = 1;

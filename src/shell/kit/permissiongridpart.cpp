@@ -93,11 +93,13 @@ private:
         const PermissionCell& cell = shown(row);
         const PermissionCell* above = row > 0 ? &shown(row - 1) : nullptr;
         const bool newCommand = !above || above->command != cell.command;
+        const bool newProfile = newCommand || above->by != cell.by;
         switch (column) {
         case 0:
-            return newCommand ? m_commands[cell.command] : QString();
+            return newCommand || (newProfile && m_words.namesCommandByProfile) ? m_commands[cell.command]
+                                                                               : QString();
         case 1:
-            return newCommand || above->by != cell.by ? profile(cell.by) : QString();
+            return newProfile ? profile(cell.by) : QString();
         case 2:
             if (!m_words.targets)
                 return cell.allowed ? m_words.yes : m_words.no;

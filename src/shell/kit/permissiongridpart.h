@@ -20,10 +20,11 @@ struct GridWords
     QStringList columns = {"Command", "By Profile", "On Profile", "Allow To"};
     QString yes = "Yes";
     QString no = "No";
-    bool filters = true;       ///< the buttons that show one command or one acting profile
-    bool namesTarget = false;  ///< each row names its target profile, also where the row above has the same
-    bool targets = true;       ///< false: one value per command and profile, and three columns
-    bool clickToggles = false; ///< a click on a row toggles it
+    bool filters = true;      ///< the buttons that show one command or one acting profile
+    bool namesTarget = false; ///< each row names its target profile, also where the row above has the same
+    bool namesCommandByProfile = false; ///< each acting profile's first row names the command
+    bool targets = true;                ///< false: one value per command and profile, and three columns
+    bool clickToggles = false;          ///< a click on a row toggles it
 
     /// The button that shows one command. A press of it takes the filter off if its key is COMMAND.
     QString commandFilter = "COMMAND";

@@ -178,7 +178,8 @@ void RowListPart::edit()
 
 void RowListPart::removeSelected()
 {
-    const int at = m_list->currentRow();
+    const bool isOnly = m_list->rows().size() == 1; // then it is clear which, also when none is selected
+    const int at = isOnly ? 0 : m_list->currentRow();
     if (at < 0 || !isLit("DELETE"))
         return;
     const CellRow& row = m_list->rows()[static_cast<std::size_t>(at)];

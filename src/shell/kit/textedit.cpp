@@ -104,8 +104,7 @@ void TextEditDialog::discard()
 {
     if (!confirmDiscard())
         return;
-    if (m_mode == Mode::New)
-        m_text->clear();
+    m_mode = Mode::Edit; // what is on the disk under a new file's name, if anything is
     load();
 }
 

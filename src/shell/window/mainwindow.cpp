@@ -142,7 +142,8 @@ EditorForm* MainWindow::formOf(const QString& key)
 {
     const QString name = formName(key);
     if (auto* open = subWindowOf(name)) {
-        open->showNormal();
+        if (open->isMinimized())
+            open->showNormal();
         m_area->setActiveSubWindow(open);
         return qobject_cast<EditorForm*>(open->widget());
     }

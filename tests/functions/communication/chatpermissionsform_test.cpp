@@ -36,11 +36,12 @@ TEST_P(ChatPermissionForms, ShowABlockPerActingProfile)
     auto& form = openForm();
     EXPECT_EQ(form.objectName(), "frmCommunication" + command);
     EXPECT_EQ(form.windowTitle(), "Communication ~ " + command);
-    EXPECT_EQ(shown(list(form)),
-              (QStringList{command + "|Unregistered|Unregistered|No", "||Master|No", "||Operator|No",
-                           "||VIP|No", "|Master|Unregistered|No", "||Master|No", "||Operator|No", "||VIP|No",
-                           "|Operator|Unregistered|No", "||Master|No", "||Operator|No", "||VIP|No",
-                           "|VIP|Unregistered|No", "||Master|No", "||Operator|No", "||VIP|No"}));
+    EXPECT_EQ(
+        shown(list(form)),
+        (QStringList{command + "|Unregistered|Unregistered|No", "||Master|No", "||Operator|No", "||VIP|No",
+                     command + "|Master|Unregistered|No", "||Master|No", "||Operator|No", "||VIP|No",
+                     command + "|Operator|Unregistered|No", "||Master|No", "||Operator|No", "||VIP|No",
+                     command + "|VIP|Unregistered|No", "||Master|No", "||Operator|No", "||VIP|No"}));
     EXPECT_FALSE(isDirty(form));
 }
 
@@ -78,7 +79,7 @@ TEST_P(ChatPermissionForms, ToggleByButtonAndByDoubleClickAndSave)
     doubleClickRow(list(form), 11);
     doubleClickRow(list(form), 12);
     doubleClickRow(list(form), 12);
-    EXPECT_EQ(shown(list(form))[12], "|VIP|Unregistered|No");
+    EXPECT_EQ(shown(list(form))[12], command + "|VIP|Unregistered|No");
     const auto before = shown(list(form));
     button(form, "SAVE").trigger();
     EXPECT_FALSE(isDirty(form));

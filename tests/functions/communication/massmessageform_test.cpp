@@ -34,7 +34,7 @@ TEST_F(MassMessageForm, ShowsABlockPerActingProfileWithTheNamedTargetsBehind)
     ASSERT_EQ(rows.size(), 4 * 7);
     EXPECT_EQ(rows.mid(0, 8), (QStringList{"MassMessage|Unregistered|Unregistered|No", "||Master|No",
                                            "||Operator|No", "||VIP|No", "||Passive|No", "||Banner|No",
-                                           "||All|No", "|Master|Unregistered|No"}));
+                                           "||All|No", "MassMessage|Master|Unregistered|No"}));
     QStringList captions;
     for (int column = 0; column < 6; ++column)
         captions.append(grid(form).model()->headerData(column, Qt::Horizontal).toString());

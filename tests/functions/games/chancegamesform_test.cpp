@@ -208,13 +208,15 @@ protected:
     std::string& file = hub.file("Games/Globals/ScoreClearers.tbl");
 };
 
-TEST_F(ScoreClearers, HaveNoDefaultsToRestore)
+TEST_F(ScoreClearers, HaveNothingToRestoreAndBecomeDirtyAllTheSame)
 {
     auto& form = open("Games~ScoreClearers");
     EXPECT_EQ(form.objectName(), "frmGamesGlobalsScoreClearers");
     EXPECT_EQ(form.windowTitle(), "Games ~ Score Clearers");
     EXPECT_EQ(shown(users(form)), QStringList{"Quill"});
-    EXPECT_EQ(find<QToolBar>(form, "tlbFormToolbar").findChild<QAction*>("RESTORE"), nullptr);
+    answering(QMessageBox::Ok, [&form] { button(form, "RESTORE").trigger(); });
+    EXPECT_EQ(shown(users(form)), QStringList{"Quill"});
+    EXPECT_TRUE(isDirty(form));
 }
 
 TEST_F(ScoreClearers, AreAddedEditedAndSaved)
