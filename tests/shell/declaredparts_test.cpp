@@ -11,6 +11,7 @@
 #include <QComboBox>
 #include <QGroupBox>
 #include <QLineEdit>
+#include <QRadioButton>
 
 namespace quillfen {
 namespace {
@@ -64,6 +65,44 @@ TEST_F(FormOf, ALetterOfNoEntryShowsAsNoChoice)
                         "\tsAction = \"k\",\r\n");
     EXPECT_EQ(find<QComboBox>(form, "cboComboBox").currentText(), "");
     EXPECT_EQ(saved(form), "tSample = {\r\n\tsAction = \"\",\r\n}\r\n");
+}
+
+TEST_F(FormOf, AnOptionWithoutAKeyIsTheFirstAndNotTheDefault)
+{
+    auto& form = formOf({options("iFormat", "optOption", "Format", "1", 0, {"Plain", "Long"})}, "");
+    EXPECT_TRUE(find<QRadioButton>(form, "optOption(0)").isChecked());
+    EXPECT_FALSE(find<QRadioButton>(form, "optOption(1)").isChecked());
+}
+
+TEST_F(FormOf, ADiscardTakesAChoiceBackAlsoWhereNoneWasMade)
+{
+    auto& form =
+        formOf({options("iFormat", "optOption", "Format", "1", 0, {"Plain", "Long"})}, "\tiFormat = 7,\r\n");
+    auto& plain = find<QRadioButton>(form, "optOption(0)");
+    auto& longer = find<QRadioButton>(form, "optOption(1)");
+    longer.click();
+    EXPECT_TRUE(isDirty(form));
+    test::answering(QMessageBox::Ok, [&form] { button(form, "DISCARD").trigger(); });
+    EXPECT_FALSE(plain.isChecked());
+    EXPECT_FALSE(longer.isChecked());
+    longer.click();
+    plain.click();
+    EXPECT_FALSE(longer.isChecked()) << "one choice takes the other's place as before";
+    EXPECT_EQ(saved(form), "tSample = {\r\n\tiFormat = 0,\r\n}\r\n");
+}
+
+TEST_F(FormOf, ATextBoxWithALimitKeepsTheFirstOfWhatItHolds)
+{
+    Setting hint = text("sHint", "txtTextBox", "Hint", "*");
+    hint.limit = 1;
+    auto& form = formOf({hint}, "\tsHint = \"a\",\r\n");
+    auto& box = find<QLineEdit>(form, "txtTextBox");
+    box.setCursorPosition(0);
+    QTest::keyClick(&box, 'b');
+    EXPECT_EQ(box.text(), "b");
+    QTest::keyClick(&box, 'c');
+    EXPECT_EQ(box.text(), "b");
+    EXPECT_EQ(saved(form), "tSample = {\r\n\tsHint = \"b\",\r\n}\r\n");
 }
 
 TEST_F(FormOf, ARestoreLeavesAloneWhatIsKept)
@@ -183,6 +222,16 @@ TEST_F(FormOf, AProfileKeyIsChosenAmongTheHubsOwnProfiles)
     QTest::keyClick(&combo, Qt::Key_Down);
     EXPECT_TRUE(isDirty(form));
     EXPECT_EQ(saved(form), "tSample = {\r\n\tiProfile = 2,\r\n}\r\n");
+}
+
+TEST_F(FormOf, OfTwoProfilesOfOneNameTheFirstOnesKeyIsSaved)
+{
+    hub.profiles = {};
+    for (const char* name : {"Reg", "Operator", "Reg"})
+        hub.profiles.add(name);
+    auto& form = formOf({profileKey("iProfile", "cboComboBox", "Profile")}, "\tiProfile = 1,\r\n");
+    find<QComboBox>(form, "cboComboBox").setCurrentIndex(2);
+    EXPECT_EQ(saved(form), "tSample = {\r\n\tiProfile = 0,\r\n}\r\n");
 }
 
 TEST_F(FormOf, AProfileKeyOfNoProfileIsKeptAndNoKeyIsTheFirst)

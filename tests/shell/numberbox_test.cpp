@@ -42,6 +42,8 @@ TEST(NumberBoxTest, ItsArrowsKeepTheRange)
     EXPECT_EQ(stepped("9999", Qt::Key_Down), "720");
     EXPECT_EQ(stepped("-9", Qt::Key_Up), "1");
     EXPECT_EQ(stepped("abc", Qt::Key_Up), "1");
+    EXPECT_EQ(stepped("488.28125", Qt::Key_Up), "489");
+    EXPECT_EQ(stepped("488.28125", Qt::Key_Down), "487");
 }
 
 TEST(NumberBoxTest, EitherArrowBringsANumberBackIntoItsRange)

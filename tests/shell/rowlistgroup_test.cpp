@@ -65,6 +65,20 @@ TEST_F(GroupForm, ARestoreReachesEveryList)
     EXPECT_TRUE(find<RowList>(form, "lvwTwo").isEmpty());
 }
 
+TEST_F(GroupForm, ADeleteWithoutASelectionMeansTheOnlyRow)
+{
+    auto& form = open("Games~Anagrams");
+    const auto questions = [&form](const char* toolbar) {
+        return test::answering(QMessageBox::Ok, [&] { button(form, "DELETE", toolbar).trigger(); }).size();
+    };
+    EXPECT_EQ(questions("tlbTwo"), 0) << "of two rows neither is meant";
+    EXPECT_FALSE(isDirty(form));
+    EXPECT_EQ(questions("tlbOne"), 1);
+    EXPECT_TRUE(find<RowList>(form, "lvwOne").isEmpty());
+    EXPECT_EQ(shown(find<RowList>(form, "lvwTwo")), (QStringList{"b", "c"}));
+    EXPECT_TRUE(isDirty(form));
+}
+
 /// A list that lets nothing be taken or deleted but what is called "good".
 class PickyPart : public RowListPart
 {

@@ -23,21 +23,27 @@ protected:
     static QComboBox& action(EditorForm& form) { return find<QComboBox>(form, "cboComboBox"); }
 };
 
+TEST_F(BlockerForms, EachOffersTheSixActionsAndTheRangeOfATimeBan)
+{
+    for (const char* key : {"Security~BadNickBlocker", "Security~CloneBlocker", "Security~AntiVirus"}) {
+        auto& form = open(key);
+        EXPECT_EQ(text(form, "lblLabel(0)"), "TimeBan") << key;
+        EXPECT_EQ(text(form, "lblLabel(1)"), "Action") << key;
+        EXPECT_EQ(entries(action(form)),
+                  (QStringList{"Disconnect", "Warn", "Notify Ops", "Kick", "TempBan", "Ban"}))
+            << key;
+        EXPECT_EQ(range(form, "updUpDown"), (std::pair<std::string, std::string>("5", "1440"))) << key;
+    }
+}
+
 TEST_F(BlockerForms, TheBadNickFormSavesBothFiles)
 {
     auto& form = open("Security~BadNickBlocker");
     EXPECT_EQ(form.objectName(), "frmSecurityBadNickBlocker");
     EXPECT_EQ(form.windowTitle(), "Security ~ BadNickBlocker");
-    EXPECT_EQ(text(form, "lblLabel(0)"), "TimeBan");
-    EXPECT_EQ(text(form, "lblLabel(1)"), "Action");
     EXPECT_EQ(text(form, "lblLabel(2)"), "Exempt Profiles");
     EXPECT_EQ(find<QLineEdit>(form, "txtUpDown").text(), "60");
-    QStringList words;
-    for (int at = 0; at < action(form).count(); ++at)
-        words.append(action(form).itemText(at));
-    EXPECT_EQ(words, (QStringList{"Disconnect", "Warn", "Notify Ops", "Kick", "TempBan", "Ban"}));
     EXPECT_EQ(action(form).currentText(), "TempBan");
-    EXPECT_EQ(range(form, "updUpDown"), (std::pair<std::string, std::string>("5", "1440")));
     type(form, "txtUpDown", "90");
     action(form).setCurrentText("Ban");
     tick(form, "lvwExemptProfiles", {1, 3});
@@ -58,9 +64,7 @@ TEST_F(BlockerForms, TheBadNicksShowWithoutNumbersAndCloseUpAfterADelete)
     auto& list = find<RowList>(form, "lvwBadNickList");
     EXPECT_EQ(shown(list), (QStringList{"root", "ad min", "bot"}));
     EXPECT_EQ(list.model()->headerData(0, Qt::Horizontal), "Nick");
-    const auto labels = form.findChildren<QLabel*>();
-    EXPECT_TRUE(
-        std::any_of(labels.begin(), labels.end(), [](auto* label) { return label->text() == "Bad Nicks"; }));
+    EXPECT_EQ(labelOf(form, "lvwBadNickList"), "Bad Nicks");
     clickRow(list, 1);
     auto boxes = answering(QMessageBox::Cancel, [&form] { button(form, "DELETE", "tlbListview").trigger(); });
     ASSERT_EQ(boxes.size(), 1);
@@ -85,7 +89,7 @@ TEST_F(BlockerForms, TheLastBadNickMayGo)
     EXPECT_EQ(nicks, "tBadNickBlockerNickList = {\r\n}\r\n");
 }
 
-TEST_F(BlockerForms, ADoubleClickEditsABadNick)
+TEST_F(BlockerForms, ADoubleClickAndTheButtonEditABadNick)
 {
     nicks = golden("BadNickList.save.tbl");
     auto& form = open("Security~BadNickBlocker");
@@ -96,6 +100,9 @@ TEST_F(BlockerForms, ADoubleClickEditsABadNick)
     EXPECT_EQ(seen[0], (SeenDialog{"frmGlobalEditOneFields", "Edit Bad Nick", {"Bad Nick"}, {"ad min"}}));
     EXPECT_EQ(shown(list), (QStringList{"root", "admin", "bot"}));
     EXPECT_TRUE(isDirty(form));
+    clickRow(list, 2);
+    entering({{{"robot"}}}, [&form] { button(form, "EDIT", "tlbListview").trigger(); });
+    EXPECT_EQ(shown(list), (QStringList{"root", "admin", "robot"}));
 }
 
 TEST_F(BlockerForms, ARestoreSetsTimeAndActionAndLeavesTheLists)
@@ -143,6 +150,7 @@ TEST_F(BlockerForms, TheCloneFormSavesBothFiles)
     EXPECT_EQ(seen[0], (SeenDialog{"frmGlobalEditOneFields", "Add Exempt User", {"Exempt User"}, {""}}));
     auto& list = find<RowList>(form, "lvwExemptUsers");
     EXPECT_EQ(list.model()->headerData(0, Qt::Horizontal), "User");
+    EXPECT_EQ(labelOf(form, "lvwExemptUsers"), "Exempt Users");
     clickRow(list, 1);
     const auto edited = entering({{{"Bob"}}}, [&form] { button(form, "EDIT", "tlbListview").trigger(); });
     ASSERT_EQ(edited.size(), 1);
@@ -158,6 +166,12 @@ TEST_F(BlockerForms, TheCloneFormSavesBothFiles)
     EXPECT_EQ(boxes[0].text, "Do you really want to delete this Exempt User?");
     discard(form);
     EXPECT_EQ(shown(list), (QStringList{"Ann", "Bob"}));
+    for (int time = 0; time < 2; ++time) {
+        clickRow(list, 0);
+        answering(QMessageBox::Ok, [&form] { button(form, "DELETE", "tlbListview").trigger(); });
+    }
+    save(form);
+    EXPECT_EQ(users, "tCloneBlockerExemptUsers = {\r\n}\r\n") << "the last one may go";
 }
 
 TEST_F(BlockerForms, TheAntiVirusNotificationIsNeitherReadNorWrittenAndOnlyMakesTheFormDirty)
@@ -175,6 +189,8 @@ TEST_F(BlockerForms, TheAntiVirusNotificationIsNeitherReadNorWrittenAndOnlyMakes
     action(form).setCurrentText("Warn");
     save(form);
     EXPECT_TRUE(sameBytes(virus, golden("AntiVirus.save.tbl")));
+    EXPECT_TRUE(box.isChecked());
+    discard(form);
     EXPECT_TRUE(box.isChecked());
 }
 

@@ -57,7 +57,9 @@ TEST_F(ClientCheckerForm, SavesBothFiles)
     entering({{{QString(), ""}}}, [&form] { clientButton(form, "EDIT").trigger(); });
     EXPECT_EQ(shown(clients(form)),
               (QStringList{"QuickShare|0.707|True", "OldShare|1.00|False", "AnyShare||True"}));
+    hub.store.log.clear();
     save(form);
+    EXPECT_EQ(written(), (std::vector<std::string>{"ClientCheckerSettings.tbl", "ClientVersions.tbl"}));
     EXPECT_TRUE(sameBytes(settings, golden("ClientChecker.save.tbl")));
     EXPECT_TRUE(sameBytes(versions, golden("ClientVersions.save.tbl")));
 }
@@ -67,7 +69,9 @@ TEST_F(ClientCheckerForm, ADoubleClickEditsAClient)
     versions = golden("ClientVersions.save.tbl");
     auto& form = open("Security~ClientChecker");
     EXPECT_TRUE(clientButton(form, "EDIT").isEnabled());
-    EXPECT_EQ(clients(form).model()->headerData(1, Qt::Horizontal), "Min Version");
+    const char* headings[] = {"Client", "Min Version", "Allow"};
+    for (int column = 0; column < 3; ++column)
+        EXPECT_EQ(clients(form).model()->headerData(column, Qt::Horizontal), headings[column]);
     clickRow(clients(form), 1);
     const auto seen =
         entering({{{QString(), QString(), "True"}}}, [&form] { doubleClickRow(clients(form), 1); });
@@ -77,7 +81,37 @@ TEST_F(ClientCheckerForm, ADoubleClickEditsAClient)
                                    {"OldShare Client", "Min Version", "Allow"},
                                    {"OldShare", "1.00", "False"}}));
     EXPECT_EQ(shown(clients(form))[1], "OldShare|1.00|True");
-    EXPECT_TRUE(isDirty(form));
+    save(form);
+    EXPECT_NE(settings.find("\tsAction = \"T\",\r\n"), std::string::npos)
+        << "the action comes back as it was";
+}
+
+TEST_F(ClientCheckerForm, AnEditTrimsWhatItShowsAndWhatItTakes)
+{
+    versions = "tClientVersions = {\r\n\t[\"a\"] = \"1^ 2\",\r\n}\r\n";
+    auto& form = open("Security~ClientChecker");
+    clickRow(clients(form), 0);
+    const auto seen = entering({{{QString(), " 3 "}}}, [&form] { clientButton(form, "EDIT").trigger(); });
+    ASSERT_EQ(seen.size(), 1);
+    EXPECT_EQ(seen[0].values, (QStringList{"a", "2", "True"}));
+    EXPECT_EQ(shown(clients(form)), QStringList{"a|3|True"});
+}
+
+TEST_F(ClientCheckerForm, ANewClientNeedsAllThreeFields)
+{
+    auto& form = open("Security~ClientChecker");
+    const auto seen = entering({{{"a", "", "True"}, "cmdAdd"},
+                                {{QString(), QString()}, "cmdOK"},
+                                {{QString(), "1"}, "cmdAdd"},
+                                {{"b", "2"}, "cmdOK"},
+                                {{QString(), QString(), "False"}, "cmdOK"}},
+                               [&form] { clientButton(form, "NEW").trigger(); });
+    ASSERT_EQ(seen.size(), 5);
+    EXPECT_EQ(seen[1].values, (QStringList{"a", "", "True"})) << "the same dialog stays";
+    EXPECT_EQ(seen[2].values, (QStringList{"a", "", "True"}));
+    EXPECT_EQ(seen[3].values, (QStringList{"", "", ""}));
+    EXPECT_EQ(seen[4].values, (QStringList{"b", "2", ""}));
+    EXPECT_EQ(shown(clients(form)), (QStringList{"a|1|True", "b|2|False"}));
 }
 
 TEST_F(ClientCheckerForm, ADeleteAsksAndTheLastClientStays)

@@ -52,6 +52,10 @@ TEST_F(KickSettingsForm, ShowsItsControlsWithLabelsAndRanges)
         arrows.stepBy(-9999);
         EXPECT_EQ(box.text(), numbers[at].lowest);
     }
+    find<QLineEdit>(form, "txtUpDown(5)").setText("1259");
+    QTest::keyClick(&find<QAbstractSpinBox>(form, "updUpDown(5)"), Qt::Key_Up);
+    EXPECT_EQ(find<QLineEdit>(form, "txtUpDown(5)").text(), "1260") << "a plain number and no time";
+    EXPECT_EQ(find<QToolBar>(form, "tlbCheckBox").actions().size(), 1);
 }
 
 TEST_F(KickSettingsForm, SavesEditsInItsOwnOrderAndClampsNothing)
@@ -77,12 +81,17 @@ TEST_F(KickSettingsForm, ARestoreShowsTheDefaultsAndWritesNothing)
     file = golden("security/KickSettings.save.tbl");
     auto& form = open("Security~Kicks~Settings");
     EXPECT_EQ(find<QLineEdit>(form, "txtUpDown(5)").text(), "1299");
-    answering(QMessageBox::Ok, [&form] { button(form, "RESTORE").trigger(); });
+    find<QCheckBox>(form, "chkCheckBox(1)").click();
+    const auto boxes = answering(QMessageBox::Ok, [&form] { button(form, "RESTORE").trigger(); });
+    ASSERT_EQ(boxes.size(), 1);
+    EXPECT_EQ(boxes[0].title, "Restore defaults?");
+    EXPECT_EQ(boxes[0].text, "Restore to defaults?");
     QStringList numbers;
     for (int at = 0; at < 7; ++at)
         numbers.append(find<QLineEdit>(form, QString("txtUpDown(%1)").arg(at)).text());
     EXPECT_EQ(numbers, (QStringList{"5", "5", "5", "10", "30", "2355", "10"}));
     EXPECT_TRUE(find<QCheckBox>(form, "chkCheckBox(0)").isChecked());
+    EXPECT_TRUE(find<QCheckBox>(form, "chkCheckBox(1)").isChecked());
     EXPECT_FALSE(find<QCheckBox>(form, "chkCheckBox(2)").isChecked());
     EXPECT_TRUE(isDirty(form));
     EXPECT_EQ(file, golden("security/KickSettings.save.tbl"));
@@ -193,6 +202,42 @@ TEST_F(KickPermissionsForm, ItsToolbarsHaveTheirButtons)
     EXPECT_EQ(entries("PROFILE"), (QStringList{"Unregistered=Unregistered", "Master=Master", "Reg=Reg"}));
 }
 
+TEST_F(KickPermissionsForm, WhereTheTargetIsThatOfTheRowAboveARowDoesNotNameIt)
+{
+    hub.profiles = {};
+    auto& form = openForm();
+    EXPECT_EQ(shown(list(form)), (QStringList{"Drop|Unregistered|Unregistered|No", "Warn|Unregistered||No",
+                                              "Kick|Unregistered||No", "TimeBan|Unregistered||No",
+                                              "Ban|Unregistered||No", "Unban|Unregistered||No"}));
+    doubleClickRow(list(form), 1);
+    EXPECT_EQ(shown(list(form))[1], "Warn|Unregistered||Yes");
+    button(form, "SAVE").trigger();
+    for (const std::string word : {"Drop", "Warn", "Kick", "TimeBan", "Ban", "Unban"})
+        EXPECT_EQ(hub.file("Security/Kick/KickCan" + word + ".tbl"),
+                  "tKickCan" + word + " = {\r\n\t[-1] = {\r\n\t\t[-1] = " + (word == "Warn" ? "1" : "0") +
+                      ",\r\n\t},\r\n}\r\n");
+}
+
+TEST_F(KickPermissionsForm, AFilterPressedWithoutAChoiceStaysReleased)
+{
+    auto& form = openForm();
+    for (const char* filter : {"COMMAND", "PROFILE"}) {
+        button(form, filter, "tlbListview").trigger();
+        EXPECT_FALSE(button(form, filter, "tlbListview").isChecked()) << filter;
+    }
+    EXPECT_EQ(shown(list(form)).size(), 54);
+}
+
+TEST_F(KickPermissionsForm, AProfileThatIsNamedLikeACommandsEntryFiltersThatCommand)
+{
+    hub.profiles.add("C*Kick");
+    auto& form = openForm();
+    choose(form, "PROFILE", "C*Kick");
+    EXPECT_EQ(shown(list(form)).size(), 16);
+    EXPECT_EQ(shown(list(form)).first(), "Kick|Unregistered|Unregistered|No");
+    EXPECT_TRUE(button(form, "PROFILE", "tlbListview").isChecked());
+}
+
 TEST_F(KickPermissionsForm, FiltersCombineAndTheFirstRowShownNamesItsCommand)
 {
     auto& form = openForm();
@@ -235,6 +280,22 @@ TEST_F(KickPermissionsForm, TheFirstSaveMakesTheTimeBansFile)
     button(form, "SAVE").trigger();
     EXPECT_TRUE(sameBytes(hub.file("Security/Kick/KickCanTimeBan.tbl"),
                           square("tKickCanTimeBan", "000010000").toStdString()));
+}
+
+TEST_F(KickPermissionsForm, ASaveWritesTheSixFilesInOrderAndReadsThemAgain)
+{
+    auto& form = openForm();
+    doubleClickRow(list(form), 0);
+    hub.store.log.clear();
+    hub.store.readings.clear();
+    button(form, "SAVE").trigger();
+    std::vector<std::string> expected;
+    for (const char* word : {"Drop", "Warn", "Kick", "TimeBan", "Ban", "Unban"}) {
+        const std::string path = hub.root + "/Security/Kick/KickCan" + word + ".tbl";
+        expected.push_back("write " + path);
+        EXPECT_EQ(hub.store.readings[path], 1) << word;
+    }
+    EXPECT_EQ(hub.store.log, expected);
 }
 
 TEST_F(KickPermissionsForm, WhatAFilterHidesIsSavedAllTheSame)

@@ -51,6 +51,8 @@ TEST_F(MainChatForms, TheLockFormSavesAndRestoresBothLists)
     auto& form = open("Security~MainLock");
     EXPECT_EQ(form.objectName(), "frmSecurityMainLock");
     EXPECT_EQ(form.windowTitle(), "Security ~ MainLock");
+    EXPECT_EQ(labelOf(form, "lvwEnabledProfiles"), "Enabled Profiles");
+    EXPECT_EQ(labelOf(form, "lvwExemptProfiles"), "Exempt Profiles");
     tick(form, "lvwEnabledProfiles", {0});
     EXPECT_TRUE(isDirty(form));
     tick(form, "lvwExemptProfiles", {2, 3});
@@ -66,6 +68,7 @@ TEST_F(MainChatForms, TheCleanerFormSavesItsList)
     auto& form = open("Security~MainCleaner");
     EXPECT_EQ(form.objectName(), "frmSecurityMainCleaner");
     EXPECT_EQ(form.windowTitle(), "Security ~ MainCleaner");
+    EXPECT_EQ(labelOf(form, "lvwEnabledProfiles"), "Enabled Profiles");
     tick(form, "lvwEnabledProfiles", {1});
     save(form);
     EXPECT_TRUE(sameBytes(file("MainCleaner/MainCleanerSettings.tbl"), golden("MainCleaner.save.tbl")));
@@ -80,6 +83,7 @@ TEST_F(MainChatForms, TheCleanersTextIsSavedByItsOwnEditor)
               [](QWidget& modal) {
                   EXPECT_EQ(modal.objectName(), "frmGlobalTextEdit");
                   auto* edit = modal.findChild<QPlainTextEdit*>("txtTextBox");
+                  EXPECT_EQ(edit->toPlainText(), "Cleaned");
                   edit->selectAll();
                   QTest::keyClicks(edit, "Swept");
                   modal.findChild<QToolBar*>("tlbFormToolbar")->findChild<QAction*>("SAVE")->trigger();

@@ -57,6 +57,33 @@ TEST_F(ProfileRules, ANewProfileGetsABlockOfDefaults)
     EXPECT_TRUE(sameBytes(named("s"), expected));
 }
 
+TEST_F(ProfileRules, ARebuildTakesAnEmptyValueForAMissingOne)
+{
+    const auto emptied = [](std::string text, std::string_view row, std::string_view emptyRow) {
+        EXPECT_NE(text.find(row), std::string::npos) << row;
+        for (auto at = text.find(row); at != std::string::npos; at = text.find(row))
+            text.replace(at, row.size(), emptyRow);
+        return text;
+    };
+    // The delay has no value in a fresh file, and stays without one.
+    named("Settings") =
+        emptied(golden("ProfileRuleSettings.build.tbl"), "bEnableRedirectLog = 1,", "bEnableRedirectLog = ,");
+    named("s") = emptied(golden("ProfileRules.build.tbl"), "iMinSlots = 0,", "iMinSlots = ,");
+    named("s") = emptied(named("s"), "sHubSlotRatio = \"0/0\",", "sHubSlotRatio = \"\",");
+    build();
+    EXPECT_TRUE(sameBytes(named("Settings"), golden("ProfileRuleSettings.build.tbl")));
+    EXPECT_TRUE(sameBytes(named("s"), golden("ProfileRules.build.tbl")));
+}
+
+TEST_F(ProfileRules, AMessageIsShownUpToAnEqualsSignAndKeptWholeByARebuild)
+{
+    named("s") = "tProfileRules = {\r\n\ttMessages = {\r\n\t\tsMinShare = \"a=b\",\r\n\t},\r\n}\r\n";
+    EXPECT_EQ(profileRules().lists.at(1).load(hub.files, hub.profiles),
+              (std::vector<CellRow>{{{"MinShare", "a"}}}));
+    build();
+    EXPECT_NE(named("s").find("\t\tsMinShare = \"a=b\",\r\n"), std::string::npos);
+}
+
 TEST_F(ProfileRules, TheUnitOfAShareGoesByItsDigits)
 {
     const std::vector<std::pair<const char*, const char*>> shares = {

@@ -18,6 +18,14 @@ protected:
 
     static RowList& permissions(EditorForm& form) { return find<RowList>(form, "lvwPermissions"); }
 
+    static QStringList captions(const RowList& list)
+    {
+        QStringList all;
+        for (int column = 0; column < list.model()->columnCount(); ++column)
+            all.append(list.model()->headerData(column, Qt::Horizontal).toString());
+        return all;
+    }
+
     /// Edits a row of a list by its button and returns what the dialog showed.
     static SeenDialog edit(EditorForm& form, const char* word, int row, const QStringList& fields)
     {
@@ -39,6 +47,7 @@ TEST_F(ProfileRuleForms, SettingsAreShownSavedAndRestored)
     EXPECT_TRUE(log.isChecked()) << "a rebuild writes 1";
     EXPECT_EQ(find<QLineEdit>(form, "txtUpDown").text(), "0");
     EXPECT_EQ(text(form, "lblLabel(0)"), "Automatic Check Delay");
+    EXPECT_EQ(boxesOf(form, "Days"), QStringList{"updUpDown"});
     EXPECT_EQ(text(form, "lblLabel(1)"), "Enabled Get Profiles");
     EXPECT_EQ(text(form, "lblLabel(2)"), "Enabled Set Profiles");
     for (const char* list : {"lvwEnabledGetProfiles", "lvwEnabledSetProfiles"})
@@ -55,9 +64,11 @@ TEST_F(ProfileRuleForms, SettingsAreShownSavedAndRestored)
     EXPECT_FALSE(log.isChecked()) << "RESTORE knows no default of that name";
     EXPECT_EQ(find<QLineEdit>(form, "txtUpDown").text(), "5");
     EXPECT_EQ(ticks(form, "lvwEnabledGetProfiles"), "0000");
+    EXPECT_EQ(ticks(form, "lvwEnabledSetProfiles"), "0000");
     EXPECT_TRUE(sameBytes(settings, golden("ProfileRuleSettings.save.tbl")));
     discard(form);
     EXPECT_EQ(ticks(form, "lvwEnabledGetProfiles"), "0110");
+    EXPECT_EQ(ticks(form, "lvwEnabledSetProfiles"), "0100");
 }
 
 TEST_F(ProfileRuleForms, RulesShowSixRowsForEachProfile)
@@ -71,11 +82,13 @@ TEST_F(ProfileRuleForms, RulesShowSixRowsForEachProfile)
               (QStringList{"Unregistered|MinShare|0 KB", "|MaxShare|0 KB", "|MinSlots|0", "|MaxSlots|0",
                            "|MaxHubs|0", "|HubSlotRatio|0/0", "Master|MinShare|0 KB"}));
     EXPECT_TRUE(permissions(form).isColumnHidden(3));
-    EXPECT_EQ(permissions(form).model()->headerData(3, Qt::Horizontal), "iProfile");
+    EXPECT_EQ(captions(permissions(form)), (QStringList{"Profile", "Setting", "Data", "iProfile"}));
     EXPECT_EQ(permissions(form).model()->index(0, 3).data(), "-1");
-    for (const char* list : {"lvwMessages", "lvwRedirects"})
+    for (const char* list : {"lvwMessages", "lvwRedirects"}) {
+        EXPECT_EQ(captions(find<RowList>(form, list)), (QStringList{"Setting", "Data"}));
         EXPECT_EQ(shown(find<RowList>(form, list)), (QStringList{"MinShare|", "MaxShare|", "MinSlots|",
                                                                  "MaxSlots|", "MaxHubs|", "HubSlotRatio|"}));
+    }
     auto* toolbar = form.findChild<QToolBar*>("tlbFormToolbar");
     EXPECT_FALSE(toolbar->findChild<QAction*>("RESTORE"));
     for (const char* name : {"tlbPermissions", "tlbMessages", "tlbRedirects"})
@@ -85,6 +98,11 @@ TEST_F(ProfileRuleForms, RulesShowSixRowsForEachProfile)
 TEST_F(ProfileRuleForms, EachRowHasItsDialogAndAllIsSaved)
 {
     auto& form = open("Security~ProfileRules~Rules");
+    for (const int share : {0, 1}) {
+        clickRow(permissions(form), share);
+        EXPECT_EQ(offered([&form] { button(form, "EDIT", "tlbPermissions").trigger(); }),
+                  (QStringList{"KB", "MB", "GB", "TB"}));
+    }
     EXPECT_EQ(edit(form, "Permissions", 0, {"2048", "KB"}),
               (SeenDialog{"frmGlobalEditUpDownCombo", "Edit File", {"Min Share", "Units"}, {"0", "KB"}}));
     EXPECT_EQ(edit(form, "Permissions", 5, {"3", "1"}),
@@ -129,6 +147,11 @@ TEST_F(ProfileRuleForms, ADoubleClickAndTheMenusEditAndACancelTakesNothing)
     EXPECT_EQ(entering({{{"x"}}}, form.routine("gMenuEditThreeClick")).size(), 1);
     clickRow(permissions(form), 1);
     EXPECT_EQ(entering({{{"1"}}}, form.routine("gMenuEditClick")).size(), 1);
+    for (const char* name : {"lvwMessages", "lvwRedirects"}) {
+        auto& list = find<RowList>(form, name);
+        EXPECT_EQ(entering({{{"due"}}}, [&list] { doubleClickRow(list, 3); }).size(), 1);
+        EXPECT_EQ(shown(list)[3], "MaxSlots|due");
+    }
 }
 
 /// The saved rules with other values of the first profile's least share and of another's least slots.

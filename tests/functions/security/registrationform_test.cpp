@@ -15,6 +15,17 @@ protected:
     std::string& named(const std::string& name) { return file("Registration/Registration" + name + ".tbl"); }
     static QTreeView& list(EditorForm& form) { return find<QTreeView>(form, "lvwRegistrations"); }
     static QComboBox& profile(EditorForm& form) { return find<QComboBox>(form, "cboComboBox"); }
+
+    /// The entries of the menu that a right click on a row opens: the one that makes it true, and the other.
+    QList<QAction*> menuOf(EditorForm& form, int row)
+    {
+        const QPoint place = placeOf(list(form), row).center();
+        QContextMenuEvent event(QContextMenuEvent::Mouse, place, list(form).viewport()->mapToGlobal(place));
+        QCoreApplication::sendEvent(list(form).viewport(), &event);
+        auto* menu = window().findChild<QMenu*>("mnuTrueFalse");
+        menu->close();
+        return menu->actions();
+    }
 };
 
 TEST_F(RegistrationForm, ShowsEachCommandOfEachPairOfProfiles)
@@ -56,24 +67,43 @@ TEST_F(RegistrationForm, SavesTheSettingsAndFourTables)
     clickRow(list(form), 9);
     doubleClickRow(list(form), 9);
     for (const int row : {23, 35}) {
-        clickRow(list(form), row);
-        auto* menu = window().findChild<QMenu*>("mnuTrueFalse");
-        QContextMenuEvent event(QContextMenuEvent::Mouse, placeOf(list(form), row).center(),
-                                list(form).viewport()->mapToGlobal(placeOf(list(form), row).center()));
-        QCoreApplication::sendEvent(list(form).viewport(), &event);
-        EXPECT_TRUE(menu->actions()[0]->isEnabled());
-        EXPECT_FALSE(menu->actions()[1]->isEnabled());
-        menu->actions()[0]->trigger();
-        menu->close();
+        const auto entries = menuOf(form, row);
+        EXPECT_TRUE(entries[0]->isEnabled());
+        EXPECT_FALSE(entries[1]->isEnabled());
+        entries[0]->trigger();
     }
     hub.store.log.clear();
     save(form);
     EXPECT_TRUE(sameBytes(named("Settings"), golden("Registration.save.tbl")));
     for (const char* table : {"Add", "Delete", "GetPassword", "ChangePassword"})
         EXPECT_TRUE(sameBytes(named(table), golden(std::string("Registration") + table + ".save.tbl")));
-    ASSERT_EQ(hub.store.log.size(), 5U);
-    EXPECT_TRUE(hub.store.log[0].ends_with("/RegistrationSettings.tbl"));
+    EXPECT_EQ(written(), (std::vector<std::string>{"RegistrationSettings.tbl", "RegistrationAdd.tbl",
+                                                   "RegistrationDelete.tbl", "RegistrationGetPassword.tbl",
+                                                   "RegistrationChangePassword.tbl"}));
     EXPECT_EQ(shown(list(form)).size(), 36) << "the form reloads";
+}
+
+TEST_F(RegistrationForm, ASaveShowsThePrefixAsItIsReadAgain)
+{
+    auto& form = open("Security~Registration");
+    type(form, "txtTextBox(0)", "[REG] ");
+    save(form);
+    EXPECT_NE(named("Settings").find("\tsPrefix = \"[REG] \",\r\n"), std::string::npos);
+    EXPECT_EQ(find<QLineEdit>(form, "txtTextBox(0)").text(), "[REG]");
+}
+
+TEST_F(RegistrationForm, TheMenuOfATrueRowOffersFalseAndBothItsRoutinesToggle)
+{
+    named("GetPassword") = golden("RegistrationGetPassword.save.tbl");
+    auto& form = open("Security~Registration");
+    const auto entries = menuOf(form, 23);
+    EXPECT_FALSE(entries[0]->isEnabled());
+    EXPECT_TRUE(entries[1]->isEnabled());
+    form.routine("gMenuTrueFalseTrueClick")();
+    EXPECT_EQ(shown(list(form))[23], "||VIP|False");
+    EXPECT_TRUE(isDirty(form));
+    form.routine("gMenuTrueFalseFalseClick")();
+    EXPECT_EQ(shown(list(form))[23], "||VIP|True");
 }
 
 TEST_F(RegistrationForm, AfterARebuildTheFirstProfileShowsAndASaveWritesTheRightKey)
@@ -127,8 +157,8 @@ TEST_F(RegistrationForm, UnregisteredAloneHasAnEmptyGridAndSavesEmptyTables)
     EXPECT_EQ(profile(form).count(), 0);
     find<QCheckBox>(form, "chkCheckBox(0)").click();
     save(form);
-    EXPECT_EQ(named("Add"), "tRegistrationAdd = {\r\n}\r\n");
-    EXPECT_EQ(named("ChangePassword"), "tRegistrationChangePassword = {\r\n}\r\n");
+    for (const std::string table : {"Add", "Delete", "GetPassword", "ChangePassword"})
+        EXPECT_EQ(named(table), "tRegistration" + table + " = {\r\n}\r\n");
 }
 
 } // namespace

@@ -13,38 +13,40 @@ class RulesForm : public test::SecurityForms
 protected:
     static RowList& list(EditorForm& form) { return find<RowList>(form, "lvwRules"); }
 
-    /// Types a text into the text editor that an action opens, and saves it.
-    static void writing(const QString& text, const std::function<void()>& action)
+    /// Types a text into the text editor that an action opens, and saves it. Returns what the editor showed
+    /// first.
+    static QString writing(const QString& text, const std::function<void()>& action)
     {
-        bool used = false;
+        QString before = "no editor";
         withModal(action, [&](QWidget& modal) {
-            used = true;
             EXPECT_EQ(modal.objectName(), "frmGlobalTextEdit");
             auto* edit = modal.findChild<QPlainTextEdit*>("txtTextBox");
+            before = edit->toPlainText();
             edit->selectAll();
             QTest::keyClicks(edit, text);
             modal.findChild<QToolBar*>("tlbFormToolbar")->findChild<QAction*>("SAVE")->trigger();
             modal.close();
         });
-        EXPECT_TRUE(used);
+        return before;
     }
 };
 
 TEST_F(RulesForm, EditsTheTextOfTheSelectedProfile)
 {
+    file("Rules/Ascii/2.asc") = "Be kind\r\nto bots\r\n";
     auto& form = open("Security~Rules");
     EXPECT_EQ(form.objectName(), "frmSecurityRules");
     EXPECT_EQ(form.windowTitle(), "Security ~ Rules");
     EXPECT_EQ(list(form).model()->headerData(0, Qt::Horizontal), "Profiles");
     EXPECT_EQ(shown(list(form)), (QStringList{"Unregistered", "Master", "Operator", "VIP"}));
     clickRow(list(form), 0);
-    writing("Register", [&form] { button(form, "EDIT", "tlbListview").trigger(); });
+    EXPECT_EQ(writing("Register", [&form] { button(form, "EDIT", "tlbListview").trigger(); }), "");
     EXPECT_EQ(file("Rules/Ascii/-1.asc"), "Register\r\n");
     clickRow(list(form), 3);
-    writing("Welcome", [&form] { doubleClickRow(list(form), 3); });
+    EXPECT_EQ(writing("Welcome", [&form] { doubleClickRow(list(form), 3); }), "Be kind\nto bots");
     EXPECT_EQ(file("Rules/Ascii/2.asc"), "Welcome\r\n");
     clickRow(list(form), 1);
-    writing("Rule", form.routine("gMenuEditClick"));
+    EXPECT_EQ(writing("Rule", form.routine("gMenuEditClick")), "");
     EXPECT_EQ(file("Rules/Ascii/0.asc"), "Rule\r\n");
     EXPECT_FALSE(isDirty(form)) << "the texts are saved by their own editor";
 }

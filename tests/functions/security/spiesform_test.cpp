@@ -37,7 +37,9 @@ TEST_F(SpyForms, TheSearchSpySavesBothFiles)
     EXPECT_EQ(form.windowTitle(), "Security ~ SearchSpy");
     EXPECT_EQ(text(form, "lblLabel(0)"), "Enabled Profiles");
     EXPECT_EQ(text(form, "lblLabel(1)"), "Immune Profiles");
-    EXPECT_EQ(files(form).accessibleName(), "Forbidden Files");
+    EXPECT_EQ(labelOf(form, "lvwFiles"), "Forbidden Files");
+    EXPECT_EQ(offered([&form] { button(form, "NEW", "tlbFiles").trigger(); }),
+              (QStringList{"Disconnect", "Warn", "Notify Ops", "Kick", "Ban"}));
     tick(form, "lvwAllowedProfiles", {3});
     tick(form, "lvwImmuneProfiles", {0});
     auto seen = entering({{{"bad film"}, "cmdAdd"}, {{"worse", "Ban"}, "cmdAdd"}, {{"worst", "Warn"}}},
@@ -54,6 +56,23 @@ TEST_F(SpyForms, TheSearchSpySavesBothFiles)
     save(form);
     EXPECT_TRUE(sameBytes(file("SearchSpy/SearchSpySettings.tbl"), golden("SearchSpy.save.tbl")));
     EXPECT_TRUE(sameBytes(terms, golden("SearchSpyFiles.save.tbl")));
+}
+
+TEST_F(SpyForms, ANewTermNeedsItsTextAndAnEditedOneItsAction)
+{
+    terms = "tSearchSpyFiles = {\r\n\t[\"a\"] = \"T\",\r\n}\r\n";
+    auto& form = open("Security~SearchSpy");
+    auto seen = entering({{{"", "Ban"}, "cmdAdd"}, {{}, "cmdOK"}, {{"b"}}},
+                         [&form] { button(form, "NEW", "tlbFiles").trigger(); });
+    ASSERT_EQ(seen.size(), 3);
+    EXPECT_EQ(seen[1].values, (QStringList{"", "Ban"})) << "the same dialog stays";
+    EXPECT_EQ(seen[2].values, (QStringList{"", "Ban"}));
+    clickRow(files(form), 0);
+    seen =
+        entering({{{"c"}}, {{QString(), "Warn"}}}, [&form] { button(form, "EDIT", "tlbFiles").trigger(); });
+    ASSERT_EQ(seen.size(), 2);
+    EXPECT_EQ(seen[1].values, (QStringList{"c", ""}));
+    EXPECT_EQ(shown(files(form)), (QStringList{"c|Warn", "b|Ban"}));
 }
 
 TEST_F(SpyForms, ARestoreOfTheSearchSpyUnticksBothListsAndLeavesTheTerms)
