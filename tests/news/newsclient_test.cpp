@@ -298,7 +298,7 @@ TEST_F(ProgramStart, WithoutBaseAddressesAsksNobody)
     EXPECT_EQ(server.asked, QStringList());
 }
 
-TEST_F(ProgramStart, ARefusedRebuildFetchesNothing)
+TEST_F(ProgramStart, AsksForARebuildOfAnotherVersionAndFetchesNothingWhenItIsRefused)
 {
     hub.file("General/Globals/Version.tbl").clear();
     Program program(hub.store, "/hub/scripts", info);

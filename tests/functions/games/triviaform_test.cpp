@@ -496,7 +496,7 @@ TEST_F(TriviaQuestions, ANewFileThatCantBeWrittenIsToldAndNotListed)
 TEST_F(TriviaQuestions, AnExistingFileIsListedButNotWhenItsNameBeginsAListedOne)
 {
     QTemporaryDir folder;
-    for (const char* name : {"/birds.lst", "/triv.lst"}) {
+    for (const char* name : {"/birds.lst", "/triv.lst", "/abc"}) {
         QFile made(folder.path() + name);
         ASSERT_TRUE(made.open(QIODevice::WriteOnly));
     }
@@ -510,6 +510,7 @@ TEST_F(TriviaQuestions, AnExistingFileIsListedButNotWhenItsNameBeginsAListedOne)
             });
     };
     EXPECT_TRUE(choose("triv.lst").isEmpty()); // "trivia" begins so: nothing happens, and nothing is said
+    EXPECT_TRUE(choose("abc").isEmpty());      // its four last characters are more than it has
     EXPECT_EQ(files(form).rows().size(), 3U);
     EXPECT_FALSE(isDirty(form));
     EXPECT_TRUE(choose("birds.lst").isEmpty());
