@@ -8,6 +8,7 @@
 #include <QMainWindow>
 #include <QStatusBar>
 #include <QTest>
+#include <QTreeWidget>
 
 #include <gtest/gtest.h>
 
@@ -261,6 +262,15 @@ class ProgramStart : public NewsClientTest
 protected:
     ProgramStart() { info.newsBase = server.base("news/"); }
 
+    /// Starts the program, which ends as its question is cancelled. Returns the question.
+    static QList<test::SeenBox> refused(Program& program)
+    {
+        std::optional<int> exitCode;
+        auto boxes = test::answering(QMessageBox::Cancel, [&] { exitCode = program.start(); });
+        EXPECT_EQ(exitCode, 0);
+        return boxes;
+    }
+
     ProgramInfo info{"5.2.0"};
 };
 
@@ -288,14 +298,46 @@ TEST_F(ProgramStart, WithoutBaseAddressesAsksNobody)
     EXPECT_EQ(server.asked, QStringList());
 }
 
-TEST_F(ProgramStart, ARefusedRebuildFetchesNothing)
+TEST_F(ProgramStart, AsksForARebuildOfAnotherVersionAndFetchesNothingWhenItIsRefused)
 {
     hub.file("General/Globals/Version.tbl").clear();
     Program program(hub.store, "/hub/scripts", info);
-    std::optional<int> exitCode;
-    test::answering(QMessageBox::Cancel, [&] { exitCode = program.start(); });
-    EXPECT_EQ(exitCode, 0);
+    const auto boxes = refused(program);
+    ASSERT_EQ(boxes.size(), 1);
+    EXPECT_EQ(boxes[0].title, "Morvaleth's Quillfen: Version Change Detected");
+    EXPECT_EQ(boxes[0].text, "New version detected. Settings must be rebuilt; continue?");
+    EXPECT_EQ(boxes[0].buttons, QMessageBox::Ok | QMessageBox::Cancel);
+    EXPECT_EQ(boxes[0].icon, QMessageBox::Question);
     EXPECT_EQ(server.asked, QStringList());
+}
+
+TEST_F(ProgramStart, AsksForARebuildWhenTheHubHasANewProfile)
+{
+    hub.store.files["/hub/cfg/Profiles.xml"] = "<Name>Master</Name>\r\n";
+    Program program(hub.store, "/hub/scripts", info);
+    const auto boxes = refused(program);
+    ASSERT_EQ(boxes.size(), 1);
+    EXPECT_EQ(boxes[0].title, "Morvaleth's Quillfen: PtokaX Profile Change Detected");
+    EXPECT_EQ(boxes[0].text, "PtokaX Profile change detected. Settings must be rebuilt; continue?");
+    EXPECT_EQ(boxes[0].buttons, QMessageBox::Ok | QMessageBox::Cancel);
+    EXPECT_EQ(boxes[0].icon, QMessageBox::Question);
+}
+
+TEST_F(ProgramStart, TheNavigatorShowsThePortalByTheSwitchesFromBeforeTheRebuild)
+{
+    info.newsBase.clear();
+    auto& switches = hub.file("General/Globals/Switches.tbl");
+    switches = "tSwitches = {\r\n\tbPortal = 1,\r\n}\r\n";
+    hub.file("General/Globals/Version.tbl").clear();
+    const auto portals = [this] {
+        Program program(hub.store, "/hub/scripts", info);
+        test::answering(QMessageBox::Ok, [&program] { EXPECT_EQ(program.start(), std::nullopt); });
+        const auto* tree = program.window().findChild<QTreeWidget*>("tvwFunctions");
+        return tree->findItems("Portal", Qt::MatchExactly | Qt::MatchRecursive).size();
+    };
+    EXPECT_EQ(portals(), 1);
+    EXPECT_EQ(switches.find("bPortal"), std::string::npos);
+    EXPECT_EQ(portals(), 0);
 }
 
 } // namespace

@@ -107,6 +107,11 @@ TEST_F(Lists, TheRowsBehindAnEmptyTableAreTakenInItsPlace)
               (Texts{"c", "d"}));
 }
 
+TEST_F(Lists, AKeyRowWhoseValueIsAClosingBraceIsNotTakenAndEndsNothing)
+{
+    EXPECT_EQ(texts(list("t = {\r\n\ta = },\r\n\tb = 1,\r\n}\r\n", "=", "t")), Texts{"b"});
+}
+
 TEST_F(Lists, WithoutATableEveryKeyRowIsTaken)
 {
     EXPECT_EQ(texts(list("t1 = {\r\n\ta = 1,\r\n}\r\nb = 2\r\nno delimiter\r\n", "=")), (Texts{"a", "b"}));
@@ -157,6 +162,9 @@ TEST_F(Lists, HaveNoTestForAnAbsolutePath)
     hub.files.ReadTableToList("/elsewhere/A.tbl", rows, "=");
     hub.files.ReadTableToList("/elsewhere/A.tbl", rows, "=", {}, Rows::Plain, true);
     EXPECT_EQ(texts(rows), (Texts{"b", "c"}));
+    rows = {{"a", "mine"}, {"b", "mine"}};
+    hub.files.ReadListColumn("/elsewhere/A.tbl", "t", rows);
+    EXPECT_EQ(rows, (std::vector<ListRow>{{"a", "mine"}, {"b", "1"}}));
 }
 
 TEST_F(Lists, AColumnIsFilledAtTheFirstRowOfTheSameText)
@@ -167,6 +175,14 @@ TEST_F(Lists, AColumnIsFilledAtTheFirstRowOfTheSameText)
     hub.files.ReadListColumn("G.tbl", "tScriptCommands", rows);
     EXPECT_EQ(rows, (std::vector<ListRow>{
                         {"help", "hilfe"}, {"kick", "tritt"}, {"kick", "second"}, {"ban", "ban"}}));
+}
+
+TEST_F(Lists, AColumnsValueIsCutAtItsSecondEqualsSign)
+{
+    hub.file("G.tbl") = "t = {\r\n\tsLink = \"a=b\",\r\n}";
+    std::vector<ListRow> rows = {{"sLink", "mine"}};
+    hub.files.ReadListColumn("G.tbl", "t", rows);
+    EXPECT_EQ(rows, (std::vector<ListRow>{{"sLink", "a"}}));
 }
 
 TEST_F(Lists, AColumnsTableNameAndBraceAreNoKeys)

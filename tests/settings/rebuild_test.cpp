@@ -1,12 +1,17 @@
 #include "functions/catalogue.h"
 #include "settings/rebuild.h"
 #include "support/hub.h"
+#include "support/lua.h"
+#include "support/notloading.h"
 
 #include <algorithm>
 #include <gtest/gtest.h>
 
 namespace quillfen {
 namespace {
+
+using test::LuaValues;
+using test::luaValues;
 
 constexpr const char* hubFile = "/hub/cfg/Profiles.xml";
 
@@ -49,6 +54,27 @@ protected:
     {
         ASSERT_EQ(run(), StartResult::Rebuilt);
         hub.store.log.clear();
+    }
+
+    /// What the hub script sees of each table file that it can load.
+    std::map<std::string, LuaValues> tree() const
+    {
+        std::map<std::string, LuaValues> all;
+        for (const auto& [path, bytes] : hub.store.files) {
+            if (path.ends_with(".tbl") && !test::notLoading().contains(path.substr(hub.root.size() + 1)))
+                all[path] = luaValues(bytes);
+        }
+        return all;
+    }
+
+    /// Puts every flag on that is off, and the other way round.
+    static void turnFlags(std::string& bytes)
+    {
+        for (std::size_t at = bytes.find(" = "); at != std::string::npos; at = bytes.find(" = ", at + 1)) {
+            const std::string flag = bytes.substr(at + 3, 3);
+            if (flag == "0,\r" || flag == "1,\r")
+                bytes[at + 3] = flag[0] == '0' ? '1' : '0';
+        }
     }
 
     test::Hub hub;
@@ -188,6 +214,27 @@ TEST_F(Start, AFoldersRoutineRunsRightAfterItsFolder)
     EXPECT_EQ(*(made + 3), "write " + hub.root + "/General/Globals/EnabledRightClicks.tbl");
 }
 
+TEST_F(Start, EachFoldersFilesAreWrittenBeforeTheNextFolderIsMade)
+{
+    run();
+    const auto& paths = hub.files.paths();
+    auto line = std::find(hub.store.log.begin(), hub.store.log.end(),
+                          "make " + paths.inSettings(folderCatalogue().front().folders.front()));
+    for (const CatalogueRow& row : folderCatalogue()) {
+        for (const auto folder : row.folders)
+            ASSERT_EQ(*line++, "make " + paths.inSettings(folder));
+        const auto isOfTheRow = [&] {
+            return std::any_of(row.folders.begin(), row.folders.end(), [&](std::string_view folder) {
+                return line->starts_with("write " + paths.inSettings(folder) + '/');
+            });
+        };
+        EXPECT_EQ(isOfTheRow(), !row.routines.empty()) << *line;
+        while (isOfTheRow())
+            ++line;
+    }
+    EXPECT_EQ(*line, "write " + hub.root + "/General/Globals/Version.tbl");
+}
+
 TEST_F(Start, TheVersionRecordComesBehindTheTreeAndTheProfileCopyBehindIt)
 {
     setProfiles(1);
@@ -229,6 +276,46 @@ TEST_F(Start, MoreProfilesThanTheSavedCopyRebuild)
     EXPECT_EQ(run(), StartResult::Current);
 }
 
+TEST_F(Start, ANewProfileJoinsEveryTableAndTheRestKeepsItsValues)
+{
+    const auto isReset = [](const std::string& key) {
+        const char* const tables[] = {"tSwitches.",
+                                      "tEnabledRightClicks.",
+                                      "tRegistrationSettings.",
+                                      "tProfileRulesRedirectCounter.",
+                                      "tMOTDSettings.tAll.",
+                                      "tClientCheckerSettings.tBlock.",
+                                      "tPrivateHubSettings.tRestrictPMs.",
+                                      "tSlotMachineSettings.tResults."};
+        return std::any_of(std::begin(tables), std::end(tables),
+                           [&key](const char* table) { return key.starts_with(table); });
+    };
+    setProfiles(3);
+    firstStart();
+    const auto fresh = tree();
+    hub.store.files.clear();
+    setProfiles(2);
+    firstStart();
+    for (auto& [path, bytes] : hub.store.files)
+        turnFlags(bytes);
+    const auto before = tree();
+    setProfiles(3);
+    ASSERT_EQ(run(), StartResult::Rebuilt);
+    const auto after = tree();
+    EXPECT_GT(before.size(), 130U);
+    std::size_t joined = 0;
+    for (const auto& [path, values] : before) {
+        LuaValues expected = fresh.at(path);
+        joined += expected.size() - values.size();
+        for (const auto& [key, value] : values) {
+            if (!isReset(key))
+                expected[key] = value;
+        }
+        EXPECT_EQ(after.at(path), expected) << path;
+    }
+    EXPECT_GT(joined, 150U);
+}
+
 TEST_F(Start, TheProfileQuestionDoesNotFollowARebuildForTheVersion)
 {
     setProfiles(2);
@@ -264,6 +351,23 @@ TEST_F(Start, ARefusalChangesNothingAndComesAgain)
     version = "5.3.0";
     EXPECT_EQ(run(), StartResult::Refused);
     EXPECT_EQ(hub.store.files, before);
+}
+
+TEST_F(Start, TheSavedCopyIsReadBelowTheHubsScriptsAndNotBelowTheProgramsFolder)
+{
+    hub.store.folders.insert({"/hub/other", "/hub/other/Morvaleth's Quillfen"});
+    const SettingsFiles files{hub.store, SettingsPaths("/hub/other")};
+    const auto start = [&] {
+        hub.profiles = {};
+        return reconcileSettings(
+            {files, folderCatalogue(), version, [](const RebuildQuestion&) { return true; }}, hub.profiles);
+    };
+    setProfiles(1);
+    EXPECT_EQ(start(), StartResult::Rebuilt);
+    EXPECT_EQ(start(), StartResult::Rebuilt) << "its own copy is not the one that is read";
+    hub.file("General/PtokaX/Profiles.xml") =
+        hub.store.files["/hub/other/Morvaleth's Quillfen/Settings/General/PtokaX/Profiles.xml"];
+    EXPECT_EQ(start(), StartResult::Current);
 }
 
 TEST_F(Start, AnUnreadableHubFileAsksNothingAndLeavesNoCopy)

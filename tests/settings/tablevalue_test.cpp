@@ -171,6 +171,14 @@ TEST(TableSubValue, AsAFlagIsOneWhenTheNumberIsExactlyOne)
     EXPECT_EQ(flagOf(""), "0");
 }
 
+TEST(TableSubValue, HasNoTestForAnAbsolutePath)
+{
+    test::Hub hub;
+    hub.store.files["/elsewhere/A.tbl"] = "t = {\r\niKey = 1";
+    hub.store.files[hub.root + "//elsewhere/A.tbl"] = "t = {\r\niKey = 2";
+    EXPECT_EQ(hub.files.ReadTableSubValue("/elsewhere/A.tbl", "t", "iKey"), "2");
+}
+
 /// Files made of the pieces that the rules look at, whole and damaged, in any order.
 class RandomFile
 {

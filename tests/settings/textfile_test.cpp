@@ -33,6 +33,13 @@ TEST(TextFile, Of5000LinesIsReadWholeAndOf5001IsEmpty)
     EXPECT_EQ(hub.files.ReadTextFile("A.txt"), "");
 }
 
+TEST(TextFile, IsReadFromAnAbsolutePath)
+{
+    test::Hub hub;
+    hub.store.files["/elsewhere/A.txt"] = "one";
+    EXPECT_EQ(hub.files.ReadTextFile("/elsewhere/A.txt"), "one\r\n");
+}
+
 TEST(TextFile, EveryByteSurvivesWritingAndReading)
 {
     const test::Hub hub;

@@ -115,6 +115,17 @@ TEST_P(CommentLists, EachHasAMenuOfItsOwn)
 class ChanceForms : public test::FormTest
 {
 protected:
+    /// Saves, and returns the names of the files that were written, in that order.
+    std::vector<std::string> written(EditorForm& form)
+    {
+        hub.store.log.clear();
+        button(form, "SAVE").trigger();
+        std::vector<std::string> names;
+        for (const std::string& line : hub.store.log)
+            names.push_back(line.substr(line.rfind('/') + 1));
+        return names;
+    }
+
     static void up(EditorForm& form, const char* arrows)
     {
         QTest::keyClick(&find<QAbstractSpinBox>(form, arrows), Qt::Key_Up);
@@ -144,7 +155,8 @@ TEST_F(ChanceForms, ASaveOfRouletteQuotesTheChambers)
     EXPECT_EQ(box.text(), "Play In Main");
     EXPECT_TRUE(box.isChecked());
     box.click();
-    button(form, "SAVE").trigger();
+    EXPECT_EQ(written(form), (std::vector<std::string>{"RussianRouletteSettings.tbl",
+                                                       "RussianRouletteLive.tbl", "RussianRouletteDie.tbl"}));
     EXPECT_TRUE(sameBytes(hub.file("Games/RussianRoulette/RussianRouletteSettings.tbl"),
                           golden("games/RussianRouletteSettings.save.tbl")));
     answering(QMessageBox::Ok, [&form] { button(form, "RESTORE").trigger(); });
@@ -163,13 +175,16 @@ TEST_F(ChanceForms, ASaveOfMontySpellsTheCardsWithASmallO)
     find<QCheckBox>(form, "chkPlayInMain").click();
     up(form, "updUpDown(0)");
     up(form, "updUpDown(1)");
-    button(form, "SAVE").trigger();
+    EXPECT_EQ(written(form), (std::vector<std::string>{"ThreeCardMontySettings.tbl", "ThreeCardMontyWin.tbl",
+                                                       "ThreeCardMontyLose.tbl"}));
     EXPECT_TRUE(sameBytes(hub.file("Games/ThreeCardMonty/ThreeCardMontySettings.tbl"),
                           golden("games/ThreeCardMontySettings.save.tbl")));
     EXPECT_EQ(range(form, 0), (QStringList{"1", "50", "2"}));
     EXPECT_EQ(range(form, 1), (QStringList{"10", "500", "11"}));
     answering(QMessageBox::Ok, [&form] { button(form, "RESTORE").trigger(); });
+    EXPECT_EQ(number(form, "txtUpDown(0)"), "1");
     EXPECT_EQ(number(form, "txtUpDown(1)"), "25");
+    EXPECT_TRUE(find<QCheckBox>(form, "chkPlayInMain").isChecked());
 }
 
 TEST_F(ChanceForms, TheSlotMachineStepsByFive)
@@ -195,6 +210,7 @@ TEST_F(ChanceForms, TheSlotMachineStepsByFive)
     EXPECT_EQ(number(form, "txtUpDown(0)"), "50");
     EXPECT_EQ(number(form, "txtUpDown(1)"), "2");
     EXPECT_EQ(number(form, "txtUpDown(2)"), "1000");
+    EXPECT_TRUE(find<QCheckBox>(form, "chkCheckBox(0)").isChecked());
 }
 
 class ScoreClearers : public test::FormTest
@@ -214,9 +230,22 @@ TEST_F(ScoreClearers, HaveNothingToRestoreAndBecomeDirtyAllTheSame)
     EXPECT_EQ(form.objectName(), "frmGamesGlobalsScoreClearers");
     EXPECT_EQ(form.windowTitle(), "Games ~ Score Clearers");
     EXPECT_EQ(shown(users(form)), QStringList{"Quill"});
-    answering(QMessageBox::Ok, [&form] { button(form, "RESTORE").trigger(); });
+    const auto boxes = answering(QMessageBox::Ok, [&form] { button(form, "RESTORE").trigger(); });
+    ASSERT_EQ(boxes.size(), 1);
+    EXPECT_EQ(boxes[0].title, "Restore defaults?");
+    EXPECT_EQ(boxes[0].text, "Restore to defaults?");
     EXPECT_EQ(shown(users(form)), QStringList{"Quill"});
     EXPECT_TRUE(isDirty(form));
+}
+
+TEST_F(ScoreClearers, ADiscardShowsTheFileAgain)
+{
+    auto& form = open("Games~ScoreClearers");
+    entering({{{"Fen"}}}, [&form] { tool(form, "NEW").trigger(); });
+    EXPECT_EQ(shown(users(form)), (QStringList{"Quill", "Fen"}));
+    answering(QMessageBox::Ok, [&form] { button(form, "DISCARD").trigger(); });
+    EXPECT_EQ(shown(users(form)), QStringList{"Quill"});
+    EXPECT_FALSE(isDirty(form));
 }
 
 TEST_F(ScoreClearers, AreAddedEditedAndSaved)

@@ -50,7 +50,13 @@ TEST_F(Numbers, ARebuildKeepsTheValuesTheCalculationsAndTheOtherFiles)
 {
     hub.file(settings) = golden("games/NumbersSettings.save.tbl");
     list = "mine\r\n";
+    const std::string scoreFiles[] = {"Games/Numbers/NumbersPlayers.tbl", "Games/Numbers/NumbersScores.tbl",
+                                      "Games/Numbers/NumbersScoresArchiveIndex.tbl"};
+    for (const auto& name : scoreFiles)
+        hub.file(name) = "mine";
     buildNumbers(hub.files, hub.profiles);
+    for (const auto& name : scoreFiles)
+        EXPECT_EQ(hub.file(name), "mine") << name;
     const auto before = test::luaValues(golden("games/NumbersSettings.save.tbl"));
     EXPECT_EQ(test::luaValues(hub.file(settings)), before);
     EXPECT_TRUE(hub.file(settings).starts_with("tNumbersSettings = {\r\n\tiTimeOut = 3,\r\n"));

@@ -114,6 +114,16 @@ TEST_F(NumbersForm, SavesInItsOrderWithCrossedFlagsAndTwoBlanksBehindQuestions)
     EXPECT_TRUE(sameBytes(settings, golden("games/NumbersSettings.save.tbl")));
 }
 
+TEST_F(NumbersForm, TheArrowsKeepTheRangeOfTheQuestionTime)
+{
+    auto& form = openForm();
+    auto& arrows = find<QAbstractSpinBox>(form, "updTextBoxUpDown(0)");
+    arrows.stepBy(99999);
+    EXPECT_EQ(number(form, 0), "60");
+    arrows.stepBy(-99999);
+    EXPECT_EQ(number(form, 0), "0");
+}
+
 TEST_F(NumbersForm, PreventCalculatorShowsTheReportFlag)
 {
     settings = "tNumbersSettings = {\r\n\tbReportCalc = 1,\r\n\tbPreventCalc = 0,\r\n\ttCalculation = {\r\n"
@@ -137,6 +147,9 @@ TEST_F(NumbersForm, TheCalculationDialogHasFourFieldsAndReopensForLettersInTheFi
         editCalculation(form, 2, {{"abc", "1", "1", "1"}, {"7x", "1", "1", "1"}, {"7", "8", "9", "ten"}}),
         (QStringList{"Edit Question", invalid, "Edit Question", invalid, "Edit Question"}));
     EXPECT_EQ(shown(calculations(form))[2], "*|7|8|9|ten");
+    const auto dialogs = entering({{{"abc", "1", "1", "1"}}}, [&] { doubleClickRow(calculations(form), 2); });
+    ASSERT_EQ(dialogs.size(), 3);                                      // with the refusal between the two
+    EXPECT_EQ(dialogs[2].values, (QStringList{"7", "8", "9", "ten"})); // the row's own, not the refused ones
     EXPECT_TRUE(button(form, "EDIT", "tlbNumbers").isEnabled());
     // Cancel after a refusal leaves the row as it stood.
     editCalculation(form, 2, {{"abc", "1", "1", "1"}});

@@ -383,10 +383,11 @@ struct WordGame
     const char* menu;
 };
 
-class WordLists : public test::FormTest, public testing::WithParamInterface<WordGame>
+/// The games with a list file of their own.
+class WordFiles : public test::FormTest, public testing::WithParamInterface<WordGame>
 {
 protected:
-    WordLists() { file = "alpha\r\nbeta\r\n\r\n"; }
+    WordFiles() { file = "alpha\r\nbeta\r\n\r\n"; }
 
     EditorForm& openForm() { return open(game.key); }
     static RowList& list(EditorForm& form) { return find<RowList>(form, "lvwWords"); }
@@ -397,6 +398,15 @@ protected:
         for (const auto* action : find<QToolBar>(form, "tlbListview").actions())
             keys += action->isEnabled() ? '1' : '0';
         return keys;
+    }
+
+    /// The first column, which the games of words and of questions have in common.
+    static QStringList words(EditorForm& form)
+    {
+        QStringList all;
+        for (const CellRow& row : list(form).rows())
+            all.append(QString::fromStdString(row.cells.front()));
+        return all;
     }
 
     EditorForm& opened()
@@ -410,13 +420,25 @@ protected:
     std::string& file = hub.file(game.file);
 };
 
-INSTANTIATE_TEST_SUITE_P(
-    Both, WordLists,
-    testing::Values(WordGame{"Games~Hangman", "Games/Hangman/HangmanWords.lst", "mnuHangman"},
-                    WordGame{"Games~Anagrams", "Games/Anagrams/AnagramWords.lst", "mnuAnagrams"}),
-    [](const auto& each) { return std::string(each.param.key + 6); });
+/// Those whose words are guessed.
+class WordLists : public WordFiles
+{
+};
 
-TEST_P(WordLists, AreEmptyUntilTheyAreOpened)
+const WordGame hangmanWords = {"Games~Hangman", "Games/Hangman/HangmanWords.lst", "mnuHangman"};
+const WordGame anagramWords = {"Games~Anagrams", "Games/Anagrams/AnagramWords.lst", "mnuAnagrams"};
+const WordGame numberQuestions = {"Games~Numbers", "Games/Numbers/NumbersQuestions.lst", "mnuNumbers"};
+
+std::string nameOfGame(const testing::TestParamInfo<WordGame>& each)
+{
+    return each.param.key + 6;
+}
+
+INSTANTIATE_TEST_SUITE_P(All, WordFiles, testing::Values(hangmanWords, anagramWords, numberQuestions),
+                         nameOfGame);
+INSTANTIATE_TEST_SUITE_P(Both, WordLists, testing::Values(hangmanWords, anagramWords), nameOfGame);
+
+TEST_P(WordFiles, AreEmptyUntilTheyAreOpened)
 {
     auto& form = openForm();
     QStringList buttons;
@@ -427,7 +449,7 @@ TEST_P(WordLists, AreEmptyUntilTheyAreOpened)
     EXPECT_TRUE(list(form).isEmpty());
     EXPECT_EQ(lit(form), "100000");
     tool(form, "OPEN").trigger();
-    EXPECT_EQ(shown(list(form)), (QStringList{"alpha", "beta"}));
+    EXPECT_EQ(words(form), (QStringList{"alpha", "beta"}));
     EXPECT_EQ(lit(form), "011111");
     EXPECT_FALSE(isDirty(form));
 }
@@ -466,7 +488,7 @@ TEST_P(WordLists, ADeletionAsksInTheWordsOfQuestions)
     EXPECT_EQ(shown(list(form)), QStringList{"beta"});
 }
 
-TEST_P(WordLists, AnEmptyListIsNotSaved)
+TEST_P(WordFiles, AnEmptyListIsNotSaved)
 {
     file = "";
     auto& form = opened();
@@ -478,7 +500,7 @@ TEST_P(WordLists, AnEmptyListIsNotSaved)
     EXPECT_EQ(file, "");
 }
 
-TEST_P(WordLists, ACloseAsksAndLeavesOnlyOpenLit)
+TEST_P(WordFiles, ACloseAsksAndLeavesOnlyOpenLit)
 {
     auto& form = opened();
     auto boxes = answering(QMessageBox::Cancel, [&form] { tool(form, "CLOSE").trigger(); });
@@ -486,7 +508,7 @@ TEST_P(WordLists, ACloseAsksAndLeavesOnlyOpenLit)
     EXPECT_EQ(boxes[0].title, "Discard changes?");
     EXPECT_EQ(boxes[0].text, "Are you sure you want to discard unsaved changes?");
     EXPECT_EQ(boxes[0].buttons, QMessageBox::Ok | QMessageBox::Cancel);
-    EXPECT_EQ(shown(list(form)), (QStringList{"alpha", "beta"}));
+    EXPECT_EQ(words(form), (QStringList{"alpha", "beta"}));
     EXPECT_EQ(lit(form), "100000"); // also after Cancel
     tool(form, "OPEN").trigger();
     answering(QMessageBox::Ok, [&form] { tool(form, "CLOSE").trigger(); });
@@ -494,7 +516,7 @@ TEST_P(WordLists, ACloseAsksAndLeavesOnlyOpenLit)
     EXPECT_EQ(lit(form), "100000");
 }
 
-TEST_P(WordLists, AMissingFileOpensAsAnEmptyList)
+TEST_P(WordFiles, AMissingFileOpensAsAnEmptyList)
 {
     hub.store.files.erase(hub.root + "/" + game.file);
     auto& form = opened();
@@ -502,14 +524,14 @@ TEST_P(WordLists, AMissingFileOpensAsAnEmptyList)
     EXPECT_EQ(lit(form), "011111");
 }
 
-TEST_P(WordLists, AFailedSaveKeepsTheListOpen)
+TEST_P(WordFiles, AFailedSaveKeepsTheListOpen)
 {
     auto& form = opened();
     hub.store.failingCall = static_cast<int>(hub.store.log.size());
     const auto boxes = answering(QMessageBox::Ok, [&form] { tool(form, "SAVE").trigger(); });
     ASSERT_EQ(boxes.size(), 1);
     EXPECT_EQ(boxes[0].icon, QMessageBox::Critical);
-    EXPECT_EQ(shown(list(form)), (QStringList{"alpha", "beta"}));
+    EXPECT_EQ(words(form), (QStringList{"alpha", "beta"}));
     EXPECT_EQ(lit(form), "011111");
 }
 

@@ -85,6 +85,15 @@ TEST_F(Trivia, TheSeededQuestionsComeOnlyTogetherWithTheTableOfFiles)
     EXPECT_FALSE(hub.has("Games/Trivia/QuestionFiles/TriviaQuestions.lst"));
 }
 
+TEST_F(Trivia, ABuildOfTheTableKeepsAQuestionFileThatIsThere)
+{
+    hub.store.files.clear();
+    hub.file("Games/Trivia/QuestionFiles/TriviaQuestions.lst") = "mine";
+    buildTrivia(hub.files, hub.profiles);
+    EXPECT_TRUE(hub.has("Games/Trivia/TriviaQuestionFiles.tbl"));
+    EXPECT_EQ(hub.file("Games/Trivia/QuestionFiles/TriviaQuestions.lst"), "mine");
+}
+
 TEST_F(Trivia, QuestionFilesAreReadFromTheFormsTableAndFromTheBuilds)
 {
     for (const char* line :

@@ -1,3 +1,4 @@
+#include "functions/games/triviaform.h"
 #include "shell/kit/rowlist.h"
 #include "support/formtest.h"
 #include "support/golden.h"
@@ -96,6 +97,20 @@ TEST_F(TriviaForm, ANumberIsChangedByItsArrowsOnly)
     EXPECT_EQ(box.text(), "31");
 }
 
+TEST_F(TriviaForm, TheArrowsKeepTheRange)
+{
+    auto& form = open("Games~Trivia~Settings");
+    const char* const last[] = {"60", "10"}; // of hint time and hints
+    for (int place = 0; place < 2; ++place) {
+        auto& arrows = find<QAbstractSpinBox>(form, QString("updTextBoxUpDown(%1)").arg(place));
+        const auto& box = find<QLineEdit>(form, QString("txtTextBoxUpDown(%1)").arg(place));
+        arrows.stepBy(99999);
+        EXPECT_EQ(box.text(), last[place]);
+        arrows.stepBy(-99999);
+        EXPECT_EQ(box.text(), "0");
+    }
+}
+
 TEST_F(TriviaForm, AStoredValueOutsideItsRangeIsShownAndSavedAsItIs)
 {
     settings = "tTriviaSettings = {\r\n\tiHintTime = 999,\r\n}\r\n";
@@ -126,12 +141,33 @@ TEST_F(TriviaForm, ARestoreShowsTheDefaultsAndWritesNothing)
     auto& form = open("Games~Trivia~Settings");
     EXPECT_TRUE(option(form, 2).isChecked());
     EXPECT_TRUE(option(form, 3).isChecked());
-    answering(QMessageBox::Ok, [&form] { button(form, "RESTORE").trigger(); });
+    const auto boxes = answering(QMessageBox::Ok, [&form] { button(form, "RESTORE").trigger(); });
+    ASSERT_EQ(boxes.size(), 1);
+    EXPECT_EQ(boxes[0].title, "Restore defaults?");
+    EXPECT_EQ(boxes[0].text, "Restore to defaults?");
+    EXPECT_EQ(boxes[0].buttons, QMessageBox::Ok | QMessageBox::Cancel);
     EXPECT_TRUE(option(form, 0).isChecked());
     EXPECT_TRUE(option(form, 4).isChecked());
     EXPECT_EQ(find<QLineEdit>(form, "txtTextBoxUpDown(9)").text(), "93");
     EXPECT_TRUE(isDirty(form));
     EXPECT_TRUE(sameBytes(settings, golden("games/TriviaSettings.save.tbl")));
+}
+
+TEST_F(TriviaForm, ADiscardShowsTheFileAgainAndLeavesTheFormClean)
+{
+    auto& form = open("Games~Trivia~Settings");
+    option(form, 2).click();
+    option(form, 3).click();
+    find<QLineEdit>(form, "txtTextBox(0)").clear();
+    EXPECT_TRUE(isDirty(form));
+    const auto boxes = answering(QMessageBox::Ok, [&form] { button(form, "DISCARD").trigger(); });
+    ASSERT_EQ(boxes.size(), 1);
+    EXPECT_EQ(boxes[0].title, "Discard changes?");
+    EXPECT_EQ(boxes[0].text, "Discard all unsaved changes?");
+    EXPECT_TRUE(option(form, 0).isChecked());
+    EXPECT_TRUE(option(form, 4).isChecked());
+    EXPECT_EQ(find<QLineEdit>(form, "txtTextBox(0)").text(), QStringLiteral(u"\u2022"));
+    EXPECT_FALSE(isDirty(form));
 }
 
 class TriviaQuestions : public test::FormTest
@@ -179,11 +215,25 @@ protected:
         return keys;
     }
 
+    /// Chooses NEW of the files and types a name. Returns the boxes that came behind it.
+    static QList<test::SeenBox> newFile(EditorForm& form, const QString& name)
+    {
+        return answering(
+            QMessageBox::Ok, [&form] { fileTool(form, "NEW").trigger(); },
+            [&name](QWidget& modal) { test::typeInto(modal, name); });
+    }
+
     static void typeQuestion(QWidget& dialog, const QStringList& fields, const char* command = "cmdOK")
     {
         for (int field = 0; field < fields.size(); ++field)
             find<QLineEdit>(dialog, QString("txtTextBox(%1)").arg(field)).setText(fields[field]);
         find<QPushButton>(dialog, command).click();
+    }
+
+    static void addQuestion(EditorForm& form, const QStringList& fields)
+    {
+        test::withModal([&form] { tool(form, "NEW").trigger(); },
+                        [&fields](QWidget& dialog) { typeQuestion(dialog, fields); });
     }
 
     std::string& table = hub.file("Games/Trivia/TriviaQuestionFiles.tbl");
@@ -202,6 +252,12 @@ TEST_F(TriviaQuestions, ShowTheFilesSortedWithTheirDefault)
     EXPECT_EQ(questions(form).model()->headerData(1, Qt::Horizontal).toString(), "Answers");
     EXPECT_EQ(lit(form), "00000");
     EXPECT_EQ(form.findChild<QAction*>("RESTORE"), nullptr);
+    QStringList captions;
+    for (const auto* label : form.findChildren<QLabel*>()) {
+        if (label->buddy() == &preset(form))
+            captions.append(label->text());
+    }
+    EXPECT_EQ(captions, QStringList{"Default Question File"});
     EXPECT_FALSE(isDirty(form));
     QStringList tips;
     for (auto* action : find<QToolBar>(form, "tlbQuestions").actions())
@@ -241,9 +297,13 @@ TEST_F(TriviaQuestions, EditAsksAndLoadsTheFile)
     EXPECT_EQ(questions(form).property("tag").toString(), "zoo");
     EXPECT_EQ(lit(form), "01111");
     EXPECT_FALSE(isDirty(form));
+    const auto again = answering(QMessageBox::Ok, [&form] { doubleClickRow(files(form), 0); });
+    ASSERT_EQ(again.size(), 1);
+    EXPECT_EQ(again[0].title, "Load file?");
+    EXPECT_EQ(shown(questions(form)), QStringList{"Music:A:B?|piano"});
 }
 
-TEST_F(TriviaQuestions, CancellingTheLoadLeavesTheListCleared)
+TEST_F(TriviaQuestions, CancellingTheLoadLeavesTheListClearedAndASaveEmptiesTheFile)
 {
     auto& form = openForm();
     load(form, "zoo");
@@ -251,6 +311,10 @@ TEST_F(TriviaQuestions, CancellingTheLoadLeavesTheListCleared)
     EXPECT_TRUE(questions(form).isEmpty());
     EXPECT_EQ(questions(form).property("tag").toString(), "");
     EXPECT_EQ(lit(form), "10000");
+    tool(form, "SAVE").trigger();
+    EXPECT_EQ(lst("music"), "\r\n"); // the selected one
+    EXPECT_EQ(lit(form), "00000");
+    EXPECT_TRUE(isDirty(form));
 }
 
 TEST_F(TriviaQuestions, QuestionsAreAddedOneAfterTheOther)
@@ -313,10 +377,7 @@ TEST_F(TriviaQuestions, ASaveGoesToTheSelectedFileAndMakesTheFormDirty)
 {
     auto& form = openForm();
     load(form, "zoo");
-    test::withModal([&form] { tool(form, "NEW").trigger(); },
-                    [](QWidget& dialog) {
-                        typeQuestion(dialog, {"Zoo", "Q?", "a"});
-                    });
+    addQuestion(form, {"Zoo", "Q?", "a"});
     const std::string before = lst("zoo");
     clickRow(files(form), rowOf(files(form), "trivia")); // another than the one that was loaded
     tool(form, "SAVE").trigger();
@@ -330,11 +391,15 @@ TEST_F(TriviaQuestions, ClosingAFileAsksAndClearsItsList)
 {
     auto& form = openForm();
     load(form, "zoo");
+    addQuestion(form, {"Zoo", "Q?", "a"});
+    EXPECT_EQ(lit(form), "11111");
     auto boxes = answering(QMessageBox::Cancel, [&form] { tool(form, "CLOSE").trigger(); });
     ASSERT_EQ(boxes.size(), 1);
     EXPECT_EQ(boxes[0].title, "Discard changes?");
     EXPECT_EQ(boxes[0].text, "Are you sure you want to discard unsaved changes?");
-    EXPECT_EQ(questions(form).rows().size(), 2U);
+    EXPECT_EQ(boxes[0].buttons, QMessageBox::Ok | QMessageBox::Cancel);
+    EXPECT_EQ(questions(form).rows().size(), 3U);
+    EXPECT_EQ(lit(form), "01111"); // SAVE goes off also after Cancel
     answering(QMessageBox::Ok, [&form] { tool(form, "CLOSE").trigger(); });
     EXPECT_TRUE(questions(form).isEmpty());
     EXPECT_EQ(questions(form).property("tag").toString(), "");
@@ -360,12 +425,43 @@ TEST_F(TriviaQuestions, ANewFileIsWrittenAtOnceInLowerCase)
     EXPECT_TRUE(isDirty(form));
 }
 
-TEST_F(TriviaQuestions, ANameThatIsListedIsRefusedWithTheLanguageFormsTitle)
+TEST_F(TriviaQuestions, ANewFileLeavesALoadedListInSightOfWhichNoQuestionGoes)
 {
     auto& form = openForm();
-    const auto boxes = answering(
-        QMessageBox::Ok, [&form] { fileTool(form, "NEW").trigger(); },
-        [](QWidget& modal) { test::typeInto(modal, "ZOO"); });
+    load(form, "zoo");
+    addQuestion(form, {"Zoo", "Q?", "a"});
+    const QStringList loaded = shown(questions(form));
+    newFile(form, "foo");
+    EXPECT_EQ(shown(questions(form)), loaded);
+    EXPECT_EQ(questions(form).property("tag").toString(), "foo");
+    EXPECT_EQ(lit(form), "10110"); // SAVE as it stood
+    clickRow(questions(form), 0);
+    EXPECT_TRUE(
+        answering(QMessageBox::Ok, [&form] { QTest::keyClick(&questions(form), Qt::Key_Delete); }).isEmpty());
+    EXPECT_EQ(shown(questions(form)), loaded);
+}
+
+TEST_F(TriviaQuestions, WithoutANameThereIsNoNewFile)
+{
+    auto& form = openForm();
+    hub.store.log.clear();
+    EXPECT_TRUE(newFile(form, "").isEmpty());
+    test::withModal([&form] { fileTool(form, "NEW").trigger(); },
+                    [](QWidget& modal) {
+                        auto* input = qobject_cast<QInputDialog*>(&modal);
+                        input->setTextValue("foo");
+                        input->reject();
+                    });
+    EXPECT_TRUE(hub.store.log.empty());
+    EXPECT_EQ(files(form).rows().size(), 3U);
+    EXPECT_FALSE(isDirty(form));
+}
+
+TEST_F(TriviaQuestions, ANameThatIsListedInAnyCaseIsRefusedWithTheLanguageFormsTitle)
+{
+    table.replace(table.find("zoo"), 3, "Zoo");
+    auto& form = openForm();
+    const auto boxes = newFile(form, "ZOO");
     ASSERT_EQ(boxes.size(), 1);
     EXPECT_EQ(boxes[0].title, "Cannot create language file");
     EXPECT_EQ(boxes[0].text, "zoo already exists");
@@ -378,9 +474,7 @@ TEST_F(TriviaQuestions, ANameThatWouldLeaveTheFolderIsRefusedAndNothingIsTouched
     auto& form = openForm();
     hub.store.log.clear();
     for (const char* name : {"..\\x", "a/b", "con", "a?"}) {
-        const auto boxes = answering(
-            QMessageBox::Ok, [&form] { fileTool(form, "NEW").trigger(); },
-            [name](QWidget& modal) { test::typeInto(modal, name); });
+        const auto boxes = newFile(form, name);
         ASSERT_EQ(boxes.size(), 1) << name;
         EXPECT_EQ(boxes[0].title, "Cannot create file");
     }
@@ -392,9 +486,7 @@ TEST_F(TriviaQuestions, ANewFileThatCantBeWrittenIsToldAndNotListed)
 {
     auto& form = openForm();
     hub.store.failingCall = static_cast<int>(hub.store.log.size());
-    const auto boxes = answering(
-        QMessageBox::Ok, [&form] { fileTool(form, "NEW").trigger(); },
-        [](QWidget& modal) { test::typeInto(modal, "foo"); });
+    const auto boxes = newFile(form, "foo");
     ASSERT_EQ(boxes.size(), 1);
     EXPECT_TRUE(boxes[0].text.contains("foo.lst"));
     EXPECT_EQ(files(form).rows().size(), 3U);
@@ -404,7 +496,7 @@ TEST_F(TriviaQuestions, ANewFileThatCantBeWrittenIsToldAndNotListed)
 TEST_F(TriviaQuestions, AnExistingFileIsListedButNotWhenItsNameBeginsAListedOne)
 {
     QTemporaryDir folder;
-    for (const char* name : {"/birds.lst", "/triv.lst"}) {
+    for (const char* name : {"/birds.lst", "/triv.lst", "/abc"}) {
         QFile made(folder.path() + name);
         ASSERT_TRUE(made.open(QIODevice::WriteOnly));
     }
@@ -418,12 +510,34 @@ TEST_F(TriviaQuestions, AnExistingFileIsListedButNotWhenItsNameBeginsAListedOne)
             });
     };
     EXPECT_TRUE(choose("triv.lst").isEmpty()); // "trivia" begins so: nothing happens, and nothing is said
+    EXPECT_TRUE(choose("abc").isEmpty());      // its four last characters are more than it has
     EXPECT_EQ(files(form).rows().size(), 3U);
     EXPECT_FALSE(isDirty(form));
     EXPECT_TRUE(choose("birds.lst").isEmpty());
     EXPECT_TRUE(shown(files(form)).contains("birds"));
     EXPECT_TRUE(isDirty(form));
     EXPECT_FALSE(hasLst("birds"));
+}
+
+TEST_F(TriviaQuestions, OpenStartsInTheGamesFolderAndACancelAddsNothing)
+{
+    const QTemporaryDir scripts;
+    const QString folder = scripts.path() + "/Morvaleth's Quillfen/Settings/Games/Trivia";
+    ASSERT_TRUE(QDir().mkpath(folder));
+    const SettingsFiles onDisk{hub.store, SettingsPaths(scripts.path().toStdString())};
+    const std::unique_ptr<EditorForm> form(makeTriviaQuestionsForm({onDisk, hub.profiles}));
+    form->open();
+    QStringList folders;
+    test::withModal([&form] { fileTool(*form, "OPEN").trigger(); },
+                    [&folders](QWidget& modal) {
+                        auto* dialog = qobject_cast<QFileDialog*>(&modal);
+                        folders.append(dialog->directory().absolutePath());
+                        EXPECT_EQ(dialog->nameFilters(), QStringList{"(*.lst)"});
+                        dialog->reject();
+                    });
+    EXPECT_EQ(folders, QStringList{folder});
+    EXPECT_TRUE(files(*form).isEmpty());
+    EXPECT_FALSE(form->isDirty());
 }
 
 TEST_F(TriviaQuestions, DeletingTheDefaultMovesItToItsNeighbour)
@@ -445,6 +559,32 @@ TEST_F(TriviaQuestions, DeletingTheDefaultMovesItToItsNeighbour)
     answering(QMessageBox::Ok, [&form] { fileTool(form, "DELETE").trigger(); });
     EXPECT_EQ(preset(form).currentText(), "zoo"); // the first was deleted: the first that is left
     EXPECT_TRUE(hasLst("music"));
+}
+
+TEST_F(TriviaQuestions, DeletingAnotherFileMovesTheDefaultToo)
+{
+    auto& form = openForm();
+    EXPECT_EQ(preset(form).currentText(), "music");
+    clickRow(files(form), rowOf(files(form), "zoo"));
+    answering(QMessageBox::Ok, [&form] { fileTool(form, "DELETE").trigger(); });
+    EXPECT_EQ(preset(form).currentText(), "trivia");
+    EXPECT_FALSE(isDirty(form));
+}
+
+TEST_F(TriviaQuestions, ADiscardReadsTheFilesAgainAndClosesTheOpenOne)
+{
+    auto& form = openForm();
+    load(form, "zoo");
+    addQuestion(form, {"Zoo", "Q?", "a"});
+    newFile(form, "foo");
+    EXPECT_TRUE(isDirty(form));
+    answering(QMessageBox::Ok, [&form] { button(form, "DISCARD").trigger(); });
+    EXPECT_EQ(shown(files(form)), (QStringList{"music", "trivia", "zoo"}));
+    EXPECT_EQ(preset(form).count(), 3);
+    EXPECT_TRUE(questions(form).isEmpty());
+    EXPECT_EQ(questions(form).property("tag").toString(), "");
+    EXPECT_EQ(lit(form), "00000");
+    EXPECT_FALSE(isDirty(form));
 }
 
 TEST_F(TriviaQuestions, OneFileMustStay)
@@ -472,6 +612,32 @@ TEST_F(TriviaQuestions, TheMenuOfTheQuestionsDoesNothingThoughTheFormServesItsRo
     EXPECT_EQ(questions(form).rows().size(), 1U);
     EXPECT_TRUE(form.routine("gMenuTriviaQuestionsAddClick"));
     EXPECT_TRUE(form.routine("gMenuTriviaQuestionsEditClick"));
+}
+
+TEST_F(TriviaQuestions, EachListOpensAMenuOfItsOwnAndTheFilesOneServesThem)
+{
+    auto& form = openForm();
+    const auto opened = [this](RowList& list) {
+        emit list.menuAsked({0, 0});
+        QStringList names;
+        for (const char* name : {"mnuFirst", "mnuTriviaQuestions"}) {
+            if (window().popUpMenu(name)->isVisible())
+                names.append(name);
+            window().popUpMenu(name)->hide();
+        }
+        return names;
+    };
+    EXPECT_EQ(opened(files(form)), QStringList{"mnuFirst"});
+    EXPECT_EQ(opened(questions(form)), QStringList{"mnuTriviaQuestions"});
+    clickRow(files(form), rowOf(files(form), "zoo"));
+    answering(QMessageBox::Ok, [this] { find<QAction>(window(), "mnuFirstEdit").trigger(); });
+    EXPECT_EQ(questions(form).rows().size(), 2U);
+    answering(QMessageBox::Ok, [this] { find<QAction>(window(), "mnuFirstDelete").trigger(); });
+    EXPECT_EQ(shown(files(form)), (QStringList{"music", "trivia"}));
+    answering(
+        QMessageBox::Ok, [this] { find<QAction>(window(), "mnuFirstAdd").trigger(); },
+        [](QWidget& modal) { test::typeInto(modal, "foo"); });
+    EXPECT_EQ(shown(files(form)), (QStringList{"music", "trivia", "foo"}));
 }
 
 TEST_F(TriviaQuestions, AFileOf50000RowsLoadsScrollsAndSaves)

@@ -46,7 +46,8 @@ TEST_F(Bots, AFunctionWithoutABlockHasTheDefaultsOfItsGroup)
 {
     hub.file("General/Bots/Bots.tbl") =
         "tBots = {\r\n\ttWhisper = {\r\n\t\tsName = \"Shh\",\r\n\t\tsDesc = \"\",\r\n"
-        "\t\tsEmail = \"\",\r\n\t\tbIsReg = 0,\r\n\t\tsFunction = \"Mine\",\r\n\t},\r\n}\r\n";
+        "\t\tsEmail = \"\",\r\n\t\tbIsReg = 0,\r\n\t\tsFunction = \"Mine\",\r\n\t},\r\n"
+        "\ttMute = {\r\n\t\tbIsReg = 0,\r\n\t},\r\n}\r\n";
     const auto rows = bots().load(hub.files, hub.profiles);
     ASSERT_EQ(rows.size(), 57U);
     EXPECT_EQ(rows.front().cells, (std::vector<std::string>{"Main", "\x95Quillfen\x95",
@@ -55,6 +56,7 @@ TEST_F(Bots, AFunctionWithoutABlockHasTheDefaultsOfItsGroup)
                                                             "quillfen@example.com", "Main"}));
     const auto& whisper = rows[9].cells;
     EXPECT_EQ(whisper, (std::vector<std::string>{"Whisper", "Shh", "", "", "Mine"}));
+    EXPECT_EQ(rows[4].cells, (std::vector<std::string>{"Mute", "", "", "", ""})); // an empty block is one too
 }
 
 TEST_F(Bots, TheArchivesNickIsTheUserActionsOne)

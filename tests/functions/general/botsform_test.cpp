@@ -100,9 +100,14 @@ TEST_F(BotsForm, TheDeleteKeyDeletesNoBot)
     EXPECT_EQ(list(form).rows().size(), 57U);
 }
 
-TEST_F(BotsForm, ARestoreGivesEveryGroupItsBotBack)
+TEST_F(BotsForm, ARestoreGivesEveryGroupItsBotBackAndNobodyTheCommand)
 {
+    const std::string fresh = settings;
+    settings =
+        "tBotSettings = {\r\n\tbNotifyOps = 1,\r\n\ttEnabledProfiles = {\r\n\t\t[0] = 1,\r\n\t},\r\n}\r\n";
     bots = golden("general/Bots.save.tbl");
+    // A stored group is no group's default.
+    bots.replace(bots.find("sFunction = \"Security\""), 22, "sFunction = \"Games\"");
     auto& form = open("General~Bots");
     EXPECT_EQ(shown(list(form))[rowOf(list(form), "Mute")], "Mute|Hush|keeps quiet|");
     answering(QMessageBox::Ok, [&form] { button(form, "RESTORE").trigger(); });
@@ -112,6 +117,7 @@ TEST_F(BotsForm, ARestoreGivesEveryGroupItsBotBack)
     EXPECT_TRUE(isDirty(form));
     button(form, "SAVE").trigger();
     EXPECT_TRUE(sameBytes(bots, golden("general/Bots.build.tbl")));
+    EXPECT_TRUE(sameBytes(settings, fresh));
 }
 
 } // namespace

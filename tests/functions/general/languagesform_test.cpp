@@ -1,9 +1,12 @@
+#include "functions/general/languages.h"
+#include "functions/general/languagesform.h"
 #include "shell/kit/rowlist.h"
 #include "support/formtest.h"
 #include "support/golden.h"
 
 #include <QInputDialog>
 #include <QLineEdit>
+#include <QMenu>
 #include <QPushButton>
 #include <QTemporaryDir>
 
@@ -133,10 +136,16 @@ TEST_P(LanguageForms, ShowTheLanguagesWithTheCurrentOneChecked)
     EXPECT_EQ(texts(form).model()->headerData(1, Qt::Horizontal).toString(), words.textColumn);
     EXPECT_FALSE(texts(form).isEnabled());
     EXPECT_TRUE(lit(form).isEmpty());
-    QStringList keys;
-    for (auto* action : find<QToolBar>(form, "tlbTexts").actions())
-        keys.append(action->objectName());
-    EXPECT_EQ(keys, (QStringList{"SAVE", "CLOSE", "EDIT", "EDITALL"}));
+    const auto buttons = [&form](const char* toolbar) {
+        QStringList all;
+        for (auto* action : find<QToolBar>(form, toolbar).actions())
+            all.append(action->objectName() + '=' + action->toolTip());
+        return all;
+    };
+    EXPECT_EQ(buttons("tlbFiles"), (QStringList{"NEW=Create new file", "OPEN=Add existing file",
+                                                "DELETE=Delete question file", "EDIT=Edit question file"}));
+    EXPECT_EQ(buttons("tlbTexts"), (QStringList{"SAVE=Save changes", "CLOSE=Discard changes",
+                                                "EDIT=Edit question", "EDITALL=Edit All"}));
     EXPECT_FALSE(isDirty(form));
 }
 
@@ -163,10 +172,10 @@ TEST_P(LanguageForms, AClickOnATickMakesThatLanguageTheOnlyCurrentOne)
     EXPECT_FALSE(isDirty(form));
 }
 
-TEST_P(LanguageForms, EditLaysALanguageOverTheReference)
+TEST_P(LanguageForms, ADoubleClickLaysALanguageOverTheReference)
 {
     auto& form = openForm();
-    edit(form, "german");
+    doubleClickRow(files(form), rowOf(files(form), "german"));
     EXPECT_EQ(shown(texts(form)), (QStringList{"sHelp|help", "sKick|tritt"}));
     EXPECT_EQ(texts(form).currentRow(), 0);
     EXPECT_EQ(texts(form).property("tag").toString(), "GERMAN");
@@ -243,6 +252,25 @@ TEST_P(LanguageForms, TheReferenceIsReadOnlyAndAChangeStaysOnTheScreen)
     EXPECT_TRUE(texts(form).isEmpty());
 }
 
+TEST_P(LanguageForms, TheReferenceIsNotSavedUntilANewLanguageTakesItsPlace)
+{
+    auto& form = openForm();
+    answering(QMessageBox::Ok, [&form] { edit(form, "DEFAULT"); });
+    const std::string before = file("DEFAULT");
+    typing({"mine"}, [&form] { doubleClickRow(texts(form), 0); });
+    textTool(form, "SAVE").setEnabled(true);
+    textTool(form, "SAVE").trigger();
+    EXPECT_EQ(file("DEFAULT"), before);
+    EXPECT_FALSE(texts(form).isEmpty());
+    newLanguage(form, "French");
+    EXPECT_EQ(lit(form), (QStringList{"CLOSE", "EDIT", "EDITALL"}));
+    typing({"aide"}, [&form] { doubleClickRow(texts(form), 0); });
+    EXPECT_TRUE(isDirty(form));
+    textTool(form, "SAVE").trigger();
+    EXPECT_TRUE(hasFile("French"));
+    EXPECT_EQ(file("DEFAULT"), before);
+}
+
 TEST_P(LanguageForms, OneLanguageIsEditedAtATime)
 {
     auto& form = openForm();
@@ -286,6 +314,18 @@ TEST_P(LanguageForms, ANewLanguageStartsWithTheReferencesTextsAndKeepsItsNameAsT
     EXPECT_EQ(shown(files(form)).last(), "French");
 }
 
+TEST_P(LanguageForms, ANewLanguageOfAListedNameReplacesItsFileAndIsNotListedTwice)
+{
+    auto& form = openForm();
+    newLanguage(form, "german");
+    typing({"Hilfe"}, [&form] { textTool(form, "EDIT").trigger(); });
+    textTool(form, "SAVE").trigger();
+    EXPECT_TRUE(
+        sameBytes(file("german"), std::string(words.textTable) +
+                                      " = {\r\n\tsHelp = \"Hilfe\",\r\n\tsKick = \"kick\",\r\n}\r\n"));
+    EXPECT_EQ(shown(files(form)), (QStringList{"DEFAULT", "german"}));
+}
+
 TEST_P(LanguageForms, AnEmptyNameDoesNothingAndABadOneIsRefused)
 {
     auto& form = openForm();
@@ -307,7 +347,7 @@ TEST_P(LanguageForms, WithoutAReferenceANewLanguageHasNoKeys)
     auto& form = openForm();
     newLanguage(form, "French");
     EXPECT_TRUE(texts(form).isEmpty());
-    textTool(form, "SAVE").setEnabled(true);
+    EXPECT_TRUE(lit(form).contains("SAVE")); // there is nothing to change first
     textTool(form, "SAVE").trigger();
     EXPECT_TRUE(sameBytes(file("French"), std::string(words.textTable) + " = {\r\n}\r\n"));
 }
@@ -321,6 +361,7 @@ TEST_P(LanguageForms, DeleteAsksAndLeavesTheFileOnTheDisk)
     EXPECT_EQ(boxes[0].title, "Delete Language File?");
     EXPECT_EQ(boxes[0].text, "Are you sure you wish to delete german?");
     EXPECT_EQ(boxes[0].buttons, QMessageBox::Yes | QMessageBox::No);
+    EXPECT_EQ(boxes[0].icon, QMessageBox::Question);
     EXPECT_EQ(files(form).rows().size(), 2U);
     answering(QMessageBox::Yes, [&form] { fileTool(form, "DELETE").trigger(); });
     EXPECT_EQ(shown(files(form)), QStringList{"DEFAULT"});
@@ -342,7 +383,7 @@ TEST_P(LanguageForms, TheReferenceCannotBeDeleted)
 TEST_P(LanguageForms, OpenListsANameAndRefusesOneThatIsListedInAnyCase)
 {
     QTemporaryDir folder;
-    for (const char* name : {"/spanish.tbl", "/GERMAN.tbl"}) {
+    for (const char* name : {"/spanish.tbl", "/GERMAN.tbl", "/abc"}) {
         QFile made(folder.path() + name);
         ASSERT_TRUE(made.open(QIODevice::WriteOnly));
     }
@@ -365,6 +406,49 @@ TEST_P(LanguageForms, OpenListsANameAndRefusesOneThatIsListedInAnyCase)
     EXPECT_EQ(boxes[0].text, QString("GERMAN") + words.duplicate);
     EXPECT_EQ(boxes[0].icon, QMessageBox::Warning);
     EXPECT_EQ(files(form).rows().size(), 3U);
+    EXPECT_TRUE(choose("abc").isEmpty()); // four characters go whichever they are
+    EXPECT_EQ(shown(files(form)).last(), "");
+}
+
+TEST_P(LanguageForms, OpenStartsInTheSetsFolderAndACancelAddsNothing)
+{
+    const QTemporaryDir scripts;
+    const QString folder =
+        scripts.path() + "/Morvaleth's Quillfen/Settings/" + QString(words.folder).chopped(1);
+    ASSERT_TRUE(QDir().mkpath(folder));
+    const SettingsFiles onDisk{hub.store, SettingsPaths(scripts.path().toStdString())};
+    const auto sets = languageSets();
+    const auto set = std::find_if(sets.begin(), sets.end(),
+                                  [this](const LanguageSet& each) { return each.form == words.form; });
+    const std::unique_ptr<EditorForm> form(makeLanguageForm(*set, {onDisk, hub.profiles}));
+    form->open();
+    QStringList folders;
+    test::withModal([&form] { fileTool(*form, "OPEN").trigger(); },
+                    [&folders](QWidget& modal) {
+                        auto* dialog = qobject_cast<QFileDialog*>(&modal);
+                        folders.append(dialog->directory().absolutePath());
+                        EXPECT_EQ(dialog->nameFilters(), QStringList{"(*.TBL *.tbl)"});
+                        dialog->reject();
+                    });
+    EXPECT_EQ(folders, QStringList{folder});
+    EXPECT_TRUE(files(*form).isEmpty());
+    EXPECT_FALSE(form->isDirty());
+}
+
+TEST_P(LanguageForms, TheLanguagesMenuServesThem)
+{
+    auto& form = openForm();
+    emit files(form).menuAsked({0, 0});
+    EXPECT_TRUE(window().popUpMenu("mnuFirst")->isVisible());
+    window().popUpMenu("mnuFirst")->hide();
+    clickRow(files(form), rowOf(files(form), "german"));
+    find<QAction>(window(), "mnuFirstEdit").trigger();
+    EXPECT_EQ(texts(form).property("tag").toString(), "GERMAN");
+    answering(QMessageBox::Yes, [this] { find<QAction>(window(), "mnuFirstDelete").trigger(); });
+    EXPECT_EQ(shown(files(form)), QStringList{"DEFAULT"});
+    test::withModal([this] { find<QAction>(window(), "mnuFirstAdd").trigger(); },
+                    [](QWidget& modal) { test::typeInto(modal, "French"); });
+    EXPECT_EQ(texts(form).property("tag").toString(), "French");
 }
 
 TEST_P(LanguageForms, ADiscardShowsTheListAsTheFileHasIt)

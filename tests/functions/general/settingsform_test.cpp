@@ -18,7 +18,6 @@ class GeneralForms : public test::FormTest
 protected:
     std::string& settings = hub.file("General/Globals/GeneralSettings.tbl");
     std::string& switches = hub.file("General/Globals/Switches.tbl");
-    std::string& rightClicks = hub.file("General/Globals/EnabledRightClicks.tbl");
 
     static QLineEdit& box(EditorForm& form, const char* name) { return find<QLineEdit>(form, name); }
     static RowList& list(EditorForm& form) { return find<RowList>(form, "lvwSwitches"); }
@@ -213,52 +212,6 @@ TEST_F(GeneralForms, OfTwoEditorsOfOneFileTheLastSaveWins)
     EXPECT_NE(settings.find("\tsRightClickName = \"mine\","), std::string::npos);
 }
 
-TEST_F(GeneralForms, SwitchesShowEveryFunctionWithoutItsLetter)
-{
-    auto& form = open("General~Switches");
-    EXPECT_EQ(form.objectName(), "frmGeneralSwitches");
-    EXPECT_EQ(form.windowTitle(), "General ~ Switches");
-    EXPECT_EQ(list(form).rows().size(), 56U);
-    EXPECT_EQ(list(form).rows().front().cells[0], "Anagrams");
-    EXPECT_EQ(list(form).rows().back().cells[0], "Whisper");
-    EXPECT_TRUE(isTicked(form, "Anagrams"));
-    EXPECT_FALSE(isTicked(form, "TopicChanger"));
-    EXPECT_FALSE(isDirty(form));
-}
-
-TEST_F(GeneralForms, ATickMakesTheSwitchesDirtyAndIsSaved)
-{
-    auto& form = open("General~Switches");
-    for (const char* name : {"RotatingPrivateMessage", "TopicChanger", "Mute"})
-        tick(form, name);
-    EXPECT_TRUE(isDirty(form));
-    button(form, "SAVE").trigger();
-    EXPECT_FALSE(isDirty(form));
-    EXPECT_TRUE(sameBytes(switches, golden("general/Switches.save.tbl")));
-}
-
-TEST_F(GeneralForms, ARestoreTicksEveryRowAlsoTheTwoThatABuildLeavesOff)
-{
-    auto& form = open("General~Switches");
-    tick(form, "Mute");
-    answering(QMessageBox::Ok, [&form] { button(form, "RESTORE").trigger(); });
-    EXPECT_TRUE(isTicked(form, "RotatingPrivateMessage"));
-    EXPECT_TRUE(isTicked(form, "TopicChanger"));
-    EXPECT_TRUE(isTicked(form, "Mute"));
-    EXPECT_TRUE(isDirty(form));
-    EXPECT_TRUE(sameBytes(switches, golden("general/Switches.build.tbl")));
-}
-
-TEST_F(GeneralForms, ADiscardLeavesTheSwitchesClean)
-{
-    auto& form = open("General~Switches");
-    tick(form, "Mute");
-    answering(QMessageBox::Ok, [&form] { button(form, "DISCARD").trigger(); });
-    EXPECT_TRUE(isTicked(form, "Mute"));
-    EXPECT_EQ(list(form).rows().size(), 56U);
-    EXPECT_FALSE(isDirty(form));
-}
-
 TEST_F(GeneralForms, APortalSwitchPutInByHandShowsAndIsSavedLikeAnyOther)
 {
     switches = "tSwitches = {\r\n\tbMute = 1,\r\n\tbPortal = 1,\r\n}\r\n";
@@ -269,9 +222,88 @@ TEST_F(GeneralForms, APortalSwitchPutInByHandShowsAndIsSavedLikeAnyOther)
     EXPECT_TRUE(sameBytes(switches, "tSwitches = {\r\n\tbMute = 0,\r\n\tbPortal = 1,\r\n}\r\n"));
 }
 
-TEST_F(GeneralForms, AClickOnARowShowsItsHelpInABalloon)
+/// The functions with a tick each, in a file of their own.
+struct TickedFunctions
 {
-    auto& form = open("General~Switches");
+    const char* key;
+    const char* form;
+    const char* caption;
+    const char* file; ///< and its golden files
+    const char* other;
+};
+
+class SwitchForms : public GeneralForms, public testing::WithParamInterface<TickedFunctions>
+{
+protected:
+    static std::string path(const char* file) { return std::string("General/Globals/") + file + ".tbl"; }
+    std::string goldenOf(const char* state) const
+    {
+        return golden(std::string("general/") + words.file + '.' + state + ".tbl");
+    }
+
+    const TickedFunctions& words = GetParam();
+    std::string& file = hub.file(path(words.file));
+};
+
+INSTANTIATE_TEST_SUITE_P(
+    Both, SwitchForms,
+    testing::Values(TickedFunctions{"General~Switches", "frmGeneralSwitches", "General ~ Switches",
+                                    "Switches", "EnabledRightClicks"},
+                    TickedFunctions{"General~EnabledRightClicks", "frmGeneralRightClicks",
+                                    "General ~ Right Clicks", "EnabledRightClicks", "Switches"}),
+    [](const auto& each) { return std::string(each.param.form); });
+
+TEST_P(SwitchForms, ShowEveryFunctionWithoutItsLetter)
+{
+    auto& form = open(words.key);
+    EXPECT_EQ(form.objectName(), words.form);
+    EXPECT_EQ(form.windowTitle(), words.caption);
+    EXPECT_EQ(list(form).rows().size(), 56U);
+    EXPECT_EQ(list(form).rows().front().cells[0], "Anagrams");
+    EXPECT_EQ(list(form).rows().back().cells[0], "Whisper");
+    EXPECT_TRUE(isTicked(form, "Anagrams"));
+    EXPECT_FALSE(isTicked(form, "TopicChanger"));
+    EXPECT_FALSE(isDirty(form));
+}
+
+TEST_P(SwitchForms, ATickMakesThemDirtyAndIsSavedInTheirOwnFile)
+{
+    const std::string other = hub.file(path(words.other));
+    auto& form = open(words.key);
+    for (const char* name : {"RotatingPrivateMessage", "TopicChanger", "Mute"})
+        tick(form, name);
+    EXPECT_TRUE(isDirty(form));
+    button(form, "SAVE").trigger();
+    EXPECT_FALSE(isDirty(form));
+    EXPECT_TRUE(sameBytes(file, goldenOf("save")));
+    EXPECT_TRUE(sameBytes(hub.file(path(words.other)), other));
+}
+
+TEST_P(SwitchForms, ARestoreTicksEveryRowAlsoTheTwoThatABuildLeavesOff)
+{
+    auto& form = open(words.key);
+    tick(form, "Mute");
+    answering(QMessageBox::Ok, [&form] { button(form, "RESTORE").trigger(); });
+    EXPECT_TRUE(isTicked(form, "RotatingPrivateMessage"));
+    EXPECT_TRUE(isTicked(form, "TopicChanger"));
+    EXPECT_TRUE(isTicked(form, "Mute"));
+    EXPECT_TRUE(isDirty(form));
+    EXPECT_TRUE(sameBytes(file, goldenOf("build")));
+}
+
+TEST_P(SwitchForms, ADiscardLeavesThemClean)
+{
+    auto& form = open(words.key);
+    tick(form, "Mute");
+    answering(QMessageBox::Ok, [&form] { button(form, "DISCARD").trigger(); });
+    EXPECT_TRUE(isTicked(form, "Mute"));
+    EXPECT_EQ(list(form).rows().size(), 56U);
+    EXPECT_FALSE(isDirty(form));
+}
+
+TEST_P(SwitchForms, AClickOnARowShowsItsHelpInABalloon)
+{
+    auto& form = open(words.key);
     const auto click = [&form](const char* text) { clickRow(list(form), rowOf(list(form), text)); };
     click("Mute");
     const auto balloons = [&form] { return form.findChildren<QWidget*>("CTooltip"); };
@@ -282,18 +314,6 @@ TEST_F(GeneralForms, AClickOnARowShowsItsHelpInABalloon)
     ASSERT_EQ(balloons().size(), 1);
     EXPECT_EQ(find<QLabel>(*balloons()[0], "lblText").text(), "Changes hub topic on a timer");
     EXPECT_FALSE(isDirty(form));
-}
-
-TEST_F(GeneralForms, EnabledRightClicksAreAFileOfTheirOwn)
-{
-    auto& form = open("General~EnabledRightClicks");
-    EXPECT_EQ(form.objectName(), "frmGeneralRightClicks");
-    EXPECT_EQ(form.windowTitle(), "General ~ Right Clicks");
-    for (const char* name : {"RotatingPrivateMessage", "TopicChanger", "Mute"})
-        tick(form, name);
-    button(form, "SAVE").trigger();
-    EXPECT_TRUE(sameBytes(rightClicks, golden("general/EnabledRightClicks.save.tbl")));
-    EXPECT_TRUE(sameBytes(switches, golden("general/Switches.build.tbl")));
 }
 
 } // namespace
