@@ -47,6 +47,7 @@ std::string tableOf(const ArchiveMember& member, const std::string& file)
 std::vector<std::string> twoDigits(int count)
 {
     std::vector<std::string> numbers;
+    numbers.reserve(static_cast<std::size_t>(count));
     for (int number = 0; number < count; ++number)
         numbers.push_back((number < 10 ? "0" : "") + std::to_string(number));
     return numbers;
@@ -260,6 +261,7 @@ const std::vector<std::string>& dayNames()
 {
     static const std::vector<std::string> names = [] {
         std::vector<std::string> all;
+        all.reserve(days.size());
         for (const Day& day : days)
             all.emplace_back(day.name);
         return all;
