@@ -1,7 +1,9 @@
+#include "portal/portalpart.h"
 #include "shell/kit/rowlist.h"
 #include "support/formtest.h"
 #include "support/golden.h"
 
+#include <QContextMenuEvent>
 #include <QDialog>
 #include <QLineEdit>
 #include <QMenu>
@@ -96,6 +98,7 @@ TEST_F(PortalForm, HasItsLabelsAndColumns)
     EXPECT_EQ(hubs().columnWidth(0), hubs().width() / 2);
     EXPECT_EQ(hubs().columnWidth(1), hubs().width() / 4);
     EXPECT_EQ(hubs().columnWidth(2), hubs().width() / 4 - 300 / 15);
+    EXPECT_EQ(nicks().columnWidth(1), nicks().width() - 300 / 15);
 }
 
 TEST_F(PortalForm, OffersNoDefaults)
@@ -197,6 +200,16 @@ TEST_F(PortalForm, AddingASecondHubDarkensNew)
     EXPECT_EQ(hubs().rows()[1].cells, (std::vector<std::string>{"two.hub:412", "q", "5002", ""}));
 }
 
+TEST_F(PortalForm, ThreeHubsAddedInOneGoAllJoinAndNewStaysDark)
+{
+    through(hubButton("NEW"), {{{"one.hub:411", "p", "5001"}, "cmdAdd"},
+                               {{"two.hub:412", "q", "5002"}, "cmdAdd"},
+                               {{"three.hub:413", "r", "5003"}, "cmdOK"}});
+    EXPECT_EQ(shown(hubs()),
+              (QStringList{"one.hub:411|p|5001", "two.hub:412|q|5002", "three.hub:413|r|5003"}));
+    EXPECT_FALSE(hubButton("NEW").isEnabled());
+}
+
 TEST_F(PortalForm, TheHubDialogsHaveTheirWords)
 {
     settings = saved();
@@ -275,6 +288,7 @@ TEST_F(PortalForm, ADeletionThatLeavesTwoRowsLightsNew)
     hubs().select(2);
     answering(QMessageBox::Ok, [this] { hubButton("DELETE").trigger(); });
     EXPECT_TRUE(hubButton("NEW").isEnabled());
+    EXPECT_EQ(hubs().currentRow(), 0);
 }
 
 TEST_F(PortalForm, ADiscardAppendsTheFilesRowsToThoseOnScreen)
@@ -359,6 +373,22 @@ TEST_F(PortalForm, ADoubleClickEditsTheRowOfEitherList)
     EXPECT_EQ(titleOf(nicks(), 1), "Edit Nick");
 }
 
+TEST_F(PortalForm, ARightClickSelectsTheRowOfEitherListAndShowsItsMenu)
+{
+    settings = saved();
+    const auto check = [this](RowList& list, int column, const char* menu) {
+        list.select(0);
+        const QPoint at = list.visualRect(list.model()->index(1, column)).center();
+        QContextMenuEvent event(QContextMenuEvent::Mouse, at, list.viewport()->mapToGlobal(at));
+        QApplication::sendEvent(list.viewport(), &event);
+        EXPECT_EQ(list.currentRow(), 1);
+        EXPECT_TRUE(window().popUpMenu(menu)->isVisible());
+        window().popUpMenu(menu)->hide();
+    };
+    check(hubs(), 0, "mnuFirst");
+    check(nicks(), 1, "mnuSecond");
+}
+
 TEST_F(PortalForm, ServesItsTwoBorrowedMenus)
 {
     settings = saved();
@@ -377,6 +407,27 @@ TEST_F(PortalForm, ServesItsTwoBorrowedMenus)
     }
     EXPECT_EQ(titles,
               (QStringList{"Add Hub", "Delete Hub?", "Edit Hub", "Add Nick", "Delete Nick?", "Edit Nick"}));
+}
+
+TEST_F(PortalForm, ADatagramThatCannotBeReadIsToldWithItsNumber)
+{
+    const LiveLinks& links = form().findChild<PortalPart*>()->links();
+    auto& datagrams = *links.findChild<UdpPort*>("UDPSock_1"); // it holds none
+    int number = 0;
+    QString description;
+    try {
+        datagrams.GetData();
+    } catch (const SocketError& error) {
+        number = error.number();
+        description = QString::fromUtf8(error.what());
+    }
+    const auto boxes = answering(QMessageBox::Ok, [&datagrams] { emit datagrams.DataArrival(); });
+    ASSERT_EQ(boxes.size(), 1);
+    EXPECT_EQ(boxes[0].title, QString::number(number));
+    EXPECT_EQ(boxes[0].text, "Error occured: \n" + description);
+    EXPECT_FALSE(description.isEmpty());
+    EXPECT_EQ(boxes[0].icon, QMessageBox::Warning);
+    EXPECT_EQ(boxes[0].buttons, QMessageBox::Ok);
 }
 
 TEST_F(PortalForm, ClosingItDirtyAsks)

@@ -347,6 +347,31 @@ TEST_F(PortalHubs, ATickWorksOnTheSelectedRow)
     EXPECT_EQ(one.connections, 0);
 }
 
+TEST_F(PortalHubs, UntickingLeavesTheHubOfTheSelectedRow)
+{
+    logInBoth();
+    hubs().select(1);
+    hubs().model()->setData(hubs().model()->index(0, 0), Qt::Unchecked, Qt::CheckStateRole);
+    EXPECT_TRUE(two.waitFor("$Quit " + two.address() + '|'));
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !two.isConnected(); }));
+    EXPECT_TRUE(one.isConnected());
+    EXPECT_EQ(one.heard, "");
+    EXPECT_TRUE(isTicked(1));
+    EXPECT_FALSE(isTicked(0));
+}
+
+TEST_F(PortalHubs, AMissingFieldTakesTheSelectedRowsTick)
+{
+    tick(1);
+    ASSERT_TRUE(two.waitForLogin());
+    find<QLineEdit>(form(), "txtTextBox(3)").clear();
+    answering(QMessageBox::Ok, [this] {
+        hubs().model()->setData(hubs().model()->index(0, 0), Qt::Checked, Qt::CheckStateRole);
+    });
+    EXPECT_FALSE(isTicked(1));
+    EXPECT_TRUE(isTicked(0));
+}
+
 TEST_F(PortalHubs, ATickWithoutASelectedRowDoesNothing)
 {
     hubs().clearSelection();

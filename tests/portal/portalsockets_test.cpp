@@ -45,6 +45,14 @@ TEST_F(Portal, OpeningWaitsUntilAllThreeSocketsAreClosed)
     EXPECT_EQ(calls.size(), 6U);
 }
 
+TEST_F(Portal, OpeningALinkThatIsLoggedInLeavesItsFlag)
+{
+    logInBoth();
+    links.OpenLink(0);
+    EXPECT_TRUE(links.isLoggedIn(Link::One));
+    EXPECT_TRUE(links.isLoggedIn(Link::Two));
+}
+
 TEST_F(Portal, AnAddressWithoutAPortConnectsToTheEmptyPort)
 {
     form.rows[0].cells[0] = "one.hub";

@@ -278,6 +278,24 @@ TEST_F(EditDialogTest, ValuesComeInFieldOrder)
     EXPECT_EQ(dialog.answer().gEditValues, (std::vector<std::string>{"9", "a"}));
 }
 
+TEST_F(EditDialogTest, EachOfTwoNumbersHasTheCallersRangeAtItsPlace)
+{
+    EditRequest edit = request(EditForm::TwoUpDowns, 1, "E");
+    edit.values = {"3", "8"};
+    edit.ranges = {{2, 4}, {7, 9}};
+    const auto after = [&edit](Qt::Key arrow) {
+        EditDialog dialog(edit);
+        for (const char* number : {"updUpDown(0)", "updUpDown(1)"}) {
+            for (int press = 0; press < 3; ++press)
+                QTest::keyClick(&find<QAbstractSpinBox>(dialog, number), arrow);
+        }
+        command(dialog, "cmdOK").click();
+        return dialog.answer().gEditValues;
+    };
+    EXPECT_EQ(after(Qt::Key_Up), (std::vector<std::string>{"4", "9"}));
+    EXPECT_EQ(after(Qt::Key_Down), (std::vector<std::string>{"2", "7"}));
+}
+
 TEST_F(EditDialogTest, EveryByteGoesThroughAField)
 {
     std::string bytes;
@@ -303,6 +321,15 @@ TEST_F(EditDialogTest, TheHabitualModesAre)
 class TextEdit : public test::FormTest
 {
 protected:
+    static void expectDiscardQuestion(const QList<test::SeenBox>& boxes)
+    {
+        ASSERT_EQ(boxes.size(), 1);
+        EXPECT_EQ(boxes[0].title, "Discard changes?");
+        EXPECT_EQ(boxes[0].text, "Discard all unsaved changes?");
+        EXPECT_EQ(boxes[0].buttons, QMessageBox::Ok | QMessageBox::Cancel);
+        EXPECT_EQ(boxes[0].icon, QMessageBox::Question);
+    }
+
     std::string& text = hub.file("A.txt");
 
     static QPlainTextEdit& box(QWidget& dialog) { return find<QPlainTextEdit>(dialog, "txtTextBox"); }
@@ -375,10 +402,7 @@ TEST_F(TextEdit, ADiscardReloadsAndGoesClean)
     TextEditDialog dialog(hub.files, "A.txt", TextEditDialog::Mode::Edit);
     dialog.show();
     QTest::keyClicks(&box(dialog), "x");
-    auto boxes = test::answering(QMessageBox::Cancel, [&] { tool(dialog, "DISCARD").trigger(); });
-    ASSERT_EQ(boxes.size(), 1);
-    EXPECT_EQ(boxes[0].title, "Discard changes?");
-    EXPECT_EQ(boxes[0].text, "Discard all unsaved changes?");
+    expectDiscardQuestion(test::answering(QMessageBox::Cancel, [&] { tool(dialog, "DISCARD").trigger(); }));
     EXPECT_EQ(box(dialog).toPlainText(), "xa");
     test::answering(QMessageBox::Ok, [&] { tool(dialog, "DISCARD").trigger(); });
     EXPECT_EQ(box(dialog).toPlainText(), "a");
@@ -390,11 +414,9 @@ TEST_F(TextEdit, ClosingItDirtyAsksTheDiscardQuestion)
     TextEditDialog dialog(hub.files, "A.txt", TextEditDialog::Mode::Edit);
     dialog.show();
     QTest::keyClicks(&box(dialog), "x");
-    EXPECT_EQ(test::answering(QMessageBox::Cancel, [&] { dialog.close(); }).size(), 1);
+    expectDiscardQuestion(test::answering(QMessageBox::Cancel, [&] { dialog.close(); }));
     EXPECT_TRUE(dialog.isVisible());
-    const auto boxes = test::answering(QMessageBox::Ok, [&] { dialog.close(); });
-    ASSERT_EQ(boxes.size(), 1);
-    EXPECT_EQ(boxes[0].title, "Discard changes?");
+    expectDiscardQuestion(test::answering(QMessageBox::Ok, [&] { dialog.close(); }));
     EXPECT_FALSE(dialog.isVisible());
 }
 
@@ -406,6 +428,21 @@ TEST_F(TextEdit, ANewFileStartsEmptyWhateverStandsOnTheDisk)
     box(dialog).setPlainText("new");
     tool(dialog, "SAVE").trigger();
     EXPECT_EQ(text, "new\r\n");
+}
+
+TEST_F(TextEdit, ADiscardInANewFileShowsWhatStandsOnTheDiskUnderItsName)
+{
+    TextEditDialog dialog(hub.files, "New.txt", TextEditDialog::Mode::New);
+    const auto discardOf = [&](const char* typed) {
+        box(dialog).setPlainText(typed);
+        test::answering(QMessageBox::Ok, [&] { tool(dialog, "DISCARD").trigger(); });
+        EXPECT_EQ(panel(dialog), "Controls = Clean");
+        return box(dialog).toPlainText();
+    };
+    EXPECT_EQ(discardOf("new"), "");
+    EXPECT_FALSE(hub.has("New.txt"));
+    hub.file("New.txt") = "old\r\n";
+    EXPECT_EQ(discardOf("newer"), "old");
 }
 
 TEST_F(TextEdit, ATextOf5001LinesShowsAsEmpty)

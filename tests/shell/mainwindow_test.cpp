@@ -90,21 +90,23 @@ TEST_F(MainWindowTest, HasItsMenus)
         titles.append(action->menu()->objectName() + '=' + action->text());
     EXPECT_EQ(titles,
               (QStringList{"mnuFile=&File", "mnuTools=&Tools", "mnuWindows=&Window", "mnuHelp=&Help"}));
-    const QList<QPair<const char*, const char*>> items = {
-        {"mnuFileClose", "&Close"},
-        {"mnuToolsSideBar", "Show/Hide Functions &Sidebar"},
-        {"mnuWindowsShowAll", "&Show All Windows"},
-        {"mnuWindowsClose", "&Close All Windows"},
-        {"mnuWindows1", "Windows Menu &1"},
-        {"mnuWindows9", "Windows Menu &9"},
-        {"mnuWindows10", "Windows Menu 1&0"},
-        {"mnuHelpVisit", "&Visit Morvaleth's Scripts"},
-        {"mnuHelpDonate", "Make A &Donation"},
-        {"mnuHelpAbout", "&About"},
+    const auto itemsOf = [this](const char* menu) {
+        QStringList items;
+        for (auto* item : find<QMenu>(window(), menu).actions())
+            items.append(item->objectName() + '=' + (item->isSeparator() ? "|" : item->text()));
+        return items;
     };
-    for (const auto& [name, caption] : items)
-        EXPECT_EQ(find<QAction>(window(), name).text(), caption);
-    EXPECT_TRUE(find<QAction>(window(), "mnuWindowsSplitter").isSeparator());
+    EXPECT_EQ(itemsOf("mnuFile"), QStringList{"mnuFileClose=&Close"});
+    EXPECT_EQ(itemsOf("mnuTools"), QStringList{"mnuToolsSideBar=Show/Hide Functions &Sidebar"});
+    EXPECT_EQ(itemsOf("mnuWindows"),
+              (QStringList{
+                  "mnuWindows1=Windows Menu &1", "mnuWindows2=Windows Menu &2", "mnuWindows3=Windows Menu &3",
+                  "mnuWindows4=Windows Menu &4", "mnuWindows5=Windows Menu &5", "mnuWindows6=Windows Menu &6",
+                  "mnuWindows7=Windows Menu &7", "mnuWindows8=Windows Menu &8", "mnuWindows9=Windows Menu &9",
+                  "mnuWindows10=Windows Menu 1&0", "mnuWindowsSplitter=|",
+                  "mnuWindowsShowAll=&Show All Windows", "mnuWindowsClose=&Close All Windows"}));
+    EXPECT_EQ(itemsOf("mnuHelp"), (QStringList{"mnuHelpVisit=&Visit Morvaleth's Scripts",
+                                               "mnuHelpDonate=Make A &Donation", "mnuHelpAbout=&About"}));
 }
 
 TEST_F(MainWindowTest, EveryMenuAndItemHasAMnemonicOfItsOwn)
@@ -176,6 +178,15 @@ TEST_F(MainWindowTest, ChoosingAnOpenFormBringsItForward)
     qobject_cast<QMdiSubWindow*>(settings.parentWidget())->showMinimized();
     EXPECT_EQ(&open("General~Settings"), &settings);
     EXPECT_FALSE(settings.parentWidget()->isMinimized());
+    EXPECT_FALSE(settings.parentWidget()->isMaximized());
+}
+
+TEST_F(MainWindowTest, ChoosingTheActiveFormLeavesItMaximised)
+{
+    auto& settings = open("General~Settings");
+    qobject_cast<QMdiSubWindow*>(settings.parentWidget())->showMaximized();
+    EXPECT_EQ(&open("General~Settings"), &settings);
+    EXPECT_TRUE(settings.parentWidget()->isMaximized());
 }
 
 TEST_F(MainWindowTest, AClosedFormLeavesTheMenu)
@@ -194,6 +205,20 @@ TEST_F(MainWindowTest, AFormWhoseCaptionIsAnotherThanItsKeysLeavesTheMenuByItsTa
     EXPECT_EQ(menuCaptions().value(0), "&1. General ~ EnabledRightClicks");
     closeForm(form);
     EXPECT_EQ(window().openWindows().Count(), 0);
+}
+
+TEST_F(MainWindowTest, TwoFormsOfNearlyOneCaptionCloseTheirOwnEntries)
+{
+    const char* const keys[] = {"General~RightClicks", "General~EnabledRightClicks"};
+    const QString left[] = {"&1. General ~ EnabledRightClicks", "&1. General ~ RightClicks"};
+    for (int closed = 0; closed < 2; ++closed) {
+        EditorForm* both[] = {&open(keys[0]), &open(keys[1])};
+        closeForm(*both[closed]);
+        EXPECT_EQ(menuCaptions(), (QStringList{left[closed], "&Close All Windows"}));
+        closeForm(*both[1 - closed]);
+        EXPECT_EQ(window().openWindows().Count(), 0);
+        QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
 }
 
 TEST_F(MainWindowTest, ACaptionWithOtherBlanksStillFindsItsEntry)
@@ -220,6 +245,17 @@ TEST_F(MainWindowTest, ElevenOpenFormsShowTenEntriesAndTheWayToAll)
     EXPECT_EQ(captions[9], "1&0. General ~ Switches");
     EXPECT_EQ(captions[10], "&Show All Windows");
     EXPECT_EQ(captions[11], "&Close All Windows");
+
+    find<QAction>(window(), "mnuWindows10").trigger();
+    auto* tenth = area().currentSubWindow();
+    EXPECT_EQ(tenth->widget()->objectName(), "frmGeneralSwitches");
+    tenth->close();
+    EXPECT_EQ(menuCaptions().size(), 11);
+    EXPECT_FALSE(find<QAction>(window(), "mnuWindowsShowAll").isVisible());
+    EXPECT_EQ(menuCaptions().value(9), "1&0. General ~ EnabledRightClicks");
+    area().closeAllSubWindows();
+    EXPECT_TRUE(menuCaptions().isEmpty());
+    EXPECT_FALSE(find<QAction>(window(), "mnuWindowsSplitter").isVisible());
 }
 
 TEST_F(MainWindowTest, CloseAllWindowsDoesNothing)
@@ -282,6 +318,9 @@ TEST_F(MainWindowTest, ClosesItsFormsFirstAndACancelKeepsItOpen)
         test::answering(QMessageBox::Cancel, [this] { find<QAction>(window(), "mnuFileClose").trigger(); });
     ASSERT_EQ(boxes.size(), 1);
     EXPECT_EQ(boxes[0].title, "Discard changes?");
+    EXPECT_EQ(boxes[0].text, "Discard all unsaved changes?");
+    EXPECT_EQ(boxes[0].buttons, QMessageBox::Ok | QMessageBox::Cancel);
+    EXPECT_EQ(boxes[0].icon, QMessageBox::Question);
     EXPECT_TRUE(window().isVisible());
     boxes = test::answering(QMessageBox::Ok, [this] { window().close(); });
     EXPECT_EQ(boxes.size(), 1);

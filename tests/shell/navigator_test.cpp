@@ -2,6 +2,7 @@
 #include "shell/window/navigatortable.h"
 #include "shell/window/toptoolbar.h"
 #include "support/formtest.h"
+#include "support/golden.h"
 
 #include <QLineEdit>
 #include <QMenu>
@@ -139,6 +140,31 @@ TEST_F(NavigatorTest, EveryRowStandsUnderItsParentInOrderWithItsCaption)
     EXPECT_EQ(seen, expected); // a walk down the tree meets the rows in the table's order
 }
 
+TEST_F(NavigatorTest, TreeAndDropDownsHoldEveryRowAsItIsTold)
+{
+    hub.file("General/Globals/Switches.tbl") += "\tbPortal = 1,\r\n";
+    const auto keyOf = [](const QTreeWidgetItem* item) { return item->data(0, Qt::UserRole).toString(); };
+    QMap<QString, QList<QAction*>> entries; // of each drop-down those that no node of the tree has met yet
+    for (auto* group : top().actions()) {
+        if (group->menu())
+            entries.insert(group->objectName(), group->menu()->actions());
+    }
+    std::string seen;
+    QTreeWidgetItemIterator item(&tree());
+    for (++item; *item; ++item) { // behind the root
+        const QString key = keyOf(*item);
+        QString dropDown = "-";
+        auto& left = entries[key.section('~', 0, 0)];
+        if (!left.isEmpty() && left.constFirst()->objectName() == key)
+            dropDown = left.takeFirst()->text();
+        const QStringList row = {key, keyOf((*item)->parent()), (*item)->text(0), dropDown};
+        seen += row.join('|').toStdString() + '\n';
+    }
+    EXPECT_TRUE(test::sameBytes(seen, test::golden("shell/navigator.txt")));
+    for (const auto& left : entries)
+        EXPECT_TRUE(left.isEmpty());
+}
+
 TEST_F(NavigatorTest, TheRootIsBoldAndExpandedAndTheLanguageFormsHangUnderLanguage)
 {
     auto* root = tree().topLevelItem(0);
@@ -152,6 +178,13 @@ TEST_F(NavigatorTest, TheRootIsBoldAndExpandedAndTheLanguageFormsHangUnderLangua
 
 TEST_F(NavigatorTest, ThePortalShowsOnlyWithItsSwitchInTheFile)
 {
+    EXPECT_EQ(node("Communication~Portal"), nullptr);
+    EXPECT_EQ(topButton("Communication").menu()->findChild<QAction*>("Communication~Portal"), nullptr);
+}
+
+TEST_F(NavigatorTest, APortalSwitchOfZeroLeavesThePortalOut)
+{
+    hub.file("General/Globals/Switches.tbl") += "\tbPortal = 0,\r\n";
     EXPECT_EQ(node("Communication~Portal"), nullptr);
     EXPECT_EQ(topButton("Communication").menu()->findChild<QAction*>("Communication~Portal"), nullptr);
 }
@@ -240,9 +273,11 @@ TEST_F(NavigatorTest, AHeadingOpensNothingAndLeavesTheWindowMenuAsItWas)
 
 TEST_F(NavigatorTest, ALeafWithoutAFormDoesNothing)
 {
-    for (const char* key : {"Bookshelf~RightClicks", "DVDRack~RightClicks", "Jukebox~RightClicks",
-                            "Songbook~RightClicks", "Arcade~RightClicks"})
+    for (const char* group : {"Bookshelf", "DVDRack", "Jukebox", "Songbook", "Arcade"}) {
+        const QString key = group + QStringLiteral("~RightClicks");
         click(key);
+        find<QAction>(*topButton(group).menu(), key).trigger();
+    }
     window().OpenFunctionForm("No~Such");
     EXPECT_TRUE(openKeys().isEmpty());
     EXPECT_TRUE(window().findChild<QMdiArea*>()->subWindowList().isEmpty());
@@ -312,20 +347,25 @@ TEST_F(NavigatorTest, EveryDropDownsEntryOpensItsForm)
 
 TEST_F(NavigatorTest, AGroupsButtonWalksThroughItsDropDownAndStartsAgain)
 {
-    TopToolbar toolbar(false);
-    QStringList chosen;
-    QObject::connect(&toolbar, &TopToolbar::formChosen,
-                     [&chosen](const QString& key) { chosen.append(key); });
-    auto* games = toolbar.findChild<QAction*>("Games");
-    const auto entries = games->menu()->actions();
-    for (int at = 0; at <= entries.size(); ++at)
-        games->trigger();
-    EXPECT_EQ(chosen.value(0), "Games~Anagrams");
-    EXPECT_EQ(chosen.value(1), "Games~CodeBreaker");
-    EXPECT_EQ(chosen.value(static_cast<int>(entries.size()) - 1), "Games~Trivia~Questions");
-    EXPECT_EQ(chosen.value(static_cast<int>(entries.size())), "Games~Anagrams");
-    toolbar.findChild<QAction*>("Security")->trigger(); // each group has a counter of its own
-    EXPECT_EQ(chosen.last(), "Security~AntiAdvertise~Settings");
+    for (const bool portalShown : {false, true}) {
+        TopToolbar toolbar(portalShown);
+        QStringList chosen;
+        QObject::connect(&toolbar, &TopToolbar::formChosen,
+                         [&chosen](const QString& key) { chosen.append(key); });
+        QStringList expected;
+        for (const char* group :
+             {"General", "Communication", "CustomiseUser", "Games", "Security", "UserActions"}) {
+            auto* action = toolbar.findChild<QAction*>(group);
+            const auto entries = action->menu()->actions();
+            for (const auto* entry : entries)
+                expected.append(entry->objectName());
+            expected.append(entries.constFirst()->objectName());
+            for (int press = 0; press <= entries.size(); ++press)
+                action->trigger(); // each group has a counter of its own
+        }
+        EXPECT_EQ(chosen, expected);
+        EXPECT_EQ(chosen.contains("Communication~Portal"), portalShown);
+    }
 }
 
 TEST_F(NavigatorTest, AnArchiveButtonsBodyDoesNothing)

@@ -74,6 +74,7 @@ TEST(Toolbars, OnlySaveAndTheFileButtonsStartDisabled)
     EXPECT_TRUE(button(form, "DISCARD")->isEnabled());
     EXPECT_TRUE(button(form, "RESTORE")->isEnabled());
     EXPECT_FALSE(form.isMovable());
+    EXPECT_FALSE(form.isFloatable());
     QToolBar file;
     index = 0;
     BuildFileEditToolbar(file, index);

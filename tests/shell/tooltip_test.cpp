@@ -47,5 +47,36 @@ TEST(Tooltip, HasColoursStyleIconAndTimes)
     EXPECT_TRUE(QTest::qWaitFor([&parent] { return parent.findChildren<QWidget*>("CTooltip").isEmpty(); }));
 }
 
+TEST(Tooltip, WaitsForItsDelay)
+{
+    QWidget parent;
+    parent.show();
+    CTooltip tooltip;
+    tooltip.setDelayTime(60'000); // so long that no slow machine gets there
+    tooltip.Create(&parent, {0, 0});
+    QTest::qWait(50);
+    EXPECT_FALSE(parent.findChild<QWidget*>("CTooltip")->isVisible());
+}
+
+TEST(Tooltip, OnlyABalloonLeavesRoomForItsPointer)
+{
+    QWidget parent;
+    parent.show();
+    const auto coversItsUpperEdge = [&parent](CTooltip::Style style) {
+        CTooltip tooltip;
+        tooltip.setStyle(style);
+        tooltip.setDelayTime(0);
+        tooltip.setText("Allows users to be muted");
+        tooltip.Create(&parent, {0, 0});
+        auto* window = parent.findChild<QWidget*>("CTooltip");
+        EXPECT_TRUE(QTest::qWaitFor([window] { return window->isVisible(); }));
+        const bool covers = window->mask().contains({window->width() / 2, 2});
+        tooltip.Destroy();
+        return covers;
+    };
+    EXPECT_FALSE(coversItsUpperEdge(CTooltip::Style::Balloon));
+    EXPECT_TRUE(coversItsUpperEdge(CTooltip::Style::Plain));
+}
+
 } // namespace
 } // namespace quillfen

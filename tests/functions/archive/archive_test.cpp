@@ -128,6 +128,15 @@ TEST_F(Archive, ARebuildCopiesFiftyOfTheWeeksTables)
     EXPECT_EQ(file.find("\t[51] = {"), std::string::npos);
 }
 
+TEST_F(Archive, ARebuildWithoutAFirstTableWritesTheDefaultAlone)
+{
+    hyperlink("ItemOfTheWeek") =
+        "tHyperlinkItemOfTheWeek = {\r\n\t[2] = {\r\n\t\tsTime = \"TUE 11:00\",\r\n\t\tbInMain = 1,\r\n"
+        "\t},\r\n}\r\n";
+    build();
+    EXPECT_TRUE(sameBytes(hyperlink("ItemOfTheWeek"), golden("archive/HyperlinkItemOfTheWeek.build.tbl")));
+}
+
 TEST_F(Archive, EmptyTablesAreMadeIfMissingAndTheVotersAreAlwaysForgotten)
 {
     hyperlink("Items") = "the script's";
@@ -203,6 +212,22 @@ TEST_F(Archive, FiveHundredAndOneTablesLoadAsFiveHundredRows)
     const auto link = loadLinkOfTheWeek(arcade(), hub.files);
     EXPECT_EQ(link.announcements.size(), 500U);
     EXPECT_EQ(link.announcements.back(), (CellRow{{"Sunday", "18:00", "Main"}}));
+}
+
+TEST_F(Archive, AGapEndsTheAnnouncements)
+{
+    week = "tArcadeItemOfTheWeek = {\r\n\t[1] = {\r\n\t\tsTime = \"SUN 18:00\",\r\n\t},\r\n"
+           "\t[3] = {\r\n\t\tsTime = \"MON 18:00\",\r\n\t},\r\n}\r\n";
+    EXPECT_EQ(loadLinkOfTheWeek(arcade(), hub.files).announcements,
+              (std::vector<CellRow>{{{"Sunday", "18:00", "PM"}}}));
+}
+
+TEST_F(Archive, AWordThatIsNoDayShowsAnEmptyDayAndEndsNothing)
+{
+    week = "tArcadeItemOfTheWeek = {\r\n\t[1] = {\r\n\t\tsTime = \"XXX 10:00\",\r\n\t},\r\n"
+           "\t[2] = {\r\n\t\tsTime = \"MON 18:00\",\r\n\t},\r\n}\r\n";
+    EXPECT_EQ(loadLinkOfTheWeek(arcade(), hub.files).announcements,
+              (std::vector<CellRow>{{{"", "10:00", "PM"}}, {{"Monday", "18:00", "PM"}}}));
 }
 
 TEST_F(Archive, HoursAndMinutesHaveTwoDigits)

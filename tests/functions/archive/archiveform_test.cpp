@@ -47,9 +47,20 @@ protected:
     {
         find<QAction>(*button(form, filter, "tlbListview").menu(), entry).trigger();
     }
-    static int entries(EditorForm& form, const char* filter)
+
+    /// What a filter offers: each entry's key and caption.
+    static QStringList entries(EditorForm& form, const char* filter)
     {
-        return static_cast<int>(button(form, filter, "tlbListview").menu()->actions().size());
+        QStringList all;
+        for (const auto* entry : button(form, filter, "tlbListview").menu()->actions())
+            all.append(entry->objectName() + '=' + entry->text());
+        return all;
+    }
+
+    /// The table that a file holds.
+    std::string tableIn(const QString& member, const std::string& name)
+    {
+        return file(member, name).substr(0, file(member, name).find(' '));
     }
 };
 
@@ -172,6 +183,17 @@ TEST_F(ArchiveForms, TheChangeTimesDialogStartsWithTheBoxsTime)
     changeTime(form).setText(" 17:59"); // as the form loads what it saved itself
     dialogs = entering({{{}, "cmdCancel"}}, [&] { button(form, "EDIT", "tlbChangeTime").trigger(); });
     EXPECT_EQ(dialogs.value(0).values, (QStringList{"", "17", "59"}));
+}
+
+TEST_F(ArchiveForms, AChangeTimeCanBeTyped)
+{
+    auto& form = openFor("Hyperlink", "LinkOfTheWeek");
+    changeTime(form).selectAll();
+    QTest::keyClicks(&changeTime(form), "Friday 20:15");
+    EXPECT_TRUE(isDirty(form));
+    button(form, "SAVE").trigger();
+    EXPECT_NE(file("Hyperlink", "ItemOfTheWeek").find("\tsChangeTime = Friday 20:15,\r\n"),
+              std::string::npos);
 }
 
 TEST_F(ArchiveForms, AfterASaveTheChangeTimeLoadsWithoutItsDay)
@@ -297,8 +319,8 @@ TEST_F(ArchiveForms, TheLastCommandsFileIsNeverWrittenSoItsChangeIsLostOnSave)
         EXPECT_EQ(shown(grid(form))[17], "|Master|Yes");
         button(form, "SAVE").trigger();
         EXPECT_EQ(shown(grid(form))[17], "|Master|No");
-        for (const char* command : {"Clear", "Delete", "Modify", "NewItems"})
-            EXPECT_TRUE(has(member, std::string("Enable") + command)) << command;
+        for (const std::string command : {"Clear", "Delete", "Modify", "NewItems"})
+            EXPECT_EQ(tableIn(member, "Enable" + command), "t" + member.toStdString() + "Enable" + command);
         EXPECT_EQ(has(member, "EnableSubmit") ? file(member, "EnableSubmit") : "", before);
     }
 }
@@ -319,8 +341,10 @@ TEST_F(ArchiveForms, TheFiltersShowOneCommandOrOneProfile)
     auto& form = openFor("Arcade", "Permissions");
     EXPECT_EQ(button(form, "COMMAND", "tlbListview").toolTip(), "View By Command");
     EXPECT_EQ(button(form, "PROFILE", "tlbListview").toolTip(), "View By Profile");
-    EXPECT_EQ(entries(form, "COMMAND"), 5);
-    EXPECT_EQ(entries(form, "PROFILE"), 4);
+    EXPECT_EQ(entries(form, "COMMAND"), (QStringList{"C*Clear=Clear", "C*Delete=Delete", "C*Modify=Modify",
+                                                     "C*NewItems=NewItems", "C*Submit=Submit"}));
+    EXPECT_EQ(entries(form, "PROFILE"),
+              (QStringList{"Unregistered=Unregistered", "Master=Master", "Operator=Operator", "VIP=VIP"}));
     choose(form, "PROFILE", "Operator");
     EXPECT_EQ(shown(grid(form)), (QStringList{"Clear|Operator|No", "Delete|Operator|No", "Modify|Operator|No",
                                               "NewItems|Operator|No", "Submit|Operator|No"}));
@@ -354,6 +378,8 @@ TEST_F(ArchiveForms, RightClicksAreSavedUnderTheirShorterTableNames)
     button(form, "SAVE").trigger();
     EXPECT_TRUE(
         sameBytes(file("Hyperlink", "RCEnableItem"), golden("archive/HyperlinkRCEnableItem.save.tbl")));
+    for (const std::string command : {"Category", "Item", "Pending"})
+        EXPECT_EQ(tableIn("Hyperlink", "RCEnable" + command), "tHyperlinkEnable" + command);
     EXPECT_EQ(shown(grid(form))[4], "Item|Unregistered|Yes");
     EXPECT_EQ(shown(grid(form))[12], "Voting|Unregistered|No"); // the last command is never written
     EXPECT_EQ(file("Hyperlink", "RCEnableVoting"), voting);
@@ -364,7 +390,8 @@ TEST_F(ArchiveForms, APressOfTheRightClickButtonDoesNotTakeItsFilterOff)
     auto& form = openFor("Hyperlink", "RightClicks");
     auto& filter = button(form, "RIGHTCLICK", "tlbListview");
     EXPECT_EQ(filter.toolTip(), "View By Right Click");
-    EXPECT_EQ(entries(form, "RIGHTCLICK"), 4);
+    EXPECT_EQ(entries(form, "RIGHTCLICK"),
+              (QStringList{"C*Category=Category", "C*Item=Item", "C*Pending=Pending", "C*Voting=Voting"}));
     choose(form, "RIGHTCLICK", "C*Pending");
     EXPECT_EQ(shown(grid(form)).size(), 4);
     filter.trigger();

@@ -51,6 +51,14 @@ TEST_F(Changers, ARebuildLosesTheTopicsAndKeepsTheKickBars)
     EXPECT_TRUE(sameBytes(hub.file("Communication/KickBarChanger/KickBarChangerTopics.tbl"), kickBars));
 }
 
+TEST_F(Changers, TheTopicsSurviveWhereAFileStandsOneFolderTooDeep)
+{
+    hub.file("Communication/TopicChanger/TopicChanger/TopicChangerTopics.tbl") = "";
+    topics = "tTopicChangerTopics = {\r\n\t\"Welcome\",\r\n}\r\n";
+    buildTopicChanger(hub.files, hub.profiles);
+    EXPECT_TRUE(sameBytes(topics, "tTopicChangerTopics = {\r\n\t\"Welcome\",\r\n}\r\n"));
+}
+
 TEST_F(Changers, TheHubScriptSeesDelayAndTexts)
 {
     topicChanger().texts.save(hub.files, hub.profiles, {{{"one"}}, {{"two"}}});

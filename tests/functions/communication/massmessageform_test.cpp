@@ -46,6 +46,10 @@ TEST_F(MassMessageForm, ShowsABlockPerActingProfileWithTheNamedTargetsBehind)
     EXPECT_EQ(grid(form).model()->index(12, 5).data(), "Banner");
     EXPECT_EQ(grid(form).model()->index(8, 5).data(), "0");
     EXPECT_EQ(immune(form).accessibleName(), "Immune Passive Profiles");
+    QStringList labels;
+    for (const auto* label : form.findChildren<QLabel*>())
+        labels.append(label->text());
+    EXPECT_TRUE(labels.contains("Immune Passive Profiles"));
     EXPECT_EQ(find<QToolBar>(form, "tlbFormToolbar").findChild<QAction*>("RESTORE"), nullptr);
     EXPECT_FALSE(isDirty(form));
 }
@@ -117,11 +121,15 @@ TEST_F(MassMessageForm, ReadsBothWritersFilesAlike)
     EXPECT_TRUE(immune(form).rows()[2].checked);
 }
 
-TEST_F(MassMessageForm, ReadsItsFileOnce)
+TEST_F(MassMessageForm, ReadsItsFileOnceAndAgainAfterASave)
 {
     hub.store.readings.clear();
-    openForm();
-    EXPECT_EQ(hub.store.readings[hub.root + "/Communication/MassMessage/MassMessageSettings.tbl"], 1);
+    int& readings = hub.store.readings[hub.root + "/Communication/MassMessage/MassMessageSettings.tbl"];
+    auto& form = openForm();
+    EXPECT_EQ(readings, 1);
+    doubleClickRow(grid(form), 1);
+    button(form, "SAVE").trigger();
+    EXPECT_EQ(readings, 2);
 }
 
 TEST_F(MassMessageForm, AFailedSaveKeepsTheRowsAndStaysDirty)

@@ -54,6 +54,16 @@ TEST_F(Motd, ARebuildKeepsTheProfilesAndSwitchesTheMessageForAllOff)
     EXPECT_EQ(luaValues(settings).at("tMOTDSettings.tAll.bUse"), "0");
 }
 
+TEST_F(Motd, ARebuildTakesTheMessageForAllFromAFileOfAnotherNameWhereThereIsOne)
+{
+    hub.file("Communication/MOTD/MassMessageSettings.tbl") =
+        "tX = {\r\n\ttAll = {\r\n\t\tbUse = 1,\r\n\t\tbInMain = 0,\r\n\t},\r\n}\r\n";
+    settings = golden("communication/MOTDSettings.save.tbl");
+    buildMotds(hub.files, hub.profiles);
+    EXPECT_EQ(luaValues(settings).at("tMOTDSettings.tAll.bUse"), "1");
+    EXPECT_EQ(luaValues(settings).at("tMOTDSettings.tAll.bInMain"), "0");
+}
+
 TEST_F(Motd, ANewProfileJoinsWithZerosAndATextOfItsOwn)
 {
     buildMotds(hub.files, hub.profiles);

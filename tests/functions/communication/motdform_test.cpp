@@ -42,6 +42,10 @@ TEST_F(MotdForm, ShowsTheProfilesAndAllInBold)
     EXPECT_EQ(list(form).model()->headerData(0, Qt::Horizontal).toString(), "Profile Active");
     EXPECT_EQ(list(form).model()->headerData(1, Qt::Horizontal).toString(), "Send To");
     EXPECT_EQ(find<QToolBar>(form, "tlbFormToolbar").findChild<QAction*>("RESTORE"), nullptr);
+    QStringList keys;
+    for (const auto* action : find<QToolBar>(form, "tlbMOTD").actions())
+        keys.append(action->objectName());
+    EXPECT_EQ(keys, (QStringList{"EDIT", "AMEND"}));
     EXPECT_FALSE(isDirty(form));
 }
 

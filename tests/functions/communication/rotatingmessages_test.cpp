@@ -99,6 +99,14 @@ TEST_F(Rotating, NamesAreTickedWhereTheyHaveAFileAndOtherFilesFollowUnticked)
                   {{"two"}, true}, {{"gone"}}, {{"caf\xE9"}, true}, {{"TWO"}}, {{"one"}}, {{"x."}}}));
 }
 
+TEST_F(Rotating, ASecondFileOfOneStemTicksTheRowOfTheFirst)
+{
+    hub.file(path(main, "Files.tbl")) = "tRotatingMainMessageFiles = {\r\n}\r\n";
+    for (const char* name : {"one.asc", "one.txt", "two.asc"})
+        hub.file(texts + name) = "";
+    EXPECT_EQ(loadedNames(), (std::vector<CellRow>{{{"one"}, true}, {{"two"}}}));
+}
+
 TEST_F(Rotating, AShortFileNameLosesWhatTheCutTakes)
 {
     hub.file(path(main, "Files.tbl")) = "tRotatingMainMessageFiles = {\r\n}\r\n";

@@ -121,10 +121,14 @@ TEST_P(RotatingForms, AreSavedInTheFormsOrderWithTheTickedNames)
     }
     clickTick(list(form), 0);
     clickTick(list(form), 2);
+    hub.store.log.clear();
     button(form, "SAVE").trigger();
     EXPECT_FALSE(isDirty(form));
     EXPECT_TRUE(sameBytes(settings, golden("communication/" + name + "Settings.save.tbl")));
     EXPECT_TRUE(sameBytes(namesFile, table("\t\"two\",\r\n")));
+    const std::string path = "write " + hub.root + "/Communication/" + name + "/" + name;
+    EXPECT_EQ(hub.store.log, (std::vector<std::string>{path + "Settings.tbl", path + "Files.tbl"}))
+        << "and not the list of immune users";
     EXPECT_TRUE(hub.has(texts + "one.asc")); // unticked, it stays on the disk
     EXPECT_EQ(luaValues(settings).at("t" + name + "Settings.tEnabledAdProfiles.0"), "1");
     EXPECT_EQ(luaValues(namesFile).at("t" + name + "Files.1"), "two");
@@ -145,6 +149,7 @@ TEST_P(RotatingForms, ANewFileIsWrittenAndJoinsUnticked)
     EXPECT_EQ(addFile(form, {"Three"}), (QStringList{input, folder + "Three.asc"}));
     EXPECT_EQ(hub.file(texts + "Three.asc"), "new\r\n");
     EXPECT_EQ(ticks(form), (QStringList{"one+", "gone-", "two-", "Three-"}));
+    EXPECT_FALSE(isDirty(form));
 }
 
 TEST_P(RotatingForms, AFileThatIsNotSavedDoesNotJoin)
@@ -275,8 +280,14 @@ TEST_P(RotatingForms, ARestoreLeavesTheFilesAlone)
     answering(QMessageBox::Ok, [&form] { button(form, "RESTORE").trigger(); });
     EXPECT_TRUE(find<QCheckBox>(form, "chkRandomise").isChecked());
     EXPECT_EQ(find<QLineEdit>(form, "txtUpDown").text(), "120");
-    for (const CellRow& row : find<RowList>(form, "lvwEnabledProfiles").rows())
-        EXPECT_FALSE(row.checked);
+    QStringList lists = {"lvwEnabledProfiles"};
+    if (isPrivate())
+        lists.append({"lvwEnabledAdProfiles", "lvwEnabledMaintainProfiles"});
+    for (const QString& each : lists) {
+        EXPECT_EQ(find<RowList>(form, each).rows().size(), 4U);
+        for (const CellRow& row : find<RowList>(form, each).rows())
+            EXPECT_FALSE(row.checked) << each.toStdString();
+    }
     EXPECT_EQ(ticks(form), (QStringList{"one+", "gone-", "two-"}));
     EXPECT_TRUE(isDirty(form));
 }

@@ -149,6 +149,13 @@ TEST_F(AsciiIntroForm, AUserIsAddedAndEditedButNotWithoutAPicture)
                                            {"Username", "Filename"},
                                            {"bob", "owl"}}}));
     EXPECT_EQ(shown(users(form)), QStringList("bob|dragon"));
+    test::withModal([&form] { doubleClickRow(users(form), 0); },
+                    [](QWidget& dialog) {
+                        test::fillField(test::fieldOf(dialog, 0), "eve");
+                        EXPECT_TRUE(find<QPushButton>(dialog, "cmdOK").isEnabled());
+                        EXPECT_FALSE(find<QPushButton>(dialog, "cmdAdd").isEnabled());
+                        dialog.close();
+                    });
     test::withModal([&form] { button(form, "NEW", "tlbAscii").trigger(); },
                     [](QWidget& dialog) {
                         test::fillField(test::fieldOf(dialog, 0), "eve");

@@ -21,6 +21,15 @@ protected:
         return all;
     }
 
+    /// What the labels of a form read.
+    static QStringList labels(const EditorForm& form)
+    {
+        QStringList all;
+        for (const auto* label : form.findChildren<QLabel*>())
+            all.append(label->text());
+        return all;
+    }
+
     /// Presses a list's DELETE with a row selected, and answers what comes up.
     QList<SeenBox> deleteRow(EditorForm& form, const char* list, const char* toolbar, int row,
                              QMessageBox::StandardButton answer)

@@ -49,6 +49,7 @@ TEST_F(CustomRightClickForm, ShowsTextsProfilesAndPlacesInWords)
     EXPECT_EQ(form.windowTitle(), "CustomiseUser ~ Custom Right Click");
     EXPECT_EQ(columns(list(form)), (QStringList{"Right Click", "Profile", "Location"}));
     EXPECT_EQ(list(form).accessibleName(), "Hub Settings"); // the label of another form's list
+    EXPECT_TRUE(labels(form).contains("Hub Settings"));
     EXPECT_EQ(shown(list(form)),
               (QStringList{R"(Tools\Who = where|Operators Only|Hub)", "Wave|All Profiles|Users",
                            "Register|Unregistered|Hub & Users", "Find more|Operator|Search"}));
@@ -119,6 +120,8 @@ TEST_F(CustomRightClickForm, ARowOfAProfileThatIsGoneIsNotTakenUntilAnotherIsCho
     EXPECT_EQ(shown(list(form)), QStringList("x|9|Hub"));
     test::withModal([&form] { doubleClickRow(list(form), 0); },
                     [](QWidget& dialog) {
+                        EXPECT_TRUE(find<QPushButton>(dialog, "cmdOK").isEnabled());
+                        EXPECT_FALSE(find<QPushButton>(dialog, "cmdAdd").isEnabled());
                         find<QPushButton>(dialog, "cmdOK").click();
                         EXPECT_TRUE(dialog.isVisible());
                         dialog.close();

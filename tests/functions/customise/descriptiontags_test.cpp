@@ -67,6 +67,15 @@ TEST_F(DescriptionTags, AMissingTagGetsItsNameInARebuildWhicheverTableStandsBehi
     }
 }
 
+TEST_F(DescriptionTags, ARebuildOfAnEmptyTableOfTagsWritesTheNames)
+{
+    settings = "tDescriptionTagSettings = {\r\n\tbNotifyOps = 1,\r\n\ttProfiles = {\r\n\t},\r\n"
+               "\ttEnabledProfiles = {\r\n\t\t[-1] = 0,\r\n\t\t[0] = 0,\r\n\t\t[1] = 0,\r\n\t\t[2] = 0,\r\n"
+               "\t},\r\n}\r\n";
+    build();
+    EXPECT_TRUE(sameBytes(settings, golden("DescriptionTagSettings.build.tbl")));
+}
+
 TEST_F(DescriptionTags, ATagWithAnEqualsSignIsKeptByARebuildAndCutByTheForm)
 {
     settings = "tDescriptionTagSettings = {\r\n\ttProfiles = {\r\n\t\t[0] = \"a=b\",\r\n\t},\r\n}\r\n";

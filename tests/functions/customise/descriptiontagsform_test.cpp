@@ -23,6 +23,7 @@ TEST_F(DescriptionTagsForm, OnAFreshTreeShowsEachProfilesNameInBrackets)
     EXPECT_EQ(form.objectName(), "frmCustomiseUserDescriptionTags");
     EXPECT_EQ(form.windowTitle(), "CustomiseUser ~ DescriptionTags");
     EXPECT_EQ(find<RowList>(form, "lvwEnabledProfiles").accessibleName(), "Enabled Profiles");
+    EXPECT_TRUE(labels(form).contains("Enabled Profiles"));
     EXPECT_EQ(ticks(form, "lvwEnabledProfiles"), "0000");
     EXPECT_EQ(columns(tags(form)), (QStringList{"Profile", "Tag"}));
     EXPECT_EQ(shown(tags(form)), (QStringList{"Unregistered|[Unregistered]", "Master|[Master]",

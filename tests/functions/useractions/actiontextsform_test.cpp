@@ -149,29 +149,53 @@ struct Words
 {
     const char* key;
     const char* list;
+    const char* addition;
     const char* minimum;
     const char* title;
     const char* text;
+    const char* first; ///< the row that it starts with
 };
 
 /// The words of each list, which were copied from one another: attacks and actions are called intros, and
 /// some modern words medieval.
 const Words allWords[] = {
-    {"UserActions~Insults~Standard", "Insults", "Insult", "Delete Insult?", "Insult"},
-    {"UserActions~Attacks", "Attacks", "Intro", "Delete Intro?", "intro"},
-    {"UserActions~DoAction", "DoActions", "Intro", "Delete DoAction?", "intro"},
-    {"UserActions~Insults~Medieval", "InsultsOne", "Medieval Insult", "Delete Medieval Insult?",
-     "Medieval Insult"},
-    {"UserActions~Insults~Medieval", "InsultsTwo", "Medieval Insult", "Delete Medieval Insult?",
-     "Medieval Insult"},
-    {"UserActions~Insults~Medieval", "InsultsThree", "Medieval Insult", "Delete Medieval Insult?",
-     "Medieval Insult"},
-    {"UserActions~Insults~Modern", "InsultsOne", "Modern Insult", "Delete Modern Insult?", "Medieval Insult"},
-    {"UserActions~Insults~Modern", "InsultsTwo", "Modern Insult", "Delete Modern Insult?", "Modern Insult"},
-    {"UserActions~Insults~Modern", "InsultsThree", "Medieval Insult", "Delete Modern Insult?",
-     "Modern Insult"},
-    {"UserActions~Insults~Modern", "InsultsFour", "Modern Insult", "Delete Modern Insult?", "Modern Insult"},
+    {"UserActions~Insults~Standard", "Insults", "Insult", "Insult", "Delete Insult?", "Insult",
+     "*** !username! Says 'People can't say that !victim! has absolutely nothing! After all, they have "
+     "inferiority!'"},
+    {"UserActions~Attacks", "Attacks", "Attack", "Intro", "Delete Intro?", "intro",
+     "*** !username! blows !victim!'s brains out"},
+    {"UserActions~DoAction", "DoActions", "DoAction", "Intro", "Delete DoAction?", "intro",
+     "beer|*** !username! drinks an ice cold beer"},
+    {"UserActions~Insults~Medieval", "InsultsOne", "Medieval Insult", "Medieval Insult",
+     "Delete Medieval Insult?", "Medieval Insult", "artless"},
+    {"UserActions~Insults~Medieval", "InsultsTwo", "Medieval Insult", "Medieval Insult",
+     "Delete Medieval Insult?", "Medieval Insult", "boil brained"},
+    {"UserActions~Insults~Medieval", "InsultsThree", "Medieval Insult", "Medieval Insult",
+     "Delete Medieval Insult?", "Medieval Insult", "hedge-pig"},
+    {"UserActions~Insults~Modern", "InsultsOne", "Modern Insult", "Modern Insult", "Delete Modern Insult?",
+     "Medieval Insult", "amorphous"},
+    {"UserActions~Insults~Modern", "InsultsTwo", "Modern Insult", "Modern Insult", "Delete Modern Insult?",
+     "Modern Insult", "blob of"},
+    {"UserActions~Insults~Modern", "InsultsThree", "Modern Insult", "Medieval Insult",
+     "Delete Modern Insult?", "Modern Insult", "fly-covered"},
+    {"UserActions~Insults~Modern", "InsultsFour", "Modern Insult", "Modern Insult", "Delete Modern Insult?",
+     "Modern Insult", "kangaroo vomit"},
 };
+
+TEST_F(ActionTextForms, AddingBearsTheListsOwnWords)
+{
+    for (const Words& words : allWords) {
+        auto& form = open(words.key);
+        const std::string toolbar = std::string("tlb") + words.list;
+        const auto dialogs =
+            entering({}, [&form, &toolbar] { button(form, "NEW", toolbar.c_str()).trigger(); });
+        ASSERT_EQ(dialogs.size(), 1);
+        EXPECT_EQ(dialogs[0].title, QStringLiteral("Add ") + words.addition);
+        const bool isAction = QString(words.addition) == "DoAction";
+        EXPECT_EQ(dialogs[0].labels,
+                  isAction ? QStringList({"Command", "Action"}) : QStringList(words.addition));
+    }
+}
 
 TEST_F(ActionTextForms, DeletingAsksInTheListsOwnWordsAndNeverTakesTheLastRow)
 {
@@ -207,11 +231,8 @@ TEST_F(ActionTextForms, ARestoreShowsTheFirstTextsAgain)
         rows.setRows({{{"mine", "too"}}, {{"and", "mine"}}});
         answering(QMessageBox::Ok, [&form] { button(form, "RESTORE").trigger(); });
         EXPECT_TRUE(isDirty(form));
-        EXPECT_EQ(rows.rows().size(), 1U);
+        EXPECT_EQ(shown(rows), QStringList{words.first});
     }
-    EXPECT_EQ(shown(list(open("UserActions~Insults~Medieval"), "lvwInsultsThree")), QStringList{"hedge-pig"});
-    EXPECT_EQ(shown(list(open("UserActions~DoAction"), "lvwDoActions")),
-              QStringList{"beer|*** !username! drinks an ice cold beer"});
     EXPECT_TRUE(
         sameBytes(hub.file("UserActions/DoAction/DoAction.tbl"), golden("useractions/DoAction.build.tbl")));
 }

@@ -68,8 +68,12 @@ TEST_F(CollectionForms, AreSavedInTheirOwnOrder)
             entering({{{"first line|second line"}}}, [&] { listButton(form, "NEW", word).trigger(); });
         EXPECT_EQ(dialogs, (QList<SeenDialog>{{"frmGlobalEditOneFields", "Add " + word, {word}, {""}}}));
         EXPECT_TRUE(isDirty(form));
+        hub.store.log.clear();
         button(form, "SAVE").trigger();
         EXPECT_FALSE(isDirty(form));
+        const std::string each = word.toStdString();
+        const std::string written = "write " + hub.root + "/UserActions/" + each + "s/" + each;
+        EXPECT_EQ(hub.store.log, (std::vector<std::string>{written + "Settings.tbl", written + "s.tbl"}));
         const std::string name = "useractions/" + word.toStdString();
         EXPECT_TRUE(sameBytes(file(word, "Settings.tbl"), golden(name + "Settings.save.tbl")));
         EXPECT_TRUE(sameBytes(file(word, "s.tbl"), golden(name + "s.save.tbl")));

@@ -83,7 +83,12 @@ TEST_F(SpellForms, SettingsAreSavedBeforeTheWards)
     EXPECT_FALSE(button(form, "EDIT", "tlbWards").isEnabled());
 
     find<QCheckBox>(form, "chkCheckBox(0)").click();
-    QTest::keyClick(&find<NumberBox>(form, "updUpDown(0)"), Qt::Key_Up);
+    auto& delay = find<NumberBox>(form, "updUpDown(0)");
+    delay.stepBy(999);
+    EXPECT_EQ(delay.text(), "180");
+    delay.stepBy(-999);
+    EXPECT_EQ(delay.text(), "1");
+    delay.stepBy(3);
     clickTick(find<RowList>(form, "lvwEnabledProfiles"), 1);
     const auto dialogs =
         entering({{{"Merle"}, "cmdAdd"}, {{"0.3.6.0"}}}, [&] { button(form, "NEW", "tlbWards").trigger(); });
@@ -279,7 +284,11 @@ TEST_F(SpellForms, TheFirstPhraseIsLostAtASaveAfterOneChangeAndComesBackAfterTwo
         EXPECT_EQ(spells(form).rows()[0].cells[2], "a|b|c|");
         EXPECT_EQ(spells(form).rows()[0].cells[3], "3");
         EXPECT_TRUE(isDirty(form));
+        hub.store.log.clear();
         button(form, "SAVE").trigger();
+        const std::string written = "write " + hub.root + '/';
+        EXPECT_EQ(hub.store.log,
+                  (std::vector<std::string>{written + book.folder + "frog.tbl", written + book.file}));
         EXPECT_TRUE(sameBytes(hub.file(book.folder + "frog.tbl"),
                               golden("useractions/" + book.nick + "Spell.once.tbl")));
         EXPECT_TRUE(
@@ -289,6 +298,18 @@ TEST_F(SpellForms, TheFirstPhraseIsLostAtASaveAfterOneChangeAndComesBackAfterTwo
         button(form, "SAVE").trigger();
         EXPECT_TRUE(sameBytes(hub.file(book.folder + "frog.tbl"),
                               golden("useractions/" + book.nick + "Spell.twice.tbl")));
+    }
+}
+
+TEST_F(SpellForms, EachPhraseOfOneRoundOfAddingIsGatheredAnew)
+{
+    for (const Book& book : books) {
+        fill(book);
+        auto& form = open(book.key);
+        amend(form, 0);
+        entering({{{"c"}, "cmdAdd"}, {{"d"}}}, [&form] { phraseButton(form, "NEW").trigger(); });
+        EXPECT_EQ(spells(form).rows()[0].cells[2], "a|b|c|a|b|c|d|");
+        EXPECT_EQ(spells(form).rows()[0].cells[3], "4");
     }
 }
 
