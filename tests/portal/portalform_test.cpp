@@ -99,6 +99,7 @@ TEST_F(PortalForm, HasItsLabelsAndColumns)
     EXPECT_EQ(hubs().columnWidth(1), hubs().width() / 4);
     EXPECT_EQ(hubs().columnWidth(2), hubs().width() / 4 - 300 / 15);
     EXPECT_EQ(nicks().columnWidth(1), nicks().width() - 300 / 15);
+    EXPECT_EQ(nicks().columnViewportPosition(1), 0) << "the hidden column takes no room";
 }
 
 TEST_F(PortalForm, OffersNoDefaults)
