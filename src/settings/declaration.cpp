@@ -84,7 +84,7 @@ std::string constantTable(const Setting& setting, RowOrder order, const std::str
     const bool differs = order == RowOrder::Rebuild && !setting.rebuildEntries.empty();
     std::string rows = indent + setting.key + " = {\r\n";
     for (const std::string& row : differs ? setting.rebuildEntries : setting.entries)
-        rows += indent + "\t" + row + ",\r\n";
+        rows.append(indent).append("\t").append(row).append(",\r\n");
     return rows + indent + "},\r\n";
 }
 

@@ -36,6 +36,7 @@ RowListDeclaration::Load loadOf(const NestedListsFile& file, std::size_t list)
         std::vector<ListRow> read;
         files.ReadTableToList(path, read, "", table);
         std::vector<CellRow> rows;
+        rows.reserve(read.size());
         for (ListRow& row : read)
             rows.push_back({{std::move(row.text)}});
         return rows;

@@ -11,6 +11,7 @@ template <typename ValueOf>
 std::string composed(const GridCommand& command, const std::vector<std::string>& keys, const ValueOf& valueOf)
 {
     std::vector<std::string> openings; // of each row, alike in every table
+    openings.reserve(keys.size());
     for (const std::string& key : keys)
         openings.push_back("\t\t[" + key + "] = ");
     std::size_t rows = 0; // about the bytes of a table's rows

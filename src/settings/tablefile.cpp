@@ -176,7 +176,7 @@ SubTableIndex SettingsFiles::subIndex(std::string_view file) const
 std::string SettingsFiles::ReadTableSubValue(std::string_view file, std::string_view table,
                                              std::string_view key, bool bAsFlag) const
 {
-    const auto value = subIndex(file).value(table, key);
+    auto value = subIndex(file).value(table, key);
     if (bAsFlag)
         return isOne(value) ? "1" : "0";
     return value;

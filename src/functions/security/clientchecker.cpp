@@ -33,6 +33,7 @@ void saveVersions(const SettingsFiles& files, const HubProfiles& /*profiles*/,
                   const std::vector<CellRow>& rows)
 {
     std::vector<ListRow> list;
+    list.reserve(rows.size());
     for (const CellRow& row : rows)
         list.push_back(
             {row.cells[Client], (row.cells[Allow] == "True" ? "1^" : "0^") + row.cells[MinVersion]});
@@ -42,6 +43,7 @@ void saveVersions(const SettingsFiles& files, const HubProfiles& /*profiles*/,
 std::vector<std::string> trimmed(const std::vector<std::string>& texts)
 {
     std::vector<std::string> all;
+    all.reserve(texts.size());
     for (const std::string& text : texts)
         all.emplace_back(trimBlanks(text));
     return all;

@@ -34,6 +34,7 @@ std::vector<CellRow> loadTerms(const SettingsFiles& files, const HubProfiles& /*
 void saveTerms(const SettingsFiles& files, const HubProfiles& /*profiles*/, const std::vector<CellRow>& rows)
 {
     std::vector<ListRow> list;
+    list.reserve(rows.size());
     for (const CellRow& row : rows)
         list.push_back({row.cells[Term], actionLetter(row.cells[Action])});
     saveList(files, termsFile, list);

@@ -92,6 +92,7 @@ RowListGroup wordLists(const NestedListsFile& file, const std::vector<std::strin
 std::string oneWordEach(const NestedListsFile& file, const std::vector<std::string>& words)
 {
     std::vector<std::vector<std::string>> lists;
+    lists.reserve(words.size());
     for (const std::string& word : words)
         lists.push_back({word});
     return composedNestedLists(file, lists);

@@ -169,6 +169,7 @@ Control checkList(const Setting& setting, const std::vector<std::pair<std::strin
     return {list,
             [list, flags](const SettingValues& values) {
                 std::vector<CellRow> rows;
+                rows.reserve(flags.size());
                 for (const auto& [text, name] : flags)
                     rows.push_back({{text}, isOne(values.at(name))});
                 list->setRows(std::move(rows));
