@@ -44,13 +44,6 @@ FormMaker rotatingForm(const FormDescription& description, const RotatingMessage
     });
 }
 
-GridWords chatGrid()
-{
-    GridWords words = unfilteredGrid();
-    words.namesCommandByProfile = true;
-    return words;
-}
-
 } // namespace
 
 FormCatalogue communicationForms()
@@ -65,14 +58,14 @@ FormCatalogue communicationForms()
         {"frmCommunicationMassMessage", makeMassMessageForm},
         gridForm(
             {.name = "frmCommunicationMute", .caption = "Communication ~ Mute", .hasRestore = false},
-            [] { return sourceOf(mutePermissions()); }, chatGrid()),
+            [] { return sourceOf(mutePermissions()); }, blockGrid()),
         rotatingForm({"frmCommunicationRotatingMainMessage", "Communication ~ RotatingMainMessage"},
                      rotatingMainMessages),
         rotatingForm({"frmCommunicationRotatingPrivateMessage", "Communication ~ RotatingPrivateMessage"},
                      rotatingPrivateMessages),
         gridForm(
             {.name = "frmCommunicationTalk", .caption = "Communication ~ Talk", .hasRestore = false},
-            [] { return sourceOf(talkPermissions()); }, chatGrid()),
+            [] { return sourceOf(talkPermissions()); }, blockGrid()),
         changerForm({"frmCommunicationTopicChanger", "Communication ~ TopicChanger"}, topicChanger),
         listForm({"frmCommunicationWelcomeInfoNetworkHubs", "Communication ~ WelcomeInfo ~ NetworkHubs"},
                  networkHubs),

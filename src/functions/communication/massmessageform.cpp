@@ -37,18 +37,11 @@ private:
     QWidget* m_widget;
 };
 
-GridWords gridWords()
-{
-    GridWords words = unfilteredGrid();
-    words.namesCommandByProfile = true;
-    return words;
-}
-
 MassMessagePart::MassMessagePart(const FormContext& context)
     : m_context(context),
       m_immune(
           makeControl(massMessageSettings().settings.front(), context.profiles, [this] { emit changed(); })),
-      m_grid(new PermissionGridPart(source(), gridWords(), context)),
+      m_grid(new PermissionGridPart(source(), blockGrid(), context)),
       m_widget(placed())
 {
     m_grid->setParent(this);

@@ -285,4 +285,11 @@ GridWords unfilteredGrid()
     return words;
 }
 
+GridWords blockGrid()
+{
+    GridWords words = unfilteredGrid();
+    words.namesCommandByProfile = true;
+    return words;
+}
+
 } // namespace quillfen

@@ -35,6 +35,9 @@ struct GridWords
 /// keys.
 GridWords unfilteredGrid();
 
+/// The same with the command in the first row of each acting profile.
+GridWords blockGrid();
+
 /// A permission grid: one row per command, acting profile and target profile, toggled between yes and no, and
 /// filtered by command and by acting profile. What a filter hides is saved all the same.
 class PermissionGridPart : public FormPart
