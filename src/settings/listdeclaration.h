@@ -106,7 +106,6 @@ struct RowListGroup
 
     std::vector<RowListDeclaration> lists; ///< without savings of their own
     Save save;                             ///< takes the rows of each list; throws StoreError
-    bool reloads = false;                  ///< the lists are loaded again after a save
 };
 
 /// What a list reader gave, as a list view holds it: text, second column and tick.

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QApplication>
+#include <QDir>
 #include <QFileDialog>
 #include <QInputDialog>
 #include <QMessageBox>
@@ -70,6 +71,24 @@ inline void typeInto(QWidget& modal, const QString& text)
         input->setTextValue(text);
         input->accept();
     }
+}
+
+/// The folder in which an action's file dialog starts, and the files that it offers. The dialog is cancelled.
+struct OfferedFiles
+{
+    QString folder;
+    QStringList filters;
+};
+
+inline OfferedFiles offeredFiles(const std::function<void()>& action)
+{
+    OfferedFiles offered;
+    withModal(action, [&offered](QWidget& modal) {
+        auto* dialog = qobject_cast<QFileDialog*>(&modal);
+        offered = {dialog->directory().absolutePath(), dialog->nameFilters()};
+        dialog->reject();
+    });
+    return offered;
 }
 
 /// Chooses a file in a file dialog.

@@ -96,6 +96,7 @@ EditorForm* makeMassMessageForm(const FormContext& context)
 {
     FormDescription description{"frmCommunicationMassMessage", "Communication ~ MassMessage"};
     description.hasRestore = false;
+    description.reloadsAfterSave = true;
     auto* form = new EditorForm(description);
     form->add(new MassMessagePart(context));
     return form;

@@ -290,8 +290,7 @@ const RowListGroup& profileRules()
 {
     static const RowListGroup group = {{permissions(), textList("Messages", "mnuOnlyEditTwo", " Message"),
                                         textList("Redirects", "mnuOnlyEditThree", " Redirect Address")},
-                                       saveRules,
-                                       true};
+                                       saveRules};
     return group;
 }
 

@@ -45,9 +45,9 @@ FormMaker settingsAndListForm(const FormDescription& description, std::function<
                   });
 }
 
-FormMaker gridForm(const FormDescription& description, std::function<GridSource()> grid,
-                   const GridWords& words)
+FormMaker gridForm(FormDescription description, std::function<GridSource()> grid, const GridWords& words)
 {
+    description.reloadsAfterSave = true;
     return formOf(description, [grid = std::move(grid), words](const FormContext& context) -> FormParts {
         return {new PermissionGridPart(grid(), words, context)};
     });

@@ -32,8 +32,7 @@ FormMaker listsForm(const FormDescription& description, std::function<const RowL
 FormMaker settingsAndListForm(const FormDescription& description, std::function<const TableFile&()> file,
                               std::function<const RowListDeclaration&()> list);
 
-/// A form of one grid.
-FormMaker gridForm(const FormDescription& description, std::function<GridSource()> grid,
-                   const GridWords& words);
+/// A form of one grid, which is loaded again after each save.
+FormMaker gridForm(FormDescription description, std::function<GridSource()> grid, const GridWords& words);
 
 } // namespace quillfen

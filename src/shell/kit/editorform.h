@@ -30,7 +30,7 @@ struct FormDescription
     QSize minimumTwips{};
     AfterDiscard afterDiscard = AfterDiscard::Clean;
     bool hasRestore = true;
-    bool reloadsAfterSave = false;
+    bool reloadsAfterSave = false;        ///< all is loaded again, as its files may hold other than it showed
     Qt::Orientation parts = Qt::Vertical; ///< how the parts stand to each other
     QString restoreTitle = "Restore defaults?";
     QString restoreText = "Restore to defaults?";

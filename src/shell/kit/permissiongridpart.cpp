@@ -245,7 +245,6 @@ void PermissionGridPart::load()
 void PermissionGridPart::save()
 {
     m_source.save(m_model->cells(), m_context.files, m_context.profiles);
-    load();
 }
 
 RoutineTable PermissionGridPart::routines()

@@ -267,8 +267,6 @@ void RowListGroupPart::save()
     for (const RowListPart* list : m_lists)
         rows.push_back(list->rows());
     m_group.save(m_context.files, rows);
-    if (m_group.reloads)
-        load();
 }
 
 RoutineTable RowListGroupPart::routines()

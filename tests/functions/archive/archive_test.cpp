@@ -224,7 +224,7 @@ TEST_F(Archive, AGapEndsTheAnnouncements)
 
 TEST_F(Archive, AWordThatIsNoDayShowsAnEmptyDayAndEndsNothing)
 {
-    week = "tArcadeItemOfTheWeek = {\r\n\t[1] = {\r\n\t\tsTime = \"XXX 10:00\",\r\n\t},\r\n"
+    week = "tArcadeItemOfTheWeek = {\r\n\t[1] = {\r\n\t\tsTime = \"DAY 10:00\",\r\n\t},\r\n"
            "\t[2] = {\r\n\t\tsTime = \"MON 18:00\",\r\n\t},\r\n}\r\n";
     EXPECT_EQ(loadLinkOfTheWeek(arcade(), hub.files).announcements,
               (std::vector<CellRow>{{{"", "10:00", "PM"}}, {{"Monday", "18:00", "PM"}}}));

@@ -527,15 +527,9 @@ TEST_F(TriviaQuestions, OpenStartsInTheGamesFolderAndACancelAddsNothing)
     const SettingsFiles onDisk{hub.store, SettingsPaths(scripts.path().toStdString())};
     const std::unique_ptr<EditorForm> form(makeTriviaQuestionsForm({onDisk, hub.profiles}));
     form->open();
-    QStringList folders;
-    test::withModal([&form] { fileTool(*form, "OPEN").trigger(); },
-                    [&folders](QWidget& modal) {
-                        auto* dialog = qobject_cast<QFileDialog*>(&modal);
-                        folders.append(dialog->directory().absolutePath());
-                        EXPECT_EQ(dialog->nameFilters(), QStringList{"(*.lst)"});
-                        dialog->reject();
-                    });
-    EXPECT_EQ(folders, QStringList{folder});
+    const auto offered = test::offeredFiles([&form] { fileTool(*form, "OPEN").trigger(); });
+    EXPECT_EQ(offered.folder, folder);
+    EXPECT_EQ(offered.filters, QStringList{"(*.lst)"});
     EXPECT_TRUE(files(*form).isEmpty());
     EXPECT_FALSE(form->isDirty());
 }

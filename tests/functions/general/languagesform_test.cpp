@@ -422,15 +422,9 @@ TEST_P(LanguageForms, OpenStartsInTheSetsFolderAndACancelAddsNothing)
                                   [this](const LanguageSet& each) { return each.form == words.form; });
     const std::unique_ptr<EditorForm> form(makeLanguageForm(*set, {onDisk, hub.profiles}));
     form->open();
-    QStringList folders;
-    test::withModal([&form] { fileTool(*form, "OPEN").trigger(); },
-                    [&folders](QWidget& modal) {
-                        auto* dialog = qobject_cast<QFileDialog*>(&modal);
-                        folders.append(dialog->directory().absolutePath());
-                        EXPECT_EQ(dialog->nameFilters(), QStringList{"(*.TBL *.tbl)"});
-                        dialog->reject();
-                    });
-    EXPECT_EQ(folders, QStringList{folder});
+    const auto offered = test::offeredFiles([&form] { fileTool(*form, "OPEN").trigger(); });
+    EXPECT_EQ(offered.folder, folder);
+    EXPECT_EQ(offered.filters, QStringList{"(*.TBL *.tbl)"});
     EXPECT_TRUE(files(*form).isEmpty());
     EXPECT_FALSE(form->isDirty());
 }
