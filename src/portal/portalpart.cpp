@@ -149,6 +149,8 @@ PortalPart::PortalPart(const FormContext& context)
     new TickSelects(*m_hubs);
     new ColumnWidths(*m_nicks, fitNickColumn);
     m_nicks->setColumnHidden(0, true); // not before, or the header would keep the column's room free
+    for (auto* list : {m_hubs, m_nicks})
+        list->setSelectsFirst(false); // a selected hub is the one that ticks work on
     connectLists();
     followRows();
 }
@@ -180,7 +182,7 @@ QWidget* PortalPart::identity()
         auto* field = new QLineEdit;
         field->setObjectName(QStringLiteral("txtTextBox(%1)").arg(at));
         field->setAccessibleName(labels[at]);
-        limitToCodePage(*field);
+        limitToOneLine(*field);
         connect(field, &QLineEdit::textChanged, this, &FormPart::changed);
         auto* label = labelFor(labels[at], field);
         label->setObjectName(QStringLiteral("lblLabel(%1)").arg(at));

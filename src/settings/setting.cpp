@@ -112,6 +112,12 @@ Setting notSaved(Setting setting)
     return setting;
 }
 
+Setting savedAsTyped(Setting setting)
+{
+    setting.savedAsTyped = true;
+    return setting;
+}
+
 Setting notRestored(Setting setting)
 {
     setting.keptByRestore = true;

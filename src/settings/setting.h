@@ -33,10 +33,11 @@ struct Setting
     int minimum = 0;
     int maximum = 0;
     std::vector<std::string> entries{};
-    int firstOption = 0;     ///< the place of an option group's first button in its control array
-    int limit = 0;           ///< the most characters that a text box takes; 0 for no limit
-    bool onlyArrows = false; ///< a number that is changed by its arrows and not typed
-    int step = 1;            ///< by how much a number's arrows change it
+    int firstOption = 0;       ///< the place of an option group's first button in its control array
+    int limit = 0;             ///< the most characters that a text box takes; 0 for no limit
+    bool onlyArrows = false;   ///< a number that is changed by its arrows and not typed
+    int step = 1;              ///< by how much a number's arrows change it
+    bool savedAsTyped = false; ///< an emptied number is saved as nothing, and not as the 0 that it loads as
 
     std::string unit{}; ///< behind a field, "Days"
     std::string toolTip{};
@@ -100,6 +101,9 @@ bool hasControl(const Setting& setting);
 
 /// The same setting without a control: the rebuild keeps it, each save of the form drops it.
 Setting notSaved(Setting setting);
+
+/// The same number, saved as it is typed also when nothing is.
+Setting savedAsTyped(Setting setting);
 
 /// The same setting, left as it is by RESTORE.
 Setting notRestored(Setting setting);

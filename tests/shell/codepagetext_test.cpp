@@ -20,12 +20,28 @@ TEST(CodePageText, All256BytesComeBack)
 TEST(CodePageText, WhatTheCodePageLacksCannotBeTypedOrPasted)
 {
     QLineEdit edit;
-    edit.setValidator(new CodePageValidator(&edit));
+    edit.setValidator(new OneLineValidator(&edit));
     edit.setText("ab");
     edit.setCursorPosition(1);
     edit.insert(QStringLiteral(u"\u20AC"));
     edit.insert(QStringLiteral(u"1\u04162\U0001F6003"));
     EXPECT_EQ(edit.text(), QStringLiteral(u"a\u20AC123b"));
+    EXPECT_EQ(edit.cursorPosition(), 5);
+}
+
+TEST(CodePageText, ARunOfLineEndsBecomesABlankAndNulGoes)
+{
+    QLineEdit edit;
+    limitToOneLine(edit);
+    edit.setText(QStringLiteral("one\r\ntwo\n\n\rthree\r") + QChar::Null + QStringLiteral("four"));
+    EXPECT_EQ(edit.text(), "one two three four");
+    edit.setText("ab");
+    edit.setCursorPosition(1);
+    edit.insert("1\r\n\r\n2");
+    EXPECT_EQ(edit.text(), "a1 2b");
+    EXPECT_EQ(edit.cursorPosition(), 4);
+    edit.insert("\r\n");
+    EXPECT_EQ(edit.text(), "a1 2 b");
     EXPECT_EQ(edit.cursorPosition(), 5);
 }
 

@@ -117,13 +117,5 @@ TEST_F(DeclaredForm, EveryControlHasItsLabelAndAccessibleName)
     }
 }
 
-TEST_F(DeclaredForm, AnEmptiedNumberStaysEmptyWhenSaved)
-{
-    auto& form = open("Games~Anagrams");
-    find<QLineEdit>(form, "txtUpDown(0)").clear();
-    button(form, "SAVE").trigger();
-    EXPECT_NE(hub.file("A.tbl").find("\tiNumber = ,\r\n"), std::string::npos);
-}
-
 } // namespace
 } // namespace quillfen

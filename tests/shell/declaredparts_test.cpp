@@ -1,4 +1,5 @@
 #include "settings/declaration.h"
+#include "shell/kit/editdialog.h"
 #include "shell/kit/permissiongridpart.h"
 #include "shell/kit/rowlist.h"
 #include "shell/kit/rowlistpart.h"
@@ -8,10 +9,15 @@
 #include "support/formtest.h"
 
 #include <QCheckBox>
+#include <QClipboard>
 #include <QComboBox>
+#include <QDropEvent>
 #include <QGroupBox>
+#include <QInputMethodEvent>
 #include <QLineEdit>
+#include <QMimeData>
 #include <QRadioButton>
+#include <QWheelEvent>
 
 namespace quillfen {
 namespace {
@@ -89,6 +95,101 @@ TEST_F(FormOf, ADiscardTakesAChoiceBackAlsoWhereNoneWasMade)
     plain.click();
     EXPECT_FALSE(longer.isChecked()) << "one choice takes the other's place as before";
     EXPECT_EQ(saved(form), "tSample = {\r\n\tiFormat = 0,\r\n}\r\n");
+}
+
+TEST_F(FormOf, AnEmptiedNumberIsSavedAsZero)
+{
+    auto& form = formOf({number("iDelay", "txtUpDown(0)", "Delay", "5", 1, 9),
+                         number("iTime", "txtUpDown(1)", "Time", "5", 1, 9)},
+                        "\tiDelay = 3,\r\n\tiTime = 4,\r\n");
+    find<QLineEdit>(form, "txtUpDown(0)").clear();
+    find<QLineEdit>(form, "txtUpDown(1)").setText("  "); // blanks load as nothing, too
+    EXPECT_EQ(saved(form), "tSample = {\r\n\tiDelay = 0,\r\n\tiTime = 0,\r\n}\r\n");
+}
+
+TEST_F(FormOf, ANumberThatIsSavedAsTypedMayBeSavedAsNothing)
+{
+    auto& form =
+        formOf({savedAsTyped(number("iDelay", "txtUpDown", "Delay", "5", 1, 9))}, "\tiDelay = 3,\r\n");
+    find<QLineEdit>(form, "txtUpDown").clear();
+    EXPECT_EQ(saved(form), "tSample = {\r\n\tiDelay = ,\r\n}\r\n");
+}
+
+/// The ways by which a text gets into a box without being typed.
+enum class Entering
+{
+    Paste,
+    Drop,
+    InputMethod
+};
+
+void enter(QLineEdit& box, const QString& text, Entering how)
+{
+    box.selectAll();
+    if (how == Entering::Paste) {
+        QApplication::clipboard()->setText(text);
+        box.paste();
+    } else if (how == Entering::Drop) {
+        QMimeData data;
+        data.setText(text);
+        QDragEnterEvent arrives(QPoint(3, 3), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(&box, &arrives);
+        box.clear();
+        QDropEvent drops(QPointF(3, 3), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(&box, &drops);
+    } else {
+        QInputMethodEvent composed;
+        composed.setCommitString(text);
+        QApplication::sendEvent(&box, &composed);
+    }
+}
+
+TEST_F(FormOf, ALineEndNeverGetsIntoAValueOfOneLine)
+{
+    auto& form =
+        formOf({text("sText", "txtTextBox", "Text", ""), number("iDelay", "txtUpDown", "Delay", "5", 1, 9),
+                entry("sEntry", "cboComboBox", "Entry", "", {"a"})},
+               "");
+    for (const Entering how : {Entering::Paste, Entering::Drop, Entering::InputMethod}) {
+        enter(find<QLineEdit>(form, "txtTextBox"), "one\r\ntwo\n", how);
+        if (how != Entering::Drop) // which no number box takes
+            enter(find<QLineEdit>(form, "txtUpDown"), "1\n2", how);
+        enter(*find<QComboBox>(form, "cboComboBox").lineEdit(), "\r\nb\r\r\nc", how);
+        EXPECT_EQ(saved(form), "tSample = {\r\n\tsText = \"one two \",\r\n\tiDelay = 1 2,\r\n"
+                               "\tsEntry = \" b c\",\r\n}\r\n")
+            << static_cast<int>(how);
+    }
+}
+
+TEST_F(FormOf, ALineEndNeverGetsThroughAnEditDialog)
+{
+    EditDialog dialog({EditForm::UpDownCombo, "Edit", "E", 1, {"One", "Two"}, {"1", "a"}, {{"a"}}});
+    EditDialog texts({EditForm::OneFields, "Edit", "E", 0, {"One"}, {"1"}});
+    for (const Entering how : {Entering::Paste, Entering::InputMethod}) {
+        for (EditDialog* each : {&dialog, &texts}) {
+            auto& box = find<QLineEdit>(*each, "txtTextBox(0)");
+            enter(box, "1\r\n\r\n2", how);
+            EXPECT_EQ(box.text(), "1 2") << static_cast<int>(how);
+        }
+    }
+}
+
+TEST_F(FormOf, TheWheelOverAComboBoxWithoutFocusChangesNothing)
+{
+    auto& form = formOf({text("sText", "txtTextBox", "Text", ""),
+                         entry("sEntry", "cboComboBox(0)", "Entry", "", {"a", "b"}),
+                         letter("sLetter", "cboComboBox(1)", "Letter", "K", {"Kick", "Ban"}),
+                         profileKey("iProfile", "cboComboBox(2)", "Profile")},
+                        "\tsEntry = \"a\",\r\n\tsLetter = \"K\",\r\n\tiProfile = 0,\r\n");
+    for (const char* name : {"cboComboBox(0)", "cboComboBox(1)", "cboComboBox(2)"}) {
+        auto& combo = find<QComboBox>(form, name);
+        const QString before = combo.currentText();
+        QWheelEvent wheel({5, 5}, combo.mapToGlobal(QPointF(5, 5)), {}, {0, -120}, Qt::NoButton,
+                          Qt::NoModifier, Qt::NoScrollPhase, false);
+        QApplication::sendEvent(&combo, &wheel);
+        EXPECT_EQ(combo.currentText(), before) << name;
+    }
+    EXPECT_FALSE(isDirty(form));
 }
 
 TEST_F(FormOf, ATextBoxWithALimitKeepsTheFirstOfWhatItHolds)

@@ -2,11 +2,13 @@
 #include "shell/kit/textedit.h"
 #include "support/formtest.h"
 
+#include <QAbstractItemView>
 #include <QAbstractSpinBox>
 #include <QComboBox>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QWheelEvent>
 
 namespace quillfen {
 namespace {
@@ -139,9 +141,8 @@ TEST_F(EditDialogTest, EachModeColoursItsRequiredFieldsAndMayOrMayNotAdd)
             if (fields[field]->palette().color(QPalette::Base) == lightRed) {
                 required += std::to_string(field);
                 EXPECT_EQ(fields[field]->palette().color(QPalette::Text), QColor(Qt::black)) << what;
-                EXPECT_EQ(fields[field]->palette().color(QPalette::Button) == lightRed,
-                          qobject_cast<QComboBox*>(fields[field]) != nullptr)
-                    << what << ": the arrows of a number stay readable";
+                EXPECT_NE(fields[field]->palette().color(QPalette::Button), lightRed)
+                    << what << ": the arrows stay readable";
             }
         }
         EXPECT_EQ(required, each.required) << what;
@@ -308,14 +309,85 @@ TEST_F(EditDialogTest, EveryByteGoesThroughAField)
     EXPECT_EQ(dialog.answer().gEditValues.at(0), bytes);
 }
 
-TEST_F(EditDialogTest, TheHabitualModesAre)
+TEST_F(EditDialogTest, TheHabitualModesGoByTheCountOfInputs)
 {
-    EXPECT_EQ(habitualAddMode(EditForm::OneFields), 1);
-    EXPECT_EQ(habitualEditMode(EditForm::OneFields), 0);
-    EXPECT_EQ(habitualAddMode(EditForm::TwoFields), 1);
-    EXPECT_EQ(habitualEditMode(EditForm::TwoFields), 2);
-    EXPECT_EQ(habitualAddMode(EditForm::ThreeFields), 4);
-    EXPECT_EQ(habitualEditMode(EditForm::ThreeFields), 5);
+    for (const EditForm one : {EditForm::OneFields, EditForm::OneUpDown}) {
+        EXPECT_EQ(habitualAddMode(one), 1);
+        EXPECT_EQ(habitualEditMode(one), 0);
+    }
+    for (const EditForm two :
+         {EditForm::TwoFields, EditForm::TwoUpDowns, EditForm::TextCombo, EditForm::UpDownCombo}) {
+        EXPECT_EQ(habitualAddMode(two), 1);
+        EXPECT_EQ(habitualEditMode(two), 2);
+    }
+    for (const EditForm three :
+         {EditForm::ThreeFields, EditForm::TwoTextCombo, EditForm::OneTextTwoCombo, EditForm::ThreeCombos}) {
+        EXPECT_EQ(habitualAddMode(three), 4);
+        EXPECT_EQ(habitualEditMode(three), 5);
+    }
+}
+
+TEST_F(EditDialogTest, ARequiredComboBoxShowsItsColourAsFlatAsATextBoxDoes)
+{
+    EditRequest edit = request(EditForm::TextCombo, 2);
+    edit.labels = {"", ""};
+    EditDialog dialog(edit);
+    dialog.show();
+    auto& combo = find<QComboBox>(dialog, "cboComboBox(0)");
+    const QImage picture = combo.grab().toImage();
+    for (const double height : {0.3, 0.5, 0.7})
+        EXPECT_EQ(picture.pixelColor(picture.width() / 2, static_cast<int>(picture.height() * height)),
+                  lightRed);
+    EXPECT_NE(combo.view()->palette().color(QPalette::Base), lightRed) << "only the field is asked for";
+}
+
+TEST_F(EditDialogTest, AnOwnersAmpersandIsShownAndMakesNoKey)
+{
+    EditRequest edit = request(EditForm::OneFields, 0, "E");
+    edit.labels = {"R&D Tag"};
+    EditDialog dialog(edit);
+    dialog.show();
+    const auto& label = find<QLabel>(dialog, "lblLabel(0)");
+    EXPECT_EQ(label.text(), "R&&D Tag") << "as labels spell an ampersand";
+    EXPECT_EQ(label.buddy()->accessibleName(), "R&D Tag");
+    find<QPushButton>(dialog, "cmdCancel").setFocus();
+    QTest::keyClick(&dialog, Qt::Key_D, Qt::AltModifier);
+    EXPECT_FALSE(label.buddy()->hasFocus());
+}
+
+TEST_F(EditDialogTest, AVeryLongLabelIsCutAndItsToolTipTellsItAll)
+{
+    EditRequest edit = request(EditForm::TwoFields, 0, "E");
+    edit.labels = {std::string(2000, 'w') + " <b>Client</b>", "Short"};
+    EditDialog dialog(edit);
+    dialog.show();
+    const auto& label = find<QLabel>(dialog, "lblLabel(0)");
+    EXPECT_TRUE(label.text().startsWith("www"));
+    EXPECT_LT(dialog.width(), 1000);
+    EXPECT_TRUE(label.toolTip().contains("&lt;b&gt;Client")) << "shown as it is, not as markup";
+    EXPECT_EQ(label.buddy()->accessibleName(), QString(2000, 'w') + " <b>Client</b>");
+    EXPECT_EQ(find<QLabel>(dialog, "lblLabel(1)").toolTip(), "");
+}
+
+TEST_F(EditDialogTest, TheWheelOverAComboBoxWithoutFocusChangesNothing)
+{
+    EditRequest edit = request(EditForm::TextCombo, 1, "E");
+    edit.values = {"x", "a"};
+    EditDialog dialog(edit);
+    dialog.show();
+    dialog.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
+    auto& combo = find<QComboBox>(dialog, "cboComboBox(0)");
+    const auto turn = [&combo] {
+        QWheelEvent wheel({5, 5}, combo.mapToGlobal(QPointF(5, 5)), {}, {0, -120}, Qt::NoButton,
+                          Qt::NoModifier, Qt::NoScrollPhase, false);
+        QApplication::sendEvent(&combo, &wheel);
+        return combo.currentText();
+    };
+    EXPECT_EQ(turn(), "a");
+    EXPECT_NE(combo.focusPolicy(), Qt::WheelFocus) << "else the wheel would focus it first";
+    combo.setFocus();
+    EXPECT_EQ(turn(), "b");
 }
 
 class TextEdit : public test::FormTest

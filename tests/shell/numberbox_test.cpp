@@ -1,7 +1,10 @@
 #include "shell/kit/numberbox.h"
 #include "support/formtest.h"
 
+#include <QClipboard>
+#include <QInputMethodEvent>
 #include <QLineEdit>
+#include <QWheelEvent>
 
 namespace quillfen {
 namespace {
@@ -69,6 +72,53 @@ TEST(NumberBoxTest, ItsStepMayBeMoreThanOne)
     box.setText("4998");
     QTest::keyClick(&box, Qt::Key_Up);
     EXPECT_EQ(box.text(), "5000");
+}
+
+TEST(NumberBoxTest, NothingButArrowsPageKeysAndWheelChangesANumberForArrowsOnly)
+{
+    NumberBox box("txtUpDown", 1, 720);
+    box.setOnlyArrows();
+    box.setText("50");
+    box.show();
+    box.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&box));
+    box.setFocus();
+    for (int key = Qt::Key_0; key <= Qt::Key_Z; ++key) {
+        if (key > Qt::Key_9 && key < Qt::Key_A)
+            continue;
+        for (const auto modifiers : {Qt::NoModifier, Qt::ControlModifier, Qt::AltModifier}) {
+            QTest::keyClick(&box, static_cast<Qt::Key>(key), modifiers);
+            ASSERT_EQ(box.text(), "50") << "key " << key << " with " << int(modifiers);
+        }
+    }
+    for (const Qt::Key key : {Qt::Key_Backspace, Qt::Key_Delete, Qt::Key_Return, Qt::Key_Home, Qt::Key_End,
+                              Qt::Key_Insert, Qt::Key_Clear})
+        QTest::keyClick(&box, key);
+    QApplication::clipboard()->setText("7");
+    QTest::keyClick(&box, Qt::Key_Insert, Qt::ShiftModifier);
+    QInputMethodEvent composed;
+    composed.setCommitString("7");
+    QApplication::sendEvent(&box, &composed);
+    EXPECT_EQ(box.text(), "50");
+    QTest::keyClick(&box, Qt::Key_Up);
+    EXPECT_EQ(box.text(), "51");
+    QTest::keyClick(&box, Qt::Key_PageDown);
+    EXPECT_EQ(box.text(), "41");
+    QWheelEvent wheel({5, 5}, {5, 5}, {}, {0, 120}, Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(&box, &wheel);
+    EXPECT_EQ(box.text(), "42");
+}
+
+TEST(NumberBoxTest, ANumberForArrowsOnlyLooksReadOnlyAndTellsHowItIsChanged)
+{
+    NumberBox box("txtUpDown", 1, 720);
+    const NumberBox typed("txtUpDown", 1, 720);
+    box.setOnlyArrows();
+    EXPECT_EQ(box.palette().color(QPalette::Base), box.palette().color(QPalette::Window));
+    EXPECT_NE(typed.palette().color(QPalette::Base), typed.palette().color(QPalette::Window));
+    EXPECT_EQ(box.toolTip(), "Changed by the arrows, the Page keys and the wheel");
+    EXPECT_EQ(box.accessibleDescription(), box.toolTip());
+    EXPECT_EQ(typed.toolTip(), "");
 }
 
 TEST(NumberBoxTest, TheWheelDoesNothingWithoutFocus)

@@ -71,6 +71,8 @@ TEST_F(GroupForm, ADeleteWithoutASelectionMeansTheOnlyRow)
     const auto questions = [&form](const char* toolbar) {
         return test::answering(QMessageBox::Ok, [&] { button(form, "DELETE", toolbar).trigger(); }).size();
     };
+    for (const char* list : {"lvwOne", "lvwTwo"})
+        find<RowList>(form, list).clearSelection();
     EXPECT_EQ(questions("tlbTwo"), 0) << "of two rows neither is meant";
     EXPECT_FALSE(isDirty(form));
     EXPECT_EQ(questions("tlbOne"), 1);

@@ -121,18 +121,19 @@ INSTANTIATE_TEST_SUITE_P(
                     Damage{"Junk", junk}, Damage{"Shuffled", shuffledLines}),
     [](const auto& each) { return std::string(each.param.name); });
 
-TEST_P(SweepOfDamage, EveryFormOpensCleanAndCanBeSaved)
+TEST_P(SweepOfDamage, EveryFormOpensCleanAndCanBeSavedUnlessItsLoadStopped)
 {
     forEachForm([&](const std::string& key, EditorForm&) {
         EXPECT_TRUE(close(find<EditorForm>(window(), formName(QString::fromStdString(key)))));
         hub.store.damage = GetParam().of;
         EditorForm* form = nullptr;
-        useModals([&] { form = &open(key.c_str()); });
+        const QStringList told = useModals([&] { form = &open(key.c_str()); });
         hub.store.damage = nullptr;
         EXPECT_FALSE(isDirty(*form));
         changeEverything(*form);
         if (form->isDirty()) {
-            EXPECT_EQ(useModals([form] { button(*form, "SAVE").trigger(); }), QStringList());
+            const QStringList refused = useModals([form] { button(*form, "SAVE").trigger(); });
+            EXPECT_EQ(refused.size(), told.size()) << "what a load couldn't show isn't saved";
         }
     });
 }

@@ -57,7 +57,7 @@ WeekPart::WeekPart(const ArchiveMember& member, const FormContext& context)
 {
     m_changeTime->setObjectName("txtChangeTime");
     m_changeTime->setAccessibleName("Change Time");
-    limitToCodePage(*m_changeTime);
+    limitToOneLine(*m_changeTime);
     connect(m_changeTime, &QLineEdit::textChanged, this, &FormPart::changed);
     m_changeBar->setObjectName("tlbChangeTime");
     m_changeBar->setIconSize({16, 16});

@@ -31,8 +31,6 @@ RowListDeclaration declaredUsers()
     list.dialog.form = EditForm::TextCombo;
     list.dialog.addTitle = "Add Ascii Profile for User";
     list.dialog.labels = list.columns;
-    list.dialog.addMode = 2; // the script could show nothing for a user without a file
-    list.dialog.editMode = 2;
     list.editTitleOf = [](const CellRow& row) { return "Edit Ascii Intro for " + row.cells[0]; };
     list.deletion = {"Delete Intro?", "Do you really want to delete this intro?"};
     list.load = loadOf(usersFile);

@@ -137,8 +137,12 @@ RowListDeclaration customRightClicks(const HubProfiles& profiles)
     list.dialog.editTitle = "Edit Right Click";
     list.dialog.labels = list.columns;
     list.dialog.entries = {whose, locations};
-    list.dialog.addMode = 4; // a line without one of the three is none
-    list.dialog.editMode = 4;
+    list.take = [](const std::vector<std::string>& fields, CellRow& row) {
+        for (std::size_t at = 0; at < fields.size(); ++at) {
+            if (!fields[at].empty()) // a stored profile or location that is none of the entries isn't shown
+                row.cells[at] = fields[at];
+        }
+    };
     list.deletion = {"Delete right click?", "Do you really want to delete this right click?"};
     list.load = loadRows;
     list.save = saveRows;

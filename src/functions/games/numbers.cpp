@@ -87,6 +87,7 @@ const RowListDeclaration& numbersCalculationList()
         list.columns = {"Type", "X Min", "X Max", "Y Min", "Y Max"};
         list.menu = "mnuNumbersNumbers";
         list.dialog.form = EditForm::FourFields;
+        list.dialog.editMode = 5; // a calculation of fewer than four numbers can't be loaded
         list.dialog.editTitle = "Edit Question";
         list.dialog.labels = {"X Minimum", "X Maximum", "Y Minimum", "Y Maximum"};
         list.fieldsOf = [](const CellRow& row) {

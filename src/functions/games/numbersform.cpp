@@ -9,8 +9,6 @@
 
 #include <QHeaderView>
 
-#include <memory>
-
 namespace quillfen {
 namespace {
 
@@ -66,18 +64,10 @@ void CalculationsPart::show(const Setting& setting, const SettingValues& values)
 
 Control CalculationsPart::control(const Setting& setting)
 {
-    const auto stored = std::make_shared<SettingValues>();
-    return {widget(),
-            [this, &setting, stored](const SettingValues& values) {
-                *stored = values;
-                show(setting, values);
-            },
-            [this, &setting, stored](SettingValues& values) {
-                for (std::size_t at = 0; at < setting.entries.size(); ++at) {
-                    const std::string name = textRow(setting, setting.entries[at]);
-                    // What a stopped load didn't come to stays as it is in the file.
-                    values[name] = at < rows().size() ? calculationText(rows()[at]) : (*stored)[name];
-                }
+    return {widget(), [this, &setting](const SettingValues& values) { show(setting, values); },
+            [this, &setting](SettingValues& values) {
+                for (std::size_t at = 0; at < setting.entries.size(); ++at)
+                    values[textRow(setting, setting.entries[at])] = calculationText(rows().at(at));
             }};
 }
 

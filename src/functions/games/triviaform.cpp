@@ -5,6 +5,7 @@
 #include "settings/codepage.h"
 #include "settings/tablefile.h"
 #include "shell/kit/codepagetext.h"
+#include "shell/kit/combobox.h"
 #include "shell/kit/editdialog.h"
 #include "shell/kit/editorform.h"
 #include "shell/kit/hourglass.h"
@@ -13,7 +14,6 @@
 #include "shell/kit/rowlist.h"
 #include "shell/kit/toolbars.h"
 
-#include <QComboBox>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QFormLayout>
@@ -78,7 +78,7 @@ QuestionsPart::QuestionsPart(const FormContext& context)
       m_questionList(new RowList("lvwQuestions", {"Questions", "Answers"}, false)),
       m_fileBar(new QToolBar),
       m_questionBar(new QToolBar),
-      m_default(new QComboBox),
+      m_default(new ComboBox),
       m_widget(placed())
 {
     connectFiles();

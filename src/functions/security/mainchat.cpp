@@ -22,8 +22,8 @@ const TableFile& mainBlockSettings()
     static const TableFile file = {
         R"(Security\MainBlock\MainBlockSettings.tbl)",
         "tMainBlockSettings",
-        {number("iBlockTime", "txtUpDown", "Temporary Block Time", "10", 5, 1440), enabledProfiles(),
-         exemptProfiles()},
+        {savedAsTyped(number("iBlockTime", "txtUpDown", "Temporary Block Time", "10", 5, 1440)),
+         enabledProfiles(), exemptProfiles()},
         {"tEnabledProfiles", "tExemptProfiles", "iBlockTime"},
     };
     return file;

@@ -81,6 +81,14 @@ const Rule& ruleOf(const CellRow& row)
                          [&row](const Rule& rule) { return rule.name == row.cells[RuleName]; });
 }
 
+/// Whether a share is stored the way that a count of bytes is written, so that its text can stay; any other
+/// is saved as the number that it shows.
+bool isCount(std::string_view share)
+{
+    return share == "0" ||
+           (share.find_first_not_of("0123456789") == std::string_view::npos && !share.starts_with('0'));
+}
+
 std::vector<CellRow> loadPermissions(const SettingsFiles& files, const HubProfiles& profiles)
 {
     const auto index = files.index(rulesFile.path);
@@ -90,8 +98,10 @@ std::vector<CellRow> loadPermissions(const SettingsFiles& files, const HubProfil
         for (const Rule& rule : rules()) {
             const bool first = &rule == &rules().front();
             const std::string value = index.value(keyOf(rule), key);
-            rows.push_back({{first ? profiles.names()[profile] : "", std::string(rule.name),
-                             rule.isShare ? shownShare(value) : value, key, value}});
+            const std::string data = rule.isShare ? shownShare(value) : value;
+            const bool stays = !rule.isShare || value.empty() || isCount(value);
+            rows.push_back({{first ? profiles.names()[profile] : "", std::string(rule.name), data, key,
+                             stays ? value : storedShare(data)}});
         }
     }
     return rows;
@@ -146,7 +156,8 @@ RowDialog dialogOf(const CellRow& row)
     dialog.form = rule.form;
     dialog.editTitle = rule.title;
     dialog.labels = rule.labels;
-    dialog.editMode = rule.labels.size() > 1 ? 1 : 0; // all fields are required
+    if (rule.isShare)
+        dialog.editMode = 1; // number and unit; the habit's mode is none of this dialog's
     if (rule.isShare) {
         dialog.entries.emplace_back();
         for (const Unit& unit : units)
@@ -228,7 +239,8 @@ TableFile declaredSettings()
     // A rebuild asks for the defaults of both under other names: it finds the flag's to be 1, and none for
     // the delay, whose row then stands without a value.
     log.rebuildStandard = "1";
-    Setting delay = number("iCheckDelay", "txtUpDown", "Automatic Check Delay", "5", 1, 365);
+    // The file knows the delay without a value, so an emptied one is saved so.
+    Setting delay = savedAsTyped(number("iCheckDelay", "txtUpDown", "Automatic Check Delay", "5", 1, 365));
     delay.unit = "Days";
     delay.rebuildStandard = "";
     Setting get = profileFlags("tEnabledGetProfiles", "lvwEnabledGetProfiles", "Enabled Get Profiles");

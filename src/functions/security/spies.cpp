@@ -54,7 +54,6 @@ RowListDeclaration declaredTerms()
     list.dialog.labels = {"File", "Action"};
     list.dialog.entries = {searchActions()};
     list.dialog.addValues = {"", "Kick"};
-    list.dialog.editMode = 2;
     list.labelsOf = [](const CellRow& row) {
         return std::vector<std::string>{row.cells[Term] + " File", "Action"};
     };

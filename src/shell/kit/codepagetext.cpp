@@ -7,6 +7,31 @@
 #include <limits>
 
 namespace quillfen {
+namespace {
+
+bool isLineEnd(QChar character)
+{
+    return character == u'\r' || character == u'\n';
+}
+
+/// What a value on one line keeps of a text; `inRun` tells whether a line end stands in front of it.
+QString oneLine(QStringView text, bool inRun = false)
+{
+    QString kept;
+    kept.reserve(text.size());
+    for (const QChar character : text) {
+        if (isLineEnd(character)) {
+            if (!inRun)
+                kept += u' ';
+        } else if (character != QChar::Null && codepage::fromUnicode(character.unicode())) {
+            kept += character;
+        }
+        inRun = isLineEnd(character);
+    }
+    return kept;
+}
+
+} // namespace
 
 QString fromBytes(std::string_view bytes)
 {
@@ -26,21 +51,20 @@ std::string toBytes(const QString& text)
     return bytes;
 }
 
-QValidator::State CodePageValidator::validate(QString& text, int& cursor) const
+QValidator::State OneLineValidator::validate(QString& text, int& cursor) const
 {
-    for (qsizetype at = text.size() - 1; at >= 0; --at) {
-        if (codepage::fromUnicode(text.at(at).unicode()))
-            continue;
-        text.remove(at, 1);
-        if (at < cursor)
-            --cursor;
-    }
+    const qsizetype behind = text.size() - cursor;
+    QString kept = oneLine(QStringView(text).first(cursor));
+    const bool goesOn = cursor > 0 && isLineEnd(text.at(cursor - 1)); // a run of line ends around the cursor
+    cursor = static_cast<int>(kept.size());
+    kept += oneLine(QStringView(text).last(behind), goesOn);
+    text = kept;
     return Acceptable;
 }
 
-void limitToCodePage(QLineEdit& edit)
+void limitToOneLine(QLineEdit& edit)
 {
-    edit.setValidator(new CodePageValidator(&edit));
+    edit.setValidator(new OneLineValidator(&edit));
     edit.setMaxLength(std::numeric_limits<int>::max());
 }
 

@@ -13,12 +13,14 @@ namespace quillfen {
 /// The one place where code page bytes become screen text, and back, without a loss.
 QString fromBytes(std::string_view bytes);
 
-/// A character that the code page does not have becomes a question mark; CodePageValidator keeps such out of
+/// A character that the code page does not have becomes a question mark; OneLineValidator keeps such out of
 /// fields.
 std::string toBytes(const QString& text);
 
-/// Drops what the code page does not have as it is typed or pasted: what the user sees is what is stored.
-class CodePageValidator : public QValidator
+/// Keeps a value on one line and within the code page, however a text gets into its box: each run of line
+/// ends becomes a blank, and NUL and what the code page does not have are dropped. What the user sees is what
+/// is stored.
+class OneLineValidator : public QValidator
 {
     Q_OBJECT
 
@@ -29,6 +31,6 @@ public:
 };
 
 /// Gives a text box that validator, and room for a text of any length.
-void limitToCodePage(QLineEdit& edit);
+void limitToOneLine(QLineEdit& edit);
 
 } // namespace quillfen

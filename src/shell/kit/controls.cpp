@@ -3,11 +3,11 @@
 #include "settings/lines.h"
 #include "settings/profiles.h"
 #include "shell/kit/codepagetext.h"
+#include "shell/kit/combobox.h"
 #include "shell/kit/numberbox.h"
 #include "shell/kit/rowlist.h"
 
 #include <QCheckBox>
-#include <QComboBox>
 #include <QGroupBox>
 #include <QLineEdit>
 #include <QRadioButton>
@@ -32,7 +32,8 @@ Control checkBox(const Setting& setting, const std::function<void()>& changed)
 Control numberBox(const Setting& setting, const std::function<void()>& changed)
 {
     auto* box = new NumberBox(fromBytes(setting.control), setting.minimum, setting.maximum);
-    box->setOnlyArrows(setting.onlyArrows);
+    if (setting.onlyArrows)
+        box->setOnlyArrows();
     box->setStep(setting.step);
     box->setText(QStringLiteral("0")); // what a load that stops half-way leaves
     QObject::connect(box, &NumberBox::textChanged, box, changed);
@@ -41,7 +42,10 @@ Control numberBox(const Setting& setting, const std::function<void()>& changed)
                 const auto& value = values.at(key);
                 box->setText(value.empty() ? QStringLiteral("0") : fromBytes(value));
             },
-            [box, key = setting.key](SettingValues& values) { values[key] = toBytes(box->text()); }};
+            [box, key = setting.key, asTyped = setting.savedAsTyped](SettingValues& values) {
+                const bool isEmptied = box->text().trimmed().isEmpty();
+                values[key] = isEmptied && !asTyped ? "0" : toBytes(box->text());
+            }};
 }
 
 /// Keeps so many characters of a text. A limit on typing would keep out what is typed in front of the last
@@ -58,7 +62,7 @@ Control textBox(const Setting& setting, const std::function<void()>& changed)
 {
     auto* box = new QLineEdit;
     box->setObjectName(fromBytes(setting.control));
-    limitToCodePage(*box);
+    limitToOneLine(*box);
     if (setting.limit > 0)
         keepFirst(*box, setting.limit);
     QObject::connect(box, &QLineEdit::textChanged, box, changed);
@@ -72,12 +76,12 @@ Control textBox(const Setting& setting, const std::function<void()>& changed)
 
 Control comboBox(const Setting& setting, const std::function<void()>& changed)
 {
-    auto* box = new QComboBox;
+    auto* box = new ComboBox;
     box->setObjectName(fromBytes(setting.control));
     box->setEditable(true);
     box->setInsertPolicy(QComboBox::NoInsert);
     box->setCompleter(nullptr); // it would turn a typed text into an entry of another case
-    limitToCodePage(*box->lineEdit());
+    limitToOneLine(*box->lineEdit());
     for (const auto& each : setting.entries)
         box->addItem(fromBytes(each));
     QObject::connect(box, &QComboBox::editTextChanged, box, changed);
@@ -90,7 +94,7 @@ Control comboBox(const Setting& setting, const std::function<void()>& changed)
 
 Control letterBox(const Setting& setting, const std::function<void()>& changed)
 {
-    auto* box = new QComboBox;
+    auto* box = new ComboBox;
     box->setObjectName(fromBytes(setting.control));
     for (const auto& each : setting.entries)
         box->addItem(fromBytes(each), fromBytes(each.substr(0, 1)));
@@ -107,7 +111,7 @@ Control letterBox(const Setting& setting, const std::function<void()>& changed)
 
 Control profileBox(const Setting& setting, const HubProfiles& profiles, const std::function<void()>& changed)
 {
-    auto* box = new QComboBox;
+    auto* box = new ComboBox;
     box->setObjectName(fromBytes(setting.control));
     for (std::size_t row = 1; row < profiles.count(); ++row)
         box->addItem(fromBytes(profiles.names()[row]));
@@ -232,7 +236,8 @@ Control makeControl(const Setting& setting, const HubProfiles& profiles, const s
 {
     Control control = controlOfKind(setting, profiles, changed);
     control.widget->setAccessibleName(fromBytes(setting.label.empty() ? setting.toolTip : setting.label));
-    control.widget->setToolTip(fromBytes(setting.toolTip));
+    if (!setting.toolTip.empty()) // else the control's own stays, if it has one
+        control.widget->setToolTip(fromBytes(setting.toolTip));
     return control;
 }
 

@@ -1,9 +1,12 @@
 #include "shell/kit/editdialog.h"
 
 #include "shell/kit/codepagetext.h"
+#include "shell/kit/combobox.h"
+#include "shell/kit/labels.h"
 #include "shell/kit/numberbox.h"
 
-#include <QComboBox>
+#include <QAbstractItemView>
+#include <QApplication>
 #include <QDialogButtonBox>
 #include <QFormLayout>
 #include <QFrame>
@@ -17,6 +20,8 @@
 
 namespace quillfen {
 namespace {
+
+constexpr int widestLabel = 40; ///< in characters; a label may hold an owner's text of any length
 
 /// What a mode asks of a dialog: the places of the fields that must not be empty, and whether Add may ever
 /// light.
@@ -60,6 +65,11 @@ const Kind& kindOf(EditForm form)
     return kinds[static_cast<std::size_t>(form)];
 }
 
+std::size_t inputCount(EditForm form)
+{
+    return std::string_view(kindOf(form).inputs).size();
+}
+
 /// Modes outside a dialog's own colour nothing.
 Mode modeOf(const EditRequest& request)
 {
@@ -82,12 +92,14 @@ void colourAsRequired(QWidget& input)
     QPalette palette = input.palette();
     palette.setColor(QPalette::Base, lightRed);
     palette.setColor(QPalette::Text, Qt::black);
-    // A combo box is a button all over; those of a number keep the theme's colours, as their arrows do.
-    if (qobject_cast<QComboBox*>(&input)) {
-        palette.setColor(QPalette::Button, lightRed);
-        palette.setColor(QPalette::ButtonText, Qt::black);
-    }
     input.setPalette(palette);
+    if (auto* box = qobject_cast<ComboBox*>(&input)) {
+        box->setFlatField(true);
+        QPalette entries = box->view()->palette(); // those that drop down aren't asked for
+        for (const auto role : {QPalette::Base, QPalette::Text})
+            entries.setColor(role, QApplication::palette().color(role));
+        box->view()->setPalette(entries);
+    }
 }
 
 } // namespace
@@ -124,11 +136,11 @@ void EditDialog::addField(const EditRequest& request, std::size_t number, char k
     if (field.required)
         colourAsRequired(*field.input);
 
-    auto* label = new QLabel(fromBytes(valueAt(request.labels, number)));
+    const QString caption = fromBytes(valueAt(request.labels, number));
+    auto* label = labelFor(caption, field.input);
     label->setObjectName(QStringLiteral("lblLabel(%1)").arg(number));
-    label->setTextFormat(Qt::PlainText);
-    label->setBuddy(field.input);
-    field.input->setAccessibleName(label->text());
+    elide(*label, caption, widestLabel);
+    field.input->setAccessibleName(caption);
     qobject_cast<QFormLayout*>(findChild<QFrame*>("fraFrame")->layout())->addRow(label, field.input);
     m_fields.push_back(std::move(field));
 }
@@ -137,7 +149,7 @@ EditDialog::Field EditDialog::textField(const std::string& value)
 {
     auto* box = new QLineEdit(fromBytes(value));
     box->setObjectName(QStringLiteral("txtTextBox(%1)").arg(m_texts++));
-    limitToCodePage(*box);
+    limitToOneLine(*box);
     connect(box, &QLineEdit::textChanged, this, &EditDialog::follow);
     return {box, [box] { return toBytes(box->text()); }, false};
 }
@@ -155,7 +167,7 @@ EditDialog::Field EditDialog::numberField(const EditRequest& request, const std:
 
 EditDialog::Field EditDialog::comboField(const EditRequest& request, const std::string& value)
 {
-    auto* box = new QComboBox;
+    auto* box = new ComboBox;
     box->setObjectName(QStringLiteral("cboComboBox(%1)").arg(m_combos));
     for (const auto& entry : valueAt(request.entries, static_cast<std::size_t>(m_combos++)))
         box->addItem(fromBytes(entry));
@@ -224,19 +236,13 @@ void addRows(QWidget* parent, const EditRequest& request,
 
 int habitualAddMode(EditForm form)
 {
-    return form == EditForm::ThreeFields ? 4 : 1;
+    return inputCount(form) < 3 ? 1 : 4;
 }
 
 int habitualEditMode(EditForm form)
 {
-    switch (form) {
-    case EditForm::TwoFields:
-        return 2;
-    case EditForm::ThreeFields:
-        return 5;
-    default:
-        return 0;
-    }
+    constexpr int modes[] = {0, 2, 5, 5};
+    return modes[inputCount(form) - 1];
 }
 
 } // namespace quillfen

@@ -77,7 +77,8 @@ EditAnswer showEditDialog(QWidget* parent, const EditRequest& request);
 void addRows(QWidget* parent, const EditRequest& request,
              const std::function<void(const std::vector<std::string>&)>& take);
 
-/// The modes in which the callers of a dialog add and edit unless they say otherwise.
+/// The modes in which the callers of a dialog add and edit unless they say otherwise: by its count of inputs,
+/// 1 and 0, 1 and 2, or 4 and 5. One of four inputs has none: its callers tell theirs.
 int habitualAddMode(EditForm form);
 int habitualEditMode(EditForm form);
 

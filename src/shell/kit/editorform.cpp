@@ -87,17 +87,30 @@ void EditorForm::markDirty()
 void EditorForm::load()
 {
     const QScopedValueRollback loading(m_loading, true);
+    m_notLoaded.clear();
     try {
         for (FormPart* part : m_parts)
             part->load();
     } catch (const LoadError& error) {
-        notify(this, m_description.caption, fromBytes(error.what()), QMessageBox::Critical);
+        m_notLoaded = fromBytes(error.what());
+        notify(this, m_description.caption, m_notLoaded, QMessageBox::Critical);
     }
+}
+
+bool EditorForm::maySave()
+{
+    if (m_notLoaded.isEmpty())
+        return std::all_of(m_parts.begin(), m_parts.end(), [](FormPart* part) { return part->maySave(); });
+    notify(this, m_description.caption,
+           "Nothing is saved, as the form shows only a part of its settings: " + m_notLoaded +
+               ".\n\nMend the file and discard the changes, or restore the defaults.",
+           QMessageBox::Warning);
+    return false;
 }
 
 void EditorForm::save()
 {
-    if (!std::all_of(m_parts.begin(), m_parts.end(), [](FormPart* part) { return part->maySave(); }))
+    if (!maySave())
         return;
     // After a failure the form stays dirty and complete, so that nothing typed is lost.
     const bool saved = attempt(this, [this] {
@@ -131,6 +144,7 @@ void EditorForm::restore()
         return;
     for (FormPart* part : m_parts)
         part->restore();
+    m_notLoaded.clear(); // all of the form shows something again
     markDirty();
 }
 

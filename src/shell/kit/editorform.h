@@ -70,6 +70,7 @@ protected:
 private:
     void focusFirstControl();
     void load();
+    bool maySave();
     void save();
     void discard();
     void restore();
@@ -85,6 +86,7 @@ private:
     RoutineTable m_routines;
     bool bDirty = false;
     bool m_loading = false;
+    QString m_notLoaded; ///< why the last load stopped; empty after one that went through
 };
 
 /// Makes the form of a name; the caller owns it.

@@ -58,6 +58,14 @@ void ListView::setModel(QAbstractItemModel* model)
 {
     QTreeView::setModel(model);
     connect(model, &QAbstractItemModel::modelReset, this, &ListView::fitColumns);
+    connect(model, &QAbstractItemModel::modelReset, this, &ListView::selectFirst);
+    connect(model, &QAbstractItemModel::rowsInserted, this, &ListView::selectFirst);
+}
+
+void ListView::selectFirst()
+{
+    if (m_selectsFirst && model() && model()->rowCount() > 0 && currentRow() < 0)
+        select(0);
 }
 
 void ListView::fitColumns()
@@ -75,6 +83,13 @@ void ListView::fitColumns()
         else
             m_lastColumnHint = wanted;
     }
+}
+
+void ListView::setColumnWidths(const std::vector<int>& widths)
+{
+    m_fitted = true;
+    for (std::size_t column = 0; column < widths.size(); ++column)
+        header()->resizeSection(static_cast<int>(column), widths[column]);
 }
 
 QSize ListView::sizeHint() const
@@ -95,6 +110,8 @@ QSize ListView::sizeHint() const
 
 void ListView::keyPressEvent(QKeyEvent* event)
 {
+    if (event->key() == Qt::Key_Space && currentIndex().isValid())
+        select(currentIndex().row()); // a tick by Space is a tick of a selected row, as one by the mouse is
     if (event->key() == Qt::Key_Delete)
         emit deleteAsked();
     else if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
@@ -110,7 +127,14 @@ void ListView::contextMenuEvent(QContextMenuEvent* event)
     if (index.isValid())
         select(index.row());
     emit menuAsked(byMouse || !index.isValid() ? event->globalPos()
-                                               : viewport()->mapToGlobal(visualRect(index).bottomLeft()));
+                                               : viewport()->mapToGlobal(visualRect(index).bottomLeft()),
+                   index.isValid());
+}
+
+void ListView::focusInEvent(QFocusEvent* event)
+{
+    QTreeView::focusInEvent(event);
+    selectFirst();
 }
 
 } // namespace quillfen

@@ -3,6 +3,8 @@
 #include <QStyledItemDelegate>
 #include <QTreeView>
 
+#include <vector>
+
 namespace quillfen {
 
 /// Draws rows with some air between them.
@@ -29,8 +31,15 @@ public:
     int currentRow() const;
     void select(int row);
 
+    /// Off where what is selected has a meaning of its own: then no row is selected but by the user.
+    /// Elsewhere a list that has rows has a selected one, which its buttons and keys work on.
+    void setSelectsFirst(bool selects) { m_selectsFirst = selects; }
+
     /// Off where a click does something of its own, which a double click is to do once.
     void setDoubleClickEdits(bool edits) { m_doubleClickEdits = edits; }
+
+    /// The widths of the first columns, where they are known without a look at the rows.
+    void setColumnWidths(const std::vector<int>& widths);
 
     /// Wide enough for its columns and tall enough for its rows, within reason: what is more scrolls.
     QSize sizeHint() const override;
@@ -38,17 +47,23 @@ public:
     void setModel(QAbstractItemModel* model) override;
 
 signals:
-    void editAsked();                     ///< double click or Enter on a row
-    void deleteAsked();                   ///< the Delete key
-    void menuAsked(const QPoint& global); ///< right click; the row under the pointer is selected by then
+    void editAsked();   ///< double click or Enter on a row
+    void deleteAsked(); ///< the Delete key
+
+    /// Right click, or the menu key; a row under the pointer is selected by then. `onRow` tells whether there
+    /// is one.
+    void menuAsked(const QPoint& global, bool onRow);
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
 
 private:
     void fitColumns();
+    void selectFirst();
 
+    bool m_selectsFirst = true;
     bool m_doubleClickEdits = true;
     bool m_fitted = false;    ///< the columns got their widths from the first rows that came
     int m_lastColumnHint = 0; ///< what the last one wants; it takes what the others leave

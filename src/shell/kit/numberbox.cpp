@@ -3,6 +3,7 @@
 #include "settings/lines.h"
 #include "shell/kit/codepagetext.h"
 
+#include <QKeyEvent>
 #include <QWheelEvent>
 
 #include <algorithm>
@@ -16,9 +17,19 @@ NumberBox::NumberBox(const QString& control, int minimum, int maximum, QWidget* 
 {
     setObjectName(QStringLiteral("upd") + control.mid(3));
     lineEdit()->setObjectName(control);
-    limitToCodePage(*lineEdit());
+    limitToOneLine(*lineEdit());
     setFocusPolicy(Qt::StrongFocus);
     connect(lineEdit(), &QLineEdit::textChanged, this, &NumberBox::textChanged);
+}
+
+void NumberBox::setOnlyArrows()
+{
+    lineEdit()->setReadOnly(true);
+    QPalette readOnly = palette();
+    readOnly.setBrush(QPalette::Base, readOnly.brush(QPalette::Window));
+    setPalette(readOnly);
+    setToolTip("Changed by the arrows, the Page keys and the wheel");
+    setAccessibleDescription(toolTip());
 }
 
 void NumberBox::setText(const QString& text)
@@ -54,6 +65,23 @@ QAbstractSpinBox::StepEnabled NumberBox::stepEnabled() const
     enabled.setFlag(StepUpEnabled, value != m_maximum);
     enabled.setFlag(StepDownEnabled, value != m_minimum);
     return enabled;
+}
+
+bool NumberBox::event(QEvent* event)
+{
+    // The base class hands what an input method composed to its text box, read-only or not.
+    if (event->type() == QEvent::InputMethod && lineEdit()->isReadOnly())
+        return false;
+    return QAbstractSpinBox::event(event);
+}
+
+void NumberBox::keyPressEvent(QKeyEvent* event)
+{
+    // On X11 the base class empties the box at Ctrl+U, read-only or not.
+    if (lineEdit()->isReadOnly() && event->key() == Qt::Key_U)
+        event->ignore();
+    else
+        QAbstractSpinBox::keyPressEvent(event);
 }
 
 void NumberBox::wheelEvent(QWheelEvent* event)

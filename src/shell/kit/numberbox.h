@@ -19,13 +19,14 @@ public:
     QString text() const { return lineEdit()->text(); }
     void setText(const QString& text);
 
-    /// Whether the number can be changed by the arrows alone, and not typed.
-    void setOnlyArrows(bool onlyArrows) { lineEdit()->setReadOnly(onlyArrows); }
+    /// Lets nothing but arrows, Page keys and wheel change the number; the box looks and says so.
+    void setOnlyArrows();
 
     /// By how much one step of the arrows changes the number; 1 at first.
     void setStep(int step) { m_step = step; }
 
     void stepBy(int steps) override;
+    bool event(QEvent* event) override;
     QSize sizeHint() const override;
 
 signals:
@@ -34,6 +35,7 @@ signals:
 protected:
     StepEnabled stepEnabled() const override;
     void wheelEvent(QWheelEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
 
 private:
     long long value() const;

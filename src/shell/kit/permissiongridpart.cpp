@@ -10,6 +10,8 @@
 #include <QMenu>
 #include <QToolButton>
 
+#include <algorithm>
+
 namespace quillfen {
 
 /// The cells that pass the filters, each worded as it is painted: 64 profiles make 24,576 rows.
@@ -169,7 +171,7 @@ PermissionGridPart::PermissionGridPart(GridSource source, GridWords words, const
 {
     m_list->setModel(m_model);
     m_list->setAccessibleName("Permissions");
-    m_list->header()->setDefaultSectionSize(m_list->fontMetrics().averageCharWidth() * 22);
+    fitColumns();
     for (int column = 4; column < m_words.columns.size(); ++column)
         m_list->setColumnHidden(column, true);
     buildToolbar();
@@ -178,6 +180,28 @@ PermissionGridPart::PermissionGridPart(GridSource source, GridWords words, const
         connect(m_list, &QTreeView::clicked, this, &PermissionGridPart::toggle);
     connect(m_list, &ListView::editAsked, this, &PermissionGridPart::toggle);
     connect(m_list, &ListView::menuAsked, this, &PermissionGridPart::showMenu);
+}
+
+/// Each column shows its widest text, which may stand in any of thousands of rows: by what the texts are made
+/// of, and not by the rows.
+void PermissionGridPart::fitColumns()
+{
+    const QFontMetrics metrics = m_list->fontMetrics();
+    const auto widest = [&metrics](const std::vector<std::string>& texts) {
+        int width = 0;
+        for (const std::string& text : texts)
+            width = std::max(width, metrics.horizontalAdvance(fromBytes(text)));
+        return width;
+    };
+    const int profile = widest(m_context.profiles.names());
+    const int target = m_words.targets ? std::max(profile, widest(m_source.named)) : 0;
+    std::vector<int> widths = {widest(m_source.commands), profile, target};
+    const int margin = 3 * metrics.averageCharWidth();
+    for (int column = 0; column < 3; ++column) {
+        int& width = widths[static_cast<std::size_t>(column)];
+        width = std::max(width, m_list->header()->sectionSizeHint(column)) + margin;
+    }
+    m_list->setColumnWidths(widths);
 }
 
 void PermissionGridPart::buildToolbar()
@@ -197,7 +221,7 @@ void PermissionGridPart::buildToolbar()
     auto* profiles = addFilter(index, "PROFILE", "View By Profile", "profile");
     for (const std::string& name : m_context.profiles.names()) {
         const QString word = fromBytes(name);
-        profiles->menu()->addAction(QString(word).replace('&', "&&"))->setObjectName(word);
+        profiles->menu()->addAction(withoutKeys(word))->setObjectName(word);
     }
 }
 
@@ -263,11 +287,11 @@ void PermissionGridPart::toggle()
     emit changed();
 }
 
-void PermissionGridPart::showMenu(const QPoint& at)
+void PermissionGridPart::showMenu(const QPoint& at, bool onRow)
 {
     auto* menu = m_context.popUpMenu("mnuTrueFalse");
     const int row = m_list->currentRow();
-    if (!menu || row < 0)
+    if (!menu || !onRow || row < 0) // a press below the last row is on no cell
         return;
     const auto actions = menu->actions();
     actions.at(0)->setEnabled(!m_model->isAllowed(row));

@@ -60,7 +60,8 @@ private:
     void choose(QAction* filter, const QString& entry);
     void release(QAction* filter);
     void toggle();
-    void showMenu(const QPoint& at);
+    void showMenu(const QPoint& at, bool onRow);
+    void fitColumns();
 
     GridSource m_source;
     GridWords m_words;

@@ -75,6 +75,7 @@ void RowListPart::buildMovement()
     int index = 0;
     BuildMovementToolbar(*m_movement, index);
     m_list->addActions(m_movement->actions());
+    m_list->setSelectsFirst(false); // the buttons tell by their states whether a row is selected
     connectButton(*m_movement, "MoveTop", this, [this] { moveSelected(0); });
     connectButton(*m_movement, "MoveUp", this, [this] { moveSelected(m_list->currentRow() - 1); });
     connectButton(*m_movement, "MoveDown", this, [this] { moveSelected(m_list->currentRow() + 1); });

@@ -1,5 +1,6 @@
 #include "shell/window/toptoolbar.h"
 
+#include "shell/kit/labels.h"
 #include "shell/kit/toolbars.h"
 #include "shell/window/navigatortable.h"
 
@@ -20,7 +21,7 @@ QMenu* dropDown(const QString& group, bool portalShown, QWidget* parent)
         if (row.key.section('~', 0, 0) != group || isHeading(row.key) ||
             (row.key == portalKey && !portalShown))
             continue;
-        menu->addAction(QString(row.dropDown).replace('&', QStringLiteral("&&")))->setObjectName(row.key);
+        menu->addAction(withoutKeys(row.dropDown))->setObjectName(row.key);
     }
     return menu;
 }

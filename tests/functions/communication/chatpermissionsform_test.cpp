@@ -111,6 +111,7 @@ TEST_P(ChatPermissionForms, ReadTheirFileOnceAndDiscardBackToIt)
 TEST_P(ChatPermissionForms, NothingSelectedIsNothingToggled)
 {
     auto& form = openForm();
+    list(form).clearSelection();
     toggle(form).trigger();
     EXPECT_FALSE(isDirty(form));
 }

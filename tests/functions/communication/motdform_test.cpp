@@ -125,6 +125,7 @@ TEST_F(MotdForm, AmendOpensTheTextOfTheRowAndLeavesTheFormClean)
 TEST_F(MotdForm, NothingSelectedIsNothingDone)
 {
     auto& form = openForm();
+    find<RowList>(form, "lvwMOTD").clearSelection();
     tool(form, "EDIT").trigger();
     tool(form, "AMEND").trigger();
     EXPECT_FALSE(isDirty(form));

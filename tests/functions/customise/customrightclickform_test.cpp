@@ -111,7 +111,7 @@ TEST_F(CustomRightClickForm, ARowIsEditedAndKeepsItsTick)
     EXPECT_TRUE(isDirty(form));
 }
 
-TEST_F(CustomRightClickForm, ARowOfAProfileThatIsGoneIsNotTakenUntilAnotherIsChosen)
+TEST_F(CustomRightClickForm, ARowOfAProfileThatIsGoneKeepsItWhileItsTextIsEdited)
 {
     stored =
         "tCustomRightClick = {\r\n\tiCommands = 1,\r\n\t[1] = {\r\n\t\t\tbEnabled = 0,\r\n\t\t\tiWhere = 1,"
@@ -120,14 +120,47 @@ TEST_F(CustomRightClickForm, ARowOfAProfileThatIsGoneIsNotTakenUntilAnotherIsCho
     EXPECT_EQ(shown(list(form)), QStringList("x|9|Hub"));
     test::withModal([&form] { doubleClickRow(list(form), 0); },
                     [](QWidget& dialog) {
-                        EXPECT_TRUE(find<QPushButton>(dialog, "cmdOK").isEnabled());
+                        EXPECT_EQ(find<QComboBox>(dialog, "cboComboBox(0)").currentText(), "");
                         EXPECT_FALSE(find<QPushButton>(dialog, "cmdAdd").isEnabled());
+                        test::fillField(test::fieldOf(dialog, 0), "y");
                         find<QPushButton>(dialog, "cmdOK").click();
-                        EXPECT_TRUE(dialog.isVisible());
-                        dialog.close();
                     });
-    EXPECT_EQ(shown(list(form)), QStringList("x|9|Hub"));
-    EXPECT_FALSE(isDirty(form));
+    EXPECT_EQ(shown(list(form)), QStringList("y|9|Hub"));
+    save(form);
+    EXPECT_NE(stored.find("\t\t\tsProfile = 9,\r\n\t\t\tsRightClick = \"y\",\r\n"), std::string::npos);
+}
+
+TEST_F(CustomRightClickForm, AddingAsksForAllThreeFieldsAndEditingForNone)
+{
+    stored = golden("CustomRightClick.save.tbl");
+    auto& form = openForm();
+    const auto required = [](const std::function<void()>& action) {
+        std::string places;
+        test::withModal(action, [&places](QWidget& dialog) {
+            for (int field = 0; field < 3; ++field) {
+                if (test::fieldOf(dialog, field)->palette().color(QPalette::Base) == QColor(0xFF, 0x80, 0x80))
+                    places += std::to_string(field);
+            }
+            dialog.close();
+        });
+        return places;
+    };
+    EXPECT_EQ(required([&form] { button(form, "NEW", "tlbHubs").trigger(); }), "012");
+    EXPECT_EQ(required([&form] { doubleClickRow(list(form), 0); }), "");
+}
+
+TEST_F(CustomRightClickForm, NoRowIsSelectedUntilSpaceOrAClickSelectsOne)
+{
+    stored = golden("CustomRightClick.save.tbl");
+    auto& form = openForm();
+    list(form).setFocus();
+    EXPECT_EQ(list(form).currentRow(), -1);
+    EXPECT_FALSE(button(form, "MoveDown", "tlbListviewMovement").isEnabled());
+    const bool ticked = list(form).rows()[0].checked;
+    QTest::keyClick(&list(form), Qt::Key_Space);
+    EXPECT_EQ(list(form).currentRow(), 0);
+    EXPECT_NE(list(form).rows()[0].checked, ticked);
+    EXPECT_TRUE(button(form, "MoveDown", "tlbListviewMovement").isEnabled());
 }
 
 TEST_F(CustomRightClickForm, ADeleteAsksAndTheLastRowCanGo)

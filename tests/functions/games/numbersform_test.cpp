@@ -166,7 +166,7 @@ TEST_F(NumbersForm, CalculationsAreNotAddedOrRemoved)
     EXPECT_EQ(shown(calculations(form)), fresh);
 }
 
-TEST_F(NumbersForm, ACalculationOfThreeNumbersStopsTheLoad)
+TEST_F(NumbersForm, ACalculationOfThreeNumbersStopsTheLoadAndNothingIsSavedThen)
 {
     settings = golden("games/NumbersSettings.build.tbl");
     settings.replace(settings.find("0,20,0,100"), 10, "0,20,0");
@@ -182,11 +182,58 @@ TEST_F(NumbersForm, ACalculationOfThreeNumbersStopsTheLoad)
     EXPECT_EQ(number(*form, 9), "6"); // stands before it in the file
     EXPECT_EQ(number(*form, 0), "0"); // and this one behind
     EXPECT_EQ(shown(calculations(*form)), (QStringList{fresh[0], fresh[1], "*|0|20|0|"}));
+    const std::string cut = settings;
     find<QCheckBox>(*form, "chkCheckBox(0)").click();
-    button(*form, "SAVE").trigger();
-    EXPECT_NE(settings.find("\t\tsMultiplication = \"0,20,0,\",\r\n\t\tsDivision = \"1,10,1,50\",\r\n"),
-              std::string::npos);
-    EXPECT_NE(settings.find("\tiQuestionTime = 0,\r\n"), std::string::npos);
+    const auto refused = answering(QMessageBox::Ok, [form] { button(*form, "SAVE").trigger(); });
+    ASSERT_EQ(refused.size(), 1);
+    EXPECT_EQ(refused[0].title, "Games ~ Numbers");
+    EXPECT_EQ(refused[0].text,
+              "Nothing is saved, as the form shows only a part of its settings: sMultiplication in "
+              R"(Games\Numbers\NumbersSettings.tbl has fewer than four numbers.)"
+              "\n\nMend the file and discard the changes, or restore the defaults.");
+    EXPECT_EQ(refused[0].buttons, QMessageBox::Ok);
+    EXPECT_EQ(refused[0].icon, QMessageBox::Warning);
+    EXPECT_EQ(settings, cut);
+    EXPECT_TRUE(isDirty(*form));
+}
+
+TEST_F(NumbersForm, AfterAStoppedLoadALoadThatGoesThroughOrARestoreLetsTheFormSaveAgain)
+{
+    const std::string whole = golden("games/NumbersSettings.build.tbl");
+    settings = whole;
+    settings.replace(settings.find("0,20,0,100"), 10, "0,20,0");
+    EditorForm* form = nullptr;
+    answering(QMessageBox::Ok, [&] { form = &openForm(); });
+    const auto saves = [&] {
+        button(*form, "SAVE").setEnabled(true);
+        const auto boxes = answering(QMessageBox::Ok, [form] { button(*form, "SAVE").trigger(); });
+        return boxes.isEmpty();
+    };
+    EXPECT_FALSE(saves());
+    answering(QMessageBox::Ok, [form] { button(*form, "DISCARD").trigger(); }); // reads the same again
+    EXPECT_FALSE(saves());
+    answering(QMessageBox::Ok, [form] { button(*form, "RESTORE").trigger(); });
+    EXPECT_TRUE(saves());
+    settings.replace(settings.find("0,20,0,100"), 10, "0,20,0");
+    answering(QMessageBox::Ok, [form] { button(*form, "DISCARD").trigger(); });
+    EXPECT_FALSE(saves());
+    settings = whole;
+    answering(QMessageBox::Ok, [form] { button(*form, "DISCARD").trigger(); });
+    EXPECT_TRUE(saves());
+}
+
+TEST_F(NumbersForm, EveryFieldOfACalculationIsRequired)
+{
+    auto& form = openForm();
+    test::withModal([&form] { doubleClickRow(calculations(form), 2); },
+                    [](QWidget& dialog) {
+                        test::fillField(test::fieldOf(dialog, 3), "");
+                        find<QPushButton>(dialog, "cmdOK").click();
+                        EXPECT_TRUE(dialog.isVisible());
+                        EXPECT_FALSE(find<QPushButton>(dialog, "cmdAdd").isEnabled());
+                        dialog.close();
+                    });
+    EXPECT_EQ(shown(calculations(form)), fresh);
 }
 
 TEST_F(NumbersForm, ARestoreReachesTheCalculations)

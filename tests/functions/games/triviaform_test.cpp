@@ -612,7 +612,7 @@ TEST_F(TriviaQuestions, EachListOpensAMenuOfItsOwnAndTheFilesOneServesThem)
 {
     auto& form = openForm();
     const auto opened = [this](RowList& list) {
-        emit list.menuAsked({0, 0});
+        emit list.menuAsked({0, 0}, true);
         QStringList names;
         for (const char* name : {"mnuFirst", "mnuTriviaQuestions"}) {
             if (window().popUpMenu(name)->isVisible())

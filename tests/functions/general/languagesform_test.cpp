@@ -432,7 +432,7 @@ TEST_P(LanguageForms, OpenStartsInTheSetsFolderAndACancelAddsNothing)
 TEST_P(LanguageForms, TheLanguagesMenuServesThem)
 {
     auto& form = openForm();
-    emit files(form).menuAsked({0, 0});
+    emit files(form).menuAsked({0, 0}, true);
     EXPECT_TRUE(window().popUpMenu("mnuFirst")->isVisible());
     window().popUpMenu("mnuFirst")->hide();
     clickRow(files(form), rowOf(files(form), "german"));

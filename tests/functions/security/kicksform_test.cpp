@@ -76,6 +76,14 @@ TEST_F(KickSettingsForm, SavesEditsInItsOwnOrderAndClampsNothing)
     EXPECT_FALSE(isDirty(form));
 }
 
+TEST_F(KickSettingsForm, AnEmptiedNumberIsSavedAsItStands)
+{
+    auto& form = open("Security~Kicks~Settings");
+    find<QLineEdit>(form, "txtUpDown(5)").clear();
+    button(form, "SAVE").trigger();
+    EXPECT_NE(file.find("\tiCleanerTime = ,\r\n"), std::string::npos);
+}
+
 TEST_F(KickSettingsForm, ARestoreShowsTheDefaultsAndWritesNothing)
 {
     file = golden("security/KickSettings.save.tbl");
@@ -328,7 +336,7 @@ TEST_F(KickPermissionsForm, TheBorrowedMenuOffersTheOtherStateAndBothItsEntriesT
     auto* menu = window().popUpMenu("mnuTrueFalse");
     const auto rightClick = [&](int row) {
         clickRow(list(form), row);
-        emit list(form).menuAsked({0, 0});
+        emit list(form).menuAsked({0, 0}, true);
         menu->hide();
     };
     rightClick(1);

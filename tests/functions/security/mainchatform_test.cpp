@@ -35,6 +35,14 @@ TEST_F(MainChatForms, TheBlockFormShowsItsFileAndSavesInItsOwnOrder)
     EXPECT_EQ(ticks(form, "lvwEnabledProfiles"), "0110");
 }
 
+TEST_F(MainChatForms, AnEmptiedBlockTimeIsSavedAsItIsTyped)
+{
+    auto& form = open("Security~MainBlock");
+    find<QLineEdit>(form, "txtUpDown").clear();
+    save(form);
+    EXPECT_NE(file("MainBlock/MainBlockSettings.tbl").find("\tiBlockTime = ,\r\n"), std::string::npos);
+}
+
 TEST_F(MainChatForms, ARestoreOfTheBlockUnticksAllAndSetsTheTime)
 {
     file("MainBlock/MainBlockSettings.tbl") = golden("MainBlock.save.tbl");

@@ -1,7 +1,10 @@
 #include "functions/security/securityformtest.h"
 #include "support/dialogs.h"
 
+#include <QAbstractSpinBox>
 #include <QCheckBox>
+
+#include <array>
 
 namespace quillfen {
 namespace {
@@ -178,6 +181,49 @@ TEST_F(ProfileRuleForms, AShareOfAnyCountOfDigitsStaysAsItIsUntilItsRowIsEdited)
         form.parentWidget()->close();
         QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     }
+}
+
+TEST_F(ProfileRuleForms, AShareThatIsNoCountIsSavedAsTheNumberThatItShows)
+{
+    const std::string saved = golden("ProfileRules.save.tbl");
+    auto& form = open("Security~ProfileRules~Rules");
+    const std::vector<std::array<const char*, 3>> shares = {
+        {"abc", "0 KB", "0"},        {"0500000", "0.476837158203125 MB", "500000"},
+        {"-2048", "-2 KB", "-2048"}, {"2048.5", "2.00048828125 KB", "2048.5"},
+        {"0", "0 KB", "0"},          {"1048576", "1 MB", "1048576"}};
+    for (const auto& [stored, shows, saves] : shares) {
+        rules = rulesWith(saved, stored, "2");
+        discard(form);
+        EXPECT_EQ(shown(permissions(form))[0], QString("Unregistered|MinShare|") + shows);
+        edit(form, "Permissions", 14, {"3"});
+        save(form);
+        EXPECT_TRUE(sameBytes(rules, rulesWith(saved, saves, "3")));
+    }
+}
+
+TEST_F(ProfileRuleForms, ARatiosDialogAsksForItsSecondNumber)
+{
+    auto& form = open("Security~ProfileRules~Rules");
+    clickRow(permissions(form), 5);
+    test::withModal([&form] { button(form, "EDIT", "tlbPermissions").trigger(); },
+                    [](QWidget& dialog) {
+                        const QColor lightRed(0xFF, 0x80, 0x80);
+                        const auto base = [&dialog](const char* name) {
+                            return find<QAbstractSpinBox>(dialog, name).palette().color(QPalette::Base);
+                        };
+                        EXPECT_NE(base("updUpDown(0)"), lightRed);
+                        EXPECT_EQ(base("updUpDown(1)"), lightRed);
+                        EXPECT_FALSE(find<QPushButton>(dialog, "cmdAdd").isEnabled());
+                        dialog.close();
+                    });
+}
+
+TEST_F(ProfileRuleForms, AnEmptiedCheckDelayIsSavedAsAFreshTreeHoldsIt)
+{
+    auto& form = open("Security~ProfileRules~Settings");
+    find<QLineEdit>(form, "txtUpDown").clear();
+    save(form);
+    EXPECT_NE(settings.find("\tiCheckDelay = ,\r\n"), std::string::npos);
 }
 
 TEST_F(ProfileRuleForms, AnEditedShareIsWrittenWithFifteenDigits)
