@@ -2,6 +2,7 @@
 
 #include "shell/kit/codepagetext.h"
 #include "shell/kit/numberbox.h"
+#include "shell/kit/windowtitle.h"
 
 #include <QComboBox>
 #include <QDialogButtonBox>
@@ -98,7 +99,7 @@ EditDialog::EditDialog(const EditRequest& request, QWidget* parent)
 {
     const Kind& kind = kindOf(request.form);
     setObjectName(kind.name);
-    setWindowTitle(fromBytes(request.title));
+    setWindowTitle(windowTitleOf(fromBytes(request.title)));
     auto* frame = new QFrame;
     frame->setObjectName("fraFrame");
     frame->setLayout(new QFormLayout);
