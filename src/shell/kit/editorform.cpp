@@ -61,7 +61,7 @@ void EditorForm::add(FormPart* part)
 
 void EditorForm::open()
 {
-    letTabReachButtons(*this);
+    letKeysReachButtons(*this);
     focusFirstControl();
     load();
     bDirty = SetControlsClean(*m_toolbar, *m_statusBar);
