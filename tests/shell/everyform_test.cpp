@@ -2,9 +2,12 @@
 #include "support/formtest.h"
 
 #include <QAbstractButton>
+#include <QAbstractSpinBox>
 #include <QAccessible>
+#include <QComboBox>
 #include <QRadioButton>
 #include <QRegularExpression>
+#include <QScrollArea>
 #include <QSet>
 #include <QToolButton>
 
@@ -40,6 +43,13 @@ protected:
         return option && !option->isChecked();
     }
 
+    /// The line in a number box or combo box, whose size is the box's own affair.
+    static bool isInsideABox(const QWidget& widget)
+    {
+        return qobject_cast<QAbstractSpinBox*>(widget.parentWidget()) ||
+               qobject_cast<QComboBox*>(widget.parentWidget());
+    }
+
     /// What Tab must come to: of a group of options it is the chosen one.
     static QSet<QWidget*> reachable(const EditorForm& form)
     {
@@ -60,6 +70,32 @@ TEST_P(EveryForm, OpensWithinTheWindow)
     const QSize room = find<QMdiArea>(window(), QString()).viewport()->size();
     EXPECT_LE(size.width(), room.width());
     EXPECT_LE(size.height(), room.height());
+}
+
+TEST_P(EveryForm, FitsTheSmallestWindowAndEachOfItsControlsCanBeScrolledTo)
+{
+    window().resize(window().minimumSize());
+    auto& form = openForm();
+    QApplication::processEvents(); // layouts wait for it
+    const QRect room = find<QMdiArea>(window(), QString()).viewport()->rect();
+    const auto* frame = form.parentWidget();
+    EXPECT_TRUE(room.contains(frame->geometry()));
+    for (const QSize least : {frame->minimumSize(), frame->minimumSizeHint(), form.minimumSize()})
+        EXPECT_EQ(least, least.boundedTo(room.size()));
+    EXPECT_TRUE(form.rect().contains(find<QWidget>(form, "tlbFormToolbar").geometry()));
+    EXPECT_TRUE(form.rect().contains(find<QWidget>(form, "stsStatusBar").geometry()));
+    auto& scroller = find<QScrollArea>(form, QString());
+    for (auto* each : scroller.widget()->findChildren<QWidget*>()) {
+        if ((each->focusPolicy() & Qt::TabFocus) == 0 || !each->isVisible())
+            continue;
+        const QRect place = {each->mapTo(scroller.widget(), QPoint()), each->size()};
+        EXPECT_TRUE(scroller.widget()->rect().contains(place)) << nameOf(*each);
+        if (!isInsideABox(*each)) {
+            EXPECT_EQ(each->size(), each->size().expandedTo(each->minimumSizeHint())) << nameOf(*each);
+        }
+        scroller.ensureWidgetVisible(each);
+        EXPECT_FALSE(each->visibleRegion().isEmpty()) << nameOf(*each);
+    }
 }
 
 TEST_P(EveryForm, CutsNoTextOfALabelOrButton)

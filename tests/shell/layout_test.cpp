@@ -1,4 +1,5 @@
 #include "shell/kit/contraststyle.h"
+#include "shell/kit/listview.h"
 #include "shell/kit/numberbox.h"
 #include "shell/kit/rowlist.h"
 #include "shell/kit/tablefilepart.h"
@@ -8,8 +9,11 @@
 #include <QHeaderView>
 #include <QLineEdit>
 #include <QPainter>
+#include <QPlainTextEdit>
 #include <QStyleFactory>
 #include <QStyleOption>
+#include <QTreeWidget>
+#include <QVBoxLayout>
 
 namespace quillfen {
 namespace {
@@ -137,17 +141,104 @@ int frameContrast(const QPalette& palette, QStyle::PrimitiveElement element, QSt
     return std::abs(image.pixelColor(0, 7).lightness() - palette.color(QPalette::Base).lightness());
 }
 
+QPalette lightPalette()
+{
+    return {QColor(0xef, 0xef, 0xef), QColor(0xef, 0xef, 0xef)};
+}
+
+QPalette darkPalette()
+{
+    return {QColor(0x3b, 0x3d, 0x40), QColor(0x2b, 0x2d, 0x30)};
+}
+
 TEST(Contrast, TickBoxesAndOptionsCanBeSeenInADarkPalette)
 {
     ContrastStyle style;
     style.setBaseStyle(QStyleFactory::create("fusion"));
-    const QPalette dark(QColor(0x3b, 0x3d, 0x40), QColor(0x2b, 0x2d, 0x30));
-    const QPalette light = style.standardPalette();
+    const QPalette dark = darkPalette();
+    const QPalette light = lightPalette();
     for (const auto element : {QStyle::PE_IndicatorCheckBox, QStyle::PE_IndicatorRadioButton}) {
         EXPECT_GT(frameContrast(dark, element, style), 40);
         EXPECT_EQ(frameContrast(light, element, style), frameContrast(light, element, *style.baseStyle()))
             << "a light palette needs nothing";
     }
+}
+
+/// A window of the boxes and lists that forms are made of, in a palette.
+class Edges : public testing::TestWithParam<QPalette>
+{
+protected:
+    Edges()
+    {
+        m_style.setBaseStyle(QStyleFactory::create("fusion"));
+        window.setPalette(GetParam());
+        auto* layout = new QVBoxLayout(&window);
+        for (QWidget* each : std::initializer_list<QWidget*>{new QLineEdit, new QPlainTextEdit, new QComboBox,
+                                                             new NumberBox("txtUpDown(0)", 1, 9),
+                                                             new ListView("lvwRows"), new QTreeWidget}) {
+            each->setStyle(&m_style);
+            layout->addWidget(each);
+            boxes.append(each);
+        }
+        window.show();
+        window.activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
+    }
+
+    /// The colour of a box's left edge, as it is painted.
+    static QColor edgeOf(QWidget& box) { return box.grab().toImage().pixelColor(0, box.height() / 2); }
+
+    /// How far a colour stands out from what lies on both sides of an edge.
+    double standsOut(const QColor& edge) const
+    {
+        return std::min(contrast(edge, window.palette().color(QPalette::Base)),
+                        contrast(edge, window.palette().color(QPalette::Window)));
+    }
+
+    QWidget window;
+    QWidgetList boxes;
+
+private:
+    ContrastStyle m_style;
+};
+
+TEST_P(Edges, OfBoxesAndListsCanBeSeenInADarkPalette)
+{
+    if (GetParam() == lightPalette())
+        GTEST_SKIP() << "the theme's own edges serve there";
+    for (auto* each : boxes) {
+        boxes.value(each == boxes.first() ? 1 : 0)->setFocus();
+        EXPECT_GE(standsOut(edgeOf(*each)), 3) << each->metaObject()->className();
+        each->setFocus();
+        EXPECT_GE(standsOut(edgeOf(*each)), 3) << each->metaObject()->className() << " with the focus";
+    }
+}
+
+TEST_P(Edges, OfAnEmptyListTellThatItHasTheFocus)
+{
+    for (auto* each : boxes) {
+        if (!qobject_cast<QAbstractItemView*>(each))
+            continue;
+        boxes.first()->setFocus();
+        const QColor before = edgeOf(*each);
+        each->setFocus();
+        const QColor focused = edgeOf(*each);
+        EXPECT_GE(standsOut(focused), 3);
+        EXPECT_GT(focused.hslSaturation(), before.hslSaturation() + 60) << "in the colour of what is chosen";
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Palettes, Edges,
+                         testing::Values(lightPalette(), darkPalette(), QPalette(Qt::black, Qt::black),
+                                         QPalette(QColor(0x50, 0x54, 0x58), QColor(0x46, 0x4a, 0x4e))));
+
+TEST(Contrast, IsThatOfLightAsTheEyeWeighsIt)
+{
+    EXPECT_DOUBLE_EQ(contrast(Qt::white, Qt::black), 21);
+    EXPECT_DOUBLE_EQ(contrast(Qt::black, Qt::white), 21);
+    EXPECT_DOUBLE_EQ(contrast(Qt::red, Qt::red), 1);
+    EXPECT_NEAR(contrast(Qt::white, QColor(0x77, 0x77, 0x77)), 4.48, 0.01);
+    EXPECT_NEAR(contrast(Qt::white, Qt::red), 4.00, 0.01);
 }
 
 } // namespace

@@ -1,14 +1,18 @@
 #include "shell/window/popupmenus.h"
 #include "support/formtest.h"
 
+#include <QContextMenuEvent>
 #include <QDesktopServices>
 #include <QDialog>
 #include <QMenu>
 #include <QMenuBar>
 #include <QProcess>
 #include <QPushButton>
+#include <QScreen>
+#include <QScrollBar>
 #include <QSplitter>
 #include <QTemporaryDir>
+#include <QToolButton>
 #include <QTreeWidget>
 
 namespace quillfen {
@@ -52,6 +56,10 @@ protected:
     }
 
     QMdiArea& area() { return find<QMdiArea>(window(), QString()); }
+    static QMdiSubWindow& subWindow(const EditorForm& form)
+    {
+        return *qobject_cast<QMdiSubWindow*>(form.parentWidget());
+    }
     static void closeForm(EditorForm& form) { qobject_cast<QMdiSubWindow*>(form.parentWidget())->close(); }
 
     struct StandIn
@@ -189,6 +197,173 @@ TEST_F(MainWindowTest, ChoosingTheActiveFormLeavesItMaximised)
     EXPECT_TRUE(settings.parentWidget()->isMaximized());
 }
 
+TEST_F(MainWindowTest, StartsNoLargerThanTheScreensFreeArea)
+{
+    const QSize free = window().screen()->availableSize();
+    ASSERT_LT(free.width(), 1180) << "a screen on which it has to matter";
+    EXPECT_LE(window().width(), free.width());
+    EXPECT_LE(window().height() + window().style()->pixelMetric(QStyle::PM_TitleBarHeight), free.height());
+}
+
+TEST_F(MainWindowTest, AFormThatOpensWhileAnotherIsMaximisedIsMaximisedToo)
+{
+    window().resize(1180, 780);
+    subWindow(open("General~Settings")).showMaximized();
+    for (const char* key : {"General~Switches", "General~Bots"}) {
+        auto& opened = subWindow(open(key));
+        EXPECT_TRUE(opened.isMaximized());
+        EXPECT_EQ(opened.geometry(), area().viewport()->rect());
+        EXPECT_EQ(area().currentSubWindow(), &opened);
+    }
+    auto& last = subWindow(open("General~Bots"));
+    last.showNormal();
+    EXPECT_EQ(last.size(), last.size().expandedTo(last.widget()->minimumSizeHint()));
+    EXPECT_GT(last.height(), last.widget()->height()) << "it has its title bar";
+    EXPECT_FALSE(subWindow(open("General~News")).isMaximized());
+}
+
+TEST_F(MainWindowTest, AMinimisedFormThatIsChosenWhileAnotherIsMaximisedIsShown)
+{
+    auto& settings = subWindow(open("General~Settings"));
+    settings.showMinimized();
+    subWindow(open("General~Switches")).showMaximized();
+    open("General~Settings");
+    EXPECT_EQ(area().currentSubWindow(), &settings);
+    EXPECT_FALSE(settings.isMinimized());
+    EXPECT_GE(settings.height(), settings.widget()->minimumHeight());
+}
+
+TEST_F(MainWindowTest, AFormOutOfSightComesIntoSightWhenItIsChosen)
+{
+    window().resize(1180, 780);
+    auto& settings = subWindow(open("General~Settings"));
+    auto& switches = subWindow(open("General~Switches"));
+    const QRect& room = area().viewport()->rect();
+    switches.move(room.right() - 100, room.bottom() - 100);
+    settings.move(0, 0);
+    open("General~Settings");
+    window().resize(window().minimumSize());
+    EXPECT_FALSE(area().viewport()->rect().contains(switches.geometry()));
+    EXPECT_TRUE(area().horizontalScrollBar()->isVisible());
+    EXPECT_TRUE(area().verticalScrollBar()->isVisible());
+    for (auto* chosen : {&switches, &settings}) {
+        open(chosen == &switches ? "General~Switches" : "General~Settings");
+        EXPECT_TRUE(area().viewport()->rect().contains(chosen->geometry()));
+    }
+    auto& opened = subWindow(open("General~Bots"));
+    EXPECT_TRUE(area().viewport()->rect().contains(opened.geometry()));
+}
+
+TEST_F(MainWindowTest, OfAFormLargerThanTheAreaItsBeginningComesIntoSight)
+{
+    auto& settings = subWindow(open("General~Settings"));
+    settings.resize(3000, 2000);
+    settings.move(-700, -500);
+    open("General~Settings");
+    EXPECT_EQ(settings.pos(), QPoint());
+    settings.move(400, 300);
+    open("General~Settings");
+    EXPECT_EQ(settings.pos(), QPoint());
+}
+
+TEST_F(MainWindowTest, AClickOnAFormHalfInSightDoesNotMoveItAway)
+{
+    auto& settings = subWindow(open("General~Settings"));
+    auto& switches = subWindow(open("General~Switches"));
+    switches.move(0, 0);
+    settings.move(area().viewport()->width() - 150, 0);
+    const QPoint before = settings.pos();
+    auto& toolbar = find<QWidget>(settings, "tlbFormToolbar");
+    QTest::mousePress(&toolbar, Qt::LeftButton, {}, {5, 5});
+    EXPECT_EQ(settings.pos(), before);
+    QTest::mouseRelease(&toolbar, Qt::LeftButton, {}, {5, 5});
+}
+
+TEST_F(MainWindowTest, ControlTabGoesToTheNextFormAtOnce)
+{
+    auto& settings = subWindow(open("General~Settings"));
+    auto& switches = subWindow(open("General~Switches"));
+    auto& bots = subWindow(open("General~Bots"));
+    const auto press = [this](Qt::Key key, Qt::KeyboardModifiers modifiers) {
+        QTest::keyPress(QApplication::focusWidget(), key, modifiers); // and no release
+        return area().currentSubWindow();
+    };
+    EXPECT_EQ(press(Qt::Key_Tab, Qt::ControlModifier), &settings);
+    EXPECT_TRUE(settings.isAncestorOf(QApplication::focusWidget()));
+    EXPECT_EQ(press(Qt::Key_Tab, Qt::ControlModifier), &switches);
+    EXPECT_EQ(press(Qt::Key_Backtab, Qt::ControlModifier | Qt::ShiftModifier), &settings);
+    EXPECT_EQ(press(Qt::Key_Backtab, Qt::ControlModifier | Qt::ShiftModifier), &bots);
+    bots.showMaximized();
+    EXPECT_EQ(press(Qt::Key_Tab, Qt::ControlModifier), &settings);
+    EXPECT_TRUE(settings.isMaximized()) << "as are all, then";
+}
+
+TEST_F(MainWindowTest, F6GoesFromTheFormToTheToolbarAndTheTreeAndBack)
+{
+    auto& form = open("General~Settings");
+    auto* field = &find<QWidget>(form, "txtTextBox(1)");
+    field->setFocus();
+    const auto press = [](Qt::KeyboardModifiers modifiers) {
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_F6, modifiers);
+        return QApplication::focusWidget();
+    };
+    auto* toolbar = &find<QToolBar>(window(), "tlbMDITop");
+    EXPECT_EQ(press({}), toolbar->widgetForAction(&find<QAction>(*toolbar, "TREEVIEW")));
+    EXPECT_EQ(press({}), &find<QWidget>(window(), "txtFind"));
+    EXPECT_EQ(press({}), field);
+    find<QWidget>(window(), "tvwFunctions").setFocus();
+    EXPECT_EQ(press({}), field);
+    EXPECT_EQ(press(Qt::ShiftModifier), &find<QWidget>(window(), "tvwFunctions")) << "where it was last";
+    EXPECT_TRUE(toolbar->isAncestorOf(press(Qt::ShiftModifier)));
+    EXPECT_EQ(press(Qt::ShiftModifier), field);
+    find<QAction>(window(), "mnuToolsSideBar").trigger();
+    field->setFocus();
+    EXPECT_TRUE(toolbar->isAncestorOf(press({})));
+    EXPECT_EQ(press({}), field) << "the tree is hidden";
+    subWindow(form).showMinimized();
+    toolbar->widgetForAction(&find<QAction>(*toolbar, "TREEVIEW"))->setFocus();
+    EXPECT_TRUE(toolbar->isAncestorOf(press({}))) << "and so is the form";
+}
+
+TEST_F(MainWindowTest, TabReachesTheButtonsOfTheToolbarsInTheirOrder)
+{
+    QWidgetList met;
+    auto* first = &find<QWidget>(window(), "tvwFunctions");
+    first->setFocus();
+    do {
+        met.append(QApplication::focusWidget());
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    } while (QApplication::focusWidget() != first && met.size() < 50);
+    for (const char* name : {"tlbMDITop", "tlbSidebar"}) {
+        auto& toolbar = find<QToolBar>(window(), name);
+        QWidgetList buttons;
+        for (auto* action : toolbar.actions()) {
+            if (!action->isSeparator())
+                buttons.append(toolbar.widgetForAction(action));
+        }
+        EXPECT_EQ(met.mid(met.indexOf(buttons.constFirst()), buttons.size()), buttons) << name;
+    }
+}
+
+TEST_F(MainWindowTest, StartsInTheFindBox)
+{
+    EXPECT_EQ(QApplication::focusWidget(), &find<QWidget>(window(), "txtFind"));
+}
+
+TEST_F(MainWindowTest, NoRightClickOffersToHideAToolbar)
+{
+    auto& form = open("General~Bots");
+    QWidgetList pressed = {window().menuBar(), window().statusBar()};
+    for (auto* toolbar : window().findChildren<QToolBar*>())
+        pressed += {toolbar, toolbar->findChild<QToolButton*>()};
+    EXPECT_TRUE(pressed.contains(&find<QToolBar>(form, "tlbFormToolbar")));
+    for (auto* widget : pressed) {
+        QContextMenuEvent event(QContextMenuEvent::Mouse, {3, 3}, widget->mapToGlobal(QPoint(3, 3)));
+        QApplication::sendEvent(widget, &event);
+        EXPECT_EQ(QApplication::activePopupWidget(), nullptr) << widget->objectName().toStdString();
+    }
+}
+
 TEST_F(MainWindowTest, AClosedFormLeavesTheMenu)
 {
     auto& settings = open("General~Settings");
@@ -284,6 +459,19 @@ TEST_F(MainWindowTest, TheListOfAllWindowsOpensTheOneThatIsPicked)
     EXPECT_EQ(area().currentSubWindow()->widget(), &settings);
 }
 
+TEST_F(MainWindowTest, TheFirstRowOfTheListOfAllWindowsIsSelectedAtOnce)
+{
+    auto& settings = open("General~Settings");
+    open("General~Switches");
+    test::withModal([this] { find<QAction>(window(), "mnuWindowsShowAll").trigger(); },
+                    [](QWidget& dialog) {
+                        auto& list = find<QTreeWidget>(dialog, "lvwWindows");
+                        EXPECT_EQ(list.selectedItems(), QList{list.topLevelItem(0)});
+                        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+                    });
+    EXPECT_EQ(area().currentSubWindow()->widget(), &settings);
+}
+
 TEST_F(MainWindowTest, TheListOfAllWindowsChangesNothingWhenItIsCancelled)
 {
     open("General~Settings");
@@ -326,6 +514,19 @@ TEST_F(MainWindowTest, ClosesItsFormsFirstAndACancelKeepsItOpen)
     EXPECT_EQ(boxes.size(), 1);
     EXPECT_FALSE(window().isVisible());
     EXPECT_EQ(window().openWindows().Count(), 0);
+}
+
+TEST_F(MainWindowTest, AFormThatAsksAsTheProgramClosesComesToTheFront)
+{
+    auto& settings = open("General~Settings");
+    open("General~Bots");
+    QTest::keyClicks(&find<QWidget>(settings, "txtTextBox(0)"), "x");
+    subWindow(settings).showMinimized();
+    open("General~Switches");
+    const auto boxes = test::answering(QMessageBox::Cancel, [this] { window().close(); });
+    EXPECT_EQ(boxes.size(), 1);
+    EXPECT_EQ(area().currentSubWindow(), &subWindow(settings));
+    EXPECT_FALSE(settings.parentWidget()->isMinimized());
 }
 
 /// A part that serves the borrowed menus' routines that a test names, and notes their calls.

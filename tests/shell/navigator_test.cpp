@@ -419,6 +419,74 @@ TEST_F(NavigatorTest, TheSideBarIsShownAndHiddenAsAWhole)
     EXPECT_TRUE(panel.isVisible());
 }
 
+class TreeFollows : public NavigatorTest
+{
+protected:
+    QString selected()
+    {
+        const auto items = tree().selectedItems();
+        return items.size() == 1 ? items.constFirst()->data(0, Qt::UserRole).toString() : QString();
+    }
+
+    void activate(const EditorForm& form)
+    {
+        find<QMdiArea>(window(), {}).setActiveSubWindow(qobject_cast<QMdiSubWindow*>(form.parentWidget()));
+    }
+};
+
+TEST_F(TreeFollows, TheFormThatOpensOrIsActivated)
+{
+    auto& anagrams = open("Games~Anagrams");
+    EXPECT_EQ(selected(), "Games~Anagrams");
+    open("General~Commands");
+    EXPECT_EQ(selected(), "General~Commands");
+    activate(anagrams);
+    EXPECT_EQ(selected(), "Games~Anagrams");
+    EXPECT_EQ(openKeys(), (QStringList{"Games~Anagrams", "General~Commands"}));
+}
+
+TEST_F(TreeFollows, AndShowsItsNodeWithoutOpeningOtherGroups)
+{
+    open("Games~Trivia~Questions");
+    EXPECT_TRUE(tree().viewport()->rect().contains(tree().visualItemRect(node("Games~Trivia~Questions"))));
+    for (QTreeWidgetItemIterator item(&tree()); *item; ++item) {
+        const QString key = (*item)->data(0, Qt::UserRole).toString();
+        const bool above = QStringList{"Quillfen", "Games", "Games~Trivia"}.contains(key);
+        EXPECT_EQ((*item)->isExpanded(), above) << key.toStdString();
+    }
+}
+
+TEST_F(TreeFollows, NotWhenTheWindowOnlyGetsTheFocusBack)
+{
+    open("Games~Anagrams");
+    find<QAction>(find<QToolBar>(window(), "tlbSidebar"), "CLOSE").trigger();
+    click("General");
+    test::answering(QMessageBox::Ok, [this] { find<QAction>(window(), "mnuBotsEdit").trigger(); });
+    QWidget other;
+    other.show();
+    other.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&other));
+    window().activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window()));
+    EXPECT_EQ(selected(), "General");
+    EXPECT_FALSE(node("Games")->isExpanded());
+}
+
+TEST_F(TreeFollows, TheFormThatIsChosenAgainThoughItIsActive)
+{
+    open("Games~Anagrams");
+    click("General");
+    open("Games~Anagrams");
+    EXPECT_EQ(selected(), "Games~Anagrams");
+}
+
+TEST_F(TreeFollows, AFormWithoutANodeLeavesTheTreeAsItIs)
+{
+    open("Games~Anagrams");
+    open("Communication~Whisper");
+    EXPECT_EQ(selected(), "Games~Anagrams");
+}
+
 /// The box that narrows the tree, used by keys.
 class FindBox : public NavigatorTest
 {
@@ -506,6 +574,29 @@ TEST_F(FindBox, WithoutAMatchNothingIsShownOrOpened)
     EXPECT_TRUE(shownKeys().isEmpty());
     QTest::keyClick(&box(), Qt::Key_Return);
     EXPECT_TRUE(openKeys().isEmpty());
+}
+
+TEST_F(FindBox, AFormNarrowedAwayIsFollowedWhenTheTreeIsWhole)
+{
+    auto& anagrams = open("Games~Anagrams");
+    open("Security~AntiVirus");
+    type("anti");
+    find<QMdiArea>(window(), {}).setActiveSubWindow(qobject_cast<QMdiSubWindow*>(anagrams.parentWidget()));
+    EXPECT_TRUE(node("Games~Anagrams")->isHidden());
+    EXPECT_EQ(tree().currentItem(), node("Security~AntiAdvertise~Settings")) << "the match stays selected";
+    QTest::keyClick(&box(), Qt::Key_Escape);
+    EXPECT_EQ(tree().currentItem(), node("Games~Anagrams"));
+}
+
+TEST_F(FindBox, WhatIsTypedLaterGoesBeforeAFormNarrowedAway)
+{
+    auto& anagrams = open("Games~Anagrams");
+    open("Security~AntiVirus");
+    type("anti");
+    find<QMdiArea>(window(), {}).setActiveSubWindow(qobject_cast<QMdiSubWindow*>(anagrams.parentWidget()));
+    type("clone");
+    QTest::keyClick(&box(), Qt::Key_Escape);
+    EXPECT_EQ(tree().currentItem(), node("Security~CloneBlocker"));
 }
 
 TEST_F(FindBox, IsReachedFromAFormAndWithTheSideBarHidden)

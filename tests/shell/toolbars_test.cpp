@@ -2,6 +2,9 @@
 #include "shell/kit/toolbars.h"
 #include "support/formtest.h"
 
+#include <QMenu>
+#include <QTimer>
+#include <QToolButton>
 #include <QTreeWidget>
 
 namespace quillfen {
@@ -12,6 +15,53 @@ TEST(Icons, AreLoadedOnceForAllForms)
     EXPECT_EQ(themedIcon("save").cacheKey(), themedIcon("save").cacheKey());
     EXPECT_NE(themedIcon("save").cacheKey(), themedIcon("edit").cacheKey());
     EXPECT_FALSE(themedIcon("save").pixmap(16, 16).isNull());
+}
+
+/// Which of an icon's pixels bear colour, as a toolbar of lists draws it.
+std::vector<bool> shapeOf(const QString& icon)
+{
+    constexpr int side = 16;
+    const QImage image = themedIcon(icon).pixmap(side, side, QIcon::Normal).toImage();
+    std::vector<bool> shape;
+    for (int at = 0; at < side * side; ++at)
+        shape.push_back(qAlpha(image.pixel(at % side, at / side)) > 100);
+    return shape;
+}
+
+/// How much of two icons is the same: 1 for all, 0 for nothing.
+double likeness(const QString& one, const QString& other)
+{
+    const auto first = shapeOf(one);
+    const auto second = shapeOf(other);
+    int both = 0;
+    int either = 0;
+    for (std::size_t at = 0; at < first.size(); ++at) {
+        both += first[at] && second[at] ? 1 : 0;
+        either += first[at] || second[at] ? 1 : 0;
+    }
+    return static_cast<double>(both) / either;
+}
+
+/// The hue of an icon's strongest pixel, as most of it is drawn.
+int hueOf(const QString& icon)
+{
+    const QImage image = themedIcon(icon).pixmap(16, 16).toImage();
+    QColor strongest;
+    for (int at = 0; at < 16 * 16; ++at) {
+        const QColor colour = image.pixelColor(at % 16, at / 16);
+        if (colour.alpha() > 200 && colour.hslSaturation() > 60)
+            strongest = colour;
+    }
+    return strongest.hslHue();
+}
+
+TEST(Icons, OfButtonsThatStandTogetherDifferInShapeAndColour)
+{
+    for (const auto& [one, other] : {std::pair("discard", "restore"), {"edit", "amend"}}) {
+        EXPECT_LT(likeness(one, other), 0.3) << one << ' ' << other;
+        const int apart = std::abs(hueOf(one) - hueOf(other));
+        EXPECT_GT(std::min(apart, 360 - apart), 40) << one << ' ' << other;
+    }
 }
 
 QStringList keysAndTips(const QToolBar& toolbar)
@@ -109,6 +159,66 @@ TEST(Toolbars, DirtyAndCleanFollowButtonTwoAndTakeButtonThreeOut)
     EXPECT_FALSE(toolbar.actions()[1]->isEnabled());
     EXPECT_FALSE(toolbar.actions()[2]->isEnabled());
     EXPECT_EQ(panel->text(), "Controls = Clean");
+}
+
+/// Presses a key on a drop-down button, and returns what came up; it goes again.
+QWidget* poppedUp(QToolButton& button, Qt::Key key, Qt::KeyboardModifiers modifiers)
+{
+    QWidget* seen = nullptr;
+    QTimer timer;
+    QObject::connect(&timer, &QTimer::timeout, &timer, [&seen] {
+        if (auto* popup = QApplication::activePopupWidget()) {
+            seen = popup;
+            popup->close();
+        }
+    });
+    timer.start(1);
+    QTest::keyClick(&button, key, modifiers);
+    return seen;
+}
+
+TEST(Toolbars, DownAndAltDownOpenADropDown)
+{
+    QWidget window;
+    auto* toolbar = new QToolBar(&window);
+    int index = 0;
+    auto* dropDown = addButton(*toolbar, index, "PROFILE", "View By Profile", "profile");
+    QMenu menu;
+    menu.addAction("Master");
+    dropDown->setMenu(&menu);
+    AddEditButton(*toolbar, index);
+    letKeysReachButtons(window);
+    window.show();
+    auto& button = *qobject_cast<QToolButton*>(toolbar->widgetForAction(dropDown));
+    button.setPopupMode(QToolButton::MenuButtonPopup);
+    int pressed = 0;
+    QObject::connect(dropDown, &QAction::triggered, [&pressed] { ++pressed; });
+    EXPECT_EQ(poppedUp(button, Qt::Key_Down, Qt::NoModifier), &menu);
+    EXPECT_EQ(poppedUp(button, Qt::Key_Down, Qt::AltModifier), &menu);
+    EXPECT_EQ(poppedUp(button, Qt::Key_Down, Qt::KeypadModifier), &menu);
+    EXPECT_EQ(poppedUp(button, Qt::Key_Down, Qt::ControlModifier), nullptr);
+    EXPECT_EQ(poppedUp(button, Qt::Key_Right, Qt::NoModifier), nullptr);
+    EXPECT_EQ(pressed, 0);
+    QTest::keyClick(&button, Qt::Key_Space);
+    EXPECT_EQ(pressed, 1) << "the button itself does what it did";
+}
+
+class DropDowns : public test::FormTest
+{
+};
+
+TEST_F(DropDowns, OfEveryToolbarOpenByKeys)
+{
+    open("Security~Kicks~Permissions");
+    int tried = 0;
+    for (auto* each : window().findChildren<QToolButton*>()) {
+        auto* menu = each->defaultAction() ? each->defaultAction()->menu() : nullptr;
+        if (!menu)
+            continue;
+        EXPECT_EQ(poppedUp(*each, Qt::Key_Down, Qt::AltModifier), menu);
+        ++tried;
+    }
+    EXPECT_EQ(tried, 12 + 2) << "the groups of the main window, and the grid's filters";
 }
 
 class OpenFile : public testing::Test

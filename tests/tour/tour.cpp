@@ -220,6 +220,7 @@ int main(int argc, char** argv)
     if (exitCode)
         return *exitCode;
     quillfen::MainWindow& window = program.window();
+    window.resize(1180, 780); // also where the screen, which the pictures don't need, is smaller
     window.show();
     if (!QTest::qWaitForWindowExposed(&window))
         tour.miss("the main window doesn't show");

@@ -4,6 +4,7 @@
 #include "shell/kit/combobox.h"
 #include "shell/kit/labels.h"
 #include "shell/kit/numberbox.h"
+#include "shell/kit/windowtitle.h"
 
 #include <QAbstractItemView>
 #include <QApplication>
@@ -110,7 +111,7 @@ EditDialog::EditDialog(const EditRequest& request, QWidget* parent)
 {
     const Kind& kind = kindOf(request.form);
     setObjectName(kind.name);
-    setWindowTitle(fromBytes(request.title));
+    setWindowTitle(windowTitleOf(fromBytes(request.title)));
     auto* frame = new QFrame;
     frame->setObjectName("fraFrame");
     frame->setLayout(new QFormLayout);

@@ -8,6 +8,7 @@
 #include <QCloseEvent>
 #include <QFrame>
 #include <QScopedValueRollback>
+#include <QScrollArea>
 #include <QStatusBar>
 #include <QToolButton>
 #include <QVBoxLayout>
@@ -15,6 +16,28 @@
 #include <algorithm>
 
 namespace quillfen {
+namespace {
+
+/// What the smallest main window leaves to a form, beside the tree and below its own title bar.
+constexpr QSize leastRoom = {500, 400};
+
+/// Shows a form's frame whole where there is room, and else so that all of it can be scrolled to.
+class FrameScroller : public QScrollArea
+{
+public:
+    explicit FrameScroller(QFrame* frame)
+    {
+        setFrameShape(NoFrame);
+        setWidgetResizable(true);
+        setFocusPolicy(Qt::NoFocus); // the controls inside have it
+        setWidget(frame);
+    }
+
+    /// Qt's own would end at a few dozen lines.
+    QSize sizeHint() const override { return widget()->sizeHint(); }
+};
+
+} // namespace
 
 EditorForm::EditorForm(const FormDescription& description)
     : m_description(description),
@@ -24,7 +47,7 @@ EditorForm::EditorForm(const FormDescription& description)
 {
     setObjectName(description.name);
     setWindowTitle(description.caption);
-    setMinimumSize(twips(description.minimumTwips.width(), description.minimumTwips.height()));
+    setMinimumSize(leastSize().boundedTo(leastRoom));
     m_toolbar->setObjectName("tlbFormToolbar");
     m_frame->setObjectName("fraFrame(0)");
     m_statusBar->setObjectName("stsStatusBar");
@@ -46,7 +69,7 @@ EditorForm::EditorForm(const FormDescription& description)
     layout->setContentsMargins({});
     layout->setSpacing(0);
     layout->addWidget(m_toolbar);
-    layout->addWidget(m_frame, 1);
+    layout->addWidget(new FrameScroller(m_frame), 1);
     layout->addWidget(m_statusBar);
 }
 
@@ -61,10 +84,20 @@ void EditorForm::add(FormPart* part)
 
 void EditorForm::open()
 {
-    letTabReachButtons(*this);
+    letKeysReachButtons(*this);
     focusFirstControl();
     load();
     bDirty = SetControlsClean(*m_toolbar, *m_statusBar);
+}
+
+QSize EditorForm::leastSize() const
+{
+    return twips(m_description.minimumTwips.width(), m_description.minimumTwips.height());
+}
+
+QSize EditorForm::sizeHint() const
+{
+    return QWidget::sizeHint().expandedTo(leastSize());
 }
 
 void EditorForm::focusFirstControl()

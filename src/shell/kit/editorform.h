@@ -27,7 +27,7 @@ struct FormDescription
 
     QString name; ///< frm...
     QString caption;
-    QSize minimumTwips{};
+    QSize minimumTwips{}; ///< as far as the smallest main window has room for it
     AfterDiscard afterDiscard = AfterDiscard::Clean;
     bool hasRestore = true;
     bool reloadsAfterSave = false;        ///< all is loaded again, as its files may hold other than it showed
@@ -36,8 +36,9 @@ struct FormDescription
     QString restoreText = "Restore to defaults?";
 };
 
-/// An editor form: its toolbar, its parts in a frame, its status bar, and the cycle of load, change, save,
-/// discard, restore and close. It alone knows whether the controls differ from the files.
+/// An editor form: its toolbar, its parts in a frame that scrolls where there is too little room for them,
+/// its status bar, and the cycle of load, change, save, discard, restore and close. It alone knows whether
+/// the controls differ from the files.
 class EditorForm : public QWidget
 {
     Q_OBJECT
@@ -50,6 +51,9 @@ public:
 
     /// Loads every part; the form is clean.
     void open();
+
+    /// What it opens with where there is room: all of its parts, and no less than its own least size.
+    QSize sizeHint() const override;
 
     /// The routine that the form serves to a borrowed right-click menu under this name; empty if it has none.
     std::function<void()> routine(const QString& name) const { return m_routines.value(name); }
@@ -68,6 +72,7 @@ protected:
     void closeEvent(QCloseEvent* event) override;
 
 private:
+    QSize leastSize() const;
     void focusFirstControl();
     void load();
     bool maySave();

@@ -3,6 +3,7 @@
 #include "settings/filename.h"
 #include "settings/filestore.h"
 #include "shell/kit/codepagetext.h"
+#include "shell/kit/windowtitle.h"
 
 #include <QDir>
 
@@ -13,7 +14,7 @@ QMessageBox::StandardButton show(QWidget* parent, const QString& title, const QS
                                  QMessageBox::Icon icon, QMessageBox::StandardButtons buttons,
                                  QMessageBox::StandardButton preset = QMessageBox::Ok)
 {
-    QMessageBox box(icon, title, text, buttons, parent);
+    QMessageBox box(icon, windowTitleOf(title), text, buttons, parent);
     box.setTextFormat(Qt::PlainText);
     box.setDefaultButton(preset);
     return static_cast<QMessageBox::StandardButton>(box.exec());

@@ -63,7 +63,7 @@ TextEditDialog::TextEditDialog(const SettingsFiles& files, const std::string& pa
     layout->addWidget(m_text, 1);
     layout->addWidget(m_statusBar);
     resize(640, 480);
-    letTabReachButtons(*this);
+    letKeysReachButtons(*this);
     m_text->setFocus();
     load();
     connect(m_text->document(), &QTextDocument::contentsChange, this,

@@ -4,7 +4,9 @@
 #include "shell/kit/messages.h"
 #include "shell/kit/units.h"
 
+#include <QKeyEvent>
 #include <QLabel>
+#include <QMenu>
 #include <QStatusBar>
 #include <QToolButton>
 #include <QTreeView>
@@ -17,6 +19,38 @@ void insertAction(QToolBar& toolbar, int& index, QAction* action)
     const auto actions = toolbar.actions();
     toolbar.insertAction(index < actions.size() ? actions.at(index) : nullptr, action);
     ++index;
+}
+
+/// Opens a drop-down button's menu by keys; Qt's own button goes on to the next one at Down.
+class DropDownKeys : public QObject
+{
+public:
+    using QObject::QObject;
+
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (event->type() != QEvent::KeyPress)
+            return false;
+        const auto* pressed = static_cast<QKeyEvent*>(event);
+        const auto modifiers = pressed->modifiers() & ~Qt::KeypadModifier;
+        if (pressed->key() != Qt::Key_Down || (modifiers != Qt::NoModifier && modifiers != Qt::AltModifier))
+            return false;
+        static_cast<QToolButton*>(watched)->showMenu();
+        return true;
+    }
+};
+
+/// Lets Tab go through a toolbar's buttons in their order, whichever was put in first.
+void letTabFollow(const QToolBar& toolbar)
+{
+    QWidget* before = nullptr;
+    for (auto* action : toolbar.actions()) {
+        auto* button = qobject_cast<QToolButton*>(toolbar.widgetForAction(action));
+        if (button && before)
+            QWidget::setTabOrder(before, button);
+        if (button)
+            before = button;
+    }
 }
 
 void setState(const QToolBar& toolbar, const QStatusBar& statusBar, bool dirty)
@@ -60,12 +94,17 @@ void removeButton(QToolBar& toolbar, const QString& key)
     delete button(toolbar, key);
 }
 
-void letTabReachButtons(QWidget& window)
+void letKeysReachButtons(QWidget& window)
 {
     for (auto* each : window.findChildren<QToolButton*>()) {
-        if (qobject_cast<QToolBar*>(each->parentWidget()))
-            each->setFocusPolicy(Qt::TabFocus);
+        if (!qobject_cast<QToolBar*>(each->parentWidget()))
+            continue;
+        each->setFocusPolicy(Qt::TabFocus);
+        if (each->defaultAction() && each->defaultAction()->menu())
+            each->installEventFilter(new DropDownKeys(each));
     }
+    for (const auto* toolbar : window.findChildren<QToolBar*>())
+        letTabFollow(*toolbar);
 }
 
 void BuildFormToolbar(QToolBar& toolbar, int& index)

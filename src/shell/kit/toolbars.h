@@ -36,8 +36,9 @@ QAction* button(const QToolBar& toolbar, const QString& key);
 /// Takes a button that a builder added off again.
 void removeButton(QToolBar& toolbar, const QString& key);
 
-/// Lets the Tab key reach the buttons of a window's toolbars.
-void letTabReachButtons(QWidget& window);
+/// Lets the Tab key reach the buttons of a window's toolbars, and opens a drop-down by the keys that open a
+/// combo box: Down and Alt+Down.
+void letKeysReachButtons(QWidget& window);
 
 /// Calls a member of `receiver` at a click on the toolbar's button of that key, if it has one.
 template <typename Receiver, typename Member>

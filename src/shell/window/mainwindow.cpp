@@ -5,6 +5,7 @@
 #include "shell/icons/icons.h"
 #include "shell/kit/hourglass.h"
 #include "shell/kit/messages.h"
+#include "shell/kit/toolbars.h"
 #include "shell/kit/units.h"
 #include "shell/window/aboutbox.h"
 #include "shell/window/navigator.h"
@@ -19,9 +20,14 @@
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMenuBar>
+#include <QScreen>
+#include <QScrollBar>
 #include <QSplitter>
 #include <QStatusBar>
+#include <QStyle>
 #include <QUrl>
+
+#include <algorithm>
 
 namespace quillfen {
 namespace {
@@ -46,6 +52,48 @@ QMenu* addMenu(QMenuBar& bar, const QString& name, const QString& caption)
     return menu;
 }
 
+/// What the window opens with: no larger than the screen's free area, its title bar included.
+QSize startSize(const QWidget& window)
+{
+    const int titleBar = window.style()->pixelMetric(QStyle::PM_TitleBarHeight);
+    const QSize free = window.screen()->availableSize();
+    return QSize(1180, 780).boundedTo({free.width(), free.height() - titleBar});
+}
+
+EditorForm* formIn(const QMdiSubWindow& window)
+{
+    return qobject_cast<EditorForm*>(window.widget());
+}
+
+/// Moves a scroll bar so far that a stretch of what it moves is seen, and rather its beginning than its end.
+void scrollTo(QScrollBar& bar, int first, int last, int extent)
+{
+    bar.setValue(bar.value() + std::min(first, std::max(0, last - extent + 1)));
+}
+
+void bringIntoSight(const QMdiSubWindow& window, QMdiArea& area)
+{
+    const QRect place = window.geometry();
+    const QSize sight = area.viewport()->size();
+    scrollTo(*area.horizontalScrollBar(), place.left(), place.right(), sight.width());
+    scrollTo(*area.verticalScrollBar(), place.top(), place.bottom(), sight.height());
+}
+
+/// The control of a pane that had the focus last, or else its first one.
+QWidget* entryOf(QWidget& pane)
+{
+    const auto takesFocus = [&pane](const QWidget* control) {
+        return control && control != &pane && pane.isAncestorOf(control) && control->isVisible() &&
+               control->isEnabled() && (control->focusPolicy() & Qt::TabFocus) != 0;
+    };
+    if (takesFocus(pane.focusWidget()))
+        return pane.focusWidget();
+    auto* control = pane.nextInFocusChain();
+    while (control != &pane && !takesFocus(control))
+        control = control->nextInFocusChain();
+    return control == &pane ? nullptr : control;
+}
+
 } // namespace
 
 MainWindow::MainWindow(const ProgramInfo& program, const FormContext& context, const FormCatalogue& forms)
@@ -61,18 +109,19 @@ MainWindow::MainWindow(const ProgramInfo& program, const FormContext& context, c
     setObjectName("frmContainer");
     setWindowTitle(program.product + ' ' + program.version);
     setMinimumSize(twips(11790, 9060));
-    resize(1180, 780);
+    resize(startSize(*this));
+    setContextMenuPolicy(Qt::NoContextMenu); // Qt's own would hide the toolbar for good
 
     const bool portalShown = isPortalOn(context.files);
     addToolbar(portalShown);
     m_navigator = new Navigator(portalShown);
     connect(m_navigator, &Navigator::chosen, this, [this] { OpenFunctionForm(QString()); });
     buildMenus();
-    auto* search = new QAction(this);
-    search->setShortcut(QKeySequence::Find);
-    addAction(search);
-    connect(search, &QAction::triggered, this, &MainWindow::findFunction);
+    addKeys();
 
+    m_area->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    m_area->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    connect(m_area, &QMdiArea::subWindowActivated, this, &MainWindow::formActivated);
     auto* splitter = new QSplitter;
     splitter->addWidget(m_navigator);
     splitter->addWidget(m_area);
@@ -82,15 +131,23 @@ MainWindow::MainWindow(const ProgramInfo& program, const FormContext& context, c
     setCentralWidget(splitter);
     statusBar()->setObjectName("stsContainer");
     setWindowIcon(themedIcon("quillfen"));
+    letKeysReachButtons(*this);
+    m_navigator->find();
 
     connect(m_popUpMenus, &PopUpMenus::routineMissing, this, [this](const QString& routine) {
         notify(this, m_program.product, "The active form has no " + routine + '.', QMessageBox::Critical);
     });
 }
 
+MainWindow::~MainWindow()
+{
+    m_area->disconnect(this); // as it goes with its forms, they still activate each other
+}
+
 void MainWindow::addToolbar(bool portalShown)
 {
     auto* toolbar = new TopToolbar(portalShown, this);
+    m_toolbar = toolbar;
     addToolBar(toolbar);
     connect(toolbar, &TopToolbar::formChosen, this, &MainWindow::OpenFunctionForm);
     connect(toolbar, &TopToolbar::sideBarToggled, this, &MainWindow::ToggleSideBar);
@@ -142,10 +199,8 @@ EditorForm* MainWindow::formOf(const QString& key)
 {
     const QString name = formName(key);
     if (auto* open = subWindowOf(name)) {
-        if (open->isMinimized())
-            open->showNormal();
-        m_area->setActiveSubWindow(open);
-        return qobject_cast<EditorForm*>(open->widget());
+        bringForward(*open);
+        return formIn(*open);
     }
     const auto maker = m_makers.constFind(name);
     if (maker == m_makers.constEnd())
@@ -168,7 +223,11 @@ QMdiSubWindow* MainWindow::subWindowOf(const QString& name) const
 
 void MainWindow::showForm(EditorForm* form)
 {
+    auto* before = m_area->currentSubWindow();
+    const bool maximised = before && before->isMaximized();
     form->open();
+    if (maximised)
+        before->showNormal(); // else Qt hands its state on to the new window before that has got its size
     auto* window = m_area->addSubWindow(form);
     window->setWindowIcon(themedIcon("quillfen"));
     window->setAttribute(Qt::WA_DeleteOnClose);
@@ -181,6 +240,28 @@ void MainWindow::showForm(EditorForm* form)
                        .boundedTo(m_area->viewport()->size()) // what is more scrolls inside
                        .expandedTo(window->minimumSizeHint()));
     window->show();
+    if (maximised)
+        window->showMaximized();
+    bringIntoSight(*window, *m_area);
+}
+
+void MainWindow::bringForward(QMdiSubWindow& window)
+{
+    if (window.isMinimized())
+        window.showNormal();
+    m_area->setActiveSubWindow(&window);
+    bringIntoSight(window, *m_area);
+    m_navigator->follow(keyOfForm(window.widget()->objectName()));
+}
+
+void MainWindow::formActivated(QMdiSubWindow* window)
+{
+    if (!window || !window->widget() || window == m_followed)
+        return; // only the main window lost or got back the focus
+    m_followed = window;
+    m_navigator->follow(keyOfForm(window->widget()->objectName()));
+    if (QApplication::mouseButtons() == Qt::NoButton) // what is being clicked must not move away
+        bringIntoSight(*window, *m_area);
 }
 
 void MainWindow::FindOpenWindow(const QString& caption)
@@ -191,13 +272,41 @@ void MainWindow::FindOpenWindow(const QString& caption)
 
 EditorForm* MainWindow::activeForm() const
 {
-    auto* window = m_area->currentSubWindow();
-    return window ? qobject_cast<EditorForm*>(window->widget()) : nullptr;
+    const auto* window = m_area->currentSubWindow();
+    return window ? formIn(*window) : nullptr;
 }
 
 void MainWindow::ToggleSideBar()
 {
     m_navigator->setVisible(m_navigator->isHidden());
+}
+
+void MainWindow::addKeys()
+{
+    const auto add = [this](const QList<QKeySequence>& keys, const auto& pressed) {
+        auto* action = new QAction(this);
+        action->setShortcuts(keys);
+        addAction(action);
+        connect(action, &QAction::triggered, this, pressed);
+    };
+    add(QKeySequence::keyBindings(QKeySequence::Find), [this] { findFunction(); });
+    // Qt's own goes there when Ctrl is let go, and tells of it by a frame that other forms hide.
+    add(QKeySequence::keyBindings(QKeySequence::NextChild), [this] { m_area->activateNextSubWindow(); });
+    add(QKeySequence::keyBindings(QKeySequence::PreviousChild),
+        [this] { m_area->activatePreviousSubWindow(); });
+    add({Qt::Key_F6}, [this] { goToPane(1); });
+    add({Qt::SHIFT | Qt::Key_F6}, [this] { goToPane(-1); });
+}
+
+void MainWindow::goToPane(int step)
+{
+    QWidgetList panes = {m_toolbar, m_navigator, m_area->currentSubWindow()};
+    panes.removeIf([](QWidget* pane) { return !pane || !entryOf(*pane); });
+    const auto* focused = QApplication::focusWidget();
+    const auto here = std::ranges::find_if(
+        panes, [focused](const QWidget* pane) { return focused && pane->isAncestorOf(focused); });
+    const auto place = here == panes.end() ? 0 : here - panes.begin() + step + panes.size();
+    entryOf(*panes.at(place % panes.size()))->setFocus(Qt::ShortcutFocusReason);
 }
 
 void MainWindow::findFunction()
@@ -223,6 +332,8 @@ void MainWindow::openWebPage(const QString& path)
 void MainWindow::closeEvent(QCloseEvent* event)
 {
     for (auto* window : m_area->subWindowList()) {
+        if (formIn(*window)->isDirty())
+            bringForward(*window); // it is about to ask
         if (!window->close()) {
             event->ignore();
             return;

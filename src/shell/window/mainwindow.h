@@ -6,9 +6,11 @@
 
 #include <QHash>
 #include <QMainWindow>
+#include <QPointer>
 
 class QMdiArea;
 class QMdiSubWindow;
+class QToolBar;
 
 namespace quillfen {
 
@@ -26,6 +28,7 @@ public:
     /// Builds toolbars and navigator from the settings tree as it stands now; the profiles may be filled
     /// later, but before the first form opens.
     MainWindow(const ProgramInfo& program, const FormContext& context, const FormCatalogue& forms);
+    ~MainWindow() override;
 
     /// Opens or brings forward the form of a navigator key; an empty key means the tree's selected node. A
     /// key without a form opens nothing.
@@ -45,6 +48,10 @@ private:
     EditorForm* formOf(const QString& key);
     QMdiSubWindow* subWindowOf(const QString& name) const;
     void showForm(EditorForm* form);
+    void bringForward(QMdiSubWindow& window);
+    void formActivated(QMdiSubWindow* window);
+    void addKeys();
+    void goToPane(int step);
     void FindOpenWindow(const QString& caption);
     void ToggleSideBar();
     void findFunction();
@@ -60,6 +67,8 @@ private:
     COpenWindows m_openWindows;
     Navigator* m_navigator;
     QMdiArea* m_area;
+    QToolBar* m_toolbar = nullptr;
+    QPointer<QMdiSubWindow> m_followed; ///< the form that the tree has followed last
     WindowMenu* m_windowMenu;
     PopUpMenus* m_popUpMenus;
 };

@@ -13,6 +13,7 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <utility>
 
 namespace quillfen {
 namespace {
@@ -132,6 +133,25 @@ bool Navigator::headingSelected() const
     return item && item->font(0).bold();
 }
 
+QTreeWidgetItem* Navigator::nodeOf(const QString& key) const
+{
+    for (QTreeWidgetItemIterator item(m_tree); *item; ++item) {
+        if (keyOf(**item) == key)
+            return *item;
+    }
+    return nullptr;
+}
+
+void Navigator::follow(const QString& key)
+{
+    auto* item = nodeOf(key);
+    m_missed = nullptr;
+    if (item && item->isHidden())
+        m_missed = item;
+    else if (item)
+        m_tree->setCurrentItem(item); // opens the closed groups above it, and no other
+}
+
 void Navigator::find()
 {
     m_find->setFocus(Qt::ShortcutFocusReason);
@@ -182,12 +202,15 @@ void Navigator::showWholeTree()
         (*item)->setExpanded(m_expanded->contains(*item));
     }
     m_expanded.reset();
+    if (m_missed)
+        m_tree->setCurrentItem(std::exchange(m_missed, nullptr));
     if (auto* current = m_tree->currentItem())
         m_tree->scrollToItem(current);
 }
 
 void Navigator::selectFirstMatch()
 {
+    m_missed = nullptr;
     for (QTreeWidgetItemIterator item(m_tree, QTreeWidgetItemIterator::NotHidden); *item; ++item) {
         if (!formName(keyOf(**item)).isEmpty()) {
             m_tree->setCurrentItem(*item);

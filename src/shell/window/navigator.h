@@ -28,6 +28,10 @@ public:
     /// Whether a group heading is selected.
     bool headingSelected() const;
 
+    /// Selects a key's node and shows it, without choosing it. A node that the find box has narrowed away
+    /// comes with the whole tree.
+    void follow(const QString& key);
+
     /// Lets the user type what to look for.
     void find();
 
@@ -41,6 +45,7 @@ private:
     void buildTree(bool portalShown);
     void buildToolbar();
     void buildFindBox();
+    QTreeWidgetItem* nodeOf(const QString& key) const;
     void expandGroups();
     void collapseAll();
     void narrow(const QString& text);
@@ -52,6 +57,7 @@ private:
     QLineEdit* m_find;
     QTreeWidget* m_tree;
     std::optional<QSet<QTreeWidgetItem*>> m_expanded; ///< the open nodes before the tree was narrowed
+    QTreeWidgetItem* m_missed = nullptr;              ///< the node to select when the tree is whole again
 };
 
 } // namespace quillfen

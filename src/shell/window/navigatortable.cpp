@@ -238,6 +238,13 @@ QString formName(const QString& key)
     return "frm" + QString(key).remove('~');
 }
 
+QString keyOfForm(const QString& name)
+{
+    const QStringList keys = formKeys();
+    const auto found = std::ranges::find(keys, name, formName);
+    return found == keys.end() ? QString() : *found;
+}
+
 QString captionOfKey(const QString& key)
 {
     return QString(key).replace('~', QStringLiteral(" ~ "));

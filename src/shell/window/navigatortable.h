@@ -33,6 +33,9 @@ QStringList formKeys();
 /// The form behind a key; empty if there is none.
 QString formName(const QString& key);
 
+/// The key that leads to a form; empty if none does.
+QString keyOfForm(const QString& name);
+
 /// "General~Settings" as it is shown: "General ~ Settings".
 QString captionOfKey(const QString& key);
 

@@ -25,6 +25,7 @@ WindowsDialog::WindowsDialog(const COpenWindows& windows, QWidget* parent)
         auto* row = new QTreeWidgetItem(m_list, {window.Caption()});
         row->setData(0, Qt::UserRole, window.Key());
     }
+    m_list->setCurrentItem(m_list->topLevelItem(0));
 
     auto* buttons = new QDialogButtonBox;
     auto* ok = buttons->addButton(QDialogButtonBox::Ok);
