@@ -13,6 +13,7 @@
 #include <QCoreApplication>
 #include <QFormLayout>
 #include <QHeaderView>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QMouseEvent>
 #include <QVBoxLayout>
@@ -97,27 +98,41 @@ private:
     std::function<void(QHeaderView& columns, int width)> m_fit;
 };
 
-/// Since a tick works on the selected row, a press on a tick box, which by itself selects nothing, selects
-/// its row first.
+/// Since a tick works on the selected row, a press on a tick box and the keys that tick, which by themselves
+/// select nothing, select their row first.
 class TickSelects : public QObject
 {
 public:
     explicit TickSelects(RowList& list) : QObject(&list), m_list(list)
     {
+        list.installEventFilter(this);
         list.viewport()->installEventFilter(this);
     }
 
     bool eventFilter(QObject* watched, QEvent* event) override
     {
-        if (event->type() == QEvent::MouseButtonPress) {
-            const auto at = m_list.indexAt(static_cast<QMouseEvent*>(event)->position().toPoint());
-            if (at.isValid())
-                m_list.select(at.row());
-        }
+        const auto row = watched == &m_list ? rowOfKey(*event) : rowOfPress(*event);
+        if (row.isValid())
+            m_list.select(row.row());
         return QObject::eventFilter(watched, event);
     }
 
 private:
+    QModelIndex rowOfKey(const QEvent& event) const
+    {
+        if (event.type() != QEvent::KeyPress)
+            return {};
+        const int key = static_cast<const QKeyEvent&>(event).key();
+        return key == Qt::Key_Space || key == Qt::Key_Select ? m_list.currentIndex() : QModelIndex();
+    }
+
+    QModelIndex rowOfPress(const QEvent& event) const
+    {
+        if (event.type() != QEvent::MouseButtonPress)
+            return {};
+        return m_list.indexAt(static_cast<const QMouseEvent&>(event).position().toPoint());
+    }
+
     RowList& m_list;
 };
 
