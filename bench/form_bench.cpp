@@ -1,15 +1,18 @@
-// The forms through their real widgets, in the main window over a tree on the disk: the opening of each, and
-// the heaviest grid's and the heaviest list's work.
+// The forms through their real widgets, in the main window over a tree on the disk: the opening of each, the
+// heaviest grid's and the heaviest list's work, and the longest news.
 #include "figures.h"
 #include "formopening.h"
 #include "functions/games/trivia.h"
 #include "hubfolder.h"
+#include "news/news.h"
 #include "shell/kit/listview.h"
 
 #include <QAction>
 #include <QMenu>
+#include <QTimer>
 
 #include <algorithm>
+#include <filesystem>
 #include <memory>
 
 namespace quillfen::bench {
@@ -90,6 +93,48 @@ void loadQuestions(benchmark::State& state, Desk& desk)
     desk.hub.files.removeFile(R"(Games\Trivia\QuestionFiles\big.lst)");
 }
 
+/// An archive of one article whose headline and story are a mebibyte each, in the form that shows it.
+EditorForm& openNews(Desk& desk)
+{
+    const std::string endless(std::size_t{1} << 20U, 'x');
+    std::filesystem::create_directories(desk.hub.folder() / "scripts" / "Morvaleth's Scripts" / "News");
+    saveNews(desk.hub.files, {{"today", endless, endless, "star", "1"}});
+    auto& form = openForm(*desk.window, QStringLiteral("General~News"));
+    form.findChild<ListView*>("lvwNews")->select(0);
+    return form;
+}
+
+void showArticle(benchmark::State& state, Desk& desk)
+{
+    auto* edit = openNews(desk).findChild<QAction*>("EDIT");
+    QTimer closing; // runs when the box has come up and was painted
+    QObject::connect(&closing, &QTimer::timeout, &closing, [] {
+        QWidget* box = QApplication::activeModalWidget();
+        if (!box || !box->isVisible())
+            return;
+        box->grab();
+        box->close();
+    });
+    for (auto _ : state) {
+        closing.start(0);
+        state.SetIterationTime(secondsOf([&] { edit->trigger(); }));
+        closing.stop();
+    }
+    closeForms(*desk.window);
+}
+
+void resizeNews(benchmark::State& state, Desk& desk)
+{
+    QWidget* form = openNews(desk).parentWidget();
+    for (auto _ : state) {
+        state.SetIterationTime(secondsOf([&] {
+            form->resize(form->width() + (form->width() % 2 == 0 ? 1 : -1), form->height());
+            form->grab();
+        }));
+    }
+    closeForms(*desk.window);
+}
+
 constexpr int repetitions = 15;
 
 std::string opening(int profiles, const QString& key)
@@ -112,6 +157,8 @@ void registerAll(int profiles, Desk& desk, const QStringList& keys)
     add("toggle" + count, [](benchmark::State& state, Desk& where) { toggleAndSave(state, where, true); });
     add("save" + count, [](benchmark::State& state, Desk& where) { toggleAndSave(state, where, false); });
     add("questions" + count, loadQuestions);
+    add("article" + count, showArticle);
+    add("news" + count, resizeNews);
 }
 
 void printOpenings(const Figures& figures, int profiles, double worstAllowed, const QStringList& keys)
@@ -145,6 +192,9 @@ void printTable(const Figures& figures, const QStringList& keys)
     print(grid + "toggle a cell", "toggle/64");
     print(grid + "save and reload", "save/64");
     print("reading a question file of 50,000 rows", "questions/5");
+    if (const auto* medians = figures.of("article/5"))
+        printTime("an article of 1 MiB, from the button to the painted box", medians->milliseconds, 100);
+    print("the news with a headline and a story of 1 MiB: a resize", "news/5");
 }
 
 } // namespace

@@ -1,10 +1,6 @@
 #include "news/httpfetch.h"
 
 #include <QEventLoop>
-#include <QNetworkReply>
-#include <QTimer>
-
-#include <algorithm>
 
 namespace quillfen {
 namespace {
@@ -36,46 +32,72 @@ bool mayFollow(const QUrl& from, const QUrl& to)
 
 } // namespace
 
+HttpRequest::HttpRequest(QNetworkAccessManager& network, const std::string& address,
+                         std::chrono::milliseconds timeLimit)
+    : m_network(network)
+{
+    m_limit.setSingleShot(true);
+    connect(&m_limit, &QTimer::timeout, this, [this] { m_reply->abort(); });
+    const QUrl url(QString::fromStdString(address));
+    if (!isWebAddress(url)) {
+        const auto nothing = [this] { emit finished({}); };
+        QMetaObject::invokeMethod(this, nothing, Qt::QueuedConnection);
+        return;
+    }
+    m_limit.start(timeLimit);
+    get(url);
+}
+
+void HttpRequest::get(const QUrl& url)
+{
+    m_url = url;
+    m_reply.reset(m_network.get(requestOf(url)));
+    connect(m_reply.get(), &QNetworkReply::readyRead, this, [this] {
+        if (m_reply->bytesAvailable() > HttpFetch::sizeLimit)
+            m_reply->abort();
+    });
+    connect(m_reply.get(), &QNetworkReply::finished, this, &HttpRequest::takeReply);
+}
+
+void HttpRequest::takeReply()
+{
+    const auto target = m_reply->attribute(QNetworkRequest::RedirectionTargetAttribute).toUrl();
+    const QUrl next = m_url.resolved(target);
+    const bool isWhole = m_reply->error() == QNetworkReply::NoError; // and not cut by one of the limits
+    if (!target.isEmpty() && isWhole && mayFollow(m_url, next) && ++m_redirects <= mostRedirects) {
+        get(next);
+        return;
+    }
+    m_limit.stop();
+    emit finished(target.isEmpty() ? answer() : FetchedText());
+}
+
+FetchedText HttpRequest::answer() const
+{
+    const int status = m_reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
+    const bool isError = status >= 400;
+    if ((m_reply->error() != QNetworkReply::NoError && !isError) ||
+        m_reply->bytesAvailable() > HttpFetch::sizeLimit)
+        return {};
+    return {m_reply->readAll().toStdString(), isError};
+}
+
 FetchedText HttpFetch::operator()(const std::string& address)
 {
-    const auto end = std::chrono::steady_clock::now() + m_timeLimit;
-    QUrl url(QString::fromStdString(address));
-    for (int redirects = 0; isWebAddress(url) && redirects <= mostRedirects; ++redirects) {
-        const auto left = end - std::chrono::steady_clock::now();
-        const auto reply = finished(url, std::chrono::ceil<std::chrono::milliseconds>(left));
-        const auto target = reply->attribute(QNetworkRequest::RedirectionTargetAttribute).toUrl();
-        if (target.isEmpty())
-            return answer(*reply);
-        const QUrl next = url.resolved(target);
-        if (!mayFollow(url, next))
-            return {};
-        url = next;
-    }
-    return {};
-}
-
-std::unique_ptr<QNetworkReply> HttpFetch::finished(const QUrl& url, std::chrono::milliseconds timeLimit)
-{
-    std::unique_ptr<QNetworkReply> reply(m_network.get(requestOf(url)));
+    const auto request = begin(address);
+    FetchedText result;
     QEventLoop loop;
-    QObject::connect(reply.get(), &QNetworkReply::readyRead, &loop, [&reply] {
-        if (reply->bytesAvailable() > sizeLimit)
-            reply->abort();
+    QObject::connect(request.get(), &HttpRequest::finished, &loop, [&](const FetchedText& text) {
+        result = text;
+        loop.quit();
     });
-    QObject::connect(reply.get(), &QNetworkReply::finished, &loop, &QEventLoop::quit);
-    QTimer::singleShot(std::max(timeLimit, std::chrono::milliseconds(0)), reply.get(), &QNetworkReply::abort);
-    if (!reply->isFinished())
-        loop.exec(QEventLoop::ExcludeUserInputEvents);
-    return reply;
+    loop.exec(QEventLoop::ExcludeUserInputEvents);
+    return result;
 }
 
-FetchedText HttpFetch::answer(QNetworkReply& reply) const
+std::unique_ptr<HttpRequest> HttpFetch::begin(const std::string& address)
 {
-    const int status = reply.attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
-    const bool isError = status >= 400;
-    if ((reply.error() != QNetworkReply::NoError && !isError) || reply.bytesAvailable() > sizeLimit)
-        return {};
-    return {reply.readAll().toStdString(), isError};
+    return std::make_unique<HttpRequest>(m_network, address, m_timeLimit);
 }
 
 } // namespace quillfen

@@ -1,10 +1,13 @@
 #include "news/news.h"
 
+#include "settings/lines.h"
 #include "settings/tablefile.h"
 
 #include <algorithm>
 #include <charconv>
+#include <cmath>
 #include <cstdint>
+#include <system_error>
 
 namespace quillfen {
 namespace {
@@ -27,17 +30,35 @@ std::vector<std::string_view> split(std::string_view text, char separator)
     }
 }
 
-/// A number of up to 18 digits with white space around it.
-std::optional<ArticleNumber> articleNumber(std::string_view text)
+std::string_view trimSpace(std::string_view text)
 {
     constexpr std::string_view space = " \t\r\n";
     text.remove_prefix(std::min(text.find_first_not_of(space), text.size()));
-    text = text.substr(0, text.find_last_not_of(space) + 1);
-    if (text.empty() || text.size() > 18 || text.find_first_not_of("0123456789") != std::string_view::npos)
+    return text.substr(0, text.find_last_not_of(space) + 1);
+}
+
+/// The whole part of the number that a text begins with, 0 if it begins with none. Nothing if the number is
+/// so large that the next one can't be told from it.
+std::optional<ArticleNumber> leadingArticle(std::string_view text)
+{
+    constexpr double largest = 9007199254740992.0; // 2 to the 53rd
+    text = trimBlanks(text);
+    if (text.starts_with('+'))
+        text.remove_prefix(1);
+    double number = 0;
+    const auto read = std::from_chars(text.data(), text.data() + text.size(), number);
+    if (!std::isfinite(number))
+        return 0; // a word, such as "info", and no number
+    if (read.ec == std::errc::result_out_of_range || std::abs(number) >= largest)
         return std::nullopt;
-    ArticleNumber number = 0;
-    std::from_chars(text.data(), text.data() + text.size(), number);
-    return number;
+    return static_cast<ArticleNumber>(number);
+}
+
+/// The same of a text that is a number from end to end; nothing if it is none.
+std::optional<ArticleNumber> wholeArticle(std::string_view text)
+{
+    text = trimSpace(text);
+    return wholeNumber(text) ? leadingArticle(text) : std::nullopt;
 }
 
 struct Counter
@@ -46,11 +67,13 @@ struct Counter
     ArticleNumber last;
 };
 
-std::optional<Counter> readCounter(std::string_view text)
+std::optional<Counter> readCounter(const FetchedText& fetched)
 {
-    const auto fields = split(text, '|');
-    const auto first = articleNumber(fields[0]);
-    const auto last = fields.size() > 1 ? articleNumber(fields[1]) : std::nullopt;
+    if (fetched.isError)
+        return std::nullopt;
+    const auto fields = split(fetched.text, '|');
+    const auto first = wholeArticle(fields[0]);
+    const auto last = fields.size() > 1 ? wholeArticle(fields[1]) : std::nullopt;
     if (!first || !last)
         return std::nullopt;
     return Counter{*first, *last};
@@ -91,17 +114,15 @@ std::string composedNews(const std::vector<NewsArticle>& articles)
 }
 
 /// The blank behind the brace has always stood there.
-void saveLastNumber(const SettingsFiles& files, ArticleNumber number)
+void saveLastNumber(const SettingsFiles& files, const std::string& number)
 {
-    files.WriteSettingsFile(newsSettingsFile,
-                            "tNewsSettings = { \r\n\tiLastID = " + std::to_string(number) + ",\r\n}",
+    files.WriteSettingsFile(newsSettingsFile, "tNewsSettings = { \r\n\tiLastID = " + number + ",\r\n}",
                             appRelative);
 }
 
-ArticleNumber loadLastNumber(const SettingsFiles& files)
+std::optional<ArticleNumber> loadLastNumber(const SettingsFiles& files)
 {
-    return articleNumber(files.ReadTableValue(newsSettingsFile, "iLastID", "tNewsSettings", appRelative))
-        .value_or(0);
+    return leadingArticle(files.ReadTableValue(newsSettingsFile, "iLastID", "tNewsSettings", appRelative));
 }
 
 /// The news of one start.
@@ -134,7 +155,7 @@ void store(const SettingsFiles& files, std::vector<NewsArticle> archive, const s
 {
     archive.insert(archive.end(), news.begin(), news.end());
     try {
-        saveLastNumber(files, articleNumber(news.back().number).value_or(0));
+        saveLastNumber(files, news.back().number);
         saveNews(files, archive);
     } catch (const StoreError&) {
         // Nobody asked for the news to be written: a folder that can't be written costs the archive alone.
@@ -166,10 +187,13 @@ std::optional<NewsArticle> fetchNews(const SettingsFiles& files, const std::stri
     if (newsBase.empty())
         return std::nullopt;
     auto archive = loadNews(files);
-    const auto counter = readCounter(fetch(newsBase + "counter.txt").text);
+    const auto known = loadLastNumber(files);
+    if (!known)
+        return std::nullopt;
+    const auto counter = readCounter(fetch(newsBase + "counter.txt"));
     if (!counter)
         return std::nullopt;
-    const Counter range{std::max(loadLastNumber(files) + 1, counter->first), counter->last};
+    const Counter range{std::max(*known + 1, counter->first), counter->last};
     const NewArticles news = fetchArticles(newsBase, fetch, range);
     if (news.articles.empty()) {
         const bool shows = !news.failed && !archive.empty();
@@ -180,11 +204,13 @@ std::optional<NewsArticle> fetchNews(const SettingsFiles& files, const std::stri
     return news.articles.back();
 }
 
-std::optional<std::string> fetchVersion(const std::string& updatesBase, const Fetch& fetch)
+std::string versionAddress(const std::string& updatesBase)
 {
-    if (updatesBase.empty())
-        return std::nullopt;
-    const auto fetched = fetch(updatesBase + "quillfen.txt");
+    return updatesBase + "quillfen.txt";
+}
+
+std::optional<std::string> readVersion(const FetchedText& fetched)
+{
     if (fetched.text.empty() || isErrorPage(fetched))
         return std::nullopt;
     return std::string(split(fetched.text, '*').front());

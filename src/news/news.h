@@ -45,13 +45,16 @@ void saveNews(const SettingsFiles& files, const std::vector<NewsArticle>& articl
 
 /// Fetches the articles that came after the last one that is known, and stores them. Returns the article to
 /// be shown, if there is one. An error ends the fetching without a word, and then nothing is written, so that
-/// a later start tries again; an error page ends it too, but what came before is kept. An empty base address
-/// fetches nothing.
+/// a later start tries again; an error page ends it too, but what came before is kept. Nothing is fetched
+/// from an empty base address, nor behind a last known number that is too large to count on from.
 std::optional<NewsArticle> fetchNews(const SettingsFiles& files, const std::string& newsBase,
                                      const Fetch& fetch);
 
-/// Fetches the version that the maker offers; nothing if it is not to be had, or the base address is empty.
-std::optional<std::string> fetchVersion(const std::string& updatesBase, const Fetch& fetch);
+/// Where the version lies that the maker offers.
+std::string versionAddress(const std::string& updatesBase);
+
+/// The version that was fetched from there; nothing if it was not to be had.
+std::optional<std::string> readVersion(const FetchedText& fetched);
 
 /// Whether a click on the current version offers the download: when the program's version differs from that
 /// of the settings tree.

@@ -4,7 +4,6 @@
 #include "shell/kit/messages.h"
 #include "shell/kit/units.h"
 
-#include <QScopedValueRollback>
 #include <QStatusBar>
 #include <QTimer>
 
@@ -54,11 +53,15 @@ void NewsClient::runStart(std::chrono::milliseconds wholeLimit)
 
 void NewsClient::updateVersion()
 {
-    if (m_updating)
+    if (m_folders.updatesBase.empty() || (m_versionRequest && m_versionRequest->isRunning()))
         return;
-    const QScopedValueRollback updating(m_updating, true);
-    const auto version =
-        fetchVersion(m_folders.updatesBase, [this](const std::string& address) { return m_fetch(address); });
+    m_versionRequest = m_fetch.begin(versionAddress(m_folders.updatesBase));
+    connect(m_versionRequest.get(), &HttpRequest::finished, this, &NewsClient::showVersion);
+}
+
+void NewsClient::showVersion(const FetchedText& fetched)
+{
+    const auto version = readVersion(fetched);
     if (!version)
         return;
     m_current->setLine("Current Version = " + fromBytes(*version));

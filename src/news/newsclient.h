@@ -35,16 +35,17 @@ public:
 
 private:
     void updateVersion();
+    void showVersion(const FetchedText& fetched);
     void offerDownload();
 
     const SettingsFiles& m_files;
     std::string m_programVersion;
     WebFolders m_folders;
     HttpFetch m_fetch;
+    std::unique_ptr<HttpRequest> m_versionRequest; ///< the last one; goes before what it fetches with
     StatusPanel* m_current;
     StatusPanel* m_newsShort;
     StatusPanel* m_newsLong;
-    bool m_updating = false;
 };
 
 } // namespace quillfen

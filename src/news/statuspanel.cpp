@@ -1,5 +1,7 @@
 #include "news/statuspanel.h"
 
+#include "shell/kit/longtext.h"
+
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
@@ -24,7 +26,7 @@ StatusPanel::StatusPanel(const QString& key, const QString& text, QWidget* paren
 
 void StatusPanel::setLine(const QString& text)
 {
-    QString line = text;
+    QString line = shownPart(text);
     line.replace("\r\n", " ").replace('\n', ' ').replace('\r', ' ');
     setText(line);
 }

@@ -12,7 +12,7 @@ class StatusPanel : public QLabel
 public:
     StatusPanel(const QString& key, const QString& text, QWidget* parent = nullptr);
 
-    /// Line ends become blanks.
+    /// Line ends become blanks, and of a long text only its start is kept.
     void setLine(const QString& text);
 
     QSize sizeHint() const override;

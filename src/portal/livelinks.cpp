@@ -1,5 +1,7 @@
 #include "portal/livelinks.h"
 
+#include <utility>
+
 namespace quillfen {
 
 LiveLinks::LiveLinks(PortalForm& form)
@@ -12,8 +14,7 @@ LiveLinks::LiveLinks(PortalForm& form)
 
 void LiveLinks::follow(TcpHubSocket& hub, UdpPort& datagrams, Link link)
 {
-    connect(&hub, &TcpHubSocket::DataArrival, this,
-            [this, link] { run([&] { m_links.hubDataArrived(link); }); });
+    connect(&hub, &TcpHubSocket::DataArrival, this, [this, link] { run([&] { hearHub(link); }); });
     connect(&hub, &TcpHubSocket::Closed, this, [this, link] { run([&] { m_links.hubClosed(link); }); });
     connect(&hub, &TcpHubSocket::Error, this, [this, link] { run([&] { m_links.hubFailed(link); }); });
     connect(&datagrams, &UdpPort::DataArrival, this,
@@ -27,6 +28,21 @@ void LiveLinks::run(Operation operation)
     operation();
     if (--m_running == 0 && m_released)
         deleteLater();
+}
+
+/// What comes while a loop yields is laid aside by the links until that hub speaks again. One that waits for
+/// our answer never does, so its socket is made to.
+void LiveLinks::hearHub(Link link)
+{
+    m_passedOver[static_cast<std::size_t>(link)] = m_loops > 0;
+    ++m_loops;
+    m_links.hubDataArrived(link);
+    if (--m_loops > 0)
+        return;
+    for (const Link each : {Link::One, Link::Two}) {
+        if (std::exchange(m_passedOver[static_cast<std::size_t>(each)], false))
+            hubOf(each).raiseDataArrival();
+    }
 }
 
 void LiveLinks::OpenLink(int row)

@@ -28,6 +28,8 @@ public:
 
 private:
     void follow(TcpHubSocket& hub, UdpPort& datagrams, Link link);
+    void hearHub(Link link);
+    TcpHubSocket& hubOf(Link link) { return link == Link::One ? wskHubConnection_1 : wskHubConnection_2; }
     template <typename Operation>
     void run(Operation operation);
 
@@ -39,6 +41,8 @@ private:
     UdpPort UDPSock_2{"UDPSock_2", this};
     PortalLinks m_links;
     int m_running = 0;
+    int m_loops = 0;                       ///< message loops, one in another's yields
+    std::array<bool, 2> m_passedOver = {}; ///< the links that heard something in a loop's yields
     bool m_released = false;
 };
 

@@ -70,8 +70,11 @@ void TcpHubSocket::take()
 void TcpHubSocket::post(Event arrival)
 {
     const auto raised = [this, arrival, connection = m_connection] {
-        if (connection == m_connection)
-            emit(this->*arrival)();
+        if (connection != m_connection)
+            return;
+        if (arrival != &TcpHubSocket::DataArrival)
+            m_state = SocketState::Closed; // from here on neither read nor written
+        emit(this->*arrival)();
     };
     QMetaObject::invokeMethod(this, raised, Qt::QueuedConnection);
 }

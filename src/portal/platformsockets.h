@@ -25,9 +25,12 @@ public:
     std::string GetData() override;
     void Close() override;
 
+    /// Raises DataArrival once more, also without anything new.
+    void raiseDataArrival() { post(&TcpHubSocket::DataArrival); }
+
 signals:
     void DataArrival();
-    void Closed();
+    void Closed(); ///< the hub hung up; the state is closed by then, as after an error
     void Error();
 
 private:

@@ -77,7 +77,11 @@ void PortalLinks::OpenLink(std::size_t selectedRow)
     try {
         connectLink(selectedRow);
     } catch (const SocketError& error) {
-        closeAll(at(linkOf(selectedRow)).sockets);
+        const Link link = linkOf(selectedRow);
+        at(link).sockets.datagrams.Close();
+        CloseLink(link); // it may have been logged in before
+        if (m_ended)
+            return;
         m_form.uncheck(selectedRow);
         m_form.tellOpenFailure(error);
     }
@@ -182,7 +186,7 @@ void PortalLinks::datagramArrived(Link link)
 }
 
 /// One flag serves both links. While either loop runs, at its yields, new data of both waits in the buffers:
-/// the running link takes up its own, the other link's stays until that link hears from its hub again.
+/// the running link takes up its own, the other link's stays until that link's next DataArrival.
 void PortalLinks::ProcessLinkBuffer(Link link)
 {
     if (bLinkBusy)

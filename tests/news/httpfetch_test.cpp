@@ -2,6 +2,7 @@
 #include "support/webserver.h"
 
 #include <QElapsedTimer>
+#include <QTest>
 
 #include <gtest/gtest.h>
 
@@ -132,6 +133,19 @@ TEST_F(HttpFetchTest, ARedirectInACircleEnds)
     EXPECT_EQ(fetched("a.txt").text, "");
     EXPECT_EQ(server.asked, (QStringList{"/a.txt", "/b.txt", "/a.txt", "/b.txt", "/a.txt", "/b.txt"}));
     EXPECT_LT(took, milliseconds(4000));
+}
+
+TEST_F(HttpFetchTest, ARequestThatIsDroppedSaysNothingMore)
+{
+    server.silent = {"/silent.txt"};
+    server.serve("short.txt", "short");
+    HttpFetch fetch(std::chrono::seconds(5));
+    auto dropped = fetch.begin((server.base() + "silent.txt").toStdString());
+    QObject::connect(dropped.get(), &HttpRequest::finished, dropped.get(), [] { ADD_FAILURE(); });
+    ASSERT_TRUE(QTest::qWaitFor([this] { return !server.asked.isEmpty(); }));
+    EXPECT_TRUE(dropped->isRunning());
+    dropped.reset();
+    EXPECT_EQ(fetch((server.base() + "short.txt").toStdString()).text, "short");
 }
 
 TEST_F(HttpFetchTest, WhatIsNoWebAddressIsNotFetched)

@@ -172,12 +172,74 @@ TEST_F(News, WithoutANetworkNothingIsWrittenOrShown)
 
 TEST_F(News, ACounterThatIsNoCounterEndsTheStep)
 {
-    for (const char* counter :
-         {"", "5", "|", "1|", "|5", "a|b", "1|5x", "-1|5", "1|9999999999999999999999", errorPage}) {
+    for (const char* counter : {"", "5", "|", "1|", "|5", "a|b", "1|5x", "--1|5", "1|9007199254740993",
+                                "1|9999999999999999999999", "-99999999999999999999|5", errorPage}) {
         server = {{"counter.txt", {counter}}, {"1.txt", {"d|s|h|t"}}};
         EXPECT_EQ(fetch(), std::nullopt) << counter;
         EXPECT_EQ(asked, Strings{"counter.txt"}) << counter;
     }
+    EXPECT_TRUE(nothingWritten());
+}
+
+TEST_F(News, TheLastNumberIsReadAsAnyNumberIs)
+{
+    for (const char* last : {"2", "2.0", "2.9", "+2", "\"2\"", "0002", "2e0", "2 -- the last one"}) {
+        settings = std::string("tNewsSettings = { \r\n\tiLastID = ") + last + ",\r\n}\r\n";
+        server = {{"counter.txt", {"1|3"}}, {"3.txt", {"d|s|h|t"}}};
+        EXPECT_TRUE(fetch()) << last;
+        EXPECT_EQ(asked, (Strings{"counter.txt", "3.txt"})) << last;
+        EXPECT_TRUE(sameBytes(settings, "tNewsSettings = { \r\n\tiLastID = 3,\r\n}\r\n"));
+    }
+}
+
+TEST_F(News, ALastNumberThatIsNoneCountsAsZero)
+{
+    for (const char* last : {"", "none", "info", "nan"}) {
+        settings = std::string("tNewsSettings = { \r\n\tiLastID = ") + last + ",\r\n}\r\n";
+        server = {{"counter.txt", {"0|1"}}, {"1.txt", {"d|s|h|t"}}};
+        EXPECT_TRUE(fetch()) << last;
+        EXPECT_EQ(asked, (Strings{"counter.txt", "1.txt"})) << last;
+    }
+}
+
+TEST_F(News, ALastNumberBelowZeroIsOne)
+{
+    settings = "tNewsSettings = { \r\n\tiLastID = -3,\r\n}\r\n";
+    server = {{"counter.txt", {"-9|-1"}}, {"-2.txt", {"d2|s|h|t"}}, {"-1.txt", {"d1|s|h|t"}}};
+    EXPECT_EQ(fetch(), (NewsArticle{"d1", "h", "t", "s", "-1"}));
+    EXPECT_EQ(asked, (Strings{"counter.txt", "-2.txt", "-1.txt"}));
+    EXPECT_TRUE(sameBytes(settings, "tNewsSettings = { \r\n\tiLastID = -1,\r\n}\r\n"));
+}
+
+TEST_F(News, ALastNumberThatIsTooLargeEndsTheStep)
+{
+    news = std::string("tNews = {\r\n") + oldRow + "}\r\n";
+    for (const std::string& last : {std::string("99999999999999999999"), std::string("9007199254740993"),
+                                    std::string("-1e20"), std::string("1e999"), std::string(400, '9')}) {
+        settings = "tNewsSettings = { \r\n\tiLastID = " + last + ",\r\n}\r\n";
+        server = {{"counter.txt", {"1|3"}}, {"1.txt", {"d|s|h|t"}}};
+        EXPECT_EQ(fetch(), std::nullopt) << last;
+        EXPECT_EQ(asked, Strings()) << last;
+    }
+    EXPECT_TRUE(nothingWritten());
+}
+
+TEST_F(News, ACounterMayHaveSignsAndDecimals)
+{
+    for (const char* counter : {"-3|2", "+1|+2", "1.0|2.0", " 1|2.5 \r\n", "0|2e0"}) {
+        settings.clear();
+        server = {{"counter.txt", {counter}}, {"1.txt", {"d|s|h|t"}}, {"2.txt", {"d|s|h|t"}}};
+        EXPECT_TRUE(fetch()) << counter;
+        EXPECT_EQ(asked, (Strings{"counter.txt", "1.txt", "2.txt"})) << counter;
+    }
+}
+
+TEST_F(News, AnErrorStatusForTheCounterIsNoCounter)
+{
+    news = std::string("tNews = {\r\n") + oldRow + "}\r\n";
+    server = {{"counter.txt", {"1|3", true}}, {"1.txt", {"d|s|h|t"}}};
+    EXPECT_EQ(fetch(), std::nullopt);
+    EXPECT_EQ(asked, Strings{"counter.txt"});
     EXPECT_TRUE(nothingWritten());
 }
 
@@ -240,7 +302,6 @@ TEST_F(News, AnEmptyBaseAddressFetchesNothing)
         return FetchedText();
     };
     EXPECT_EQ(fetchNews(hub.files, "", never), std::nullopt);
-    EXPECT_EQ(fetchVersion("", never), std::nullopt);
     EXPECT_TRUE(nothingWritten());
 }
 
@@ -253,8 +314,7 @@ TEST_F(News, AFolderThatCannotBeWrittenCostsTheArchiveAlone)
 
 TEST_F(News, WhatComesTooLateIsLeftToTheNextStart)
 {
-    server = {
-        {"counter.txt", {"1|900000000000000000"}}, {"1.txt", {"d|s|h|t"}}, {"2.txt", {"", false, true}}};
+    server = {{"counter.txt", {"1|9000000000000000"}}, {"1.txt", {"d|s|h|t"}}, {"2.txt", {"", false, true}}};
     EXPECT_TRUE(fetch());
     EXPECT_EQ(asked.back(), "2.txt");
     EXPECT_TRUE(sameBytes(settings, "tNewsSettings = { \r\n\tiLastID = 1,\r\n}\r\n"));
@@ -262,7 +322,7 @@ TEST_F(News, WhatComesTooLateIsLeftToTheNextStart)
 
 TEST_F(News, OneStartTakesNoMoreTextThanItsLimit)
 {
-    server["counter.txt"] = {"1|900000000000000000"};
+    server["counter.txt"] = {"1|9000000000000000"};
     const std::string story(std::size_t{1} << 20U, 'x');
     for (int number = 1; number <= 20; ++number)
         server[std::to_string(number) + ".txt"] = {"d|s|h|" + story};
@@ -273,18 +333,13 @@ TEST_F(News, OneStartTakesNoMoreTextThanItsLimit)
 
 TEST_F(News, TheVersionIsTheFirstFieldOfItsText)
 {
-    const auto version = [](FetchedText text) {
-        return fetchVersion("http://maker/scripts/updates/", [&text](const std::string& address) {
-            EXPECT_EQ(address, "http://maker/scripts/updates/quillfen.txt");
-            return text;
-        });
-    };
-    EXPECT_EQ(version({"5.3.0*http://maker/*x"}), "5.3.0");
-    EXPECT_EQ(version({"5.3.0"}), "5.3.0");
-    EXPECT_EQ(version({"*x"}), "");
-    EXPECT_EQ(version({}), std::nullopt);
-    EXPECT_EQ(version({errorPage}), std::nullopt);
-    EXPECT_EQ(version({"Not Found", true}), std::nullopt);
+    EXPECT_EQ(versionAddress("http://maker/scripts/updates/"), "http://maker/scripts/updates/quillfen.txt");
+    EXPECT_EQ(readVersion({"5.3.0*http://maker/*x"}), "5.3.0");
+    EXPECT_EQ(readVersion({"5.3.0"}), "5.3.0");
+    EXPECT_EQ(readVersion({"*x"}), "");
+    EXPECT_EQ(readVersion({}), std::nullopt);
+    EXPECT_EQ(readVersion({errorPage}), std::nullopt);
+    EXPECT_EQ(readVersion({"Not Found", true}), std::nullopt);
 }
 
 TEST_F(News, TheDownloadIsOfferedWhenTheTreesVersionDiffersFromTheProgram)

@@ -8,6 +8,7 @@
 #include <QMainWindow>
 #include <QStatusBar>
 #include <QTest>
+#include <QThread>
 #include <QTreeWidget>
 
 #include <gtest/gtest.h>
@@ -148,7 +149,7 @@ TEST_F(NewsClientTest, AServerThatFallsSilentDelaysTheStartByOneTimeLimit)
 
 TEST_F(NewsClientTest, ManyArticlesDoNotHoldTheStartForEver)
 {
-    server.serve("news/counter.txt", "1|900000000000000000");
+    server.serve("news/counter.txt", "1|9000000000000000");
     for (int number = 1; number <= 3000; ++number)
         server.serve(QStringLiteral("news/%1.txt").arg(number), "d|s|h|t");
     QElapsedTimer elapsed;
@@ -225,6 +226,48 @@ TEST_F(NewsClientTest, AHugeTextDoesNotWidenTheWindow)
     EXPECT_LT(window.minimumSizeHint().width(), 800);
     EXPECT_EQ(window.width(), 1000);
     EXPECT_GT(panel("NEWS:LONG").width(), 50);
+    for (const char* key : {"CURRENT", "NEWS:SHORT", "NEWS:LONG"})
+        EXPECT_EQ(panel(key).text().size(), 1001) << "nobody reads more of it in one line";
+}
+
+TEST_F(NewsClientTest, TheVersionIsFetchedBesideTheWindow)
+{
+    server.silent = {"/updates/quillfen.txt"};
+    client();
+    int deepest = 0;
+    QTimer pulse;
+    QObject::connect(&pulse, &QTimer::timeout, &pulse,
+                     [&deepest] { deepest = std::max(deepest, QThread::currentThread()->loopLevel()); });
+    pulse.start(0);
+    timer().setInterval(1);
+    int minutes = 0;
+    QObject::connect(&timer(), &QTimer::timeout, &timer(), [&minutes] { ++minutes; });
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !server.asked.isEmpty() && minutes > 20; }));
+    EXPECT_EQ(deepest, 0) << "no event loop of its own that takes no input";
+    EXPECT_EQ(server.asked.size(), 1) << "one at a time";
+}
+
+TEST_F(NewsClientTest, AfterASilentMinuteTheNextOneAsksAgain)
+{
+    server.silent = {"/updates/quillfen.txt"};
+    client(milliseconds(100));
+    timer().setInterval(1);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return server.asked.size() > 1; }));
+    server.silent.clear();
+    server.serve("updates/quillfen.txt", "5.3.0*more");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return panel("CURRENT").text() == "Current Version = 5.3.0"; }));
+}
+
+TEST_F(NewsClientTest, TheWindowMayGoWhileTheVersionIsFetched)
+{
+    server.silent = {"/updates/quillfen.txt"};
+    auto closing = std::make_unique<QMainWindow>();
+    new NewsClient(*closing->statusBar(), hub.files, "5.2.0", {{}, server.base("updates/").toStdString()});
+    closing->findChild<QTimer*>("tmrUpdate")->setInterval(1);
+    closing->show();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !server.asked.isEmpty(); }));
+    closing.reset();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return server.isAlone(); })) << "the fetch ends with its window";
 }
 
 TEST_F(NewsClientTest, AClickOnTheCurrentVersionOffersTheDownloadWhenTheTreesVersionDiffers)

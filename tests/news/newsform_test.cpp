@@ -1,6 +1,10 @@
 #include "shell/kit/rowlist.h"
 #include "support/formtest.h"
 
+#include <QPlainTextEdit>
+#include <QScreen>
+#include <QScrollBar>
+
 namespace quillfen {
 namespace {
 
@@ -63,6 +67,48 @@ TEST_F(NewsForm, EditShowsTheStoryUnderDateAndHeadline)
     EXPECT_EQ(boxes[0].buttons, QMessageBox::Ok);
     EXPECT_EQ(boxes[0].icon, QMessageBox::NoIcon);
     EXPECT_FALSE(isDirty(form()));
+}
+
+TEST_F(NewsForm, AStoryOfAnyLengthScrollsAndNeverPassesTheScreen)
+{
+    for (const QString& story : {QString("word ").repeated(2000), QString(1 << 20, 'x')}) {
+        news = "tNews = {\r\n\t[1] = \"d|s|" + std::string(5000, 'h') + '|' + story.toStdString() +
+               ".\",\r\n}\r\n";
+        auto& shownForm = form();
+        list(shownForm).select(0);
+        test::withModal([&] { button(shownForm, "EDIT", "tlbListview").trigger(); },
+                        [&](QWidget& modal) {
+                            auto* box = qobject_cast<QMessageBox*>(&modal);
+                            EXPECT_EQ(box->text(), story + '.');
+                            EXPECT_EQ(box->windowTitle().size(), 1001) << "a title of one line";
+                            EXPECT_TRUE(box->windowTitle().startsWith("d - hhh"));
+                            EXPECT_EQ(box->standardButtons(), QMessageBox::Ok);
+                            EXPECT_LE(box->height(), box->screen()->availableSize().height());
+                            EXPECT_LE(box->width(), box->screen()->availableSize().width());
+                            auto& view = find<QPlainTextEdit>(*box, {});
+                            EXPECT_EQ(view.toPlainText().remove('\n'), story + '.');
+                            EXPECT_TRUE(view.isReadOnly());
+                            EXPECT_GT(view.verticalScrollBar()->maximum(), 0);
+                            box->button(QMessageBox::Ok)->click();
+                        });
+        EXPECT_FALSE(isDirty(shownForm));
+        shownForm.parentWidget()->close();
+        QTest::qWait(1);
+    }
+}
+
+TEST_F(NewsForm, ALongTextIsCutForShowOnlyAndSavedWhole)
+{
+    const std::string text(1 << 20, 'x');
+    const std::string row = "\t[9] = \"d|s|" + text + '|' + text + "\",\r\n";
+    news = "tNews = {\r\n\t[3] = \"d3|star|Third|Three\",\r\n" + row + "}\r\n";
+    for (const int column : {1, 2})
+        EXPECT_EQ(list(form()).model()->index(1, column).data().toString(),
+                  QString(1000, 'x') + QChar(0x2026));
+    list(form()).select(0);
+    pressed("DELETE", QMessageBox::Ok);
+    button(form(), "SAVE").trigger();
+    EXPECT_TRUE(news == "tNews = {\r\n" + row + "}\r\n");
 }
 
 TEST_F(NewsForm, ADoubleClickShowsTheArticleToo)

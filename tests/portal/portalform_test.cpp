@@ -390,6 +390,17 @@ TEST_F(PortalForm, ARightClickSelectsTheRowOfEitherListAndShowsItsMenu)
     check(nicks(), 1, "mnuSecond");
 }
 
+TEST_F(PortalForm, SpaceSelectsANick)
+{
+    settings = saved();
+    nicks().setFocus();
+    nicks().clearSelection();
+    nicks().selectionModel()->setCurrentIndex(nicks().model()->index(1, 1), QItemSelectionModel::NoUpdate);
+    QTest::keyClick(&nicks(), Qt::Key_Space);
+    EXPECT_EQ(nicks().currentRow(), 1);
+    EXPECT_FALSE(isDirty(form()));
+}
+
 TEST_F(PortalForm, ServesItsTwoBorrowedMenus)
 {
     settings = saved();

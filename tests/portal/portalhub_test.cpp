@@ -60,16 +60,40 @@ protected:
     void tick(int row) { clickTick(hubs(), row); }
     bool isTicked(int row) { return hubs().rows()[static_cast<std::size_t>(row)].checked; }
 
-    /// One after the other: what a hub says while the other link yields would wait for that hub's next words.
     void logInBoth()
     {
         tick(0);
-        ASSERT_TRUE(QTest::qWaitFor([this] { return links().isLoggedIn(Link::One); }));
         tick(1);
-        ASSERT_TRUE(QTest::qWaitFor([this] { return links().isLoggedIn(Link::Two); }));
+        ASSERT_TRUE(QTest::qWaitFor(
+            [this] { return links().isLoggedIn(Link::One) && links().isLoggedIn(Link::Two); }));
         ASSERT_TRUE(one.waitForLogin() && two.waitForLogin());
         one.heard.clear();
         two.heard.clear();
+    }
+
+    /// Ticks both hubs. Hub 2 says its first words in the middle of hub 1's lists. Tells whether both links
+    /// log in.
+    bool logInWhileHubOneLists(int nicks)
+    {
+        QByteArray list;
+        for (int nick = 0; nick < nicks; ++nick)
+            list += "nick" + QByteArray::number(nick) + "$$";
+        tick(0);
+        tick(1);
+        EXPECT_TRUE(QTest::qWaitFor([this] { return one.isConnected() && two.isConnected(); }));
+        int turns = 0; // of the event loop, most of them in yields
+        QTimer timer;
+        QObject::connect(&timer, &QTimer::timeout, &timer, [&] {
+            if (++turns == 5)
+                two.greet();
+        });
+        timer.start(0);
+        one.say("$Hello bot|$NickList " + list + "|$OpList " + list + '|');
+        const bool loggedIn = QTest::qWaitFor(
+            [this] { return links().isLoggedIn(Link::One) && links().isLoggedIn(Link::Two); }, 3000);
+        form().parentWidget()->close();
+        EXPECT_TRUE(QTest::qWaitFor([this] { return !one.isConnected() && !two.isConnected(); }));
+        return loggedIn;
     }
 
     HubServer one;
@@ -88,6 +112,27 @@ TEST_F(PortalHubs, ATickLogsTheBotIn)
     EXPECT_TRUE(isTicked(0));
     EXPECT_EQ(two.connections, 0);
     EXPECT_FALSE(isDirty(form())) << "ticks are not stored";
+}
+
+TEST_F(PortalHubs, AHubThatSpeaksWhileTheOthersListIsReadIsHeardBehindIt)
+{
+    one.greets = two.greets = false;
+    for (const int nicks : {0, 100, 500, 10'000}) {
+        int stalled = 0;
+        for (int round = 0; round < 15; ++round)
+            stalled += logInWhileHubOneLists(nicks) ? 0 : 1;
+        EXPECT_EQ(stalled, 0) << nicks << " nicks";
+    }
+}
+
+TEST_F(PortalHubs, TwoHubsThatAreTickedAtOnceBothLogIn)
+{
+    one.lists = two.lists = true;
+    for (int round = 0; round < 15; ++round) {
+        logInBoth();
+        form().parentWidget()->close();
+        ASSERT_TRUE(QTest::qWaitFor([this] { return !one.isConnected() && !two.isConnected(); }));
+    }
 }
 
 TEST_F(PortalHubs, BothHubsHearEachOther)
@@ -380,6 +425,40 @@ TEST_F(PortalHubs, ATickWithoutASelectedRowDoesNothing)
     EXPECT_EQ(one.connections + two.connections, 0);
 }
 
+TEST_F(PortalHubs, SpaceSelectsTheRowThatItTicks)
+{
+    hubs().setFocus();
+    hubs().clearSelection();
+    hubs().selectionModel()->setCurrentIndex(hubs().model()->index(0, 0), QItemSelectionModel::NoUpdate);
+    QTest::keyClick(&hubs(), Qt::Key_Space);
+    EXPECT_TRUE(isTicked(0));
+    EXPECT_EQ(hubs().currentRow(), 0);
+    EXPECT_TRUE(one.waitForLogin());
+    hubs().selectionModel()->setCurrentIndex(hubs().model()->index(1, 0), QItemSelectionModel::NoUpdate);
+    ASSERT_EQ(hubs().currentRow(), 0);
+    QTest::keyClick(&hubs(), Qt::Key_Space);
+    EXPECT_EQ(hubs().currentRow(), 1);
+    EXPECT_TRUE(two.waitForLogin());
+    EXPECT_TRUE(links().isLoggedIn(Link::One));
+}
+
+TEST_F(PortalHubs, AnOpeningThatFailsLogsTheLinkOut)
+{
+    logInBoth();
+    auto& model = *hubs().model();
+    hubs().select(0);
+    const auto boxes = answering(QMessageBox::Ok, [&] {
+        hubs().replace(0, {{"no port", "secret", "5001", ""}, true}); // the row was edited meanwhile
+        model.setData(model.index(0, 0), Qt::Checked, Qt::CheckStateRole);
+    });
+    EXPECT_EQ(boxes.size(), 1);
+    EXPECT_FALSE(links().isLoggedIn(Link::One));
+    EXPECT_FALSE(isTicked(0));
+    two.heard.clear();
+    two.say("<other> alone|$GetINFO bot x|");
+    EXPECT_TRUE(two.waitFor(myInfo)) << "what stands behind a line that nobody relays is answered";
+}
+
 TEST_F(PortalHubs, NobodyIsAcceptedOnTheClientPortAndDatagramsAreOnlyNoted)
 {
     tick(0);
@@ -431,6 +510,30 @@ TEST_F(PortalHubs, ClosingTheFormInTheMiddleOfAYieldHarmsNothing)
     EXPECT_TRUE(window().findChild<QMdiArea*>()->subWindowList().isEmpty());
     EXPECT_EQ(two.heard, "");
     EXPECT_TRUE(isFree(ports[0]));
+}
+
+TEST(TcpHubSocketTest, OneWhoseHubHungUpIsNeitherReadNorWritten)
+{
+    HubServer server;
+    server.greets = false;
+    TcpHubSocket socket("wskHubConnection_1");
+    std::string heard;
+    bool closed = false;
+    QObject::connect(&socket, &TcpHubSocket::DataArrival, &socket, [&] {
+        EXPECT_EQ(socket.State(), SocketState::Connected);
+        heard += socket.GetData();
+    });
+    QObject::connect(&socket, &TcpHubSocket::Closed, &socket, [&] {
+        closed = true;
+        EXPECT_EQ(heard, "last words|");
+        EXPECT_EQ(socket.State(), SocketState::Closed);
+        EXPECT_THROW(socket.SendData("$MyINFO|"), SocketError);
+    });
+    socket.Connect("127.0.0.1", server.address().mid(10).toStdString());
+    ASSERT_TRUE(QTest::qWaitFor([&] { return server.isConnected(); }));
+    server.say("last words|");
+    server.hangUp();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return closed; }));
 }
 
 class PortalBurst : public PortalHubs

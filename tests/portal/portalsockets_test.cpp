@@ -116,6 +116,30 @@ TEST_F(Portal, ALinkThatCannotBeOpenedLeavesNoSocketOpen)
     }
 }
 
+TEST_F(Portal, AnOpeningThatFailsLogsItsLinkOut)
+{
+    logInBoth();
+    one.listener.refuses = true;
+    links.OpenLink(0);
+    EXPECT_FALSE(links.isLoggedIn(Link::One));
+    EXPECT_TRUE(links.isLoggedIn(Link::Two));
+    two.hub.sent.clear();
+    hear(Link::Two, "<user> nobody hears|$GetINFO bot x|");
+    EXPECT_EQ(two.hub.sent, Strings{myInfo}) << "nothing is relayed to a closed socket";
+}
+
+TEST_F(Portal, TheEndWhileAFailedOpeningClosesTellsNothing)
+{
+    one.hub.refuses = true;
+    one.listener.closesLate = true;
+    form.rows[0].checked = true;
+    form.atYield = [&] { links.end(); };
+    links.OpenLink(0);
+    EXPECT_EQ(form.yields, 1);
+    EXPECT_EQ(form.told, Strings());
+    EXPECT_TRUE(form.rows[0].checked);
+}
+
 TEST_F(Portal, LeavingSaysQuitWithTheHubsAddressAndClosesAll)
 {
     links.OpenLink(1);

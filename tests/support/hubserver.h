@@ -21,6 +21,8 @@ public:
 
     QByteArray address() const { return "127.0.0.1:" + QByteArray::number(m_server.serverPort()); }
 
+    void greet() const { say("$Lock EXTENDEDPROTOCOLABCABCABCABCABCABC Pk=Test|$HubName A hub|"); }
+
     void say(const QByteArray& bytes) const
     {
         if (!m_user)
@@ -74,7 +76,7 @@ private:
                 answer();
             });
             if (greets)
-                say("$Lock EXTENDEDPROTOCOLABCABCABCABCABCABC Pk=Test|$HubName A hub|");
+                greet();
         }
     }
 

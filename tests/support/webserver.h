@@ -41,6 +41,9 @@ public:
 
     void close() { m_server.close(); }
 
+    /// Whether nobody is connected any more.
+    bool isAlone() const { return m_connected == 0; }
+
     QHash<QString, QByteArray> answers; ///< by path, head and all; an unknown path gets a 404 of plain text
     QStringList silent;                 ///< paths that get no answer at all
     QStringList endless;                ///< paths whose answer goes on for ever
@@ -51,7 +54,11 @@ private:
     void accept()
     {
         while (auto* socket = m_server.nextPendingConnection()) {
-            QObject::connect(socket, &QTcpSocket::disconnected, socket, &QObject::deleteLater);
+            ++m_connected;
+            QObject::connect(socket, &QTcpSocket::disconnected, &m_server, [this, socket] {
+                --m_connected;
+                socket->deleteLater();
+            });
             QObject::connect(socket, &QTcpSocket::readyRead, socket, [this, socket] { answer(*socket); });
         }
     }
@@ -81,6 +88,7 @@ private:
         socket.disconnectFromHost();
     }
 
+    int m_connected = 0;
     QTcpServer m_server;
 };
 

@@ -110,8 +110,9 @@ QSize ListView::sizeHint() const
 
 void ListView::keyPressEvent(QKeyEvent* event)
 {
-    if (event->key() == Qt::Key_Space && currentIndex().isValid())
-        select(currentIndex().row()); // a tick by Space is a tick of a selected row, as one by the mouse is
+    const bool ticks = event->key() == Qt::Key_Space || event->key() == Qt::Key_Select;
+    if (ticks && currentIndex().isValid())
+        select(currentIndex().row()); // a tick by key is a tick of a selected row, as one by the mouse is
     if (event->key() == Qt::Key_Delete)
         emit deleteAsked();
     else if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)

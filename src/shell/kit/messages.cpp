@@ -3,6 +3,7 @@
 #include "settings/filename.h"
 #include "settings/filestore.h"
 #include "shell/kit/codepagetext.h"
+#include "shell/kit/longtext.h"
 #include "shell/kit/windowtitle.h"
 
 #include <QDir>
@@ -14,8 +15,11 @@ QMessageBox::StandardButton show(QWidget* parent, const QString& title, const QS
                                  QMessageBox::Icon icon, QMessageBox::StandardButtons buttons,
                                  QMessageBox::StandardButton preset = QMessageBox::Ok)
 {
-    QMessageBox box(icon, windowTitleOf(title), text, buttons, parent);
+    QMessageBox box(icon, windowTitleOf(shownPart(title)), {}, buttons, parent);
     box.setTextFormat(Qt::PlainText);
+    box.setText(text);
+    if (isLong(text))
+        letTextScroll(box);
     box.setDefaultButton(preset);
     return static_cast<QMessageBox::StandardButton>(box.exec());
 }

@@ -12,7 +12,8 @@ namespace quillfen {
 
 class StoreError;
 
-/// A box with OK and Cancel; true for OK. Like every box of ours it shows its text as plain text.
+/// A box with OK and Cancel; true for OK. Like every box of ours it shows its text as plain text, and a long
+/// one in a view that scrolls.
 bool confirm(QWidget* parent, const QString& title, const QString& text,
              QMessageBox::Icon icon = QMessageBox::Question,
              QMessageBox::StandardButton preset = QMessageBox::Ok);

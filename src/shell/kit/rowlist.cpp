@@ -1,6 +1,6 @@
 #include "shell/kit/rowlist.h"
 
-#include "shell/kit/codepagetext.h"
+#include "shell/kit/longtext.h"
 
 #include <QAbstractTableModel>
 #include <QHeaderView>
@@ -9,7 +9,7 @@
 
 namespace quillfen {
 
-/// The rows behind a RowList: bytes, which become screen text as they are shown.
+/// The rows behind a RowList: bytes, which become screen text as they are shown, the start of a long one.
 class RowModel : public QAbstractTableModel
 {
 public:
@@ -81,7 +81,7 @@ public:
         const CellRow& row = m_rows.at(static_cast<std::size_t>(index.row()));
         const auto column = static_cast<std::size_t>(index.column());
         if (role == Qt::DisplayRole)
-            return column < row.cells.size() ? fromBytes(row.cells[column]) : QString();
+            return column < row.cells.size() ? shownPart(row.cells[column]) : QString();
         if (role == Qt::CheckStateRole && m_ticks && column == 0)
             return row.checked ? Qt::Checked : Qt::Unchecked;
         if (role == Qt::FontRole && row.bold) {
