@@ -72,8 +72,8 @@ void TcpHubSocket::post(Event arrival)
     const auto raised = [this, arrival, connection = m_connection] {
         if (connection != m_connection)
             return;
-        if (arrival != &TcpHubSocket::DataArrival)
-            m_state = SocketState::Closed; // from here on neither read nor written
+        const bool isOver = arrival != &TcpHubSocket::DataArrival; // from here on neither read nor written
+        m_state = isOver ? SocketState::Closed : m_state;
         emit(this->*arrival)();
     };
     QMetaObject::invokeMethod(this, raised, Qt::QueuedConnection);
