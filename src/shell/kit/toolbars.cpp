@@ -30,6 +30,25 @@ void setState(const QToolBar& toolbar, const QStatusBar& statusBar, bool dirty)
         ->setText(dirty ? QStringLiteral("Controls = Dirty") : QStringLiteral("Controls = Clean"));
 }
 
+/// Lets Tab go along a toolbar's buttons as they stand. A builder may have put its own in front of older
+/// ones.
+void orderTab(const QToolBar& toolbar)
+{
+    QWidget* oldest = nullptr; // the widgets before and behind the toolbar keep their places around this one
+    for (auto* child : toolbar.findChildren<QToolButton*>(Qt::FindDirectChildrenOnly)) {
+        if (!oldest && toolbar.actions().contains(child->defaultAction()))
+            oldest = child;
+    }
+    QWidget* before = oldest;
+    for (auto* action : toolbar.actions()) {
+        auto* each = toolbar.widgetForAction(action);
+        if (action->isSeparator() || each == before)
+            continue;
+        QWidget::setTabOrder(before, each);
+        before = each;
+    }
+}
+
 } // namespace
 
 QAction* addButton(QToolBar& toolbar, int& index, const QString& key, const QString& toolTip,
@@ -66,6 +85,8 @@ void letTabReachButtons(QWidget& window)
         if (qobject_cast<QToolBar*>(each->parentWidget()))
             each->setFocusPolicy(Qt::TabFocus);
     }
+    for (const auto* toolbar : window.findChildren<QToolBar*>())
+        orderTab(*toolbar);
 }
 
 void BuildFormToolbar(QToolBar& toolbar, int& index)
@@ -164,7 +185,10 @@ void PlaceChildForm(QStatusBar& statusBar)
     state->setMinimumWidth(twips(1500));
     state->setTextFormat(Qt::PlainText);
     statusBar.addWidget(state);
-    statusBar.addWidget(new QLabel(&statusBar), 1);
+    auto* note = new QLabel(&statusBar);
+    note->setMinimumWidth(1); // a long text is cut, and doesn't widen the form
+    note->setTextFormat(Qt::PlainText);
+    statusBar.addWidget(note, 1);
 }
 
 void ConfirmDiscard(QTreeView& list, QToolBar& toolbar, bool& bDiscardNow)
