@@ -7,8 +7,10 @@
 
 #include <QCloseEvent>
 #include <QFrame>
+#include <QLabel>
 #include <QScopedValueRollback>
 #include <QStatusBar>
+#include <QTextDocument>
 #include <QToolButton>
 #include <QVBoxLayout>
 
@@ -57,6 +59,20 @@ void EditorForm::add(FormPart* part)
     m_routines.insert(part->routines());
     m_frame->layout()->addWidget(part->widget());
     connect(part, &FormPart::changed, this, &EditorForm::markDirty);
+    connect(part, &FormPart::note, this, &EditorForm::showNote);
+}
+
+bool EditorForm::isLit(const QString& name) const
+{
+    const auto* button = m_routines.value(name).button;
+    return !button || button->isEnabled();
+}
+
+void EditorForm::showNote(const QString& text)
+{
+    auto* panel = m_statusBar->findChildren<QLabel*>(Qt::FindDirectChildrenOnly).at(1);
+    panel->setText(text);
+    panel->setToolTip(text.isEmpty() ? QString() : Qt::convertFromPlainText(text));
 }
 
 void EditorForm::open()
@@ -100,7 +116,7 @@ void EditorForm::save()
     if (!std::all_of(m_parts.begin(), m_parts.end(), [](FormPart* part) { return part->maySave(); }))
         return;
     // After a failure the form stays dirty and complete, so that nothing typed is lost.
-    const bool saved = attempt(this, [this] {
+    const bool saved = attempt(this, saving(m_description.caption), [this] {
         for (FormPart* part : m_parts)
             part->save();
     });

@@ -52,7 +52,10 @@ public:
     void open();
 
     /// The routine that the form serves to a borrowed right-click menu under this name; empty if it has none.
-    std::function<void()> routine(const QString& name) const { return m_routines.value(name); }
+    std::function<void()> routine(const QString& name) const { return m_routines.value(name).serve; }
+
+    /// Whether a borrowed menu shows that routine's item as lit: not while its button is dark.
+    bool isLit(const QString& name) const;
 
     bool isDirty() const { return bDirty; }
     QString caption() const { return m_description.caption; }
@@ -74,6 +77,7 @@ private:
     void discard();
     void restore();
     void markDirty();
+    void showNote(const QString& text);
     bool confirmDiscard();
 
     FormDescription m_description;
