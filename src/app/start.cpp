@@ -11,6 +11,22 @@
 #include <QStatusBar>
 
 namespace quillfen {
+namespace {
+
+FailureWords wordsFor(const StoreError& error)
+{
+    if (dynamic_cast<const NoScriptFolder*>(&error))
+        return {"Quillfen doesn't lie beside the hub script.",
+                "Nothing was made: move the program into the hub's scripts folder and start it again."};
+    if (dynamic_cast<const NoNewsFolder*>(&error))
+        return {"The folder of the news couldn't be made.",
+                "Your settings are untouched: mend it and start the program again."};
+    return {"The settings couldn't be rebuilt.",
+            "What was written by then stays, and the next start asks again: mend it and start the program "
+            "again."};
+}
+
+} // namespace
 
 Program::Program(FileStore& store, const QString& programFolder, ProgramInfo info)
     : m_info(std::move(info)),
@@ -31,7 +47,7 @@ std::optional<int> Program::start()
         if (reconcileSettings(reconciliation, m_profiles) == StartResult::Refused)
             return 0;
     } catch (const StoreError& error) {
-        tellFailure(nullptr, m_info.product, error);
+        tellFailure(nullptr, m_info.product, wordsFor(error), error);
         return 1;
     }
     auto* news = new NewsClient(*m_window->statusBar(), m_files, m_info.version.toStdString(),

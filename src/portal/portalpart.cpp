@@ -217,12 +217,9 @@ void PortalPart::connectLists()
 
 RoutineTable PortalPart::routines()
 {
-    return {{"gMenuFirstAddClick", [this] { button(*m_hubBar, "NEW")->trigger(); }},
-            {"gMenuFirstDeleteClick", [this] { deleteHub(); }},
-            {"gMenuFirstEditClick", [this] { editHub(); }},
-            {"gMenuSecondAddClick", [this] { addNick(); }},
-            {"gMenuSecondDeleteClick", [this] { deleteNick(); }},
-            {"gMenuSecondEditClick", [this] { editNick(); }}};
+    RoutineTable all = buttonRoutines("mnuFirst", *m_hubBar);
+    all.insert(buttonRoutines("mnuSecond", *m_nickBar));
+    return all;
 }
 
 void PortalPart::load()

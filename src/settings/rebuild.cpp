@@ -19,9 +19,11 @@ void makeIfMissing(FileStore& store, const std::string& folder)
 }
 
 void makeNewsFolders(const SettingsFiles& files)
-{
+try {
     for (const auto* folder : {"Morvaleth's Scripts", R"(Morvaleth's Scripts\News)"})
         makeIfMissing(files.store(), files.paths().inProgramFolder(folder));
+} catch (const StoreError& error) {
+    throw NoNewsFolder(error.path(), error.reason());
 }
 
 void build(const Reconciliation& start, const HubProfiles& profiles)
@@ -44,7 +46,7 @@ void requireScriptFolder(const SettingsFiles& files)
 {
     const auto folder = files.paths().scriptFolder();
     if (!files.store().exists(folder))
-        throw StoreError(folder, "The hub script's folder is missing");
+        throw NoScriptFolder(folder, "The hub script's folder is missing");
 }
 
 } // namespace

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "settings/filestore.h"
+
 #include <functional>
 #include <string>
 #include <string_view>
@@ -46,6 +48,20 @@ struct Reconciliation
     std::function<bool(const RebuildQuestion&)> confirm; ///< true for OK
 };
 
+/// The hub script's own folder isn't there: the program stands in the wrong place. Nothing was made yet.
+class NoScriptFolder : public StoreError
+{
+public:
+    using StoreError::StoreError;
+};
+
+/// The folders of the news, which every start looks after, could not be made.
+class NoNewsFolder : public StoreError
+{
+public:
+    using StoreError::StoreError;
+};
+
 enum class StartResult
 {
     Current,
@@ -58,7 +74,8 @@ enum class StartResult
 StartResult CheckSettingsRebuild(const Reconciliation& start, char rebuildCase, const HubProfiles& profiles);
 
 /// The start in its whole order: hub profiles, saved profiles, news folders, rebuild for the version or for
-/// more profiles, saved copy of the hub's profile file. Fills `profiles`. Throws StoreError.
+/// more profiles, saved copy of the hub's profile file. Fills `profiles`. Throws StoreError, and the two
+/// kinds of it above.
 StartResult reconcileSettings(const Reconciliation& start, HubProfiles& profiles);
 
 } // namespace quillfen

@@ -99,6 +99,18 @@ private:
     int m_count = 0;
 };
 
+/// The name of a file in the code page; nothing if a told path can't hold it.
+std::optional<std::string> toldName(const std::string& name)
+{
+    auto told = codepage::fromUtf8(name);
+    return told && told->find('\\') == std::string::npos ? told : std::nullopt;
+}
+
+std::string_view stemOf(std::string_view name)
+{
+    return name.substr(0, name.rfind('.'));
+}
+
 template <typename Taker>
 void takeLines(std::string_view bytes, std::vector<ListRow>& list, Taker taker)
 {
@@ -254,11 +266,34 @@ std::vector<std::string> SettingsFiles::fileNames(std::string_view folder) const
 {
     std::vector<std::string> names;
     for (const std::string& name : m_store.list(m_paths.resolve(folder))) {
-        auto told = codepage::fromUtf8(name);
-        if (told && told->find('\\') == std::string::npos)
+        if (auto told = toldName(name))
             names.push_back(std::move(*told));
     }
     return names;
+}
+
+std::vector<std::string> SettingsFiles::untoldFileNames(std::string_view folder) const
+{
+    auto names = m_store.list(m_paths.resolve(folder));
+    std::erase_if(names, [](const std::string& name) { return toldName(name).has_value(); });
+    return names;
+}
+
+std::string SettingsFiles::realFile(std::string_view file) const
+{
+    if (m_store.exists(m_paths.resolve(file)))
+        return std::string(file);
+    const auto separator = file.rfind('\\');
+    const auto name = file.substr(separator + 1); // all of it without a folder
+    const auto folder = file.substr(0, file.size() - name.size());
+    std::string found(name);
+    for (const std::string& each : fileNames(folder.substr(0, separator))) {
+        if (codepage::lowered(each) != codepage::lowered(name))
+            continue;
+        if (found == name || stemOf(each) == stemOf(name))
+            found = each;
+    }
+    return std::string(folder).append(found);
 }
 
 void SettingsFiles::removeFile(std::string_view file) const

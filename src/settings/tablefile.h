@@ -92,6 +92,14 @@ public:
     /// none if the folder can't be read.
     std::vector<std::string> fileNames(std::string_view folder) const;
 
+    /// The names of the others, as the platform has them in UTF-8. Sorted.
+    std::vector<std::string> untoldFileNames(std::string_view folder) const;
+
+    /// The path under which a file is on a disk that tells case apart: `file` itself if it is there, else the
+    /// one of its folder that differs in case alone, its extension's before its name's. `file` if there is
+    /// none.
+    std::string realFile(std::string_view file) const;
+
     /// Deletes a file; one that is gone already is no failure. Throws StoreError.
     void removeFile(std::string_view file) const;
 

@@ -354,6 +354,34 @@ TEST_F(ProgramStart, AsksForARebuildOfAnotherVersionAndFetchesNothingWhenItIsRef
     EXPECT_EQ(server.asked, QStringList());
 }
 
+TEST_F(ProgramStart, TellsWhatFailedAndWhatToDoAndEnds)
+{
+    const auto told = [this] {
+        Program program(hub.store, "/hub/scripts", info);
+        std::optional<int> exitCode;
+        auto boxes = test::answering(QMessageBox::Ok, [&] { exitCode = program.start(); });
+        EXPECT_EQ(exitCode, 1);
+        EXPECT_EQ(boxes.value(boxes.size() - 1).icon, QMessageBox::Critical);
+        return boxes.value(boxes.size() - 1).text.toStdString();
+    };
+    const std::string full = ": No space left on device. ";
+    hub.file("General/Globals/Version.tbl").clear();
+    hub.store.failingCall = static_cast<int>(hub.store.log.size());
+    const std::string rebuild = told();
+    EXPECT_TRUE(rebuild.starts_with("The settings couldn't be rebuilt. " + hub.root + "/")) << rebuild;
+    EXPECT_TRUE(rebuild.ends_with(full +
+                                  "What was written by then stays, and the next start asks again: mend it "
+                                  "and start the program again."))
+        << rebuild;
+    hub.store.folders.erase("/hub/scripts/Morvaleth's Scripts/News");
+    EXPECT_EQ(told(), "The folder of the news couldn't be made. /hub/scripts/Morvaleth's Scripts/News" +
+                          full + "Your settings are untouched: mend it and start the program again.");
+    hub.store.folders.erase(hub.script);
+    EXPECT_EQ(told(), "Quillfen doesn't lie beside the hub script. " + hub.script +
+                          ": The hub script's folder is missing. Nothing was made: move the program into the "
+                          "hub's scripts folder and start it again.");
+}
+
 TEST_F(ProgramStart, AsksForARebuildWhenTheHubHasANewProfile)
 {
     hub.store.files["/hub/cfg/Profiles.xml"] = "<Name>Master</Name>\r\n";

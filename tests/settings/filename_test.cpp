@@ -18,6 +18,17 @@ TEST(FileNames, ThatNoFileCanBearAreFaulty)
         EXPECT_EQ(fileNameFault(name), "") << name;
 }
 
+TEST(FileNames, ThatAreThereAlreadyAreGoodUnlessTheyLeadOutOfTheirFolder)
+{
+    for (const std::string& name :
+         {std::string(), std::string("."), std::string(".."), std::string("a/b"), std::string("a\\b"),
+          std::string("..\\x"), std::string("/x"), std::string("a\0b", 3)})
+        EXPECT_NE(leavingNameFault(name), "") << name;
+    for (const char* name : {" a", "a ", "con", "NUL", "x?y", "a*", "\"a", "a.", "a\tb", "...", "..a"})
+        EXPECT_EQ(leavingNameFault(name), "") << name;
+    EXPECT_EQ(leavingNameFault(std::string(300, 'x')), "");
+}
+
 TEST(FileNames, ChangeTheirCaseInTheCodePage)
 {
     EXPECT_EQ(codepage::lowered("FOO \xC9\x8A\x9F\xD7"), "foo \xE9\x9A\xFF\xD7");

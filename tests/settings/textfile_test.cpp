@@ -103,6 +103,31 @@ TEST(FileNames, AreThoseThatTheCodePageHasInItsBytes)
     EXPECT_EQ(hub.files.fileNames("No"), std::vector<std::string>());
 }
 
+TEST(FileNames, ThatNoToldPathCanHoldAreKnownApart)
+{
+    test::Hub hub{"A"};
+    for (const char* name : {"A/plain.asc", "A/\xD0\x96.asc", "A/back\\slash.asc", "A/broken\xC3"})
+        hub.file(name) = "x";
+    EXPECT_EQ(hub.files.untoldFileNames("A"),
+              (std::vector<std::string>{"back\\slash.asc", "broken\xC3", "\xD0\x96.asc"}));
+    EXPECT_EQ(hub.files.untoldFileNames("No"), std::vector<std::string>());
+}
+
+TEST(RealFiles, AreThoseOfTheToldNameAndElseThoseThatDifferInCaseAlone)
+{
+    test::Hub hub{"A"};
+    for (const char* name : {"A/NEWS.ASC", "A/one.asc", "A/One.asc", "A/TWO.ASC", "A/two.ASC", "A/rules.txt"})
+        hub.file(name) = "x";
+    EXPECT_EQ(hub.files.realFile("A\\one.asc"), "A\\one.asc");
+    EXPECT_EQ(hub.files.realFile("A\\NEWS.asc"), "A\\NEWS.ASC");
+    EXPECT_EQ(hub.files.realFile("A\\news.asc"), "A\\NEWS.ASC");
+    EXPECT_EQ(hub.files.realFile("A\\two.asc"), "A\\two.ASC"); // the extension differs before the name
+    EXPECT_EQ(hub.files.realFile("A\\TWO.asc"), "A\\TWO.ASC");
+    EXPECT_EQ(hub.files.realFile("A\\rules.asc"), "A\\rules.asc"); // there is none
+    EXPECT_EQ(hub.files.realFile("No\\news.asc"), "No\\news.asc");
+    EXPECT_EQ(hub.files.realFile("news.asc"), "news.asc");
+}
+
 TEST(FileNames, OfARemovedFileAreGone)
 {
     test::Hub hub{"A"};

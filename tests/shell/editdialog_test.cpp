@@ -224,11 +224,12 @@ TEST_F(EditDialogTest, CancelEscapeAndTheClosedWindowTakeNothing)
         find<QLineEdit>(dialog, "txtTextBox(0)").setText("x");
         leave(dialog);
         EXPECT_FALSE(dialog.isVisible());
-        return dialog.answer().gEditResult + std::to_string(dialog.answer().gEditValues.size());
+        EXPECT_EQ(dialog.answer().gEditResult + std::to_string(dialog.answer().gEditValues.size()), "0");
+        return dialog.answer().byCancel;
     };
-    EXPECT_EQ(answerAfter([](EditDialog& dialog) { command(dialog, "cmdCancel").click(); }), "0");
-    EXPECT_EQ(answerAfter([](EditDialog& dialog) { dialog.close(); }), "0");
-    EXPECT_EQ(answerAfter([](EditDialog& dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); }), "0");
+    EXPECT_TRUE(answerAfter([](EditDialog& dialog) { command(dialog, "cmdCancel").click(); }));
+    EXPECT_FALSE(answerAfter([](EditDialog& dialog) { dialog.close(); }));
+    EXPECT_FALSE(answerAfter([](EditDialog& dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); }));
 }
 
 TEST_F(EditDialogTest, AddThreeTimesAndThenOkGivesFourRowsInThatOrder)
@@ -539,8 +540,10 @@ TEST_F(TextEdit, AFailedSaveKeepsItOpenDirtyAndComplete)
     QTest::keyClicks(&box(dialog), "x");
     const auto boxes = test::answering(QMessageBox::Ok, [&] { tool(dialog, "SAVE").trigger(); });
     ASSERT_EQ(boxes.size(), 1);
-    EXPECT_EQ(boxes[0].text,
-              "/hub/scripts/Morvaleth's Quillfen/Settings/Gone/A.txt\n\nNo such file or directory");
+    EXPECT_EQ(
+        boxes[0].text,
+        "The text couldn't be saved. /hub/scripts/Morvaleth's Quillfen/Settings/Gone/A.txt: No such file or "
+        "directory. Nothing that you typed is lost: mend it and save again.");
     EXPECT_EQ(panel(dialog), "Controls = Dirty");
     EXPECT_EQ(box(dialog).toPlainText(), "x");
     EXPECT_FALSE(dialog.isSaved());

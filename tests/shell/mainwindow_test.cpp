@@ -535,7 +535,7 @@ class ServingPart : public FormPart
     Q_OBJECT
 
 public:
-    explicit ServingPart(QStringList& called) : m_called(called) {}
+    ServingPart(QStringList& called, const QAction& edit) : m_called(called), m_edit(edit) {}
 
     QWidget* widget() override { return new QWidget; }
     void load() override {}
@@ -547,12 +547,14 @@ public:
         for (const QString name :
              {"gMenuEditClick", "gMenuEditTwoClick", "gMenuEditThreeClick", "gMenuFirstAddClick",
               "gMenuTrueFalseTrueClick", "gMenuTrueFalseFalseClick"})
-            table.insert(name, [this, name] { m_called.append(name); });
+            table.insert(name, {[this, name] { m_called.append(name); }});
+        table.insert("gMenuFirstEditClick", {[] {}, &m_edit});
         return table;
     }
 
 private:
     QStringList& m_called;
+    const QAction& m_edit; ///< the button of "Edit"
 };
 
 class BorrowedMenus : public MainWindowTest
@@ -562,7 +564,7 @@ protected:
     {
         forms.push_back({"frmGamesAnagrams", [this](const FormContext&) {
                              auto* form = new EditorForm({"frmGamesAnagrams", "Games ~ Anagrams"});
-                             form->add(new ServingPart(called));
+                             form->add(new ServingPart(called, edit));
                              return form;
                          }});
     }
@@ -570,6 +572,7 @@ protected:
     void choose(const char* item) { find<QAction>(window(), item).trigger(); }
 
     QStringList called;
+    QAction edit;
 };
 
 TEST_F(BorrowedMenus, CallTheRoutineOfTheActiveForm)
@@ -581,6 +584,25 @@ TEST_F(BorrowedMenus, CallTheRoutineOfTheActiveForm)
     choose("mnuFirstAdd");
     EXPECT_EQ(called, (QStringList{"gMenuEditClick", "gMenuEditTwoClick", "gMenuEditThreeClick",
                                    "gMenuFirstAddClick"}));
+}
+
+TEST_F(BorrowedMenus, AnItemIsDarkWhileItsButtonIsAndLitForTheNextForm)
+{
+    open("Games~Anagrams");
+    auto* menu = window().popUpMenu("mnuFirst");
+    const auto lit = [menu] {
+        menu->popup({0, 0});
+        QString keys;
+        for (const auto* item : menu->actions())
+            keys += item->isEnabled() ? '1' : '0';
+        menu->hide();
+        return keys;
+    };
+    EXPECT_EQ(lit(), "111");
+    edit.setEnabled(false);
+    EXPECT_EQ(lit(), "110");
+    for (const auto* item : menu->actions())
+        EXPECT_TRUE(item->isEnabled());
 }
 
 TEST_F(BorrowedMenus, BothEntriesOfTrueFalseCallTheSameRoutine)

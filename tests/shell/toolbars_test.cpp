@@ -2,6 +2,7 @@
 #include "shell/kit/toolbars.h"
 #include "support/formtest.h"
 
+#include <QLineEdit>
 #include <QMenu>
 #include <QTimer>
 #include <QToolButton>
@@ -130,6 +131,28 @@ TEST(Toolbars, OnlySaveAndTheFileButtonsStartDisabled)
     BuildFileEditToolbar(file, index);
     for (auto* action : file.actions())
         EXPECT_FALSE(action->isEnabled());
+}
+
+TEST(Toolbars, TabGoesAlongTheButtonsAsTheyStand)
+{
+    QWidget window;
+    auto* toolbar = new QToolBar(&window);
+    auto* before = new QLineEdit(&window);
+    int index = 0;
+    BuildListToolbar(*toolbar, index);
+    index = 0;
+    addButton(*toolbar, index, "OPEN", "Open", "open");
+    AddAmendButton(*toolbar, index);
+    letTabReachButtons(window);
+    QStringList keys;
+    for (QWidget* each = window.nextInFocusChain(); each != &window; each = each->nextInFocusChain()) {
+        const auto* pressed = qobject_cast<QToolButton*>(each);
+        if (pressed && pressed->defaultAction())
+            keys.append(pressed->defaultAction()->objectName());
+        else if (each == before)
+            keys.append("before");
+    }
+    EXPECT_EQ(keys, (QStringList{"before", "OPEN", "AMEND", "NEW", "DELETE", "EDIT"}));
 }
 
 TEST(Toolbars, TheStatusBarHasTwoPanels)

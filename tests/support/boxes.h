@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QApplication>
+#include <QComboBox>
 #include <QDir>
 #include <QFileDialog>
 #include <QInputDialog>
@@ -73,7 +74,7 @@ inline void typeInto(QWidget& modal, const QString& text)
     }
 }
 
-/// The folder in which an action's file dialog starts, and the files that it offers. The dialog is cancelled.
+/// The folder in which an action's file dialog starts, and its filters as they read. The dialog is cancelled.
 struct OfferedFiles
 {
     QString folder;
@@ -85,7 +86,10 @@ inline OfferedFiles offeredFiles(const std::function<void()>& action)
     OfferedFiles offered;
     withModal(action, [&offered](QWidget& modal) {
         auto* dialog = qobject_cast<QFileDialog*>(&modal);
-        offered = {dialog->directory().absolutePath(), dialog->nameFilters()};
+        offered = {dialog->directory().absolutePath(), {}};
+        const auto* types = dialog->findChild<QComboBox*>("fileTypeCombo");
+        for (int each = 0; each < types->count(); ++each)
+            offered.filters.append(types->itemText(each));
         dialog->reject();
     });
     return offered;

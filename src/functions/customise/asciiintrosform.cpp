@@ -53,7 +53,7 @@ protected:
         const bool inUse =
             std::any_of(m_users->rows().begin(), m_users->rows().end(),
                         [&file](const CellRow& user) { return user.cells[1] == file.cells[0]; });
-        return inUse ? "Cannot delete this Ascii Intro as it is in use" : "";
+        return inUse ? "Cannot delete this Ascii Intro as it is in use" : FolderFilesPart::refusal(file);
     }
 
 private:
@@ -75,6 +75,7 @@ public:
         for (RowListPart* list : {m_users, static_cast<RowListPart*>(m_files)}) {
             list->setParent(this);
             connect(list, &FormPart::changed, this, &FormPart::changed);
+            connect(list, &FormPart::note, this, &FormPart::note);
             layout->addWidget(list->widget());
         }
     }

@@ -95,7 +95,7 @@ std::string triviaQuestionFile(std::string_view name)
 
 std::vector<CellRow> loadTriviaQuestions(const SettingsFiles& files, std::string_view name)
 {
-    return listFileRows(files, triviaQuestionFile(name), "*", Rows::Plain);
+    return listFileRows(files, files.realFile(triviaQuestionFile(name)), "*", Rows::Plain);
 }
 
 void saveTriviaQuestions(const SettingsFiles& files, std::string_view name, const std::vector<CellRow>& rows)

@@ -146,12 +146,9 @@ void QuestionsPart::connectQuestions()
 RoutineTable QuestionsPart::routines()
 {
     // The menu of the questions has no handlers, but the three operations are there for it.
-    return {{routineName("mnuTriviaQuestions", "Add"), [this] { addQuestion(); }},
-            {routineName("mnuTriviaQuestions", "Delete"), [this] { deleteQuestion(); }},
-            {routineName("mnuTriviaQuestions", "Edit"), [this] { editQuestion(); }},
-            {routineName("mnuFirst", "Add"), [this] { createFile(); }},
-            {routineName("mnuFirst", "Delete"), [this] { deleteFile(); }},
-            {routineName("mnuFirst", "Edit"), [this] { openFile(); }}};
+    RoutineTable all = buttonRoutines("mnuTriviaQuestions", *m_questionBar);
+    all.insert(buttonRoutines("mnuFirst", *m_fileBar));
+    return all;
 }
 
 void QuestionsPart::load()
@@ -209,7 +206,7 @@ void QuestionsPart::createFile()
 {
     const std::string name =
         codepage::lowered(toBytes(QInputDialog::getText(m_widget, "Enter filename", "Enter filename")));
-    if (name.empty() || refuseFileName(m_widget, name))
+    if (name.empty())
         return;
     const auto& rows = m_fileList->rows();
     if (std::any_of(rows.begin(), rows.end(),
@@ -219,7 +216,8 @@ void QuestionsPart::createFile()
                QMessageBox::Warning);
         return;
     }
-    if (!attempt(m_widget, [&] { createTriviaQuestions(m_context.files, name); }))
+    if (refuseNewFile(m_widget, name) ||
+        !attempt(m_widget, making(fromBytes(name)), [&] { createTriviaQuestions(m_context.files, name); }))
         return;
     addFile(name);
     m_questionList->setProperty("tag", fromBytes(name));
@@ -250,14 +248,14 @@ void QuestionsPart::addExistingFile()
 
 void QuestionsPart::deleteFile()
 {
-    const std::string name = selectedFile();
-    if (m_fileList->currentRow() < 0)
-        return;
     if (m_fileList->rows().size() == 1) {
         notify(m_widget, "Cannot delete", "There must be a minimum of one Question File",
                QMessageBox::Critical);
         return;
     }
+    if (m_fileList->currentRow() < 0)
+        return;
+    const std::string name = selectedFile();
     if (!confirm(m_widget, "Delete Question File?", "Do you really want to delete " + fromBytes(name) + '?',
                  QMessageBox::Question, QMessageBox::Cancel))
         return;
@@ -278,7 +276,7 @@ void QuestionsPart::forgetDefault(const QString& name)
 
 void QuestionsPart::openFile()
 {
-    if (m_fileList->currentRow() < 0)
+    if (m_fileList->currentRow() < 0 || refuseListedFile(m_widget, "Cannot open file", selectedFile()))
         return;
     bool bDiscardNow = true;
     if (!m_questionList->isEmpty())
@@ -325,13 +323,12 @@ void QuestionsPart::editQuestion()
 
 void QuestionsPart::deleteQuestion()
 {
-    if (m_questionList->currentRow() < 0)
-        return;
     if (m_questionList->rows().size() == 1) {
         notify(m_widget, "Cannot delete", "There must be a minimum of one Question", QMessageBox::Critical);
         return;
     }
-    if (!confirm(m_widget, "Delete Question?", "Do you really want to delete this question?"))
+    if (m_questionList->currentRow() < 0 ||
+        !confirm(m_widget, "Delete Question?", "Do you really want to delete this question?"))
         return;
     m_questionList->remove(m_questionList->currentRow());
     m_questionList->select(0);
@@ -343,8 +340,9 @@ void QuestionsPart::saveQuestions()
     // The file is the one that is selected now, not the one that was loaded: so a list can be saved under
     // another name.
     const std::string name = selectedFile();
-    if (name.empty() ||
-        !attempt(m_widget, [&] { saveTriviaQuestions(m_context.files, name, m_questionList->rows()); }))
+    if (m_fileList->currentRow() < 0 || refuseListedFile(m_widget, "Cannot save file", name) ||
+        !attempt(m_widget, saving(fromBytes(name)),
+                 [&] { saveTriviaQuestions(m_context.files, name, m_questionList->rows()); }))
         return;
     button(*m_questionBar, "SAVE")->setEnabled(false);
     emit changed();

@@ -66,7 +66,7 @@ std::string pathOf(const LanguageSet& set, std::string_view name)
 std::vector<ListRow> referenceList(const SettingsFiles& files, const LanguageSet& set)
 {
     std::vector<ListRow> list;
-    files.ReadTableToList(pathOf(set, referenceLanguage), list, "=", set.textTable);
+    files.ReadTableToList(files.realFile(pathOf(set, referenceLanguage)), list, "=", set.textTable);
     return list;
 }
 
@@ -108,7 +108,7 @@ std::vector<CellRow> loadLanguageTexts(const SettingsFiles& files, const Languag
                                        std::string_view name)
 {
     auto list = referenceList(files, set);
-    files.ReadListColumn(pathOf(set, name), set.textTable, list);
+    files.ReadListColumn(files.realFile(pathOf(set, name)), set.textTable, list);
     return cellRows(std::move(list));
 }
 

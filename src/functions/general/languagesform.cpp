@@ -52,7 +52,7 @@ private:
 
     void editText();
     void editAllTexts();
-    bool editRow(int row);
+    bool editRow(int row); ///< false if the dialog was closed: there is no going on then
     void saveTexts();
     void closeTexts();
     void leaveTexts();
@@ -133,9 +133,7 @@ void LanguagesPart::connectTexts()
 
 RoutineTable LanguagesPart::routines()
 {
-    return {{routineName("mnuFirst", "Add"), [this] { newLanguage(); }},
-            {routineName("mnuFirst", "Delete"), [this] { removeLanguage(); }},
-            {routineName("mnuFirst", "Edit"), [this] { openLanguage(); }}};
+    return buttonRoutines("mnuFirst", *m_fileBar);
 }
 
 void LanguagesPart::load()
@@ -178,7 +176,7 @@ void LanguagesPart::newLanguage()
 {
     const std::string name =
         toBytes(QInputDialog::getText(m_widget, word(m_set.newTitle), word(m_set.newPrompt)));
-    if (name.empty() || refuseFileName(m_widget, name))
+    if (name.empty() || refuseNewFile(m_widget, name))
         return;
     m_readOnly = false;
     showTexts(loadReferenceTexts(m_context.files, m_set), name);
@@ -186,9 +184,11 @@ void LanguagesPart::newLanguage()
 
 void LanguagesPart::addExisting()
 {
-    const QString path = QFileDialog::getOpenFileName(
-        m_widget, "Select Language File to open",
-        QString::fromStdString(m_context.files.paths().inSettings(m_set.folder)), "(*.TBL *.tbl)");
+    // The filter's own words stand in front of its patterns, which don't show.
+    const QString path =
+        QFileDialog::getOpenFileName(m_widget, "Select Language File to open",
+                                     QString::fromStdString(m_context.files.paths().inSettings(m_set.folder)),
+                                     "(*.TBL) (*.tbl *.TBL)", nullptr, QFileDialog::HideNameFilterDetails);
     if (path.isEmpty())
         return;
     QString file = QFileInfo(path).fileName();
@@ -225,13 +225,13 @@ void LanguagesPart::removeLanguage()
 
 void LanguagesPart::openLanguage()
 {
-    if (m_files->currentRow() < 0)
-        return;
     if (!m_texts->isEmpty()) {
         notify(m_widget, "Cannot Edit", "There is already a file being edited", QMessageBox::Warning);
         return;
     }
     const std::string name = selectedName();
+    if (m_files->currentRow() < 0 || refuseListedFile(m_widget, "Cannot open file", name))
+        return;
     m_readOnly = name == referenceLanguage;
     if (m_readOnly)
         notify(m_widget, "Read Only", "DEFAULT file cannot be edited", QMessageBox::Information);
@@ -270,7 +270,7 @@ bool LanguagesPart::editRow(int row)
     request.values = {cells.cells[1]};
     const EditAnswer answer = showEditDialog(m_widget, request);
     if (answer.gEditResult != "1")
-        return false;
+        return answer.byCancel;
     cells.cells[1] = answer.gEditValues[0];
     m_texts->replace(row, std::move(cells));
     if (m_readOnly) // a change of the reference stays on the screen
@@ -297,8 +297,8 @@ void LanguagesPart::editAllTexts()
 void LanguagesPart::saveTexts()
 {
     const std::string name = toBytes(m_texts->property("tag").toString());
-    if (m_readOnly ||
-        !attempt(m_widget, [&] { saveLanguageTexts(m_context.files, m_set, name, m_texts->rows()); }))
+    if (m_readOnly || !attempt(m_widget, saving(fromBytes(name)),
+                               [&] { saveLanguageTexts(m_context.files, m_set, name, m_texts->rows()); }))
         return;
     leaveTexts();
     if (isListed(name, false))

@@ -66,7 +66,10 @@ RowListDeclaration declaredVersions()
         return std::vector<std::string>{row.cells[Client] + " Client", "Min Version", "Allow"};
     };
     list.fieldsOf = [](const CellRow& row) { return trimmed(row.cells); };
-    list.take = [](const std::vector<std::string>& fields, CellRow& row) { row.cells = trimmed(fields); };
+    list.take = [](const std::vector<std::string>& fields, CellRow& row) {
+        const bool isAdded = row.cells[Allow].empty(); // one that is edited has its word there
+        row.cells = isAdded ? fields : trimmed(fields);
+    };
     list.deletion = {"Delete Client?", "Do you really want to delete this Client?",
                      "There must be a minimum of one Client"};
     list.load = loadVersions;

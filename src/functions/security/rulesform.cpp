@@ -46,10 +46,7 @@ public:
     void restore() override {}
     void save() override {}
 
-    RoutineTable routines() override
-    {
-        return {{routineName("mnuOnlyEdit", "Edit"), [this] { edit(); }}};
-    }
+    RoutineTable routines() override { return buttonRoutines("mnuOnlyEdit", *m_toolbar); }
 
 private:
     void edit()

@@ -1,9 +1,12 @@
 #include "functions/useractions/asciiform.h"
 
 #include "functions/useractions/ascii.h"
+#include "settings/filename.h"
 #include "settings/tablefile.h"
+#include "shell/kit/codepagetext.h"
 #include "shell/kit/editorform.h"
 #include "shell/kit/messages.h"
+#include "shell/kit/rowlist.h"
 #include "shell/kit/rowlistpart.h"
 #include "shell/kit/tablefilepart.h"
 #include "shell/kit/textedit.h"
@@ -22,19 +25,42 @@ public:
     }
 
 protected:
+    bool mayAdd(const CellRow& row) override { return isGoodName(row) && isDrawn(row); }
+
     bool mayTake(const CellRow& row) override
     {
-        return !refuseFileName(widget()->window(), row.cells.front()) &&
-               editTextFile(widget()->window(), m_files, asciiFile(row.cells.front()));
+        const CellRow& before = rows()[static_cast<std::size_t>(list().currentRow())];
+        const bool isGood = row.cells.front() == before.cells.front()
+                                ? !refuseListedFile(widget()->window(), "Cannot open file", row.cells.front())
+                                : isGoodName(row);
+        return isGood && isDrawn(row);
+    }
+
+    std::string refusal(const CellRow& row) const override
+    {
+        const std::string fault = leavingNameFault(row.cells.front());
+        return fault.empty() ? RowListPart::refusal(row) : row.cells.front() + "\n\n" + fault;
     }
 
     bool mayDelete(const CellRow& row) override
     {
-        return !refuseFileName(widget()->window(), row.cells.front()) &&
-               attempt(widget()->window(), [&] { m_files.removeFile(asciiFile(row.cells.front())); });
+        return attempt(widget()->window(), deleting(fromBytes(row.cells.front())),
+                       [&] { m_files.removeFile(pathOf(row)); });
     }
 
 private:
+    std::string pathOf(const CellRow& row) const { return m_files.realFile(asciiFile(row.cells.front())); }
+
+    /// A picture that is there already may be listed under any name that stays in the folder.
+    bool isGoodName(const CellRow& row) const
+    {
+        const bool isThere = leavingNameFault(row.cells.front()).empty() &&
+                             m_files.store().exists(m_files.paths().resolve(pathOf(row)));
+        return isThere || !refuseNewFile(list().window(), row.cells.front());
+    }
+
+    bool isDrawn(const CellRow& row) const { return editTextFile(list().window(), m_files, pathOf(row)); }
+
     const SettingsFiles& m_files;
 };
 

@@ -161,7 +161,9 @@ RowListDeclaration phraseList()
 
 std::vector<CellRow> loadPhrases(const SpellBook& book, const std::string& spell, const SettingsFiles& files)
 {
-    return loadOf(phraseFile(book, spell))(files, {});
+    ListFile phrases = phraseFile(book, spell);
+    phrases.path = files.realFile(phrases.path);
+    return loadOf(phrases)(files, {});
 }
 
 void gatherPhrases(std::vector<CellRow>& spells, const std::string& spell,

@@ -66,10 +66,12 @@ public:
     }
 
 protected:
-    bool mayTake(const CellRow& row) override
+    bool mayAdd(const CellRow& row) override
     {
-        return !refuseFileName(widget()->window(), row.cells[SpellName]);
+        return !refuseNewFile(widget()->window(), row.cells[SpellName]);
     }
+
+    bool mayTake(const CellRow& row) override { return row.cells[SpellName] == selected() || mayAdd(row); }
 
     void activate() override { m_amend(); }
 
@@ -166,7 +168,7 @@ void SpellBookPart::load()
 void SpellBookPart::amend()
 {
     const std::string spell = m_spells->selected();
-    if (!spell.empty() && !refuseFileName(m_widget->window(), spell))
+    if (!spell.empty() && !refuseListedFile(m_widget->window(), "Cannot open file", spell))
         showPhrasesOf(spell);
 }
 

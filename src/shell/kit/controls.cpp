@@ -132,6 +132,17 @@ Control profileBox(const Setting& setting, const HubProfiles& profiles, const st
             }};
 }
 
+/// Tab leads to the chosen option, as Qt does it itself only once the group has had the focus.
+void letTabReachChosen(const std::vector<QRadioButton*>& buttons)
+{
+    auto chosen = std::find_if(buttons.begin(), buttons.end(),
+                               [](const QRadioButton* button) { return button->isChecked(); });
+    if (chosen == buttons.end())
+        chosen = buttons.begin();
+    for (auto* button : buttons)
+        button->setFocusPolicy(button == *chosen ? Qt::StrongFocus : Qt::ClickFocus);
+}
+
 Control optionGroup(const Setting& setting, const std::function<void()>& changed)
 {
     auto* group = new QGroupBox(fromBytes(setting.label));
@@ -153,6 +164,7 @@ Control optionGroup(const Setting& setting, const std::function<void()>& changed
                     buttons[place]->setChecked(chosen == std::to_string(place));
                     buttons[place]->setAutoExclusive(true);
                 }
+                letTabReachChosen(buttons);
             },
             [buttons, key = setting.key](SettingValues& values) {
                 const auto chosen =

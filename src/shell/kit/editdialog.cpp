@@ -190,7 +190,10 @@ void EditDialog::addButtons()
     m_ok->setDefault(true);
     connect(m_ok, &QPushButton::clicked, this, [this] { finish("1"); });
     connect(m_add, &QPushButton::clicked, this, [this] { finish("A"); });
-    connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
+    connect(cancel, &QPushButton::clicked, this, [this] {
+        m_answer.byCancel = true;
+        reject();
+    });
     layout()->addWidget(buttons);
 }
 

@@ -31,6 +31,7 @@ struct EditAnswer
 {
     std::string gEditResult;
     std::vector<std::string> gEditValues;
+    bool byCancel = false; ///< an empty result came of Cancel, and not of the closed window or Escape
 };
 
 /// One of the twelve dialogs that edit a row. It has no idea which list it serves.

@@ -7,9 +7,11 @@
 
 #include <QCloseEvent>
 #include <QFrame>
+#include <QLabel>
 #include <QScopedValueRollback>
 #include <QScrollArea>
 #include <QStatusBar>
+#include <QTextDocument>
 #include <QToolButton>
 #include <QVBoxLayout>
 
@@ -80,6 +82,20 @@ void EditorForm::add(FormPart* part)
     m_routines.insert(part->routines());
     m_frame->layout()->addWidget(part->widget());
     connect(part, &FormPart::changed, this, &EditorForm::markDirty);
+    connect(part, &FormPart::note, this, &EditorForm::showNote);
+}
+
+bool EditorForm::isLit(const QString& name) const
+{
+    const auto* button = m_routines.value(name).button;
+    return !button || button->isEnabled();
+}
+
+void EditorForm::showNote(const QString& text)
+{
+    auto* panel = m_statusBar->findChildren<QLabel*>(Qt::FindDirectChildrenOnly).at(1);
+    panel->setText(text);
+    panel->setToolTip(text.isEmpty() ? QString() : Qt::convertFromPlainText(text));
 }
 
 void EditorForm::open()
@@ -146,7 +162,7 @@ void EditorForm::save()
     if (!maySave())
         return;
     // After a failure the form stays dirty and complete, so that nothing typed is lost.
-    const bool saved = attempt(this, [this] {
+    const bool saved = attempt(this, saving(m_description.caption), [this] {
         for (FormPart* part : m_parts)
             part->save();
     });

@@ -56,7 +56,10 @@ public:
     QSize sizeHint() const override;
 
     /// The routine that the form serves to a borrowed right-click menu under this name; empty if it has none.
-    std::function<void()> routine(const QString& name) const { return m_routines.value(name); }
+    std::function<void()> routine(const QString& name) const { return m_routines.value(name).serve; }
+
+    /// Whether a borrowed menu shows that routine's item as lit: not while its button is dark.
+    bool isLit(const QString& name) const;
 
     bool isDirty() const { return bDirty; }
     QString caption() const { return m_description.caption; }
@@ -80,6 +83,7 @@ private:
     void discard();
     void restore();
     void markDirty();
+    void showNote(const QString& text);
     bool confirmDiscard();
 
     FormDescription m_description;

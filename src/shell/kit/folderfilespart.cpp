@@ -1,6 +1,7 @@
 #include "shell/kit/folderfilespart.h"
 
 #include "settings/codepage.h"
+#include "settings/filename.h"
 #include "settings/tablefile.h"
 #include "settings/textfolder.h"
 #include "shell/kit/codepagetext.h"
@@ -21,6 +22,17 @@ FolderFilesPart::FolderFilesPart(const RowListDeclaration& declaration, std::str
 {
 }
 
+void FolderFilesPart::load()
+{
+    RowListPart::load();
+    QStringList unlisted;
+    for (const std::string& name : context().files.untoldFileNames(m_folder))
+        unlisted.append(QString::fromStdString(name).simplified());
+    emit note(unlisted.isEmpty()
+                  ? QString()
+                  : "Not listed: " + unlisted.join(", ") + " (the hub script can't read such a name)");
+}
+
 bool FolderFilesPart::isGoodName(const QString& typed)
 {
     const std::string name = toBytes(typed);
@@ -29,15 +41,18 @@ bool FolderFilesPart::isGoodName(const QString& typed)
                QMessageBox::Warning);
         return false;
     }
-    if (refuseFileName(widget(), name))
-        return false;
     // Only the typed name is lowered: it is refused for a row "hello", and not for a row "Hello".
     if (std::any_of(rows().begin(), rows().end(),
                     [&](const CellRow& row) { return row.cells[0] == codepage::lowered(name); })) {
         notify(widget(), "Error", "File already exists", QMessageBox::Warning);
         return false;
     }
-    return true;
+    return !refuseNewFile(widget(), name);
+}
+
+std::string FolderFilesPart::pathOf(const CellRow& row) const
+{
+    return context().files.realFile(textFile(m_folder, row.cells[0]));
 }
 
 std::string FolderFilesPart::askName()
@@ -61,8 +76,7 @@ void FolderFilesPart::add()
         return;
     list().append({{name}});
     list().select(static_cast<int>(rows().size()) - 1);
-    if (!declaration().ticks) // a row without its tick is not saved, so that it changes nothing
-        emit changed();
+    touch();
 }
 
 void FolderFilesPart::edit()
@@ -70,16 +84,22 @@ void FolderFilesPart::edit()
     const int row = list().currentRow();
     if (row < 0)
         return;
-    const std::string& name = rows()[static_cast<std::size_t>(row)].cells[0];
+    const CellRow& file = rows()[static_cast<std::size_t>(row)];
     // A table written by hand can hold a name that leads out of the folder.
-    if (!refuseFileName(widget(), name))
-        editTextFile(widget()->window(), context().files, textFile(m_folder, name));
+    if (!refuseListedFile(widget(), "Cannot open file", file.cells[0]))
+        editTextFile(widget()->window(), context().files, pathOf(file));
+}
+
+std::string FolderFilesPart::refusal(const CellRow& row) const
+{
+    const std::string fault = leavingNameFault(row.cells[0]);
+    return fault.empty() ? RowListPart::refusal(row) : row.cells[0] + "\n\n" + fault;
 }
 
 bool FolderFilesPart::mayDelete(const CellRow& row)
 {
-    return !refuseFileName(widget(), row.cells[0]) &&
-           attempt(widget(), [&] { context().files.removeFile(textFile(m_folder, row.cells[0])); });
+    return attempt(widget(), deleting(fromBytes(row.cells[0])),
+                   [&] { context().files.removeFile(pathOf(row)); });
 }
 
 } // namespace quillfen

@@ -64,6 +64,9 @@ public:
 signals:
     /// The user changed a control.
     void changed();
+
+    /// What the form's second status panel is to say from now on; may be empty.
+    void note(const QString& text);
 };
 
 } // namespace quillfen

@@ -24,6 +24,13 @@ QMessageBox::StandardButton show(QWidget* parent, const QString& title, const QS
     return static_cast<QMessageBox::StandardButton>(box.exec());
 }
 
+bool refuse(QWidget* parent, const QString& title, std::string_view name, const std::string& fault)
+{
+    if (!fault.empty())
+        notify(parent, title, fromBytes(name) + "\n\n" + fromBytes(fault), QMessageBox::Warning);
+    return !fault.empty();
+}
+
 } // namespace
 
 bool confirm(QWidget* parent, const QString& title, const QString& text, QMessageBox::Icon icon,
@@ -43,31 +50,48 @@ void notify(QWidget* parent, const QString& title, const QString& text, QMessage
     show(parent, title, text, icon, QMessageBox::Ok);
 }
 
-bool attempt(QWidget* parent, const std::function<void()>& write)
+FailureWords saving(const QString& what)
+{
+    return {what + " couldn't be saved.", "Nothing that you typed is lost: mend it and save again."};
+}
+
+FailureWords making(const QString& file)
+{
+    return {file + " couldn't be made.", "It doesn't join the list: mend it and make it again."};
+}
+
+FailureWords deleting(const QString& file)
+{
+    return {file + " couldn't be deleted.", "It stays in the list: mend it and delete it again."};
+}
+
+bool attempt(QWidget* parent, const FailureWords& words, const std::function<void()>& write)
 {
     try {
         write();
         return true;
     } catch (const StoreError& error) {
-        tellFailure(parent, parent->window()->windowTitle(), error);
+        tellFailure(parent, parent->window()->windowTitle(), words, error);
         return false;
     }
 }
 
-bool refuseFileName(QWidget* parent, std::string_view name)
-{
-    const std::string fault = fileNameFault(name);
-    if (fault.empty())
-        return false;
-    notify(parent, "Cannot create file", fromBytes(name) + "\n\n" + fromBytes(fault), QMessageBox::Warning);
-    return true;
-}
-
-void tellFailure(QWidget* parent, const QString& title, const StoreError& error)
+void tellFailure(QWidget* parent, const QString& title, const FailureWords& words, const StoreError& error)
 {
     const auto path = QDir::toNativeSeparators(QString::fromStdString(error.path()));
-    notify(parent, title, path + QStringLiteral("\n\n") + QString::fromStdString(error.reason()),
+    const auto reason = QString::fromStdString(error.reason());
+    notify(parent, title, words.failed + ' ' + path + ": " + reason + ". " + words.remedy,
            QMessageBox::Critical);
+}
+
+bool refuseNewFile(QWidget* parent, std::string_view name)
+{
+    return refuse(parent, "Cannot create file", name, fileNameFault(name));
+}
+
+bool refuseListedFile(QWidget* parent, const QString& title, std::string_view name)
+{
+    return refuse(parent, title, name, leavingNameFault(name));
 }
 
 } // namespace quillfen

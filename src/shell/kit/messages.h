@@ -24,13 +24,29 @@ bool askYesNo(QWidget* parent, const QString& title, const QString& text);
 /// A box with OK only.
 void notify(QWidget* parent, const QString& title, const QString& text, QMessageBox::Icon icon);
 
-/// Runs an action that writes, and tells its failure; true if there was none. Title: the parent window's own.
-bool attempt(QWidget* parent, const std::function<void()>& write);
+/// What a box says around the file and the reason of a failed write: what failed, and what to do about it.
+struct FailureWords
+{
+    QString failed;
+    QString remedy;
+};
 
-/// Tells why a name typed for a new file can't be had, or would leave its folder; true if it is refused so.
-bool refuseFileName(QWidget* parent, std::string_view name);
+/// The words of what can fail: the save of what was typed, a new file, a deletion.
+FailureWords saving(const QString& what);
+FailureWords making(const QString& file);
+FailureWords deleting(const QString& file);
+
+/// Runs an action that writes, and tells its failure; true if there was none. Title: the parent window's own.
+bool attempt(QWidget* parent, const FailureWords& words, const std::function<void()>& write);
 
 /// Tells which file or folder could not be written, and why.
-void tellFailure(QWidget* parent, const QString& title, const StoreError& error);
+void tellFailure(QWidget* parent, const QString& title, const FailureWords& words, const StoreError& error);
+
+/// Tells why a name typed for a new file can't be had, or would leave its folder; true if it is refused so.
+bool refuseNewFile(QWidget* parent, std::string_view name);
+
+/// Tells that a name leads out of its folder though it is listed; true if it is refused so. Title: of what
+/// was asked for, such as "Cannot open file".
+bool refuseListedFile(QWidget* parent, const QString& title, std::string_view name);
 
 } // namespace quillfen

@@ -274,8 +274,8 @@ void PermissionGridPart::save()
 RoutineTable PermissionGridPart::routines()
 {
     const auto toggleRow = [this] { toggle(); };
-    return {{routineName("mnuTrueFalse", "True"), toggleRow},
-            {routineName("mnuTrueFalse", "False"), toggleRow}};
+    return {{routineName("mnuTrueFalse", "True"), {toggleRow}},
+            {routineName("mnuTrueFalse", "False"), {toggleRow}}};
 }
 
 void PermissionGridPart::toggle()

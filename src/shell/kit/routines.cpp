@@ -1,5 +1,7 @@
 #include "shell/kit/routines.h"
 
+#include "shell/kit/toolbars.h"
+
 namespace quillfen {
 
 QString routineName(const QString& menu, const QString& item)
@@ -11,6 +13,16 @@ QString routineName(const QString& menu, const QString& item)
     if (menu == "mnuUserActions") // its routines bear no word
         return QStringLiteral("gMenu") + item + QStringLiteral("Click");
     return QStringLiteral("gMenu") + word + item + QStringLiteral("Click");
+}
+
+RoutineTable buttonRoutines(const QString& menu, const QToolBar& toolbar)
+{
+    RoutineTable routines;
+    for (const auto& [item, key] : {std::pair{"Add", "NEW"}, {"Delete", "DELETE"}, {"Edit", "EDIT"}}) {
+        if (auto* pressed = button(toolbar, key))
+            routines.insert(routineName(menu, item), {[pressed] { pressed->trigger(); }, pressed});
+    }
+    return routines;
 }
 
 } // namespace quillfen

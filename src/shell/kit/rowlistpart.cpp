@@ -120,9 +120,7 @@ void RowListPart::save()
 
 RoutineTable RowListPart::routines()
 {
-    return {{routineName(fromBytes(m_declaration.menu), "Add"), [this] { add(); }},
-            {routineName(fromBytes(m_declaration.menu), "Delete"), [this] { removeSelected(); }},
-            {routineName(fromBytes(m_declaration.menu), "Edit"), [this] { edit(); }}};
+    return buttonRoutines(fromBytes(m_declaration.menu), *m_toolbar);
 }
 
 bool RowListPart::isLit(const char* key) const

@@ -88,7 +88,8 @@ QString TextEditDialog::text() const
 
 void TextEditDialog::save()
 {
-    if (!attempt(this, [this] { m_files.WriteSettingsFile(toBytes(m_path->text()), toBytes(text())); }))
+    if (!attempt(this, saving("The text"),
+                 [this] { m_files.WriteSettingsFile(toBytes(m_path->text()), toBytes(text())); }))
         return;
     m_saved = true;
     m_mode = Mode::Edit;

@@ -40,19 +40,6 @@ public:
     }
 };
 
-/// Lets Tab go through a toolbar's buttons in their order, whichever was put in first.
-void letTabFollow(const QToolBar& toolbar)
-{
-    QWidget* before = nullptr;
-    for (auto* action : toolbar.actions()) {
-        auto* button = qobject_cast<QToolButton*>(toolbar.widgetForAction(action));
-        if (button && before)
-            QWidget::setTabOrder(before, button);
-        if (button)
-            before = button;
-    }
-}
-
 void setState(const QToolBar& toolbar, const QStatusBar& statusBar, bool dirty)
 {
     toolbar.actions().at(1)->setEnabled(dirty);
@@ -62,6 +49,25 @@ void setState(const QToolBar& toolbar, const QStatusBar& statusBar, bool dirty)
     statusBar.findChildren<QLabel*>(Qt::FindDirectChildrenOnly)
         .constFirst()
         ->setText(dirty ? QStringLiteral("Controls = Dirty") : QStringLiteral("Controls = Clean"));
+}
+
+/// Lets Tab go along a toolbar's buttons as they stand. A builder may have put its own in front of older
+/// ones.
+void orderTab(const QToolBar& toolbar)
+{
+    QWidget* oldest = nullptr; // the widgets before and behind the toolbar keep their places around this one
+    for (auto* child : toolbar.findChildren<QToolButton*>(Qt::FindDirectChildrenOnly)) {
+        if (!oldest && toolbar.actions().contains(child->defaultAction()))
+            oldest = child;
+    }
+    QWidget* before = oldest;
+    for (auto* action : toolbar.actions()) {
+        auto* each = toolbar.widgetForAction(action);
+        if (action->isSeparator() || each == before)
+            continue;
+        QWidget::setTabOrder(before, each);
+        before = each;
+    }
 }
 
 } // namespace
@@ -104,7 +110,7 @@ void letKeysReachButtons(QWidget& window)
             each->installEventFilter(new DropDownKeys(each));
     }
     for (const auto* toolbar : window.findChildren<QToolBar*>())
-        letTabFollow(*toolbar);
+        orderTab(*toolbar);
 }
 
 void BuildFormToolbar(QToolBar& toolbar, int& index)
@@ -203,7 +209,10 @@ void PlaceChildForm(QStatusBar& statusBar)
     state->setMinimumWidth(twips(1500));
     state->setTextFormat(Qt::PlainText);
     statusBar.addWidget(state);
-    statusBar.addWidget(new QLabel(&statusBar), 1);
+    auto* note = new QLabel(&statusBar);
+    note->setMinimumWidth(1); // a long text is cut, and doesn't widen the form
+    note->setTextFormat(Qt::PlainText);
+    statusBar.addWidget(note, 1);
 }
 
 void ConfirmDiscard(QTreeView& list, QToolBar& toolbar, bool& bDiscardNow)

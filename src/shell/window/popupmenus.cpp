@@ -51,21 +51,44 @@ PopUpMenus::PopUpMenus(std::function<EditorForm*()> activeForm, QWidget* parent)
     addItem(*trueFalse, "mnuTrueFalseFalse", "&False", "gMenuTrueFalseTrueClick");
 
     auto* questions = addMenu("mnuTriviaQuestions"); // its items have no handlers and do nothing
-    for (const char* item : {"Add", "Delete", "Edit"})
-        questions->addAction(QStringLiteral("&") + item)->setObjectName(questions->objectName() + item);
+    for (const char* item : {"Add", "Delete", "Edit"}) {
+        auto* action = questions->addAction(QStringLiteral("&") + item);
+        action->setObjectName(questions->objectName() + item);
+        action->setData(routineName(questions->objectName(), item));
+    }
 }
 
 QMenu* PopUpMenus::addMenu(const QString& name)
 {
     auto* menu = new QMenu(m_owner);
     menu->setObjectName(name);
+    connect(menu, &QMenu::aboutToShow, this, [this, menu] { darken(*menu); });
+    connect(menu, &QMenu::aboutToHide, this, &PopUpMenus::lightAgain);
     return menu;
+}
+
+void PopUpMenus::darken(const QMenu& menu)
+{
+    const EditorForm* form = m_activeForm();
+    for (QAction* item : menu.actions()) {
+        if (!form || form->isLit(item->data().toString()))
+            continue;
+        item->setEnabled(false);
+        m_darkened.append(item);
+    }
+}
+
+void PopUpMenus::lightAgain()
+{
+    for (QAction* item : std::exchange(m_darkened, {}))
+        item->setEnabled(true);
 }
 
 void PopUpMenus::addItem(QMenu& menu, const QString& name, const QString& caption, const QString& routine)
 {
     auto* item = menu.addAction(caption);
     item->setObjectName(name);
+    item->setData(routine);
     connect(item, &QAction::triggered, this, [this, routine] { call(routine); });
 }
 

@@ -5,6 +5,7 @@
 
 #include <QLineEdit>
 #include <QPlainTextEdit>
+#include <QToolButton>
 
 namespace quillfen {
 namespace {
@@ -68,6 +69,15 @@ TEST_F(MassMessageForm, TheToolbarAmendsThePassiveFile)
         keys.append(action->objectName());
     EXPECT_EQ(keys, (QStringList{"AMEND", "EDIT"}));
     EXPECT_EQ(tool(form, "AMEND").toolTip(), "Amend Passive File");
+    immune(form).setFocus();
+    QStringList reached; // by Tab
+    for (int press = 0; press < 3; ++press) {
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        const auto* pressed = qobject_cast<QToolButton*>(QApplication::focusWidget());
+        reached.append(pressed ? pressed->defaultAction()->objectName()
+                               : QApplication::focusWidget()->objectName());
+    }
+    EXPECT_EQ(reached, (QStringList{"lvwPermissions", "AMEND", "EDIT"}));
     test::withModal([&form] { tool(form, "AMEND").trigger(); },
                     [](QWidget& dialog) {
                         EXPECT_EQ(find<QLineEdit>(dialog, "txtPath").text(),

@@ -149,7 +149,7 @@ TEST_P(RotatingForms, ANewFileIsWrittenAndJoinsUnticked)
     EXPECT_EQ(addFile(form, {"Three"}), (QStringList{input, folder + "Three.asc"}));
     EXPECT_EQ(hub.file(texts + "Three.asc"), "new\r\n");
     EXPECT_EQ(ticks(form), (QStringList{"one+", "gone-", "two-", "Three-"}));
-    EXPECT_FALSE(isDirty(form));
+    EXPECT_TRUE(isDirty(form)); // as after every list action
 }
 
 TEST_P(RotatingForms, AFileThatIsNotSavedDoesNotJoin)
@@ -238,6 +238,10 @@ TEST_P(RotatingForms, AFileThatCannotBeDeletedStaysInTheListAndIsTold)
     const auto boxes = answering(QMessageBox::Ok, [&form] { tool(form, "DELETE").trigger(); });
     ASSERT_EQ(boxes.size(), 2);
     EXPECT_EQ(boxes[1].icon, QMessageBox::Critical);
+    EXPECT_EQ(boxes[1].title, window().windowTitle());
+    EXPECT_EQ(boxes[1].text.toStdString(),
+              "one couldn't be deleted. " + hub.root + "/" + texts +
+                  "one.asc: No space left on device. It stays in the list: mend it and delete it again.");
     EXPECT_EQ(list(form).rows().size(), 3U);
     EXPECT_FALSE(isDirty(form));
 }
@@ -250,12 +254,83 @@ TEST_P(RotatingForms, ANameInTheTableThatLeavesTheFolderIsNeitherOpenedNorDelete
     hub.store.log.clear();
     auto boxes = answering(QMessageBox::Ok, [&form] { tool(form, "EDIT").trigger(); });
     ASSERT_EQ(boxes.size(), 1);
-    EXPECT_EQ(boxes[0].title, "Cannot create file");
+    EXPECT_EQ(boxes[0].title, "Cannot open file");
+    EXPECT_EQ(boxes[0].text, "..\\..\\one\n\nThe name leads out of the folder.");
     boxes = answering(QMessageBox::Ok, [&form] { tool(form, "DELETE").trigger(); });
-    ASSERT_EQ(boxes.size(), 2);
-    EXPECT_EQ(boxes[1].title, "Cannot create file");
+    ASSERT_EQ(boxes.size(), 1) << "and nothing was asked before";
+    EXPECT_EQ(boxes[0].title, "Cannot delete");
+    EXPECT_EQ(boxes[0].text, "..\\..\\one\n\nThe name leads out of the folder.");
     EXPECT_TRUE(hub.store.log.empty());
     EXPECT_EQ(list(form).rows().size(), 3U);
+}
+
+TEST_P(RotatingForms, AFileWithANameThatWeWouldNotGiveIsOpenedAndDeleted)
+{
+    for (const char* bad : {" two", "con", "x?y", "dot."}) {
+        hub.file(texts + bad + ".asc") = "text\r\n";
+        auto& form = openForm();
+        answering(QMessageBox::Ok, [&form] { button(form, "DISCARD").trigger(); });
+        clickRow(list(form), rowOf(list(form), bad));
+        QString path;
+        const auto boxes = answering(
+            QMessageBox::Ok, [&form] { tool(form, "EDIT").trigger(); },
+            [&path](QWidget& dialog) {
+                path = find<QLineEdit>(dialog, "txtPath").text();
+                dialog.close();
+            });
+        EXPECT_EQ(path, folder + bad + ".asc");
+        EXPECT_TRUE(boxes.isEmpty()) << bad;
+        EXPECT_EQ(answering(QMessageBox::Ok, [&form] { tool(form, "DELETE").trigger(); }).size(), 1) << bad;
+        EXPECT_FALSE(hub.has(texts + bad + ".asc")) << bad;
+    }
+}
+
+TEST_P(RotatingForms, ANameThatIsListedIsToldSoBeforeItsFault)
+{
+    hub.file(texts + "con.asc") = "text\r\n";
+    EXPECT_EQ(addFile(openForm(), {"con"}), (QStringList{input, "Error|File already exists", input}));
+}
+
+TEST_P(RotatingForms, ARowOpensAndDeletesTheFileThatDiffersInCaseAlone)
+{
+    namesFile = table("\t\"news\",\r\n");
+    hub.file(texts + "NEWS.ASC") = "old\r\n";
+    hub.file(texts + "Hours.Asc") = "old\r\n";
+    auto& form = openForm();
+    clickRow(list(form), rowOf(list(form), "news"));
+    test::withModal([&form] { tool(form, "EDIT").trigger(); },
+                    [](QWidget& dialog) {
+                        auto& text = find<QPlainTextEdit>(dialog, "txtTextBox");
+                        EXPECT_EQ(text.toPlainText(), "old");
+                        text.setPlainText("new");
+                        find<QAction>(dialog, "SAVE").trigger();
+                        dialog.close();
+                    });
+    EXPECT_EQ(hub.file(texts + "NEWS.ASC"), "new\r\n");
+    EXPECT_FALSE(hub.has(texts + "news.asc"));
+    answering(QMessageBox::Ok, [&form] { tool(form, "DELETE").trigger(); });
+    EXPECT_FALSE(hub.has(texts + "NEWS.ASC"));
+    clickRow(list(form), rowOf(list(form), "Hours"));
+    answering(QMessageBox::Ok, [&form] { tool(form, "DELETE").trigger(); });
+    EXPECT_FALSE(hub.has(texts + "Hours.Asc"));
+}
+
+TEST_P(RotatingForms, FilesWhoseNamesCannotBeListedAreNamedInTheSecondPanel)
+{
+    const auto note = [](EditorForm& form) {
+        return find<QStatusBar>(form, "stsStatusBar").findChildren<QLabel*>().at(1)->text();
+    };
+    const std::string path = texts + "\xD0\x96<b>.asc";
+    hub.file(path) = "text\r\n";
+    auto& form = openForm();
+    EXPECT_EQ(note(form),
+              QStringLiteral(u"Not listed: \u0416<b>.asc (the hub script can't read such a name)"));
+    EXPECT_EQ(ticks(form), (QStringList{"one+", "gone-", "two-"}));
+    EXPECT_EQ(find<QStatusBar>(form, "stsStatusBar").findChildren<QLabel*>().at(1)->textFormat(),
+              Qt::PlainText);
+    hub.store.files.erase(hub.root + "/" + path);
+    answering(QMessageBox::Ok, [&form] { button(form, "DISCARD").trigger(); });
+    EXPECT_EQ(note(form), "");
 }
 
 TEST_P(RotatingForms, DeleteAndEditFollowTheRows)

@@ -237,6 +237,30 @@ TEST_F(AsciiIntroForm, AnEditOpensThePictureAndLeavesTheForm)
     EXPECT_FALSE(isDirty(form));
 }
 
+TEST_F(AsciiIntroForm, PicturesThatAreThereAreOpenedAndDeletedUnderTheirOwnNames)
+{
+    file("IntroOutro/Ascii/CAT.ASC") = "=^.^=\r\n";
+    file("IntroOutro/Ascii/con.asc") = "picture\r\n";
+    file("IntroOutro/Ascii/\xD0\x96.asc") = "picture\r\n";
+    auto& form = openForm();
+    QStringList paths;
+    for (const char* name : {"CAT", "con"}) {
+        pictures(form).select(rowOf(pictures(form), name));
+        test::withModal([&form] { button(form, "EDIT", "tlbFiles").trigger(); },
+                        [&paths](QWidget& editor) { paths.append(drawIn(editor, false)); });
+        EXPECT_EQ(
+            deleteRow(form, "lvwFiles", "tlbFiles", rowOf(pictures(form), name), QMessageBox::Ok).size(), 1);
+    }
+    EXPECT_EQ(paths, (QStringList{folder + "CAT.ASC", folder + "con.asc"}));
+    EXPECT_FALSE(has("IntroOutro/Ascii/CAT.ASC"));
+    EXPECT_FALSE(has("IntroOutro/Ascii/con.asc"));
+    EXPECT_TRUE(find<QStatusBar>(form, "stsStatusBar")
+                    .findChildren<QLabel*>()
+                    .at(1)
+                    ->text()
+                    .contains(QStringLiteral(u"\u0416.asc")));
+}
+
 TEST_F(AsciiIntroForm, APictureInUseStaysUntilEveryUserThatHasItHasGone)
 {
     usersFile = "tAsciiIntro = {\r\n\t[\"bob\"] = \"owl\",\r\n\t[\"merle\"] = \"owl\",\r\n}\r\n";

@@ -5,6 +5,7 @@
 
 #include <QAbstractSpinBox>
 #include <QCheckBox>
+#include <QMenu>
 #include <QPlainTextEdit>
 #include <QSlider>
 
@@ -531,6 +532,7 @@ TEST_P(WordFiles, AFailedSaveKeepsTheListOpen)
     const auto boxes = answering(QMessageBox::Ok, [&form] { tool(form, "SAVE").trigger(); });
     ASSERT_EQ(boxes.size(), 1);
     EXPECT_EQ(boxes[0].icon, QMessageBox::Critical);
+    EXPECT_TRUE(boxes[0].text.startsWith("The words' file couldn't be saved. "));
     EXPECT_EQ(words(form), (QStringList{"alpha", "beta"}));
     EXPECT_EQ(lit(form), "011111");
 }
@@ -544,6 +546,25 @@ TEST_P(WordLists, TheGamesOwnMenuServesTheWords)
     entering({{{"gamma"}}}, [this] { find<QAction>(window(), QString(game.menu) + "Add").trigger(); });
     entering({{{"GAMMA"}}}, [this] { find<QAction>(window(), QString(game.menu) + "Edit").trigger(); });
     EXPECT_EQ(shown(list(form)), (QStringList{"beta", "GAMMA"}));
+}
+
+TEST_P(WordFiles, TheMenuIsLitAsTheButtonsAre)
+{
+    auto& form = openForm();
+    const auto litOfMenu = [&] {
+        auto* menu = window().popUpMenu(game.menu);
+        emit list(form).menuAsked({0, 0});
+        QString keys;
+        for (const auto* item : menu->actions())
+            keys += item->isEnabled() ? '1' : '0';
+        menu->hide();
+        return keys;
+    };
+    EXPECT_EQ(litOfMenu(), "000") << "a closed list";
+    tool(form, "OPEN").trigger();
+    EXPECT_EQ(litOfMenu(), "111");
+    answering(QMessageBox::Ok, [&form] { tool(form, "CLOSE").trigger(); });
+    EXPECT_EQ(litOfMenu(), "000");
 }
 
 TEST_P(WordLists, ADiscardOfTheFormLeavesTheWordsAlone)

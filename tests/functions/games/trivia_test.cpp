@@ -132,6 +132,15 @@ TEST_F(Trivia, QuestionsAreRowsOfTwoPieces)
     EXPECT_EQ(loadTriviaQuestions(hub.files, "zoo"), rows);
 }
 
+TEST_F(Trivia, AQuestionFileThatDiffersInCaseAloneIsReadAndTheToldOneWritten)
+{
+    hub.file("Games/Trivia/QuestionFiles/BIRDS.LST") = "Birds:Big?*ostrich\r\n";
+    const std::vector<CellRow> rows = {{{"Birds:Big?", "ostrich"}}};
+    EXPECT_EQ(loadTriviaQuestions(hub.files, "BIRDS"), rows);
+    saveTriviaQuestions(hub.files, "BIRDS", rows);
+    EXPECT_TRUE(hub.has("Games/Trivia/QuestionFiles/BIRDS.lst"));
+}
+
 TEST_F(Trivia, ANewQuestionFileHasOneRowAndNoLineEndOfItsOwn)
 {
     createTriviaQuestions(hub.files, "new");

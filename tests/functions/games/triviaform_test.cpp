@@ -87,6 +87,20 @@ TEST_F(TriviaForm, SavesEditsInTheFormsOrder)
     EXPECT_FALSE(isDirty(form));
 }
 
+TEST_F(TriviaForm, TabLandsOnTheChosenOptionOfAGroup)
+{
+    settings = golden("games/TriviaSettings.save.tbl");
+    auto& form = open("Games~Trivia~Settings");
+    QSet<QWidget*> met;
+    for (int press = 0; press < 60; ++press) {
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        met.insert(QApplication::focusWidget());
+    }
+    for (int place = 0; place < 5; ++place)
+        EXPECT_EQ(met.contains(&option(form, place)), option(form, place).isChecked()) << place;
+    EXPECT_TRUE(option(form, 2).isChecked());
+}
+
 TEST_F(TriviaForm, ANumberIsChangedByItsArrowsOnly)
 {
     auto& form = open("Games~Trivia~Settings");
@@ -371,6 +385,9 @@ TEST_F(TriviaQuestions, OneQuestionMustStay)
     EXPECT_EQ(boxes[0].text, "There must be a minimum of one Question");
     EXPECT_EQ(boxes[0].icon, QMessageBox::Critical);
     EXPECT_EQ(questions(form).rows().size(), 1U);
+    questions(form).clearSelection();
+    boxes = answering(QMessageBox::Ok, [&form] { tool(form, "DELETE").trigger(); });
+    EXPECT_EQ(boxes.value(0).text, "There must be a minimum of one Question");
 }
 
 TEST_F(TriviaQuestions, ASaveGoesToTheSelectedFileAndMakesTheFormDirty)
@@ -488,7 +505,10 @@ TEST_F(TriviaQuestions, ANewFileThatCantBeWrittenIsToldAndNotListed)
     hub.store.failingCall = static_cast<int>(hub.store.log.size());
     const auto boxes = newFile(form, "foo");
     ASSERT_EQ(boxes.size(), 1);
-    EXPECT_TRUE(boxes[0].text.contains("foo.lst"));
+    EXPECT_EQ(boxes[0].text.toStdString(),
+              "foo couldn't be made. " + hub.root +
+                  "/Games/Trivia/QuestionFiles/foo.lst: No space left on device. It doesn't join the list: "
+                  "mend it and make it again.");
     EXPECT_EQ(files(form).rows().size(), 3U);
     EXPECT_FALSE(isDirty(form));
 }
@@ -591,6 +611,48 @@ TEST_F(TriviaQuestions, OneFileMustStay)
     EXPECT_EQ(boxes[0].title, "Cannot delete");
     EXPECT_EQ(boxes[0].text, "There must be a minimum of one Question File");
     EXPECT_EQ(boxes[0].icon, QMessageBox::Critical);
+    files(form).clearSelection();
+    EXPECT_EQ(answering(QMessageBox::Ok, [&form] { fileTool(form, "DELETE").trigger(); }).value(0).text,
+              "There must be a minimum of one Question File");
+}
+
+TEST_F(TriviaQuestions, AFileThatLeadsOutOfTheFolderIsNeitherOpenedNorSaved)
+{
+    table = "tTriviaQuestionFiles = {\r\n\tsDefaultQuestionFile = \"..\\x\",\r\n\t\"con\",\r\n}\r\n";
+    lst("con") = "Con:Q?*a\r\n";
+    auto& form = openForm();
+    load(form, "con"); // a bad name that stays there
+    EXPECT_EQ(shown(questions(form)), QStringList{"Con:Q?|a"});
+    const auto boxes = load(form, "..\\x");
+    ASSERT_EQ(boxes.size(), 1);
+    EXPECT_EQ(boxes[0].title, "Cannot open file");
+    EXPECT_EQ(shown(questions(form)), QStringList{"Con:Q?|a"});
+    addQuestion(form, {"Con", "R?", "b"});
+    hub.store.log.clear();
+    const auto refusals = answering(QMessageBox::Ok, [&form] { tool(form, "SAVE").trigger(); });
+    ASSERT_EQ(refusals.size(), 1);
+    EXPECT_EQ(refusals[0].title, "Cannot save file");
+    EXPECT_TRUE(hub.store.log.empty());
+    EXPECT_TRUE(tool(form, "SAVE").isEnabled());
+}
+
+TEST_F(TriviaQuestions, TheirMenuIsLitAsTheButtonsAre)
+{
+    auto& form = openForm();
+    const auto lit = [&](RowList& list, const QString& menu) {
+        emit list.menuAsked({0, 0});
+        QString keys;
+        for (const auto* item : window().popUpMenu(menu)->actions())
+            keys += item->isEnabled() ? '1' : '0';
+        window().popUpMenu(menu)->hide();
+        return keys;
+    };
+    EXPECT_EQ(lit(questions(form), "mnuTriviaQuestions"), "000");
+    EXPECT_EQ(lit(files(form), "mnuFirst"), "111");
+    load(form, "zoo");
+    EXPECT_EQ(lit(questions(form), "mnuTriviaQuestions"), "111");
+    newFile(form, "foo");
+    EXPECT_EQ(lit(questions(form), "mnuTriviaQuestions"), "101"); // DELETE went out
 }
 
 TEST_F(TriviaQuestions, TheMenuOfTheQuestionsDoesNothingThoughTheFormServesItsRoutines)

@@ -58,6 +58,13 @@ TEST_F(Languages, ALanguageIsLaidOverTheReference)
               "ban");
 }
 
+TEST_F(Languages, AFileThatDiffersInCaseAloneIsTheLanguages)
+{
+    hub.file("Language/Commands/Files/Default.TBL") = "tScriptCommands = {\r\n\tsHelp = \"help\",\r\n}\r\n";
+    hub.file("Language/Commands/Files/FRENCH.TBL") = "tScriptCommands = {\r\n\tsHelp = \"aide\",\r\n}\r\n";
+    EXPECT_EQ(loadLanguageTexts(hub.files, commands, "FRENCH"), (std::vector<CellRow>{{{"sHelp", "aide"}}}));
+}
+
 TEST_F(Languages, EachSetHasItsOwnFilesAndTables)
 {
     struct Expected

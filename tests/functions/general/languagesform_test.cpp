@@ -88,6 +88,21 @@ protected:
                         });
     }
 
+    /// The names that a file dialog lists, once it has read its folder.
+    static QStringList listedFiles(QFileDialog& dialog)
+    {
+        auto* list = dialog.findChild<QAbstractItemView*>("listView");
+        QStringList names;
+        EXPECT_TRUE(QTest::qWaitFor([&] {
+            names.clear();
+            for (int row = 0; row < list->model()->rowCount(list->rootIndex()); ++row)
+                names.append(list->model()->index(row, 0, list->rootIndex()).data().toString());
+            return names.size() > 1;
+        }));
+        names.sort();
+        return names;
+    }
+
     /// What is lit of the texts' toolbar.
     static QStringList lit(EditorForm& form)
     {
@@ -228,11 +243,30 @@ TEST_P(LanguageForms, EditAllShowsTheDialogForEachRow)
     EXPECT_EQ(shown(texts(form)), (QStringList{"sHelp|a", "sKick|b"}));
 }
 
-TEST_P(LanguageForms, EditAllEndsAtACancel)
+TEST_P(LanguageForms, EditAllGoesOnAfterACancel)
 {
     auto& form = openForm();
     edit(form, "german");
-    typing({""}, [&form] { textTool(form, "EDITALL").trigger(); });
+    typing({"", "b"}, [&form] { textTool(form, "EDITALL").trigger(); });
+    EXPECT_EQ(shown(texts(form)), (QStringList{"sHelp|help", "sKick|b"}));
+}
+
+TEST_P(LanguageForms, EditAllEndsWhenItsDialogIsClosed)
+{
+    auto& form = openForm();
+    edit(form, "german");
+    const QList<std::function<void(QWidget&)>> closings = {
+        [](QWidget& dialog) { dialog.close(); },
+        [](QWidget& dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); }};
+    for (const auto& close : closings) {
+        int dialogs = 0;
+        test::withModal([&form] { textTool(form, "EDITALL").trigger(); },
+                        [&](QWidget& dialog) {
+                            ++dialogs;
+                            close(dialog);
+                        });
+        EXPECT_EQ(dialogs, 1);
+    }
     EXPECT_EQ(shown(texts(form)), (QStringList{"sHelp|help", "sKick|tritt"}));
 }
 
@@ -280,6 +314,21 @@ TEST_P(LanguageForms, OneLanguageIsEditedAtATime)
     EXPECT_EQ(boxes[0].title, "Cannot Edit");
     EXPECT_EQ(boxes[0].text, "There is already a file being edited");
     EXPECT_EQ(texts(form).property("tag").toString(), "GERMAN");
+    files(form).clearSelection();
+    EXPECT_EQ(answering(QMessageBox::Ok, [&form] { fileTool(form, "EDIT").trigger(); }).value(0).title,
+              "Cannot Edit");
+}
+
+TEST_P(LanguageForms, ALanguageThatLeadsOutOfItsFolderIsNotOpened)
+{
+    list = std::string(words.table) + " = {\r\n\t[1] = \"..\\..\\x\",\r\n\t[2] = \"con\",\r\n}\r\n";
+    auto& form = openForm();
+    const auto boxes = answering(QMessageBox::Ok, [&form] { edit(form, "..\\..\\x"); });
+    ASSERT_EQ(boxes.size(), 1);
+    EXPECT_EQ(boxes[0].title, "Cannot open file");
+    EXPECT_TRUE(texts(form).isEmpty());
+    edit(form, "con"); // a bad name that stays there
+    EXPECT_EQ(texts(form).property("tag").toString(), "CON");
 }
 
 TEST_P(LanguageForms, ClosingALanguageAsksAndACancelLeavesItOpen)
@@ -424,9 +473,28 @@ TEST_P(LanguageForms, OpenStartsInTheSetsFolderAndACancelAddsNothing)
     form->open();
     const auto offered = test::offeredFiles([&form] { fileTool(*form, "OPEN").trigger(); });
     EXPECT_EQ(offered.folder, folder);
-    EXPECT_EQ(offered.filters, QStringList{"(*.TBL *.tbl)"});
+    EXPECT_EQ(offered.filters, QStringList{"(*.TBL)"});
     EXPECT_TRUE(files(*form).isEmpty());
     EXPECT_FALSE(form->isDirty());
+}
+
+TEST_P(LanguageForms, OpenListsLanguageFilesInWhateverCase)
+{
+    QTemporaryDir folder;
+    for (const char* name : {"/spanish.tbl", "/FRENCH.TBL", "/notes.txt"}) {
+        QFile made(folder.path() + name);
+        ASSERT_TRUE(made.open(QIODevice::WriteOnly));
+    }
+    auto& form = openForm();
+    QStringList listed;
+    test::withModal([&form] { fileTool(form, "OPEN").trigger(); },
+                    [&](QWidget& modal) {
+                        auto* dialog = qobject_cast<QFileDialog*>(&modal);
+                        dialog->setDirectory(folder.path());
+                        listed = listedFiles(*dialog);
+                        dialog->reject();
+                    });
+    EXPECT_EQ(listed, (QStringList{"FRENCH.TBL", "spanish.tbl"}));
 }
 
 TEST_P(LanguageForms, TheLanguagesMenuServesThem)

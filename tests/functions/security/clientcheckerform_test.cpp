@@ -45,7 +45,7 @@ TEST_F(ClientCheckerForm, SavesBothFiles)
     tick(form, "lvwEnabledProfiles", {2, 3});
     tick(form, "lvwBlockedTypes", {1, 3});
     const auto seen = entering({{{"QuickShare", "0.707", "True"}, "cmdAdd"},
-                                {{"OldShare", " 1.00 ", "False"}, "cmdAdd"},
+                                {{"OldShare", "1.00", "False"}, "cmdAdd"},
                                 {{"AnyShare", "1", "True"}}},
                                [&form] { clientButton(form, "NEW").trigger(); });
     ASSERT_EQ(seen.size(), 3);
@@ -95,6 +95,15 @@ TEST_F(ClientCheckerForm, AnEditTrimsWhatItShowsAndWhatItTakes)
     ASSERT_EQ(seen.size(), 1);
     EXPECT_EQ(seen[0].values, (QStringList{"a", "2", "True"}));
     EXPECT_EQ(shown(clients(form)), QStringList{"a|3|True"});
+}
+
+TEST_F(ClientCheckerForm, ANewClientKeepsItsBlanksAsTyped)
+{
+    auto& form = open("Security~ClientChecker");
+    entering({{{" a ", " 1 ", "True"}}}, [&form] { clientButton(form, "NEW").trigger(); });
+    EXPECT_EQ(shown(clients(form)), QStringList{" a | 1 |True"});
+    save(form);
+    EXPECT_TRUE(sameBytes(versions, "tClientVersions = {\r\n\t[\" a \"] = \"1^ 1 \",\r\n}\r\n"));
 }
 
 TEST_F(ClientCheckerForm, ANewClientNeedsAllThreeFields)

@@ -198,9 +198,44 @@ TEST_F(AsciiForm, ARowWhoseNameLeavesTheFolderIsNotDeleted)
     pictures(form).select(0);
     hub.store.log.clear();
     const auto boxes = answering(QMessageBox::Ok, [&] { button(form, "DELETE", "tlbFiles").trigger(); });
-    ASSERT_EQ(boxes.size(), 2);
+    ASSERT_EQ(boxes.size(), 1) << "and nothing was asked before";
+    EXPECT_EQ(boxes[0].title, "Cannot delete");
     EXPECT_TRUE(hub.store.log.empty());
     EXPECT_EQ(pictures(form).rows().size(), 1U);
+    EXPECT_EQ(drawing(form, "EDIT", {R"(..\..\x)", "x", "y"}, "(O,O)").value(1).section('|', 1),
+              "Cannot open file");
+    EXPECT_TRUE(hub.store.log.empty());
+}
+
+TEST_F(AsciiForm, APictureThatIsListedOrThereKeepsANameThatWeWouldNotGive)
+{
+    index = "tAsciiIndex = {\r\n\t[1] = {\r\n\t\tsFilename = \"con\",\r\n\t},\r\n}\r\n";
+    hub.file("UserActions/Ascii/Ascii/owl?.asc") = "(o,o)\r\n";
+    auto& form = open("UserActions~Ascii");
+    pictures(form).select(0);
+    EXPECT_EQ(drawing(form, "EDIT", {"con", "Con", "Men"}, "(!)").value(2),
+              R"(UserActions\Ascii\Ascii\con.asc)");
+    EXPECT_EQ(drawing(form, "NEW", {"owl?", "Owl", "Birds"}, "(O,O)").value(2),
+              R"(UserActions\Ascii\Ascii\owl?.asc)");
+    EXPECT_EQ(shown(pictures(form)), (QStringList{"con|Con|Men", "owl?|Owl|Birds"}));
+    for (int row = 0; row < 2; ++row) {
+        pictures(form).select(0);
+        answering(QMessageBox::Ok, [&] { button(form, "DELETE", "tlbFiles").trigger(); });
+    }
+    EXPECT_FALSE(hub.has("UserActions/Ascii/Ascii/con.asc"));
+    EXPECT_FALSE(hub.has("UserActions/Ascii/Ascii/owl?.asc"));
+}
+
+TEST_F(AsciiForm, ARowOpensAndDeletesThePictureThatDiffersInCaseAlone)
+{
+    index = golden("useractions/AsciiIndex.save.tbl");
+    hub.file("UserActions/Ascii/Ascii/OWL.ASC") = "(o,o)\r\n";
+    auto& form = open("UserActions~Ascii");
+    pictures(form).select(0);
+    EXPECT_EQ(drawing(form, "EDIT", {"owl", "Old Owl", "Birds"}, "(O,O)").value(2),
+              R"(UserActions\Ascii\Ascii\OWL.ASC)");
+    answering(QMessageBox::Ok, [&] { button(form, "DELETE", "tlbFiles").trigger(); });
+    EXPECT_FALSE(hub.has("UserActions/Ascii/Ascii/OWL.ASC"));
 }
 
 TEST_F(AsciiForm, AFailedDeleteIsToldAndKeepsTheRow)

@@ -112,6 +112,14 @@ TEST_F(Spells, ASpellOfOnePhraseIsWrittenEmptyAfterOneGathering)
     EXPECT_EQ(hub.file("UserActions/Spells/Spells/frog.tbl"), "tSpell = {\r\n}\r\n");
 }
 
+TEST_F(Spells, PhrasesAreReadFromAFileThatDiffersInCaseAlone)
+{
+    hub.file("UserActions/Spells/Spells/FROG.TBL") = "tSpell = {\r\n\t\"a\",\r\n}\r\n";
+    const auto phrases = loadPhrases(spellBook(), "frog", hub.files);
+    ASSERT_EQ(phrases.size(), 1U);
+    EXPECT_EQ(phrases[0].cells.front(), "a");
+}
+
 TEST_F(Spells, ASpellThatWasNotAmendedKeepsItsFile)
 {
     hub.file("UserActions/Spells/Spells/frog.tbl") = "the owner's";

@@ -390,7 +390,20 @@ TEST_F(SpellForms, ASpellOfAHandMadeBookThatLeavesTheFolderIsNotAmended)
     spells(form).select(0);
     const auto boxes = answering(QMessageBox::Ok, [&] { spellButton(form, "AMEND").trigger(); });
     ASSERT_EQ(boxes.size(), 1);
+    EXPECT_EQ(boxes[0].title, "Cannot open file");
     EXPECT_FALSE(phraseButton(form, "NEW").isEnabled());
+}
+
+TEST_F(SpellForms, ASpellOfTheBookKeepsANameThatWeWouldNotGive)
+{
+    hub.file("UserActions/Spells/SpellBook.tbl") = "tSpellBook = {\r\n\t[\"con\"] = \"a\",\r\n}\r\n";
+    hub.file("UserActions/Spells/Spells/con.tbl") = "tSpell = {\r\n\t\"x\",\r\n}\r\n";
+    auto& form = open("UserActions~Spells~SpellBook");
+    spells(form).select(0);
+    entering({{{QString(), "b"}}}, [&] { spellButton(form, "EDIT").trigger(); });
+    EXPECT_EQ(shown(spells(form)), QStringList{"con|b"});
+    amend(form, 0);
+    EXPECT_EQ(shown(phrases(form)), QStringList{"x"});
 }
 
 TEST_F(SpellForms, ASpellRenamedWhileItIsAmendedStaysTheOneAmended)

@@ -33,7 +33,7 @@ void WordListPart::saveFile()
         notify(&list(), "Questions needed", "You must specify some questions", QMessageBox::Warning);
         return;
     }
-    if (!attempt(&list(), [this] { RowListPart::save(); }))
+    if (!attempt(&list(), saving("The words' file"), [this] { RowListPart::save(); }))
         return;
     bool bDiscardNow = true;                        // what is shown is in the file: nothing to ask
     ConfirmDiscard(list(), toolbar(), bDiscardNow); // leaves the sixth button, EDIT, lit
