@@ -1,5 +1,6 @@
 #include "settings/declaration.h"
 #include "shell/kit/editdialog.h"
+#include "shell/kit/inputbox.h"
 #include "shell/kit/permissiongridpart.h"
 #include "shell/kit/rowlist.h"
 #include "shell/kit/rowlistpart.h"
@@ -172,6 +173,29 @@ TEST_F(FormOf, ALineEndNeverGetsThroughAnEditDialog)
             EXPECT_EQ(box.text(), "1 2") << static_cast<int>(how);
         }
     }
+}
+
+TEST_F(FormOf, ALineEndNeverGetsThroughAnInputBox)
+{
+    for (const Entering how : {Entering::Paste, Entering::Drop, Entering::InputMethod}) {
+        std::string answer;
+        test::withModal([&answer] { answer = askText(nullptr, "Enter filename", "Name:"); },
+                        [how](QWidget& modal) {
+                            auto* box = qobject_cast<QInputDialog*>(&modal);
+                            EXPECT_EQ(box->windowTitle(), "Enter filename");
+                            EXPECT_EQ(box->labelText(), "Name:");
+                            enter(*box->findChild<QLineEdit*>(), QStringLiteral(u"my\r\n\u0416file"), how);
+                            box->accept();
+                        });
+        EXPECT_EQ(answer, "my file") << static_cast<int>(how);
+    }
+    std::string answer = "before";
+    test::withModal([&answer] { answer = askText(nullptr, "Enter filename", "Name:"); },
+                    [](QWidget& modal) {
+                        qobject_cast<QInputDialog*>(&modal)->setTextValue("file");
+                        modal.close();
+                    });
+    EXPECT_EQ(answer, "") << "of a box that was closed";
 }
 
 TEST_F(FormOf, TheWheelOverAComboBoxWithoutFocusChangesNothing)

@@ -143,7 +143,7 @@ TEST(Toolbars, TabGoesAlongTheButtonsAsTheyStand)
     index = 0;
     addButton(*toolbar, index, "OPEN", "Open", "open");
     AddAmendButton(*toolbar, index);
-    letTabReachButtons(window);
+    letKeysReachButtons(window);
     QStringList keys;
     for (QWidget* each = window.nextInFocusChain(); each != &window; each = each->nextInFocusChain()) {
         const auto* pressed = qobject_cast<QToolButton*>(each);

@@ -9,6 +9,7 @@
 #include "shell/kit/editdialog.h"
 #include "shell/kit/editorform.h"
 #include "shell/kit/hourglass.h"
+#include "shell/kit/inputbox.h"
 #include "shell/kit/labels.h"
 #include "shell/kit/messages.h"
 #include "shell/kit/rowlist.h"
@@ -18,7 +19,6 @@
 #include <QFileInfo>
 #include <QFormLayout>
 #include <QHeaderView>
-#include <QInputDialog>
 #include <QSplitter>
 #include <QToolBar>
 #include <QVBoxLayout>
@@ -204,8 +204,7 @@ void QuestionsPart::addFile(const std::string& name)
 
 void QuestionsPart::createFile()
 {
-    const std::string name =
-        codepage::lowered(toBytes(QInputDialog::getText(m_widget, "Enter filename", "Enter filename")));
+    const std::string name = codepage::lowered(askText(m_widget, "Enter filename", "Enter filename"));
     if (name.empty())
         return;
     const auto& rows = m_fileList->rows();

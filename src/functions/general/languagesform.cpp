@@ -6,6 +6,7 @@
 #include "shell/kit/codepagetext.h"
 #include "shell/kit/editdialog.h"
 #include "shell/kit/editorform.h"
+#include "shell/kit/inputbox.h"
 #include "shell/kit/labels.h"
 #include "shell/kit/messages.h"
 #include "shell/kit/rowlist.h"
@@ -14,7 +15,6 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QHeaderView>
-#include <QInputDialog>
 #include <QSplitter>
 #include <QToolBar>
 
@@ -174,8 +174,7 @@ void LanguagesPart::choose(int row)
 
 void LanguagesPart::newLanguage()
 {
-    const std::string name =
-        toBytes(QInputDialog::getText(m_widget, word(m_set.newTitle), word(m_set.newPrompt)));
+    const std::string name = askText(m_widget, word(m_set.newTitle), word(m_set.newPrompt));
     if (name.empty() || refuseNewFile(m_widget, name))
         return;
     m_readOnly = false;

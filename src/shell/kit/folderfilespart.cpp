@@ -5,11 +5,10 @@
 #include "settings/tablefile.h"
 #include "settings/textfolder.h"
 #include "shell/kit/codepagetext.h"
+#include "shell/kit/inputbox.h"
 #include "shell/kit/messages.h"
 #include "shell/kit/rowlist.h"
 #include "shell/kit/textedit.h"
-
-#include <QInputDialog>
 
 #include <algorithm>
 
@@ -33,14 +32,8 @@ void FolderFilesPart::load()
                   : "Not listed: " + unlisted.join(", ") + " (the hub script can't read such a name)");
 }
 
-bool FolderFilesPart::isGoodName(const QString& typed)
+bool FolderFilesPart::isGoodName(const std::string& name)
 {
-    const std::string name = toBytes(typed);
-    if (fromBytes(name) != typed) {
-        notify(widget(), "Cannot create file", typed + " has characters that the hub script can't read",
-               QMessageBox::Warning);
-        return false;
-    }
     // Only the typed name is lowered: it is refused for a row "hello", and not for a row "Hello".
     if (std::any_of(rows().begin(), rows().end(),
                     [&](const CellRow& row) { return row.cells[0] == codepage::lowered(name); })) {
@@ -59,12 +52,9 @@ std::string FolderFilesPart::askName()
 {
     const RowDialog& words = declaration().dialog;
     for (;;) {
-        const QString typed =
-            QInputDialog::getText(widget(), fromBytes(words.addTitle), fromBytes(words.labels.front()));
-        if (typed.isEmpty())
-            return {};
-        if (isGoodName(typed))
-            return toBytes(typed);
+        std::string name = askText(widget(), fromBytes(words.addTitle), fromBytes(words.labels.front()));
+        if (name.empty() || isGoodName(name))
+            return name;
     }
 }
 

@@ -25,7 +25,7 @@ protected:
 
 private:
     std::string askName();
-    bool isGoodName(const QString& typed);
+    bool isGoodName(const std::string& name);
     std::string pathOf(const CellRow& row) const;
 
     std::string m_folder;

@@ -176,10 +176,10 @@ TEST_P(RotatingForms, ANameThatNoFileCanHaveIsRefused)
 {
     auto& form = openForm();
     const auto seen = addFile(form, {"..\\one", "a:b", QStringLiteral(u"\u0416")});
-    ASSERT_EQ(seen.size(), 7);
+    ASSERT_EQ(seen.size(), 5)
+        << "a character that the code page lacks can't be typed: the last answer is empty";
     EXPECT_EQ(seen[1], "Cannot create file|..\\one\n\nA file name can't hold any of \\ / : * ? \" < > |");
-    EXPECT_EQ(seen[5],
-              QStringLiteral(u"Cannot create file|\u0416 has characters that the hub script can't read"));
+    EXPECT_EQ(seen[4], input);
     EXPECT_EQ(list(form).rows().size(), 3U);
 }
 

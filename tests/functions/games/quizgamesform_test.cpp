@@ -553,7 +553,7 @@ TEST_P(WordFiles, TheMenuIsLitAsTheButtonsAre)
     auto& form = openForm();
     const auto litOfMenu = [&] {
         auto* menu = window().popUpMenu(game.menu);
-        emit list(form).menuAsked({0, 0});
+        emit list(form).menuAsked({0, 0}, true);
         QString keys;
         for (const auto* item : menu->actions())
             keys += item->isEnabled() ? '1' : '0';

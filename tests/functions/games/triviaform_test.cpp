@@ -640,7 +640,7 @@ TEST_F(TriviaQuestions, TheirMenuIsLitAsTheButtonsAre)
 {
     auto& form = openForm();
     const auto lit = [&](RowList& list, const QString& menu) {
-        emit list.menuAsked({0, 0});
+        emit list.menuAsked({0, 0}, true);
         QString keys;
         for (const auto* item : window().popUpMenu(menu)->actions())
             keys += item->isEnabled() ? '1' : '0';
