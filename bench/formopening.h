@@ -37,8 +37,8 @@ private:
 inline QStringList builtKeys()
 {
     std::set<QString> names;
-    for (const FormMaker& maker : formCatalogue())
-        names.insert(maker.name);
+    for (const FormDeclaration& form : formCatalogue())
+        names.insert(form.form.name);
     QStringList keys;
     for (const QString& key : formKeys()) {
         if (names.count(formName(key)) > 0)

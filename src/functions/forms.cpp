@@ -8,14 +8,19 @@
 #include "functions/security/forms.h"
 #include "functions/useractions/forms.h"
 #include "news/newsform.h"
-#include "portal/portalform.h"
+#include "portal/portalpart.h"
 
 namespace quillfen {
 
 const FormCatalogue& formCatalogue()
 {
     static const FormCatalogue catalogue = [] {
-        FormCatalogue all = {{"frmGeneralNews", makeNewsForm}, {"frmCommunicationPortal", makePortalForm}};
+        FormCatalogue all = {{{"frmGeneralNews", "General ~ News", {6000, 4500}}, {newsPart()}},
+                             {{.name = "frmCommunicationPortal",
+                               .caption = "Communication ~ Portal",
+                               .minimumTwips = {6000, 6600},
+                               .hasRestore = false},
+                              {ownPart<PortalPart>()}}};
         for (const auto& group : {generalForms(), communicationForms(), customiseForms(), gamesForms(),
                                   securityForms(), useractionsForms(), archiveForms()})
             all.insert(all.end(), group.begin(), group.end());

@@ -3,7 +3,6 @@
 #include "news/news.h"
 #include "settings/tablefile.h"
 #include "shell/kit/codepagetext.h"
-#include "shell/kit/editorform.h"
 #include "shell/kit/labels.h"
 #include "shell/kit/messages.h"
 #include "shell/kit/rowlist.h"
@@ -116,11 +115,9 @@ private:
 
 } // namespace
 
-EditorForm* makeNewsForm(const FormContext& context)
+OwnPart newsPart()
 {
-    auto* form = new EditorForm({"frmGeneralNews", "General ~ News", {6000, 4500}});
-    form->add(new NewsPart(context));
-    return form;
+    return ownPart<NewsPart>();
 }
 
 } // namespace quillfen

@@ -1,11 +1,10 @@
 #pragma once
 
+#include "shell/kit/declaredforms.h"
+
 namespace quillfen {
 
-class EditorForm;
-struct FormContext;
-
 /// The archive of the news: articles are read and deleted here, and never changed.
-EditorForm* makeNewsForm(const FormContext& context);
+OwnPart newsPart();
 
 } // namespace quillfen

@@ -35,7 +35,7 @@ public:
     RoutineTable routines() override;
 
     /// Ends the sockets, without a word to the hubs.
-    void endLinks() { m_live->end(); }
+    void close() override { m_live->end(); }
 
     const LiveLinks& links() const { return *m_live; }
 

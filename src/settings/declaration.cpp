@@ -4,7 +4,6 @@
 #include "settings/tablefile.h"
 
 #include <algorithm>
-#include <set>
 
 namespace quillfen {
 namespace {
@@ -256,24 +255,6 @@ void saveTableFile(const TableFile& file, const SettingValues& values, const Set
     if (file.makesFolder && !files.store().exists(folder))
         files.store().makeFolder(folder);
     files.WriteSettingsFile(file.path, composed(file, values, RowOrder::Save, profiles));
-}
-
-std::vector<std::string> faults(const TableFile& file)
-{
-    std::vector<std::string> found;
-    std::multiset<std::string> keys;
-    for (const Setting& setting : file.settings) {
-        if (!setting.idle)
-            keys.insert(setting.key);
-    }
-    for (const std::string& key : std::set<std::string>(keys.begin(), keys.end())) {
-        if (keys.count(key) > 1)
-            found.push_back("key twice: " + key);
-    }
-    const std::multiset<std::string> ordered(file.rebuildOrder.begin(), file.rebuildOrder.end());
-    if (!ordered.empty() && ordered != keys)
-        found.emplace_back("the rebuild's order doesn't name each key once");
-    return found;
 }
 
 } // namespace quillfen

@@ -69,8 +69,4 @@ void rebuildTableFile(const TableFile& file, const SettingsFiles& files, const H
 void saveTableFile(const TableFile& file, const SettingValues& values, const SettingsFiles& files,
                    const HubProfiles& profiles);
 
-/// What is wrong with a declaration: a key named twice, a rebuild order that misses a key. Empty if nothing
-/// is.
-std::vector<std::string> faults(const TableFile& file);
-
 } // namespace quillfen

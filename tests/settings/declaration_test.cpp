@@ -169,17 +169,6 @@ TEST_F(Declaration, TheRowsAloneHaveNeitherOpeningLineNorBrace)
     EXPECT_EQ(composedRows(file, {{"bFlag", "0"}}, RowOrder::Save, hub.profiles), "\tbFlag = 0,\r\n");
 }
 
-TEST_F(Declaration, FaultsAreFound)
-{
-    EXPECT_TRUE(faults(sample()).empty());
-    TableFile twice = sample();
-    twice.settings.push_back(twice.settings.front());
-    EXPECT_EQ(faults(twice).size(), 2U);
-    TableFile shortOrder = sample();
-    shortOrder.rebuildOrder.pop_back();
-    EXPECT_EQ(faults(shortOrder).size(), 1U);
-}
-
 /// A file of one setting.
 TableFile only(Setting setting)
 {

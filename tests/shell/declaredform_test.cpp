@@ -17,11 +17,7 @@ class DeclaredForm : public test::FormTest
 protected:
     DeclaredForm()
     {
-        forms.push_back({"frmGamesAnagrams", [this](const FormContext& context) {
-                             auto* form = new EditorForm({"frmGamesAnagrams", "Games ~ Anagrams"});
-                             form->add(new TableFilePart(file, context));
-                             return form;
-                         }});
+        standIn(DeclaredSettings{[this] { return file; }});
         hub.file("A.tbl") =
             "tSample = {\r\n\tbFlag = 1,\r\n\tiNumber = 77,\r\n\tsText = \"t\x80\",\r\n\tsEntry = \"%\",\r\n"
             "\ttEnabledProfiles = {\r\n\t\t[0] = 1,\r\n\t},\r\n}\r\n";

@@ -31,12 +31,7 @@ protected:
     {
         file = {"A.tbl", "tSample", std::move(settings)};
         hub.file("A.tbl") = "tSample = {\r\n" + rows + "}\r\n";
-        std::erase_if(forms, [](const FormMaker& maker) { return maker.name == "frmGamesAnagrams"; });
-        forms.push_back({"frmGamesAnagrams", [this](const FormContext& context) {
-                             auto* form = new EditorForm({"frmGamesAnagrams", "Games ~ Anagrams"});
-                             form->add(new TableFilePart(file, context));
-                             return form;
-                         }});
+        standIn(DeclaredSettings{[this] { return file; }});
         return open("Games~Anagrams");
     }
 

@@ -21,7 +21,7 @@ std::vector<std::string> builtKeys()
     const FormCatalogue forms = formCatalogue();
     for (const QString& key : formKeys()) {
         if (std::any_of(forms.begin(), forms.end(),
-                        [&key](const FormMaker& maker) { return maker.name == formName(key); }))
+                        [&key](const FormDeclaration& form) { return form.form.name == formName(key); }))
             keys.push_back(key.toStdString());
     }
     return keys;

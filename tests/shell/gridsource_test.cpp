@@ -13,11 +13,7 @@ class OneSidedGrid : public test::FormTest
 protected:
     OneSidedGrid()
     {
-        forms.push_back({"frmGamesAnagrams", [this](const FormContext& context) {
-                             auto* form = new EditorForm({"frmGamesAnagrams", "Games ~ Anagrams"});
-                             form->add(new PermissionGridPart(source(), words(), context));
-                             return form;
-                         }});
+        standIn(DeclaredGrid{[this] { return source(); }, words()});
     }
 
     GridSource source()

@@ -48,11 +48,8 @@ protected:
     /// Forms of no content for keys whose own are not needed here.
     void fillWithForms()
     {
-        for (const StandIn& each : standIns) {
-            forms.push_back({each.name, [each](const FormContext&) {
-                                 return new EditorForm({each.name, each.caption});
-                             }});
-        }
+        for (const StandIn& each : standIns)
+            forms.push_back({{each.name, each.caption}, {}});
     }
 
     QMdiArea& area() { return find<QMdiArea>(window(), QString()); }
@@ -488,11 +485,11 @@ TEST_F(MainWindowTest, TheListOfAllWindowsChangesNothingWhenItIsCancelled)
 TEST_F(MainWindowTest, TheHourglassShowsWhileAFormLoadsAndGoesThen)
 {
     Qt::CursorShape during = Qt::ArrowCursor;
-    forms.push_back({"frmGamesAnagrams", [&during](const FormContext&) {
-                         if (const auto* cursor = QApplication::overrideCursor())
-                             during = cursor->shape();
-                         return new EditorForm({"frmGamesAnagrams", "Games ~ Anagrams"});
-                     }});
+    standIn(DeclaredSettings{[&during] {
+        if (const auto* cursor = QApplication::overrideCursor())
+            during = cursor->shape();
+        return TableFile{"A.tbl", "tSample", {}};
+    }});
     open("Games~Anagrams");
     EXPECT_EQ(during, Qt::WaitCursor);
     EXPECT_EQ(QApplication::overrideCursor(), nullptr);
@@ -562,11 +559,7 @@ class BorrowedMenus : public MainWindowTest
 protected:
     BorrowedMenus()
     {
-        forms.push_back({"frmGamesAnagrams", [this](const FormContext&) {
-                             auto* form = new EditorForm({"frmGamesAnagrams", "Games ~ Anagrams"});
-                             form->add(new ServingPart(called, edit));
-                             return form;
-                         }});
+        standIn(OwnPart{[this](const FormContext&) { return new ServingPart(called, edit); }});
     }
 
     void choose(const char* item) { find<QAction>(window(), item).trigger(); }

@@ -13,11 +13,7 @@ class GroupForm : public test::FormTest
 protected:
     GroupForm()
     {
-        forms.push_back({"frmGamesAnagrams", [this](const FormContext& context) {
-                             auto* form = new EditorForm({"frmGamesAnagrams", "Games ~ Anagrams"});
-                             form->add(new RowListGroupPart(group(), context));
-                             return form;
-                         }});
+        standIn(DeclaredLists{[this] { return group(); }});
         hub.file("N.tbl") = "tWords = {\r\n\ttOne = {\r\n\t\t\"a\",\r\n\t},\r\n\ttTwo = {\r\n\t\t\"b\",\r\n"
                             "\t\t\"c\",\r\n\t},\r\n}\r\n";
     }
@@ -106,11 +102,7 @@ protected:
         list.load = [](const SettingsFiles&, const HubProfiles&) {
             return std::vector<CellRow>{{{"good"}}, {{"other"}}};
         };
-        forms.push_back({"frmGamesAnagrams", [list](const FormContext& context) {
-                             auto* form = new EditorForm({"frmGamesAnagrams", "Games ~ Anagrams"});
-                             form->add(new PickyPart(list, context));
-                             return form;
-                         }});
+        standIn(listPartOf<PickyPart>([list] { return list; }));
     }
 
     QStringList after(EditorForm& form, int row, const char* key, const QString& text)

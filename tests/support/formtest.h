@@ -61,6 +61,14 @@ protected:
         return *qobject_cast<EditorForm*>(active->widget());
     }
 
+    /// Puts a form of this part into the place of "Games ~ Anagrams".
+    void standIn(PartDeclaration part)
+    {
+        std::erase_if(forms,
+                      [](const FormDeclaration& form) { return form.form.name == "frmGamesAnagrams"; });
+        forms.push_back({{"frmGamesAnagrams", "Games ~ Anagrams"}, {std::move(part)}});
+    }
+
     template <typename Widget>
     static Widget& find(QObject& parent, const QString& name)
     {

@@ -144,9 +144,9 @@ void showForms(quillfen::MainWindow& window, Tour& tour)
         shown.append(form->widget()->objectName());
         tour.portrait(*form, "form-" + QString(key).replace('~', '-'));
     }
-    for (const quillfen::FormMaker& maker : quillfen::formCatalogue()) {
-        if (!shown.contains(maker.name))
-            tour.miss(maker.name);
+    for (const quillfen::FormDeclaration& form : quillfen::formCatalogue()) {
+        if (!shown.contains(form.form.name))
+            tour.miss(form.form.name);
     }
 }
 

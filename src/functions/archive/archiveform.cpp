@@ -5,7 +5,6 @@
 #include "shell/kit/codepagetext.h"
 #include "shell/kit/controls.h"
 #include "shell/kit/editdialog.h"
-#include "shell/kit/editorform.h"
 #include "shell/kit/labels.h"
 #include "shell/kit/rowlistpart.h"
 #include "shell/kit/toolbars.h"
@@ -64,8 +63,7 @@ WeekPart::WeekPart(const ArchiveMember& member, const FormContext& context)
     int index = 0;
     AddEditButton(*m_changeBar, index);
     connectButton(*m_changeBar, "EDIT", this, &WeekPart::editChangeTime);
-    m_announcements->setParent(this);
-    connect(m_announcements, &FormPart::changed, this, &FormPart::changed);
+    adopt(*m_announcements);
     place();
 }
 
@@ -126,12 +124,11 @@ void WeekPart::editChangeTime()
 
 } // namespace
 
-EditorForm* makeWeekForm(const ArchiveMember& member, const FormContext& context)
+OwnPart weekPart(const ArchiveMember& member)
 {
-    const QString word = fromBytes(member.word);
-    auto* form = new EditorForm({"frm" + word + "Week", word + " ~ Link Of The Week", {7500, 6000}});
-    form->add(new WeekPart(member, context));
-    return form;
+    return {[&member](const FormContext& context) { return new WeekPart(member, context); },
+            {},
+            [] { return std::vector{announcements()}; }};
 }
 
 } // namespace quillfen

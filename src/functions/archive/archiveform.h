@@ -1,12 +1,12 @@
 #pragma once
 
+#include "shell/kit/declaredforms.h"
+
 namespace quillfen {
 
-class EditorForm;
 struct ArchiveMember;
-struct FormContext;
 
 /// A member's link of the week.
-EditorForm* makeWeekForm(const ArchiveMember& member, const FormContext& context);
+OwnPart weekPart(const ArchiveMember& member);
 
 } // namespace quillfen

@@ -3,7 +3,6 @@
 #include "functions/archive/archive.h"
 #include "functions/archive/archiveform.h"
 #include "shell/kit/codepagetext.h"
-#include "shell/kit/declaredforms.h"
 
 namespace quillfen {
 namespace {
@@ -37,10 +36,9 @@ FormCatalogue archiveForms()
     for (const ArchiveMember& member : archiveMembers()) {
         const QString word = fromBytes(member.word);
         const QString name = "frm" + word;
-        forms.push_back(
-            {name + "Week", [&member](const FormContext& context) { return makeWeekForm(member, context); }});
+        forms.push_back({{name + "Week", word + " ~ Link Of The Week", {7500, 6000}}, {weekPart(member)}});
         forms.push_back(settingsForm({name + "NewItems", word + " ~ New " + fromBytes(member.items)},
-                                     [&member]() -> const TableFile& { return newItems(member); }));
+                                     [&member] { return newItems(member); }));
         forms.push_back(gridForm(
             {name + "Permissions", word + " ~ Permissions", gridSize},
             [&member] { return archivePermissions(member); }, gridWords()));

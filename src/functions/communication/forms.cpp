@@ -11,37 +11,32 @@
 #include "functions/communication/rotatingmessages.h"
 #include "functions/communication/welcomeinfo.h"
 #include "functions/communication/whisper.h"
-#include "shell/kit/declaredforms.h"
 #include "shell/kit/folderfilespart.h"
-#include "shell/kit/tablefilepart.h"
-#include "shell/kit/ticklistpart.h"
 
 namespace quillfen {
 namespace {
 
-FormParts autoCorrectParts(const FormContext& context)
+TickListDescription filteredActions()
 {
     TickListDescription filters{"lvwFilters", "Filtered Actions", autoCorrectFilters()};
     filters.label = "Filtered Actions";
     filters.restoreTicks = false;
-    return {new TableFilePart(autoCorrectSettings(), context), new RowListPart(autoCorrectWords(), context),
-            new TickListPart(filters, context)};
+    return filters;
 }
 
-FormMaker changerForm(const FormDescription& description, const Changer& (*changer)())
+FormDeclaration changerForm(const FormDescription& form, const Changer& (*changer)())
 {
     return settingsAndListForm(
-        description, [changer]() -> const TableFile& { return changer().settings; },
-        [changer]() -> const RowListDeclaration& { return changer().texts; });
+        form, [changer] { return changer().settings; }, [changer] { return changer().texts; });
 }
 
-FormMaker rotatingForm(const FormDescription& description, const RotatingMessages& (*declared)())
+FormDeclaration rotatingForm(const FormDescription& form, const RotatingMessages& (*messages)())
 {
-    return formOf(description, [declared](const FormContext& context) -> FormParts {
-        const RotatingMessages& messages = declared();
-        return {new TableFilePart(messages.settings, context),
-                new FolderFilesPart(rotatingFiles(messages), messages.folder, context)};
-    });
+    DeclaredList texts = listPart([messages] { return rotatingFiles(messages()); });
+    texts.make = [messages](const RowListDeclaration& list, const FormContext& context) {
+        return new FolderFilesPart(list, messages().folder, context);
+    };
+    return {form, {DeclaredSettings{[messages] { return messages().settings; }}, texts}};
 }
 
 } // namespace
@@ -49,13 +44,19 @@ FormMaker rotatingForm(const FormDescription& description, const RotatingMessage
 FormCatalogue communicationForms()
 {
     return {
-        formOf({"frmCommunicationAutoCorrect", "Communication ~ AutoCorrect"}, autoCorrectParts),
+        {{"frmCommunicationAutoCorrect", "Communication ~ AutoCorrect"},
+         {DeclaredSettings{autoCorrectSettings}, listPart(autoCorrectWords), DeclaredTicks{filteredActions}}},
         settingsForm({"frmCommunicationChatRooms", "Communication ~ ChatRooms"}, chatRoomSettings),
         settingsForm({"frmCommunicationClock", "Communication ~ Clock"}, clockSettings),
         settingsForm({"frmCommunicationHubEmail", "Communication ~ HubEmail"}, hubEmailSettings),
         changerForm({"frmCommunicationKickBarChanger", "Communication ~ KickBarChanger"}, kickBarChanger),
-        {"frmCommunicationMOTD", makeMotdForm},
-        {"frmCommunicationMassMessage", makeMassMessageForm},
+        {{.name = "frmCommunicationMOTD", .caption = "Communication ~ MOTD", .hasRestore = false},
+         {motdPart()}},
+        {{.name = "frmCommunicationMassMessage",
+          .caption = "Communication ~ MassMessage",
+          .hasRestore = false,
+          .reloadsAfterSave = true},
+         {massMessagePart()}},
         gridForm(
             {.name = "frmCommunicationMute", .caption = "Communication ~ Mute", .hasRestore = false},
             [] { return sourceOf(mutePermissions()); }, blockGrid()),

@@ -3,7 +3,6 @@
 #include "functions/communication/massmessage.h"
 #include "shell/kit/codepagetext.h"
 #include "shell/kit/controls.h"
-#include "shell/kit/editorform.h"
 #include "shell/kit/labels.h"
 #include "shell/kit/permissiongridpart.h"
 #include "shell/kit/textedit.h"
@@ -44,8 +43,7 @@ MassMessagePart::MassMessagePart(const FormContext& context)
       m_grid(new PermissionGridPart(source(), blockGrid(), context)),
       m_widget(placed())
 {
-    m_grid->setParent(this);
-    connect(m_grid, &FormPart::changed, this, &FormPart::changed);
+    adopt(*m_grid);
     addPassiveButton();
 }
 
@@ -92,14 +90,9 @@ void MassMessagePart::addPassiveButton()
 
 } // namespace
 
-EditorForm* makeMassMessageForm(const FormContext& context)
+OwnPart massMessagePart()
 {
-    FormDescription description{"frmCommunicationMassMessage", "Communication ~ MassMessage"};
-    description.hasRestore = false;
-    description.reloadsAfterSave = true;
-    auto* form = new EditorForm(description);
-    form->add(new MassMessagePart(context));
-    return form;
+    return ownPart<MassMessagePart>();
 }
 
 } // namespace quillfen

@@ -1,10 +1,10 @@
 #pragma once
 
+#include "shell/kit/declaredforms.h"
+
 namespace quillfen {
 
-class EditorForm;
-struct FormContext;
-
-EditorForm* makeMassMessageForm(const FormContext& context);
+/// Who may send whom mass messages, and who is immune.
+OwnPart massMessagePart();
 
 } // namespace quillfen

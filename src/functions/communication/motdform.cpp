@@ -1,7 +1,6 @@
 #include "functions/communication/motdform.h"
 
 #include "functions/communication/motd.h"
-#include "shell/kit/editorform.h"
 #include "shell/kit/labels.h"
 #include "shell/kit/rowlist.h"
 #include "shell/kit/textedit.h"
@@ -70,13 +69,9 @@ void MotdPart::amend()
 
 } // namespace
 
-EditorForm* makeMotdForm(const FormContext& context)
+OwnPart motdPart()
 {
-    FormDescription description{"frmCommunicationMOTD", "Communication ~ MOTD"};
-    description.hasRestore = false;
-    auto* form = new EditorForm(description);
-    form->add(new MotdPart(context));
-    return form;
+    return ownPart<MotdPart>();
 }
 
 } // namespace quillfen

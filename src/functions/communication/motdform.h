@@ -1,10 +1,10 @@
 #pragma once
 
+#include "shell/kit/declaredforms.h"
+
 namespace quillfen {
 
-class EditorForm;
-struct FormContext;
-
-EditorForm* makeMotdForm(const FormContext& context);
+/// The profiles with the message that each gets.
+OwnPart motdPart();
 
 } // namespace quillfen

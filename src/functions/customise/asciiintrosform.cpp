@@ -1,9 +1,7 @@
 #include "functions/customise/asciiintrosform.h"
 
 #include "functions/customise/asciiintros.h"
-#include "shell/kit/editorform.h"
 #include "shell/kit/folderfilespart.h"
-#include "shell/kit/tablefilepart.h"
 
 #include <QHBoxLayout>
 
@@ -73,9 +71,7 @@ public:
         auto* layout = new QHBoxLayout(m_widget);
         layout->setContentsMargins({});
         for (RowListPart* list : {m_users, static_cast<RowListPart*>(m_files)}) {
-            list->setParent(this);
-            connect(list, &FormPart::changed, this, &FormPart::changed);
-            connect(list, &FormPart::note, this, &FormPart::note);
+            adopt(*list);
             layout->addWidget(list->widget());
         }
     }
@@ -111,12 +107,11 @@ private:
 
 } // namespace
 
-EditorForm* makeAsciiIntroForm(const FormContext& context)
+OwnPart asciiIntrosPart()
 {
-    auto* form = new EditorForm({"frmCustomiseUserAsciiIntro", "Customise User ~ Intros & Outros ~ Ascii"});
-    form->add(new TableFilePart(asciiIntroSettings(), context));
-    form->add(new AsciiIntrosPart(context));
-    return form;
+    OwnPart part = ownPart<AsciiIntrosPart>();
+    part.lists = [] { return std::vector{asciiIntroUsers(), asciiIntroFiles()}; };
+    return part;
 }
 
 } // namespace quillfen

@@ -1,10 +1,10 @@
 #pragma once
 
+#include "shell/kit/declaredforms.h"
+
 namespace quillfen {
 
-class EditorForm;
-struct FormContext;
-
-EditorForm* makeAsciiIntroForm(const FormContext& context);
+/// The users, and the pictures that they may have.
+OwnPart asciiIntrosPart();
 
 } // namespace quillfen

@@ -4,7 +4,6 @@
 #include "settings/tablefile.h"
 #include "shell/kit/codepagetext.h"
 #include "shell/kit/controls.h"
-#include "shell/kit/editorform.h"
 #include "shell/kit/labels.h"
 #include "shell/kit/rowlistpart.h"
 
@@ -40,8 +39,7 @@ DescriptionTagsPart::DescriptionTagsPart(const FormContext& context)
       m_tags(new RowListPart(declaredTags(), context)),
       m_widget(new QWidget)
 {
-    m_tags->setParent(this);
-    connect(m_tags, &FormPart::changed, this, &FormPart::changed);
+    adopt(*m_tags);
     auto* layout = new QHBoxLayout(m_widget);
     layout->setContentsMargins({});
     layout->addWidget(
@@ -74,11 +72,12 @@ void DescriptionTagsPart::restore()
 
 } // namespace
 
-EditorForm* makeDescriptionTagsForm(const FormContext& context)
+OwnPart descriptionTagsPart()
 {
-    auto* form = new EditorForm({"frmCustomiseUserDescriptionTags", "CustomiseUser ~ DescriptionTags"});
-    form->add(new DescriptionTagsPart(context));
-    return form;
+    OwnPart part = ownPart<DescriptionTagsPart>();
+    part.files = [] { return std::vector{taggedProfiles()}; };
+    part.lists = [] { return std::vector{descriptionTags()}; };
+    return part;
 }
 
 } // namespace quillfen

@@ -1,10 +1,10 @@
 #pragma once
 
+#include "shell/kit/declaredforms.h"
+
 namespace quillfen {
 
-class EditorForm;
-struct FormContext;
-
-EditorForm* makeDescriptionTagsForm(const FormContext& context);
+/// The profiles that bear a tag, and the tags.
+OwnPart descriptionTagsPart();
 
 } // namespace quillfen

@@ -1,22 +1,20 @@
 #include "functions/customise/forms.h"
 
+#include "functions/customise/asciiintros.h"
 #include "functions/customise/asciiintrosform.h"
 #include "functions/customise/customrightclick.h"
 #include "functions/customise/descriptiontagsform.h"
 #include "functions/customise/hideshare.h"
 #include "functions/customise/introsoutros.h"
-#include "shell/kit/declaredforms.h"
-#include "shell/kit/rowlistpart.h"
-#include "shell/kit/tablefilepart.h"
 
 namespace quillfen {
 namespace {
 
-FormMaker introsOutrosForm(const char* name, const char* caption, const IntrosOutros& (*all)())
+FormDeclaration introsOutrosForm(const char* name, const char* caption, const IntrosOutros& (*all)())
 {
-    return formOf({name, caption, {12000, 6900}}, [all](const FormContext& context) -> FormParts {
-        return {new TableFilePart(all().settings, context), new RowListGroupPart(all().lines, context)};
-    });
+    return {
+        {name, caption, {12000, 6900}},
+        {DeclaredSettings{[all] { return all().settings; }}, DeclaredLists{[all] { return all().lines; }}}};
 }
 
 } // namespace
@@ -24,16 +22,15 @@ FormMaker introsOutrosForm(const char* name, const char* caption, const IntrosOu
 FormCatalogue customiseForms()
 {
     return {
-        {"frmCustomiseUserAsciiIntro", makeAsciiIntroForm},
+        {{"frmCustomiseUserAsciiIntro", "Customise User ~ Intros & Outros ~ Ascii"},
+         {DeclaredSettings{asciiIntroSettings}, asciiIntrosPart()}},
         introsOutrosForm("frmCustomiseUserCustomIntroOutro", "Customise User ~ Intros & Outros ~ Custom",
                          customIntrosOutros),
-        formOf({.name = "frmCustomiseUserCustomRightClick",
-                .caption = "CustomiseUser ~ Custom Right Click",
-                .hasRestore = false},
-               [](const FormContext& context) -> FormParts {
-                   return {new RowListPart(customRightClicks(context.profiles), context)};
-               }),
-        {"frmCustomiseUserDescriptionTags", makeDescriptionTagsForm},
+        {{.name = "frmCustomiseUserCustomRightClick",
+          .caption = "CustomiseUser ~ Custom Right Click",
+          .hasRestore = false},
+         {DeclaredList{customRightClicks}}},
+        {{"frmCustomiseUserDescriptionTags", "CustomiseUser ~ DescriptionTags"}, {descriptionTagsPart()}},
         settingsForm({"frmCustomiseUserHideShare", "CustomiseUser ~ HideShare"}, hideShareSettings),
         introsOutrosForm("frmCustomiseUserIntroOutro", "Customise User ~ Intros & Outros ~ Standard",
                          standardIntrosOutros),

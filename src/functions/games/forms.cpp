@@ -3,6 +3,7 @@
 #include "functions/games/anagrams.h"
 #include "functions/games/codebreaker.h"
 #include "functions/games/guessthenumber.h"
+#include "functions/games/hangman.h"
 #include "functions/games/hangmanform.h"
 #include "functions/games/numbersform.h"
 #include "functions/games/russianroulette.h"
@@ -12,8 +13,6 @@
 #include "functions/games/threecardmonty.h"
 #include "functions/games/trivia.h"
 #include "functions/games/triviaform.h"
-#include "shell/kit/declaredforms.h"
-#include "shell/kit/tablefilepart.h"
 
 namespace quillfen {
 namespace {
@@ -27,39 +26,31 @@ FormDescription anagrams()
             .restoreText = "Restore Quillfen defaults?"};
 }
 
-FormParts anagramParts(const FormContext& context)
-{
-    return {new TableFilePart(anagramSettings(), context), new WordListPart(anagramWords(), context)};
-}
-
-FormParts russianRouletteParts(const FormContext& context)
-{
-    return {new TableFilePart(russianRouletteSettings(), context),
-            new RowListPart(russianRouletteLive(), context), new RowListPart(russianRouletteDie(), context)};
-}
-
-FormParts threeCardMontyParts(const FormContext& context)
-{
-    return {new TableFilePart(threeCardMontySettings(), context),
-            new RowListPart(threeCardMontyWin(), context), new RowListPart(threeCardMontyLose(), context)};
-}
-
 } // namespace
 
 FormCatalogue gamesForms()
 {
     return {
-        formOf(anagrams(), anagramParts),
+        {anagrams(), {DeclaredSettings{anagramSettings}, listPartOf<WordListPart>(anagramWords)}},
         settingsForm({"frmGamesCodeBreaker", "Games ~ CodeBreaker"}, codeBreakerSettings),
-        {"frmGamesGlobalsScoreClearers", makeScoreClearersForm},
+        {{"frmGamesGlobalsScoreClearers", "Games ~ Score Clearers"}, {scoreClearersPart()}},
         settingsForm({"frmGamesGuessTheNumber", "Games ~ GuessTheNumber"}, guessTheNumberSettings),
-        {"frmGamesHangman", makeHangmanForm},
-        {"frmGamesNumbers", makeNumbersForm},
-        formOf({"frmGamesRussianRoulette", "Games ~ RussianRoulette"}, russianRouletteParts),
+        {{"frmGamesHangman", "Games ~ Hangman"},
+         {hangmanSettingsPart(), listPartOf<WordListPart>(hangmanWords), gallowsPart()}},
+        {{"frmGamesNumbers", "Games ~ Numbers"}, {numbersSettingsPart(), numbersQuestionsPart()}},
+        {{"frmGamesRussianRoulette", "Games ~ RussianRoulette"},
+         {DeclaredSettings{russianRouletteSettings}, listPart(russianRouletteLive),
+          listPart(russianRouletteDie)}},
         settingsForm({"frmGamesSlotMachine", "Games ~ SlotMachine"}, slotMachineSettings),
-        formOf({"frmGamesThreeCardMonty", "Games ~ Three Card Monty"}, threeCardMontyParts),
+        {{"frmGamesThreeCardMonty", "Games ~ Three Card Monty"},
+         {DeclaredSettings{threeCardMontySettings}, listPart(threeCardMontyWin),
+          listPart(threeCardMontyLose)}},
         settingsForm({"frmGamesTrivia", "Games ~ Trivia ~ Settings"}, triviaSettings),
-        {"frmGamesTriviaQuestions", makeTriviaQuestionsForm},
+        {{.name = "frmGamesTriviaQuestions",
+          .caption = "Games ~ Trivia ~ Questions",
+          .minimumTwips = {12000, 7500},
+          .hasRestore = false},
+         {triviaQuestionsPart()}},
     };
 }
 

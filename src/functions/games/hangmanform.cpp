@@ -1,7 +1,6 @@
 #include "functions/games/hangmanform.h"
 
 #include "functions/games/hangman.h"
-#include "functions/games/shared/wordlistpart.h"
 #include "settings/tablefile.h"
 #include "shell/kit/codepagetext.h"
 #include "shell/kit/labels.h"
@@ -23,7 +22,7 @@ namespace {
 class HangmanPart : public TableFilePart
 {
 public:
-    explicit HangmanPart(const FormContext& context) : TableFilePart(hangmanSettings(), context) {}
+    using TableFilePart::TableFilePart;
 
     bool maySave() override
     {
@@ -114,13 +113,15 @@ void GallowsPart::edit()
 
 } // namespace
 
-EditorForm* makeHangmanForm(const FormContext& context)
+DeclaredSettings hangmanSettingsPart()
 {
-    auto* form = new EditorForm({"frmGamesHangman", "Games ~ Hangman"});
-    form->add(new HangmanPart(context));
-    form->add(new WordListPart(hangmanWords(), context));
-    form->add(new GallowsPart(context));
-    return form;
+    return {hangmanSettings,
+            [](const TableFile& file, const FormContext& context) { return new HangmanPart(file, context); }};
+}
+
+OwnPart gallowsPart()
+{
+    return ownPart<GallowsPart>();
 }
 
 } // namespace quillfen

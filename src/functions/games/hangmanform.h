@@ -1,9 +1,13 @@
 #pragma once
 
-#include "shell/kit/editorform.h"
+#include "shell/kit/declaredforms.h"
 
 namespace quillfen {
 
-EditorForm* makeHangmanForm(const FormContext& context);
+/// The settings, which are not saved without a hint character.
+DeclaredSettings hangmanSettingsPart();
+
+/// The pictures of the gallows.
+OwnPart gallowsPart();
 
 } // namespace quillfen

@@ -71,12 +71,23 @@ Control CalculationsPart::control(const Setting& setting)
             }};
 }
 
+/// The fixed questions, with room for a sentence.
+class QuestionsPart : public WordListPart
+{
+public:
+    QuestionsPart(const RowListDeclaration& questions, const FormContext& context)
+        : WordListPart(questions, context)
+    {
+        list().header()->resizeSection(0, questionWidth);
+    }
+};
+
 /// The settings, and the menu of the calculations among them.
 class NumbersPart : public TableFilePart
 {
 public:
-    NumbersPart(CalculationsPart* calculations, const FormContext& context)
-        : TableFilePart(numbersSettings(), context,
+    NumbersPart(const TableFile& file, CalculationsPart* calculations, const FormContext& context)
+        : TableFilePart(file, context,
                         [calculations](const Setting& setting) { return calculations->control(setting); }),
           m_calculations(calculations)
     {
@@ -91,13 +102,16 @@ private:
 
 } // namespace
 
-EditorForm* makeNumbersForm(const FormContext& context)
+DeclaredSettings numbersSettingsPart()
 {
-    auto* form = new EditorForm({"frmGamesNumbers", "Games ~ Numbers"});
-    form->add(new NumbersPart(new CalculationsPart(context), context));
-    form->add(new WordListPart(numbersQuestions(), context));
-    form->findChild<RowList*>("lvwWords")->header()->resizeSection(0, questionWidth);
-    return form;
+    return {numbersSettings, [](const TableFile& file, const FormContext& context) {
+                return new NumbersPart(file, new CalculationsPart(context), context);
+            }};
+}
+
+DeclaredList numbersQuestionsPart()
+{
+    return listPartOf<QuestionsPart>(numbersQuestions);
 }
 
 } // namespace quillfen

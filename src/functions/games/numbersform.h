@@ -1,9 +1,13 @@
 #pragma once
 
-#include "shell/kit/editorform.h"
+#include "shell/kit/declaredforms.h"
 
 namespace quillfen {
 
-EditorForm* makeNumbersForm(const FormContext& context);
+/// The settings with the calculations among them.
+DeclaredSettings numbersSettingsPart();
+
+/// The fixed questions.
+DeclaredList numbersQuestionsPart();
 
 } // namespace quillfen

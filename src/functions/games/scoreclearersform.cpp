@@ -12,7 +12,7 @@ namespace {
 class ClearersPart : public RowListPart
 {
 public:
-    explicit ClearersPart(const FormContext& context) : RowListPart(scoreClearers(), context) {}
+    using RowListPart::RowListPart;
 
 protected:
     bool mayAdd(const CellRow& row) override
@@ -26,11 +26,9 @@ protected:
 
 } // namespace
 
-EditorForm* makeScoreClearersForm(const FormContext& context)
+DeclaredList scoreClearersPart()
 {
-    auto* form = new EditorForm({"frmGamesGlobalsScoreClearers", "Games ~ Score Clearers"});
-    form->add(new ClearersPart(context));
-    return form;
+    return listPartOf<ClearersPart>(scoreClearers);
 }
 
 } // namespace quillfen

@@ -1,9 +1,10 @@
 #pragma once
 
-#include "shell/kit/editorform.h"
+#include "shell/kit/declaredforms.h"
 
 namespace quillfen {
 
-EditorForm* makeScoreClearersForm(const FormContext& context);
+/// The users, each of them once.
+DeclaredList scoreClearersPart();
 
 } // namespace quillfen

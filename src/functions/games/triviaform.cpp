@@ -7,7 +7,6 @@
 #include "shell/kit/codepagetext.h"
 #include "shell/kit/combobox.h"
 #include "shell/kit/editdialog.h"
-#include "shell/kit/editorform.h"
 #include "shell/kit/hourglass.h"
 #include "shell/kit/inputbox.h"
 #include "shell/kit/labels.h"
@@ -356,13 +355,9 @@ void QuestionsPart::closeFile()
 
 } // namespace
 
-EditorForm* makeTriviaQuestionsForm(const FormContext& context)
+OwnPart triviaQuestionsPart()
 {
-    FormDescription description{"frmGamesTriviaQuestions", "Games ~ Trivia ~ Questions", {12000, 7500}};
-    description.hasRestore = false;
-    auto* form = new EditorForm(description);
-    form->add(new QuestionsPart(context));
-    return form;
+    return ownPart<QuestionsPart>();
 }
 
 } // namespace quillfen

@@ -1,10 +1,10 @@
 #pragma once
 
+#include "shell/kit/declaredforms.h"
+
 namespace quillfen {
 
-class EditorForm;
-struct FormContext;
-
-EditorForm* makeTriviaQuestionsForm(const FormContext& context);
+/// The question files, and the questions of the one that is open.
+OwnPart triviaQuestionsPart();
 
 } // namespace quillfen

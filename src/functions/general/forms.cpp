@@ -6,19 +6,18 @@
 #include "functions/general/settings.h"
 #include "functions/general/switches.h"
 #include "shell/kit/codepagetext.h"
-#include "shell/kit/declaredforms.h"
-#include "shell/kit/ticklistpart.h"
 
 namespace quillfen {
 namespace {
 
 /// The script's functions with a tick each. A click on one shows its help.
-FormMaker switchesForm(const FormDescription& description, const ListFile& (*file)())
+FormDeclaration switchesForm(const FormDescription& form, const ListFile& (*file)())
 {
-    return formOf(description, [file](const FormContext& context) -> FormParts {
+    const auto switches = [file] {
         const auto help = [](const QString& row) { return fromBytes(switchHelp(toBytes(row))); };
-        return {new TickListPart({"lvwSwitches", "Functions", file(), help}, context)};
-    });
+        return TickListDescription{"lvwSwitches", "Functions", file(), help};
+    };
+    return {form, {DeclaredTicks{switches}}};
 }
 
 } // namespace
@@ -38,8 +37,7 @@ FormCatalogue generalForms()
                      enabledRightClicksFile),
     };
     for (const LanguageSet& set : languageSets()) {
-        forms.push_back({fromBytes(set.form),
-                         [&set](const FormContext& context) { return makeLanguageForm(set, context); }});
+        forms.push_back({{fromBytes(set.form), fromBytes(set.caption), {10500, 6000}}, {languagesPart(set)}});
     }
     return forms;
 }

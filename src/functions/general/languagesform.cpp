@@ -5,7 +5,6 @@
 #include "settings/tablefile.h"
 #include "shell/kit/codepagetext.h"
 #include "shell/kit/editdialog.h"
-#include "shell/kit/editorform.h"
 #include "shell/kit/inputbox.h"
 #include "shell/kit/labels.h"
 #include "shell/kit/messages.h"
@@ -324,11 +323,9 @@ void LanguagesPart::leaveTexts()
 
 } // namespace
 
-EditorForm* makeLanguageForm(const LanguageSet& set, const FormContext& context)
+OwnPart languagesPart(const LanguageSet& set)
 {
-    auto* form = new EditorForm({fromBytes(set.form), fromBytes(set.caption), {10500, 6000}});
-    form->add(new LanguagesPart(set, context));
-    return form;
+    return {[&set](const FormContext& context) { return new LanguagesPart(set, context); }};
 }
 
 } // namespace quillfen

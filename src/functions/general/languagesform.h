@@ -1,11 +1,12 @@
 #pragma once
 
+#include "shell/kit/declaredforms.h"
+
 namespace quillfen {
 
-class EditorForm;
-struct FormContext;
 struct LanguageSet;
 
-EditorForm* makeLanguageForm(const LanguageSet& set, const FormContext& context);
+/// The languages of a set, and the texts of the one that is open.
+OwnPart languagesPart(const LanguageSet& set);
 
 } // namespace quillfen

@@ -14,51 +14,28 @@
 #include "functions/security/rulesform.h"
 #include "functions/security/spies.h"
 #include "functions/security/userlog.h"
-#include "shell/kit/declaredforms.h"
-#include "shell/kit/rowlistpart.h"
-#include "shell/kit/tablefilepart.h"
-#include "shell/kit/textfilepart.h"
-#include "shell/kit/ticklistpart.h"
 
 namespace quillfen {
 namespace {
 
-FormParts antiAdvertiseParts(const FormContext& context)
+TickListDescription blockedActions()
 {
     TickListDescription actions;
     actions.control = "lvwBlockedActions";
     actions.label = "Blocked Actions";
     actions.file = blockedActionsFile();
     actions.restoreTicks = false;
-    return {new TableFilePart(antiAdvertiseSettings(), context), new TickListPart(actions, context)};
+    return actions;
 }
 
-FormParts addressParts(const FormContext& context)
-{
-    return {new RowListPart(blockedAddresses(), context), new RowListPart(allowedAddresses(), context)};
-}
-
-FormParts kickParts(const FormContext& context)
-{
-    return {new TableFilePart(kickSettings(), context),
-            new TextFilePart("tlbCheckBox", "Ascii Kick", std::string(kickAsciiFile), context)};
-}
-
-FormParts mainCleanerParts(const FormContext& context)
-{
-    return {new TableFilePart(mainCleanerSettings(), context),
-            new TextFilePart("tlbListview", "Cleaner Text", std::string(mainCleanerText), context)};
-}
-
-FormParts registrationParts(const FormContext& context)
+GridWords registrationWords()
 {
     GridWords words = unfilteredGrid();
     words.list = "lvwRegistrations";
     words.columns[3] = "Allow";
     words.yes = "True";
     words.no = "False";
-    return {new TableFilePart(registrationSettings(), context),
-            new PermissionGridPart(registrationPermissions(), words, context)};
+    return words;
 }
 
 } // namespace
@@ -66,14 +43,14 @@ FormParts registrationParts(const FormContext& context)
 FormCatalogue securityForms()
 {
     return {
-        formOf({.name = "frmSecurityAntiAdvertiseAddresses",
-                .caption = "Security ~ AntiAdvertise",
-                .parts = Qt::Horizontal},
-               addressParts),
-        formOf({.name = "frmSecurityAntiAdvertiseSettings",
-                .caption = "Security ~ AntiAdvertise ~  Settings",
-                .parts = Qt::Horizontal},
-               antiAdvertiseParts),
+        {{.name = "frmSecurityAntiAdvertiseAddresses",
+          .caption = "Security ~ AntiAdvertise",
+          .parts = Qt::Horizontal},
+         {listPart(blockedAddresses), listPart(allowedAddresses)}},
+        {{.name = "frmSecurityAntiAdvertiseSettings",
+          .caption = "Security ~ AntiAdvertise ~  Settings",
+          .parts = Qt::Horizontal},
+         {DeclaredSettings{antiAdvertiseSettings}, DeclaredTicks{blockedActions}}},
         settingsForm({"frmSecurityAntiVirus", "Security ~ AntiVirus"}, antiVirusSettings),
         settingsAndListForm({"frmSecurityBadNickBlocker", "Security ~ BadNickBlocker"}, badNickSettings,
                             badNicks),
@@ -89,9 +66,13 @@ FormCatalogue securityForms()
                   .caption = "Security ~ Kicks ~ Permissions",
                   .hasRestore = false},
                  [] { return sourceOf(kickPermissions()); }, {}),
-        formOf({"frmSecurityKickSettings", "Security ~ Kicks ~ Settings"}, kickParts),
+        {{"frmSecurityKickSettings", "Security ~ Kicks ~ Settings"},
+         {DeclaredSettings{kickSettings},
+          DeclaredText{"tlbCheckBox", "Ascii Kick", std::string(kickAsciiFile)}}},
         settingsForm({"frmSecurityMainBlock", "Security ~ MainBlock"}, mainBlockSettings),
-        formOf({"frmSecurityMainCleaner", "Security ~ MainCleaner"}, mainCleanerParts),
+        {{"frmSecurityMainCleaner", "Security ~ MainCleaner"},
+         {DeclaredSettings{mainCleanerSettings},
+          DeclaredText{"tlbListview", "Cleaner Text", std::string(mainCleanerText)}}},
         settingsForm({"frmSecurityMainLock", "Security ~ MainLock"}, mainLockSettings),
         settingsForm({"frmSecurityPrivateHub", "Security~ PrivateHub"}, privateHubSettings),
         listsForm({.name = "frmSecurityProfileRuleRules",
@@ -102,12 +83,11 @@ FormCatalogue securityForms()
         settingsForm({"frmSecurityProfileRuleSettings", "Security ~ ProfileRules ~ Settings"},
                      profileRuleSettings),
         settingsForm({"frmSecurityPtokaXSettings", "Security~ PtokaXSettings"}, ptokaXSettings),
-        formOf({.name = "frmSecurityRegistration",
-                .caption = "Security ~ Registration",
-                .reloadsAfterSave = true},
-               registrationParts),
+        {{.name = "frmSecurityRegistration", .caption = "Security ~ Registration", .reloadsAfterSave = true},
+         {DeclaredSettings{registrationSettings},
+          DeclaredGrid{[] { return sourceOf(registrationPermissions()); }, registrationWords()}}},
         settingsForm({"frmSecurityReport", "Security ~ Report"}, reportSettings),
-        {"frmSecurityRules", makeRulesForm},
+        {{"frmSecurityRules", "Security ~ Rules"}, {rulesPart()}},
         settingsAndListForm(
             {.name = "frmSecuritySearchSpy", .caption = "Security ~ SearchSpy", .parts = Qt::Horizontal},
             searchSpySettings, forbiddenFiles),

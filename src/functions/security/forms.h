@@ -1,6 +1,6 @@
 #pragma once
 
-#include "shell/kit/editorform.h"
+#include "shell/kit/declaredforms.h"
 
 namespace quillfen {
 

@@ -2,7 +2,6 @@
 
 #include "functions/security/rules.h"
 #include "settings/profiles.h"
-#include "shell/kit/editorform.h"
 #include "shell/kit/labels.h"
 #include "shell/kit/rowlist.h"
 #include "shell/kit/textedit.h"
@@ -64,11 +63,9 @@ private:
 
 } // namespace
 
-EditorForm* makeRulesForm(const FormContext& context)
+OwnPart rulesPart()
 {
-    auto* form = new EditorForm({"frmSecurityRules", "Security ~ Rules"});
-    form->add(new RulesPart(context));
-    return form;
+    return ownPart<RulesPart>();
 }
 
 } // namespace quillfen

@@ -1,10 +1,10 @@
 #pragma once
 
+#include "shell/kit/declaredforms.h"
+
 namespace quillfen {
 
-class EditorForm;
-struct FormContext;
-
-EditorForm* makeRulesForm(const FormContext& context);
+/// The rules' texts.
+OwnPart rulesPart();
 
 } // namespace quillfen

@@ -4,11 +4,9 @@
 #include "settings/filename.h"
 #include "settings/tablefile.h"
 #include "shell/kit/codepagetext.h"
-#include "shell/kit/editorform.h"
 #include "shell/kit/messages.h"
 #include "shell/kit/rowlist.h"
 #include "shell/kit/rowlistpart.h"
-#include "shell/kit/tablefilepart.h"
 #include "shell/kit/textedit.h"
 
 namespace quillfen {
@@ -18,8 +16,8 @@ namespace {
 class PicturesPart : public RowListPart
 {
 public:
-    explicit PicturesPart(const FormContext& context)
-        : RowListPart(asciiPictures(), context),
+    PicturesPart(const RowListDeclaration& pictures, const FormContext& context)
+        : RowListPart(pictures, context),
           m_files(context.files)
     {
     }
@@ -66,12 +64,9 @@ private:
 
 } // namespace
 
-EditorForm* makeAsciiForm(const FormContext& context)
+DeclaredList asciiPicturesPart()
 {
-    auto* form = new EditorForm({"frmUserActionsAscii", "User Actions ~ Ascii", {9000, 7500}});
-    form->add(new TableFilePart(asciiSettings(), context));
-    form->add(new PicturesPart(context));
-    return form;
+    return listPartOf<PicturesPart>(asciiPictures);
 }
 
 } // namespace quillfen

@@ -1,10 +1,10 @@
 #pragma once
 
+#include "shell/kit/declaredforms.h"
+
 namespace quillfen {
 
-class EditorForm;
-struct FormContext;
-
-EditorForm* makeAsciiForm(const FormContext& context);
+/// The pictures, each with its file.
+DeclaredList asciiPicturesPart();
 
 } // namespace quillfen

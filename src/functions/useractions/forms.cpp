@@ -1,23 +1,24 @@
 #include "functions/useractions/forms.h"
 
 #include "functions/useractions/actiontexts.h"
+#include "functions/useractions/ascii.h"
 #include "functions/useractions/asciiform.h"
 #include "functions/useractions/calculator.h"
 #include "functions/useractions/collections.h"
 #include "functions/useractions/spells.h"
 #include "functions/useractions/spellsform.h"
-#include "shell/kit/declaredforms.h"
 
 namespace quillfen {
 namespace {
 
 constexpr QSize listSize = {9000, 5400};
+constexpr QSize bookSize = {10500, 6000};
 
-FormMaker collectionForm(const char* name, const char* caption, const Collection& (*collection)())
+FormDeclaration collectionForm(const char* name, const char* caption, const Collection& (*collection)())
 {
     return settingsAndListForm(
-        {name, caption, {9000, 6000}}, [collection]() -> const TableFile& { return collection().settings; },
-        [collection]() -> const RowListDeclaration& { return collection().texts; });
+        {name, caption, {9000, 6000}}, [collection] { return collection().settings; },
+        [collection] { return collection().texts; });
 }
 
 } // namespace
@@ -25,7 +26,8 @@ FormMaker collectionForm(const char* name, const char* caption, const Collection
 FormCatalogue useractionsForms()
 {
     return {
-        {"frmUserActionsAscii", makeAsciiForm},
+        {{"frmUserActionsAscii", "User Actions ~ Ascii", {9000, 7500}},
+         {DeclaredSettings{asciiSettings}, asciiPicturesPart()}},
         settingsForm({"frmUserActionsCalculator", "UserActions ~ Calculator"}, calculatorSettings),
         listForm({"frmUserActionsInsultsStandard", "UserActions ~ Insults ~ Standard", listSize}, insults),
         listsForm({"frmUserActionsInsultsMedieval", "UserActions ~ Insults ~ Medieval", listSize},
@@ -37,11 +39,14 @@ FormCatalogue useractionsForms()
         collectionForm("frmUserActionsLimericks", "User Actions ~ Limericks", limericks),
         collectionForm("frmUserActionsProverbs", "User Actions ~ Proverbs", proverbs),
         collectionForm("frmUserActionsQuotations", "User Actions ~ Quotations", quotations),
-        {"frmUserActionsSpellSettings", makeSpellSettingsForm},
-        {"frmUserActionsSpellsSpellBook", makeSpellBookForm},
+        {{"frmUserActionsSpellSettings", "UserActions ~ Spells ~ Settings", {7500, 7500}},
+         {DeclaredSettings{spellSettings}, wardsPart()}},
+        {{"frmUserActionsSpellsSpellBook", "UserActions ~ Spells ~ SpellBook", bookSize},
+         {spellBookPart(spellBook())}},
         settingsForm({"frmUserActionsNickSpellSettings", "UserActions ~ NickSpells ~ Settings"},
                      nickSpellSettings),
-        {"frmUserActionsNickSpellsSpellBook", makeNickSpellBookForm},
+        {{"frmUserActionsNickSpellsSpellBook", "UserActions ~ Nick Spells ~ SpellBook", bookSize},
+         {spellBookPart(nickSpellBook())}},
     };
 }
 

@@ -3,11 +3,9 @@
 #include "functions/useractions/spells.h"
 #include "settings/codepage.h"
 #include "shell/kit/codepagetext.h"
-#include "shell/kit/editorform.h"
 #include "shell/kit/messages.h"
 #include "shell/kit/rowlist.h"
 #include "shell/kit/rowlistpart.h"
-#include "shell/kit/tablefilepart.h"
 #include "shell/kit/toolbars.h"
 
 #include <QLabel>
@@ -22,7 +20,9 @@ namespace {
 class WardsPart : public RowListPart
 {
 public:
-    explicit WardsPart(const FormContext& context) : RowListPart(spellWards(), context), m_widget(new QWidget)
+    WardsPart(const RowListDeclaration& wards, const FormContext& context)
+        : RowListPart(wards, context),
+          m_widget(new QWidget)
     {
         auto* note = new QLabel("Allows IPs beginning with 0 (such as 0.3.6.0)");
         note->setTextFormat(Qt::PlainText);
@@ -213,35 +213,20 @@ void SpellBookPart::gather()
     emit changed();
 }
 
-EditorForm* makeBookForm(const QString& name, const QString& caption, const SpellBook& book,
-                         const FormContext& context)
-{
-    auto* form = new EditorForm({name, caption, {10500, 6000}});
-    form->add(new SpellBookPart(book, context));
-    return form;
-}
-
 } // namespace
 
-EditorForm* makeSpellSettingsForm(const FormContext& context)
+DeclaredList wardsPart()
 {
-    auto* form =
-        new EditorForm({"frmUserActionsSpellSettings", "UserActions ~ Spells ~ Settings", {7500, 7500}});
-    form->add(new TableFilePart(spellSettings(), context));
-    form->add(new WardsPart(context));
-    return form;
+    return listPartOf<WardsPart>(spellWards);
 }
 
-EditorForm* makeSpellBookForm(const FormContext& context)
+OwnPart spellBookPart(const SpellBook& book)
 {
-    return makeBookForm("frmUserActionsSpellsSpellBook", "UserActions ~ Spells ~ SpellBook", spellBook(),
-                        context);
-}
-
-EditorForm* makeNickSpellBookForm(const FormContext& context)
-{
-    return makeBookForm("frmUserActionsNickSpellsSpellBook", "UserActions ~ Nick Spells ~ SpellBook",
-                        nickSpellBook(), context);
+    return {[&book](const FormContext& context) { return new SpellBookPart(book, context); },
+            {},
+            [&book] {
+                return std::vector{spellList(book), phraseList()};
+            }};
 }
 
 } // namespace quillfen

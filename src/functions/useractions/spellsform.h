@@ -1,12 +1,15 @@
 #pragma once
 
+#include "shell/kit/declaredforms.h"
+
 namespace quillfen {
 
-class EditorForm;
-struct FormContext;
+struct SpellBook;
 
-EditorForm* makeSpellSettingsForm(const FormContext& context);
-EditorForm* makeSpellBookForm(const FormContext& context);
-EditorForm* makeNickSpellBookForm(const FormContext& context);
+/// The warded users.
+DeclaredList wardsPart();
+
+/// The spells of a book, and the phrases of the one that is being amended.
+OwnPart spellBookPart(const SpellBook& book);
 
 } // namespace quillfen

@@ -2,55 +2,91 @@
 
 #include "shell/kit/rowlistpart.h"
 #include "shell/kit/tablefilepart.h"
+#include "shell/kit/textfilepart.h"
 
 namespace quillfen {
+namespace {
 
-FormMaker formOf(const FormDescription& description, std::function<FormParts(const FormContext&)> parts)
+/// Makes the part of each kind of declaration.
+struct PartMaker
 {
-    return {description.name, [description, parts = std::move(parts)](const FormContext& context) {
-                auto* form = new EditorForm(description);
-                for (FormPart* part : parts(context))
-                    form->add(part);
-                return form;
-            }};
+    const FormContext& context;
+
+    FormPart* operator()(const DeclaredSettings& settings) const
+    {
+        return settings.make ? settings.make(settings.file(), context)
+                             : new TableFilePart(settings.file(), context);
+    }
+
+    FormPart* operator()(const DeclaredList& list) const
+    {
+        const RowListDeclaration declared = list.list(context.profiles);
+        return list.make ? list.make(declared, context) : new RowListPart(declared, context);
+    }
+
+    FormPart* operator()(const DeclaredLists& lists) const
+    {
+        return new RowListGroupPart(lists.lists(), context);
+    }
+
+    FormPart* operator()(const DeclaredGrid& grid) const
+    {
+        return new PermissionGridPart(grid.grid(), grid.words, context);
+    }
+
+    FormPart* operator()(const DeclaredTicks& ticks) const
+    {
+        return new TickListPart(ticks.ticks(), context);
+    }
+
+    FormPart* operator()(const DeclaredText& text) const
+    {
+        return new TextFilePart(text.toolbar, text.caption, text.path, context);
+    }
+
+    FormPart* operator()(const OwnPart& own) const { return own.make(context); }
+};
+
+} // namespace
+
+EditorForm* makeForm(const FormDeclaration& declaration, const FormContext& context)
+{
+    auto* form = new EditorForm(declaration.form);
+    for (const PartDeclaration& part : declaration.parts)
+        form->add(std::visit(PartMaker{context}, part));
+    return form;
 }
 
-FormMaker settingsForm(const FormDescription& description, std::function<const TableFile&()> file)
+DeclaredList listPart(std::function<RowListDeclaration()> list)
 {
-    return formOf(description, [file = std::move(file)](const FormContext& context) -> FormParts {
-        return {new TableFilePart(file(), context)};
-    });
+    return {[list = std::move(list)](const HubProfiles&) { return list(); }};
 }
 
-FormMaker listForm(const FormDescription& description, std::function<const RowListDeclaration&()> list)
+FormDeclaration settingsForm(const FormDescription& form, std::function<TableFile()> file)
 {
-    return formOf(description, [list = std::move(list)](const FormContext& context) -> FormParts {
-        return {new RowListPart(list(), context)};
-    });
+    return {form, {DeclaredSettings{std::move(file)}}};
 }
 
-FormMaker listsForm(const FormDescription& description, std::function<const RowListGroup&()> lists)
+FormDeclaration listForm(const FormDescription& form, std::function<RowListDeclaration()> list)
 {
-    return formOf(description, [lists = std::move(lists)](const FormContext& context) -> FormParts {
-        return {new RowListGroupPart(lists(), context)};
-    });
+    return {form, {listPart(std::move(list))}};
 }
 
-FormMaker settingsAndListForm(const FormDescription& description, std::function<const TableFile&()> file,
-                              std::function<const RowListDeclaration&()> list)
+FormDeclaration listsForm(const FormDescription& form, std::function<RowListGroup()> lists)
 {
-    return formOf(description,
-                  [file = std::move(file), list = std::move(list)](const FormContext& context) -> FormParts {
-                      return {new TableFilePart(file(), context), new RowListPart(list(), context)};
-                  });
+    return {form, {DeclaredLists{std::move(lists)}}};
 }
 
-FormMaker gridForm(FormDescription description, std::function<GridSource()> grid, const GridWords& words)
+FormDeclaration settingsAndListForm(const FormDescription& form, std::function<TableFile()> file,
+                                    std::function<RowListDeclaration()> list)
 {
-    description.reloadsAfterSave = true;
-    return formOf(description, [grid = std::move(grid), words](const FormContext& context) -> FormParts {
-        return {new PermissionGridPart(grid(), words, context)};
-    });
+    return {form, {DeclaredSettings{std::move(file)}, listPart(std::move(list))}};
+}
+
+FormDeclaration gridForm(FormDescription form, std::function<GridSource()> grid, const GridWords& words)
+{
+    form.reloadsAfterSave = true;
+    return {form, {DeclaredGrid{std::move(grid), words}}};
 }
 
 } // namespace quillfen

@@ -66,11 +66,6 @@ const Kind& kindOf(EditForm form)
     return kinds[static_cast<std::size_t>(form)];
 }
 
-std::size_t inputCount(EditForm form)
-{
-    return std::string_view(kindOf(form).inputs).size();
-}
-
 /// Modes outside a dialog's own colour nothing.
 Mode modeOf(const EditRequest& request)
 {
@@ -238,15 +233,20 @@ void addRows(QWidget* parent, const EditRequest& request,
     }
 }
 
+std::string_view inputsOf(EditForm form)
+{
+    return kindOf(form).inputs;
+}
+
 int habitualAddMode(EditForm form)
 {
-    return inputCount(form) < 3 ? 1 : 4;
+    return inputsOf(form).size() < 3 ? 1 : 4;
 }
 
 int habitualEditMode(EditForm form)
 {
     constexpr int modes[] = {0, 2, 5, 5};
-    return modes[inputCount(form) - 1];
+    return modes[inputsOf(form).size() - 1];
 }
 
 } // namespace quillfen

@@ -6,6 +6,7 @@
 
 #include <functional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 class QLabel;
@@ -77,6 +78,9 @@ EditAnswer showEditDialog(QWidget* parent, const EditRequest& request);
 /// `take`.
 void addRows(QWidget* parent, const EditRequest& request,
              const std::function<void(const std::vector<std::string>&)>& take);
+
+/// The inputs of a dialog in field order: T a text, N a number with up-down, C a combo box.
+std::string_view inputsOf(EditForm form);
 
 /// The modes in which the callers of a dialog add and edit unless they say otherwise: by its count of inputs,
 /// 1 and 0, 1 and 2, or 4 and 5. One of four inputs has none: its callers tell theirs.

@@ -204,6 +204,8 @@ void EditorForm::closeEvent(QCloseEvent* event)
         return;
     }
     event->accept();
+    for (FormPart* part : m_parts)
+        part->close();
     emit closed();
 }
 

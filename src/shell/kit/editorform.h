@@ -98,14 +98,4 @@ private:
     QString m_notLoaded; ///< why the last load stopped; empty after one that went through
 };
 
-/// Makes the form of a name; the caller owns it.
-struct FormMaker
-{
-    QString name;
-    std::function<EditorForm*(const FormContext&)> make;
-};
-
-/// Every form that is built.
-using FormCatalogue = std::vector<FormMaker>;
-
 } // namespace quillfen

@@ -10,4 +10,11 @@ void FormContext::showMenu(const QString& name, const QPoint& at) const
         menu->popup(at);
 }
 
+void FormPart::adopt(FormPart& part)
+{
+    part.setParent(this);
+    connect(&part, &FormPart::changed, this, &FormPart::changed);
+    connect(&part, &FormPart::note, this, &FormPart::note);
+}
+
 } // namespace quillfen

@@ -61,6 +61,13 @@ public:
     /// What it serves to the borrowed right-click menus.
     virtual RoutineTable routines() { return {}; }
 
+    /// The form was closed; it goes as soon as the event loop comes to it.
+    virtual void close() {}
+
+protected:
+    /// Takes over a part that this one is made of: its changes and notes are this one's.
+    void adopt(FormPart& part);
+
 signals:
     /// The user changed a control.
     void changed();

@@ -240,8 +240,7 @@ RowListGroupPart::RowListGroupPart(RowListGroup group, const FormContext& contex
     const int perRow = m_group.lists.size() > 3 ? 2 : 3; // four make a square, and not a narrow band
     for (const RowListDeclaration& list : m_group.lists) {
         auto* part = new RowListPart(list, context);
-        part->setParent(this);
-        connect(part, &FormPart::changed, this, &FormPart::changed);
+        adopt(*part);
         const int place = static_cast<int>(m_lists.size());
         layout->addWidget(part->widget(), place / perRow, place % perRow);
         m_lists.push_back(part);

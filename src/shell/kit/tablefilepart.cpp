@@ -103,11 +103,11 @@ private:
 
 } // namespace
 
-TableFilePart::TableFilePart(const TableFile& file, const FormContext& context, const OwnControl& own)
-    : m_file(file),
+TableFilePart::TableFilePart(TableFile file, const FormContext& context, const OwnControl& own)
+    : m_file(std::move(file)),
       m_context(context)
 {
-    for (const Setting& setting : file.settings) {
+    for (const Setting& setting : m_file.settings) {
         if (!hasControl(setting))
             continue;
         m_settings.push_back(&setting);

@@ -19,7 +19,7 @@ public:
     /// Makes the control of a setting that the kit has none for, of named texts.
     using OwnControl = std::function<Control(const Setting&)>;
 
-    TableFilePart(const TableFile& file, const FormContext& context, const OwnControl& own = {});
+    TableFilePart(TableFile file, const FormContext& context, const OwnControl& own = {});
 
     QWidget* widget() override { return m_widget; }
     void load() override;
@@ -30,7 +30,7 @@ private:
     Control controlOf(const Setting& setting, const OwnControl& own);
     QWidget* placed() const;
 
-    const TableFile& m_file;
+    const TableFile m_file; ///< its own, which the controls hold on to
     FormContext m_context;
     std::vector<const Setting*> m_settings; ///< those with a control, in the order of the controls
     std::vector<Control> m_controls;

@@ -103,8 +103,8 @@ MainWindow::MainWindow(const ProgramInfo& program, const FormContext& context, c
       m_windowMenu(new WindowMenu(this)),
       m_popUpMenus(new PopUpMenus([this] { return activeForm(); }, this))
 {
-    for (const FormMaker& maker : forms)
-        m_makers.insert(maker.name, maker);
+    for (const FormDeclaration& form : forms)
+        m_forms.insert(form.form.name, form);
     m_context.popUpMenu = [this](const QString& name) { return popUpMenu(name); };
     setObjectName("frmContainer");
     setWindowTitle(program.product + ' ' + program.version);
@@ -202,10 +202,10 @@ EditorForm* MainWindow::formOf(const QString& key)
         bringForward(*open);
         return formIn(*open);
     }
-    const auto maker = m_makers.constFind(name);
-    if (maker == m_makers.constEnd())
+    const auto declared = m_forms.constFind(name);
+    if (declared == m_forms.constEnd())
         return nullptr;
-    EditorForm* form = maker->make(m_context);
+    EditorForm* form = makeForm(*declared, m_context);
     if (!sameCaption(form->caption(), captionOfKey(key)))
         form->setTag(captionOfKey(key)); // the registry could not find the form by its own caption
     showForm(form);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "shell/kit/editorform.h"
+#include "shell/kit/declaredforms.h"
 #include "shell/window/openwindows.h"
 #include "shell/window/programinfo.h"
 
@@ -63,7 +63,7 @@ private:
 
     ProgramInfo m_program;
     FormContext m_context;
-    QHash<QString, FormMaker> m_makers;
+    QHash<QString, FormDeclaration> m_forms;
     COpenWindows m_openWindows;
     Navigator* m_navigator;
     QMdiArea* m_area;

@@ -240,12 +240,6 @@ TEST_F(Archive, HoursAndMinutesHaveTwoDigits)
     EXPECT_EQ(minutes().back(), "59");
 }
 
-TEST_F(Archive, NewItemsAreDeclaredWithoutFault)
-{
-    for (const ArchiveMember& member : archiveMembers())
-        EXPECT_EQ(faults(newItems(member)), std::vector<std::string>());
-}
-
 TEST(HubScriptArchive, SeesTheBuiltFiles)
 {
     for (std::size_t place = 0; place < ring.size(); ++place) {

@@ -26,11 +26,6 @@ protected:
     const std::string folder = "Communication/AutoCorrect/AutoCorrect";
 };
 
-TEST_F(AutoCorrect, IsDeclaredWithoutFault)
-{
-    EXPECT_EQ(faults(autoCorrectSettings()), std::vector<std::string>());
-}
-
 TEST_F(AutoCorrect, AFreshBuildHasTheDefaultsAndTwoEmptyLists)
 {
     buildAutoCorrect(hub.files, hub.profiles);

@@ -26,11 +26,6 @@ protected:
     const std::string settings = "Communication/ChatRooms/ChatRoomSettings.tbl";
 };
 
-TEST_F(ChatRooms, AreDeclaredWithoutFault)
-{
-    EXPECT_EQ(faults(chatRoomSettings()), std::vector<std::string>());
-}
-
 TEST_F(ChatRooms, AFreshBuildWritesTheDefaultsAndNoRoom)
 {
     buildChatRooms(hub.files, hub.profiles);

@@ -80,10 +80,5 @@ TEST_F(MassMessages, ANewProfileJoinsWithZerosAndTheOthersKeepTheirCells)
     EXPECT_EQ(values.size(), 5U + 5U * 9U);
 }
 
-TEST_F(MassMessages, AreDeclaredWithoutFault)
-{
-    EXPECT_EQ(faults(massMessageSettings()), std::vector<std::string>());
-}
-
 } // namespace
 } // namespace quillfen

@@ -38,12 +38,6 @@ protected:
     const std::string texts = "Communication/RotatingMainMessage/Files/";
 };
 
-TEST_F(Rotating, MessagesAreDeclaredWithoutFault)
-{
-    EXPECT_EQ(faults(rotatingMainMessages().settings), std::vector<std::string>());
-    EXPECT_EQ(faults(rotatingPrivateMessages().settings), std::vector<std::string>());
-}
-
 TEST_F(Rotating, AFreshBuildWritesDefaultsAndEmptyLists)
 {
     buildRotatingMainMessages(hub.files, hub.profiles);

@@ -29,12 +29,6 @@ protected:
     std::string& clock = hub.file("Communication/Clock/ClockSettings.tbl");
 };
 
-TEST_F(WelcomeInfo, AndClockAreDeclaredWithoutFault)
-{
-    EXPECT_EQ(faults(welcomeInfoSettings()), std::vector<std::string>());
-    EXPECT_EQ(faults(clockSettings()), std::vector<std::string>());
-}
-
 TEST_F(WelcomeInfo, AFreshBuildWritesTheDefaultsAndNoHub)
 {
     hub.store.files.erase(hub.root + "/Communication/WelcomeInfo/WelcomeInfoNetworkHubs.tbl");

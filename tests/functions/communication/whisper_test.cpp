@@ -35,12 +35,6 @@ TEST_F(Whisper, ARebuildKeepsTheValue)
     EXPECT_TRUE(sameBytes(file, "tWhisperSettings = {\r\n\tbSendConfirmation = 0,\r\n}\r\n"));
 }
 
-TEST_F(Whisper, TheDeclarationsHaveNoFault)
-{
-    EXPECT_EQ(faults(whisperSettings()), std::vector<std::string>());
-    EXPECT_EQ(faults(hubEmailSettings()), std::vector<std::string>());
-}
-
 TEST(HubEmail, HasNeitherFolderNorFileAfterABuild)
 {
     test::Hub hub;

@@ -14,11 +14,6 @@ protected:
     std::string& settings = file("IntroOutro/AsciiIntroSettings.tbl");
 };
 
-TEST_F(AsciiIntros, AreDeclaredWithoutFault)
-{
-    EXPECT_EQ(faults(asciiIntroSettings()), std::vector<std::string>());
-}
-
 TEST_F(AsciiIntros, AFreshBuildWritesDefaultsNoUsersAndAnEmptyIndex)
 {
     buildAsciiIntros(hub.files, hub.profiles);

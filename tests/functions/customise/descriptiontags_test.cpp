@@ -24,11 +24,6 @@ protected:
     }
 };
 
-TEST_F(DescriptionTags, AreDeclaredWithoutFault)
-{
-    EXPECT_EQ(faults(taggedProfiles()), std::vector<std::string>());
-}
-
 TEST_F(DescriptionTags, OnAFreshTreeEachProfilesTagIsItsNameInBrackets)
 {
     build();

@@ -14,11 +14,6 @@ protected:
     std::string& settings = file("HideShare/HideShareSettings.tbl");
 };
 
-TEST_F(HideShare, IsDeclaredWithoutFault)
-{
-    EXPECT_EQ(faults(hideShareSettings()), std::vector<std::string>());
-}
-
 TEST_F(HideShare, AFreshBuildHidesNobodysShare)
 {
     buildHideShare(hub.files, hub.profiles);

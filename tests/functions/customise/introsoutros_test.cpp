@@ -20,12 +20,6 @@ protected:
     void build() { buildIntrosOutros(hub.files, hub.profiles); }
 };
 
-TEST_F(IntrosOutrosFiles, AreDeclaredWithoutFault)
-{
-    EXPECT_EQ(faults(standardIntrosOutros().settings), std::vector<std::string>());
-    EXPECT_EQ(faults(customIntrosOutros().settings), std::vector<std::string>());
-}
-
 TEST_F(IntrosOutrosFiles, AFreshBuildWritesDefaultsAndEmptyLists)
 {
     build();

@@ -27,13 +27,6 @@ protected:
     const std::string clearers = "Games/Globals/ScoreClearers.tbl";
 };
 
-TEST_F(ChanceGames, AreDeclaredWithoutFault)
-{
-    for (const auto* settings :
-         {&russianRouletteSettings(), &threeCardMontySettings(), &slotMachineSettings()})
-        EXPECT_EQ(faults(*settings), std::vector<std::string>());
-}
-
 TEST_F(ChanceGames, AFreshBuildOfRouletteWritesTheChambersBare)
 {
     buildRussianRoulette(hub.files, hub.profiles);

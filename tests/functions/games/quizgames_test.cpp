@@ -47,11 +47,6 @@ INSTANTIATE_TEST_SUITE_P(
                                  buildGuessTheNumber, 18}),
     [](const auto& each) { return std::string(each.param.name); });
 
-TEST_P(QuizGames, AreDeclaredWithoutFault)
-{
-    EXPECT_EQ(faults(game.settings()), std::vector<std::string>());
-}
-
 TEST_P(QuizGames, AFreshBuildWritesTheSettingsInTheFormsOrder)
 {
     hub.store.folders.insert(hub.root + "/Games/" + game.folder);

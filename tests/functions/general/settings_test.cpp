@@ -22,11 +22,6 @@ protected:
     std::string& rightClicks = hub.file("General/Globals/EnabledRightClicks.tbl");
 };
 
-TEST_F(General, SettingsAreDeclaredWithoutFault)
-{
-    EXPECT_EQ(faults(generalSettings()), std::vector<std::string>());
-}
-
 TEST_F(General, AFreshBuildWritesTheDefaultsInItsOwnOrder)
 {
     buildGeneralSettings(hub.files, hub.profiles);

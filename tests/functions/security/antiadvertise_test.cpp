@@ -16,11 +16,6 @@ protected:
     void build() { buildAntiAdvertise(hub.files, hub.profiles); }
 };
 
-TEST_F(AntiAdvertise, IsDeclaredWithoutFault)
-{
-    EXPECT_EQ(faults(antiAdvertiseSettings()), std::vector<std::string>());
-}
-
 TEST_F(AntiAdvertise, AFreshBuildWritesTheDefaults)
 {
     build();

@@ -40,12 +40,6 @@ protected:
     }
 };
 
-TEST_F(Blockers, AreDeclaredWithoutFault)
-{
-    for (const auto& declared : {badNickSettings(), cloneSettings(), antiVirusSettings()})
-        EXPECT_EQ(faults(declared), std::vector<std::string>()) << declared.path;
-}
-
 TEST_F(Blockers, AFreshBuildWritesTheDefaults)
 {
     build();

@@ -15,11 +15,6 @@ protected:
     std::string& versions = file("ClientChecker/ClientVersions.tbl");
 };
 
-TEST_F(ClientChecker, IsDeclaredWithoutFault)
-{
-    EXPECT_EQ(faults(clientCheckerSettings()), std::vector<std::string>());
-}
-
 TEST_F(ClientChecker, AFreshBuildWritesTheDefaults)
 {
     hub.store.files.clear();

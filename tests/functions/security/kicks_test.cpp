@@ -19,11 +19,6 @@ protected:
     test::Hub hub{"Security", "Security/Kick", "Security/Kick/Logs"};
 };
 
-TEST_F(Kicks, SettingsAreDeclaredWithoutFault)
-{
-    EXPECT_EQ(faults(kickSettings()), std::vector<std::string>());
-}
-
 TEST_F(Kicks, AFreshBuildWritesTheSettingsInItsOwnOrder)
 {
     buildKicks(hub.files, hub.profiles);

@@ -23,12 +23,6 @@ protected:
     }
 };
 
-TEST_F(MainChat, IsDeclaredWithoutFault)
-{
-    for (const auto& declared : {mainBlockSettings(), mainLockSettings(), mainCleanerSettings()})
-        EXPECT_EQ(faults(declared), std::vector<std::string>()) << declared.path;
-}
-
 TEST_F(MainChat, AFreshBuildWritesTheDefaults)
 {
     build();

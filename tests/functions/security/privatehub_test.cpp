@@ -13,11 +13,6 @@ protected:
     std::string& settings = file("PrivateHub/PrivateHubSettings.tbl");
 };
 
-TEST_F(PrivateHub, IsDeclaredWithoutFault)
-{
-    EXPECT_EQ(faults(privateHubSettings()), std::vector<std::string>());
-}
-
 TEST_F(PrivateHub, AFreshBuildWritesTheDefaults)
 {
     buildPrivateHub(hub.files, hub.profiles);

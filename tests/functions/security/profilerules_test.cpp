@@ -17,11 +17,6 @@ protected:
     void build() { buildProfileRules(hub.files, hub.profiles); }
 };
 
-TEST_F(ProfileRules, AreDeclaredWithoutFault)
-{
-    EXPECT_EQ(faults(profileRuleSettings()), std::vector<std::string>());
-}
-
 TEST_F(ProfileRules, AFreshBuildLeavesTheDelayWithoutValueAndTheTextsEmpty)
 {
     build();

@@ -17,11 +17,6 @@ protected:
     const std::vector<std::string> tables = {"Add", "ChangePassword", "Delete", "GetPassword"};
 };
 
-TEST_F(Registration, IsDeclaredWithoutFault)
-{
-    EXPECT_EQ(faults(registrationSettings()), std::vector<std::string>());
-}
-
 TEST_F(Registration, AFreshBuildAllowsNothingAndWritesTheDefaults)
 {
     build();

@@ -21,12 +21,6 @@ protected:
     }
 };
 
-TEST_F(Spies, AreDeclaredWithoutFault)
-{
-    EXPECT_EQ(faults(commandSpySettings()), std::vector<std::string>());
-    EXPECT_EQ(faults(searchSpySettings()), std::vector<std::string>());
-}
-
 TEST_F(Spies, AFreshBuildWritesTheDefaultsAndEmptyTables)
 {
     build();

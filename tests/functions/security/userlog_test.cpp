@@ -14,11 +14,6 @@ protected:
     void build() { buildUserLog(hub.files, hub.profiles); }
 };
 
-TEST_F(UserLog, IsDeclaredWithoutFault)
-{
-    EXPECT_EQ(faults(userLogSettings()), std::vector<std::string>());
-}
-
 TEST_F(UserLog, AFreshBuildWritesTheDefaultsAndTheScriptsEmptyTables)
 {
     build();

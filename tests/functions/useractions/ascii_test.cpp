@@ -28,12 +28,6 @@ protected:
     std::string& calculator = hub.file("UserActions/Calculator/CalculatorSettings.tbl");
 };
 
-TEST_F(Ascii, SettingsAreDeclaredWithoutFault)
-{
-    EXPECT_EQ(faults(asciiSettings()), std::vector<std::string>());
-    EXPECT_EQ(faults(calculatorSettings()), std::vector<std::string>());
-}
-
 TEST_F(Ascii, AFreshBuildWritesTheRightClicksBeforeTheProfilesAndAnEmptyIndex)
 {
     buildAscii(hub.files, hub.profiles);

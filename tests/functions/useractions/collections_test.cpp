@@ -55,12 +55,6 @@ protected:
                   "UserActions/Quotations"};
 };
 
-TEST_F(Collections, AreDeclaredWithoutFault)
-{
-    for (const Member& member : members())
-        EXPECT_EQ(faults(member.collection.settings), std::vector<std::string>());
-}
-
 TEST_F(Collections, AFreshBuildWritesTheDefaultsAndOneText)
 {
     for (const Member& member : members()) {

@@ -38,12 +38,6 @@ protected:
         {"UserActions/NickSpells/NickSpellBook.tbl", "NickSpellBook"}};
 };
 
-TEST_F(Spells, SettingsAreDeclaredWithoutFault)
-{
-    EXPECT_EQ(faults(spellSettings()), std::vector<std::string>());
-    EXPECT_EQ(faults(nickSpellSettings()), std::vector<std::string>());
-}
-
 TEST_F(Spells, AFreshBuildWritesTheDelayFirstAndSeedsNoSpell)
 {
     build();

@@ -1,0 +1,208 @@
+#include "support/declarationfaults.h"
+
+#include "settings/lines.h"
+#include "shell/kit/codepagetext.h"
+#include "shell/kit/editdialog.h"
+
+#include <algorithm>
+#include <set>
+
+namespace quillfen::test {
+namespace {
+
+/// Walks over the parts of a form.
+class FormWalk
+{
+public:
+    FormWalk(const FormDeclaration& form, const HubProfiles& profiles)
+        : m_form(toBytes(form.form.name)),
+          m_profiles(profiles)
+    {
+        expect(!form.form.caption.isEmpty(), "no caption");
+        expect(!form.parts.empty(), "no parts");
+        for (const PartDeclaration& part : form.parts)
+            std::visit([this](const auto& each) { walk(each); }, part);
+        for (const std::string& control : std::set<std::string>(m_controls.begin(), m_controls.end()))
+            expect(std::count(m_controls.begin(), m_controls.end(), control) == 1,
+                   "control twice: " + control);
+    }
+
+    const std::vector<std::string>& found() const { return m_found; }
+
+private:
+    void expect(bool good, const std::string& fault)
+    {
+        if (!good)
+            m_found.push_back(m_form + ": " + fault);
+    }
+
+    void addControl(const std::string& name, const std::string& of)
+    {
+        expect(!name.empty(), "no control: " + of);
+        m_controls.push_back(name);
+    }
+
+    void walk(const DeclaredSettings& settings) { walkFile(settings.file()); }
+
+    void walk(const DeclaredList& list) { walkList(list.list(m_profiles), true); }
+
+    void walk(const DeclaredLists& lists)
+    {
+        const RowListGroup group = lists.lists();
+        expect(!group.lists.empty(), "a group of no lists");
+        expect(static_cast<bool>(group.save), "lists without a save");
+        for (const RowListDeclaration& list : group.lists)
+            walkList(list, false);
+    }
+
+    void walk(const DeclaredGrid& declared)
+    {
+        const GridSource grid = declared.grid();
+        expect(!grid.commands.empty(), "a grid of no commands");
+        expect(grid.load && grid.save, "a grid without load or save");
+        const qsizetype columns = declared.words.targets ? 4 : 3;
+        expect(declared.words.columns.size() >= columns, "a grid of too few columns");
+        addControl(toBytes(declared.words.list), "a grid");
+        addControl(toBytes(declared.words.toolbar), "a grid's toolbar");
+    }
+
+    void walk(const DeclaredTicks& declared)
+    {
+        const TickListDescription ticks = declared.ticks();
+        addControl(toBytes(ticks.control), "ticks");
+        expect(!ticks.file.path.empty() && !ticks.file.table.empty(), "ticks without a file");
+        expect(ticks.file.form == ListFile::Form::Flags, "ticks of a file without flags");
+        expect(!ticks.caption.isEmpty() || !ticks.label.isEmpty(), "ticks without a name");
+    }
+
+    void walk(const DeclaredText& text)
+    {
+        addControl(toBytes(text.toolbar), "a text");
+        expect(!text.path.empty(), "a text without a file");
+    }
+
+    void walk(const OwnPart& own)
+    {
+        if (own.files) {
+            for (const TableFile& file : own.files())
+                walkFile(file);
+        }
+        if (own.lists) {
+            for (const RowListDeclaration& list : own.lists())
+                walkList(list, false); // the part may load and save them itself
+        }
+    }
+
+    void walkFile(const TableFile& file)
+    {
+        expect(!file.path.empty() && !file.table.empty(), "settings without a file");
+        std::multiset<std::string> keys;
+        for (const Setting& setting : file.settings) {
+            if (!setting.idle)
+                keys.insert(setting.key);
+            walkSetting(setting);
+        }
+        for (const std::string& key : std::set<std::string>(keys.begin(), keys.end()))
+            expect(keys.count(key) == 1, "key twice: " + key);
+        const std::multiset<std::string> ordered(file.rebuildOrder.begin(), file.rebuildOrder.end());
+        expect(ordered.empty() || ordered == keys, "the rebuild's order doesn't name each key once");
+    }
+
+    void walkSetting(const Setting& setting)
+    {
+        walkDefault(setting);
+        if (setting.kind == Setting::Kind::Rows)
+            expect(!setting.entries.empty(), "no rows: " + setting.key);
+        if (setting.kind == Setting::Kind::Texts)
+            expect(setting.standards.size() == setting.entries.size(),
+                   "texts without their defaults: " + setting.key);
+        if (!hasControl(setting))
+            return;
+        expect(!setting.label.empty() || !setting.toolTip.empty(), "no label: " + setting.key);
+        if (setting.kind != Setting::Kind::Options) {
+            addControl(setting.control, setting.key);
+            return;
+        }
+        for (std::size_t at = 0; at < setting.entries.size(); ++at) {
+            const auto place = static_cast<std::size_t>(setting.firstOption) + at;
+            addControl(setting.control + '(' + std::to_string(place) + ')', setting.key);
+        }
+    }
+
+    void walkDefault(const Setting& setting)
+    {
+        const auto& entries = setting.entries;
+        const auto number = wholeNumber(setting.standard);
+        bool good = true;
+        if (setting.kind == Setting::Kind::Flag) {
+            good = setting.standard == "0" || setting.standard == "1";
+        } else if (setting.kind == Setting::Kind::Number) {
+            expect(setting.minimum < setting.maximum && setting.step > 0, "no range: " + setting.key);
+            good = number && *number >= setting.minimum && *number <= setting.maximum;
+        } else if (setting.kind == Setting::Kind::Options) {
+            good = number && *number >= 0 && *number < static_cast<double>(entries.size());
+        } else if (setting.kind == Setting::Kind::Letter) {
+            good = std::any_of(entries.begin(), entries.end(), [&setting](const std::string& entry) {
+                return entry.substr(0, 1) == setting.standard;
+            });
+        } else if (setting.kind == Setting::Kind::Entry) {
+            good = std::find(entries.begin(), entries.end(), setting.standard) != entries.end();
+        } else if (setting.kind == Setting::Kind::Text && setting.limit > 0) {
+            good = setting.standard.size() <= static_cast<std::size_t>(setting.limit);
+        }
+        expect(good, "default: " + setting.key);
+    }
+
+    void walkList(const RowListDeclaration& list, bool savesItself)
+    {
+        addControl(list.list, "a list");
+        addControl(list.toolbar, list.list);
+        if (!list.movement.empty())
+            addControl(list.movement, list.list);
+        expect(!savesItself || list.load, "no load: " + list.list);
+        expect(!savesItself || list.save, "no save: " + list.list);
+        expect(!list.columns.empty(), "no columns: " + list.list);
+        expect(!list.menu.empty(), "no menu: " + list.list);
+        const bool hasDialogOfItsOwn = list.dialogOf || list.labelsOf;
+        expect(hasDialogOfItsOwn || list.dialog.labels.size() == inputsOf(list.dialog.form).size(),
+               "labels: " + list.list);
+        const auto combos = std::ranges::count(inputsOf(list.dialog.form), 'C');
+        expect(list.dialog.entries.empty() || list.dialog.entries.size() == static_cast<std::size_t>(combos),
+               "entries: " + list.list);
+        const bool adds = !list.dialog.addTitle.empty();
+        expect(adds == !list.deletion.title.empty() && adds == !list.deletion.text.empty(),
+               "words of the deletion: " + list.list);
+        expect(adds || list.editTitleOf || list.dialogOf || !list.dialog.editTitle.empty(),
+               "no title: " + list.list);
+    }
+
+    std::string m_form;
+    const HubProfiles& m_profiles;
+    std::vector<std::string> m_controls;
+    std::vector<std::string> m_found;
+};
+
+} // namespace
+
+std::vector<std::string> faults(const FormCatalogue& forms, const HubProfiles& profiles,
+                                const std::vector<std::string>& deliberate)
+{
+    std::vector<std::string> found;
+    std::multiset<std::string> names;
+    for (const FormDeclaration& form : forms) {
+        names.insert(toBytes(form.form.name));
+        const FormWalk walk(form, profiles);
+        found.insert(found.end(), walk.found().begin(), walk.found().end());
+    }
+    for (const std::string& name : std::set<std::string>(names.begin(), names.end())) {
+        if (names.count(name) > 1)
+            found.push_back(name + ": declared twice");
+    }
+    for (const std::string& meant : deliberate) {
+        if (std::erase(found, meant) == 0)
+            found.push_back(meant + " (meant, and not found)");
+    }
+    return found;
+}
+
+} // namespace quillfen::test
