@@ -1,6 +1,7 @@
 #include "functions/communication/changers.h"
 
 #include "settings/listfile.h"
+#include "settings/tablewriter.h"
 
 namespace quillfen {
 namespace {
@@ -74,7 +75,7 @@ void buildTopicChanger(const SettingsFiles& files, const HubProfiles& profiles)
     const ListFile texts = textsFile(topicWords);
     if (!files.store().exists(
             files.paths().inSettings(R"(Communication\TopicChanger\TopicChanger\TopicChangerTopics.tbl)")))
-        files.WriteSettingsFile(texts.path, emptyTable(texts.table));
+        files.WriteSettingsFile(texts.path, TableWriter(texts.table).closed());
 }
 
 void buildKickBarChanger(const SettingsFiles& files, const HubProfiles& profiles)

@@ -1,5 +1,7 @@
 #include "functions/security/registration.h"
 
+#include "settings/tablewriter.h"
+
 namespace quillfen {
 namespace {
 
@@ -14,12 +16,9 @@ GridCommand command(const std::string& word, const std::string& name)
 void resetSettings(const SettingsFiles& files)
 {
     const TableFile& file = registrationSettings();
-    files.WriteSettingsFile(file.path, file.table + " = {\r\n"
-                                                    "\tbAllowRegme = 1,\r\n"
-                                                    "\tbKeepLog = 1,\r\n"
-                                                    "\tsPrefix = \"\",\r\n"
-                                                    "\tiRegProfiles = 3,\r\n"
-                                                    "}");
+    TableWriter table(file.table);
+    table.row("bAllowRegme", "1").row("bKeepLog", "1").text("sPrefix", "").row("iRegProfiles", "3");
+    files.WriteSettingsFile(file.path, table.closed());
 }
 
 } // namespace
