@@ -112,7 +112,7 @@ std::string composedNews(const std::vector<NewsArticle>& articles)
     return table.closed();
 }
 
-/// The blank behind the brace has always stood there.
+/// A blank stands behind the brace, which the readers trim.
 void saveLastNumber(const SettingsFiles& files, const std::string& number)
 {
     TableWriter table;

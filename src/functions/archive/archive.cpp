@@ -87,8 +87,8 @@ GridCommand commandOf(const ArchiveMember& member, const std::string& command)
 GridCommand rightClickOf(const std::string& word)
 {
     const ArchiveMember& hyperlink = archiveMembers().back();
-    // The form's tables lack the "RC" that their files have. The hub script and the form find each value by
-    // its profile's key.
+    // The form's tables lack the "RC" that their files have: the form finds each value by its profile's key
+    // alone.
     return {word, pathOf(hyperlink, "RCEnable" + word), tableOf(hyperlink, "Enable" + word)};
 }
 
@@ -105,7 +105,7 @@ std::vector<PermissionCell> loadCells(const std::vector<GridCommand>& commands, 
 }
 
 /// A command's file is written when the walk comes to the next command, so the last command's never is: a
-/// change of it is lost. The hub script's owners know the grids so.
+/// change of it is lost.
 void saveCells(const std::vector<GridCommand>& commands, const std::vector<PermissionCell>& cells,
                const SettingsFiles& files)
 {
@@ -161,7 +161,7 @@ void buildLinkOfTheWeek(const ArchiveMember& member, const SettingsFiles& files)
 
 /// Each table's text goes to the file of the next table in the ring. So a table finds its own file
 /// overwritten by the one before when its turn comes, and starts with no permission; only the first keeps its
-/// values, which then stand in the second's file. The hub script lives with it.
+/// values, which then stand in the second's file: there the form finds them by their profiles' keys alone.
 void buildPermissionRing(const ArchiveMember& member, const SettingsFiles& files, const HubProfiles& profiles)
 {
     static const std::vector<std::string> ring = {"EnableClear",    "EnableDelete",    "EnableModify",
@@ -217,7 +217,7 @@ void saveLinkOfTheWeek(const ArchiveMember& member, const LinkOfTheWeek& link, c
     TableWriter table(tableOf(member, itemOfTheWeek));
     table.row("bEnabled", link.enabled);
     // Without quotes and with the day's full name, unlike the build's: Lua can't load it, and the form itself
-    // reads it back without its day. Trees in the field hold both.
+    // reads it back without its day.
     table.row("sChangeTime", link.changeTime);
     int number = 0;
     std::string word; // a text that is no day's name keeps the word of the row before
@@ -246,7 +246,7 @@ RowListDeclaration announcements()
     list.menu = "mnuFirst";
     list.dialog.form = EditForm::FourCombos;
     list.dialog.addTitle = "Add Announcement";
-    list.dialog.editTitle = " Announcement"; // the owner knows it with its leading blank
+    list.dialog.editTitle = " Announcement"; // shown with its leading blank
     list.dialog.labels = {"Day", "Hour", "Minute", "Location"};
     list.dialog.entries = {dayNames(), hours(), minutes(), {"Main Chat", "Private Message"}};
     list.dialog.addMode = 6;  // a row without one of its parts could not be read back

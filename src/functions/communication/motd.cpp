@@ -59,7 +59,7 @@ std::string motdTextFile(std::size_t row, const HubProfiles& profiles)
 void buildMotds(const SettingsFiles& files, const HubProfiles& profiles)
 {
     // The flags for everybody are looked up in the mass message's file, which this folder doesn't hold: they
-    // go back to 0 at every rebuild. The hub script's owners count on it.
+    // go back to 0 at every rebuild, while each profile's stay.
     const auto allIndex = files.subIndex(R"(Communication\MOTD\MassMessageSettings.tbl)");
     const auto index = files.subIndex(motdFile);
     TableWriter table("tMOTDSettings");

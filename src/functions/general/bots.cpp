@@ -88,7 +88,7 @@ void saveBots(const SettingsFiles& files, const HubProfiles& /*profiles*/, const
         table.text("sName", row.cells[Name]);
         table.text("sDesc", row.cells[Description]);
         table.text("sEmail", row.cells[Email]);
-        table.row("bIsReg", "0"); // nothing sets it: the hub script wants the row
+        table.row("bIsReg", "0"); // nothing sets it
         table.text("sFunction", row.cells[Group]);
         table.close();
     }

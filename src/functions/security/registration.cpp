@@ -12,7 +12,7 @@ GridCommand command(const std::string& word, const std::string& name)
 
 /// A rebuild looks for each setting under swapped names, finds none, and writes the defaults whatever the
 /// file holds. Its last key has an `s` too many, so that the form shows the hub's first profile after it and
-/// writes the right key with its next save. The hub script lives with both.
+/// writes the key that it reads with its next save.
 void resetSettings(const SettingsFiles& files)
 {
     const TableFile& file = registrationSettings();
