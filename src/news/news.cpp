@@ -2,6 +2,7 @@
 
 #include "settings/lines.h"
 #include "settings/tablefile.h"
+#include "settings/tablewriter.h"
 
 #include <algorithm>
 #include <charconv>
@@ -104,20 +105,19 @@ std::optional<NewsArticle> readArticle(std::string_view text, ArticleNumber numb
 
 std::string composedNews(const std::vector<NewsArticle>& articles)
 {
-    std::string text = "tNews = {\r\n";
-    for (const NewsArticle& article : articles) {
-        text.append("\t[").append(article.number).append("] = \"");
-        text.append(article.date).append("|").append(article.symbol).append("|");
-        text.append(article.headline).append("|").append(article.story).append("\",").append(lineEnd);
-    }
-    return text + '}';
+    TableWriter table("tNews");
+    for (const NewsArticle& article : articles)
+        table.text(bracketed(article.number),
+                   article.date + "|" + article.symbol + "|" + article.headline + "|" + article.story);
+    return table.closed();
 }
 
-/// The blank behind the brace has always stood there.
+/// A blank stands behind the brace, which the readers trim.
 void saveLastNumber(const SettingsFiles& files, const std::string& number)
 {
-    files.WriteSettingsFile(newsSettingsFile, "tNewsSettings = { \r\n\tiLastID = " + number + ",\r\n}",
-                            appRelative);
+    TableWriter table;
+    table.line("tNewsSettings = { ").indent(1).row("iLastID", number);
+    files.WriteSettingsFile(newsSettingsFile, table.closed(), appRelative);
 }
 
 std::optional<ArticleNumber> loadLastNumber(const SettingsFiles& files)

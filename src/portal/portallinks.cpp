@@ -233,7 +233,8 @@ void PortalLinks::hearValidateDenide(std::string_view /*parameters*/, Link link)
     send(link, "$ValidateNick " + m_form.username() + messageEnd);
 }
 
-/// Neither link looks at the password itself, and both send that of row 1. Settings in the field rely on it.
+/// Both links send the password of row 1, be it empty: link 1 if the row has a port, link 2 if there is a
+/// description.
 void PortalLinks::hearGetPass(std::string_view /*parameters*/, Link link)
 {
     const bool answers =

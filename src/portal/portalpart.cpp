@@ -267,8 +267,7 @@ void PortalPart::addHub()
     });
 }
 
-/// What was edited goes into the last row, whichever was selected, and a full list gets its NEW button back:
-/// owners know the form so.
+/// What was edited goes into the last row, whichever was selected, and a full list gets its NEW button back.
 void PortalPart::editHub()
 {
     const int selected = m_hubs->currentRow();

@@ -2,6 +2,7 @@
 
 #include "settings/bottables.h"
 #include "settings/tablefile.h"
+#include "settings/tablewriter.h"
 
 #include <algorithm>
 
@@ -46,32 +47,6 @@ bool precedes(std::string_view one, std::string_view other)
         });
 }
 
-/// The lines of a table file, each at its indent.
-class TableText
-{
-public:
-    void line(std::size_t indent, std::string_view text)
-    {
-        m_text.append(indent, '\t').append(text).append(lineEnd);
-    }
-
-    void row(std::size_t indent, std::string_view key, std::string_view value)
-    {
-        line(indent, std::string(key).append(" = \"").append(value).append("\","));
-    }
-
-    /// All of it, without the last line end.
-    std::string composed() const { return m_text.substr(0, m_text.size() - lineEnd.size()); }
-
-private:
-    std::string m_text;
-};
-
-std::string numberKey(std::size_t number)
-{
-    return '[' + std::to_string(number) + ']';
-}
-
 } // namespace
 
 PortalSettings loadPortalSettings(const SettingsFiles& files)
@@ -100,26 +75,25 @@ std::vector<std::string> defaultIgnoreNicks(const SettingsFiles& files)
 
 std::string composedPortalSettings(const PortalSettings& settings)
 {
-    TableText text;
-    text.line(0, "tPortalSettings = {");
-    text.line(1, "tUser = {");
+    TableWriter table("tPortalSettings");
+    table.open("tUser");
     for (std::size_t at = 0; at < settings.user.size(); ++at)
-        text.row(2, userKeys[at], settings.user[at]);
-    text.line(1, "},");
-    text.line(1, "tHubs = {");
+        table.text(userKeys[at], settings.user[at]);
+    table.close();
+    table.open("tHubs");
     for (std::size_t at = 0; at < settings.hubs.size(); ++at) {
-        text.line(2, numberKey(at + 1) + " = {");
-        text.row(3, "sHubAddress", settings.hubs[at].address);
-        text.row(3, "sClientPassword", settings.hubs[at].password);
-        text.row(3, "sClientPort", settings.hubs[at].port);
-        text.line(2, "},");
+        table.open(bracketed(std::to_string(at + 1)));
+        table.text("sHubAddress", settings.hubs[at].address);
+        table.text("sClientPassword", settings.hubs[at].password);
+        table.text("sClientPort", settings.hubs[at].port);
+        table.close();
     }
-    text.line(1, "},");
-    text.line(1, "tIgnoreNicks = {");
+    table.close();
+    table.open("tIgnoreNicks");
     for (std::size_t at = 0; at < settings.ignoreNicks.size(); ++at)
-        text.row(2, numberKey(at + 1), settings.ignoreNicks[at]);
-    text.line(1, "},");
-    return text.composed();
+        table.text(bracketed(std::to_string(at + 1)), settings.ignoreNicks[at]);
+    table.close();
+    return table.unclosed();
 }
 
 void savePortalSettings(const SettingsFiles& files, const PortalSettings& settings)

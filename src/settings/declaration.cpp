@@ -2,6 +2,7 @@
 
 #include "settings/profiles.h"
 #include "settings/tablefile.h"
+#include "settings/tablewriter.h"
 
 #include <algorithm>
 
@@ -58,61 +59,55 @@ std::string rowName(const Setting& setting, std::string_view key)
     return nameRow(name, setting, key);
 }
 
-std::string quoted(const std::string& text)
+TableWriter& writeTable(TableWriter& table, const Setting& setting, const SettingValues& values,
+                        const HubProfiles& profiles)
 {
-    return '"' + text + '"';
-}
-
-std::string tableText(const Setting& setting, const SettingValues& values, const HubProfiles& profiles,
-                      const std::string& indent)
-{
-    const bool isProfile = setting.kind == Setting::Kind::Profiles; // a profile's key stands in brackets
-    const bool isText = setting.kind == Setting::Kind::Texts;
-    std::string rows = indent + setting.key + " = {\r\n";
+    table.open(setting.key);
     std::string name;
     for (const NestedRow& row : nestedRows(setting, profiles)) {
         const std::string& value = values.at(nameRow(name, setting, row.key));
-        rows.append(indent).append(isProfile ? "\t[" : "\t").append(row.key);
-        rows.append(isProfile ? "] = " : " = ").append(isText ? quoted(value) : value).append(",\r\n");
+        if (setting.kind == Setting::Kind::Profiles)
+            table.row(bracketed(row.key), value);
+        else if (setting.kind == Setting::Kind::Texts)
+            table.text(row.key, value);
+        else
+            table.row(row.key, value);
     }
-    return rows + indent + "},\r\n";
+    return table.close();
 }
 
-std::string constantTable(const Setting& setting, RowOrder order, const std::string& indent)
+TableWriter& writeConstants(TableWriter& table, const Setting& setting, RowOrder order)
 {
     const bool differs = order == RowOrder::Rebuild && !setting.rebuildEntries.empty();
-    std::string rows = indent + setting.key + " = {\r\n";
+    table.open(setting.key);
     for (const std::string& row : differs ? setting.rebuildEntries : setting.entries)
-        rows.append(indent).append("\t").append(row).append(",\r\n");
-    return rows + indent + "},\r\n";
+        table.row(row);
+    return table.close();
 }
 
-std::string rowText(const Setting& setting, const SettingValues& values, RowOrder order,
-                    const HubProfiles& profiles)
+TableWriter& writeSetting(TableWriter& table, const Setting& setting, const SettingValues& values,
+                          RowOrder order, const HubProfiles& profiles)
 {
-    const std::string indent = setting.nest.empty() ? "\t" : "\t\t";
     const bool saves = order == RowOrder::Save;
-    const std::string opening =
-        indent + (saves && !setting.keyInSave.empty() ? setting.keyInSave : setting.key) + " = ";
+    const std::string& key = saves && !setting.keyInSave.empty() ? setting.keyInSave : setting.key;
     switch (setting.kind) {
     case Setting::Kind::Flag:
     case Setting::Kind::Number:
     case Setting::Kind::Options:
     case Setting::Kind::Profile:
-        return opening + values.at(setting.key) + ",\r\n";
+        return table.row(key, values.at(setting.key));
     case Setting::Kind::Text:
     case Setting::Kind::Entry:
     case Setting::Kind::Letter:
-        return opening + quoted(saves && setting.constant ? *setting.constant : values.at(setting.key)) +
-               ",\r\n";
+        return table.text(key, saves && setting.constant ? *setting.constant : values.at(setting.key));
     case Setting::Kind::Profiles:
     case Setting::Kind::Flags:
     case Setting::Kind::Texts:
-        return tableText(setting, values, profiles, indent);
+        return writeTable(table, setting, values, profiles);
     case Setting::Kind::Rows:
-        return constantTable(setting, order, indent);
+        return writeConstants(table, setting, order);
     }
-    return {};
+    return table;
 }
 
 /// Takes each value from `valueOf(setting, key, table)`, the standard of a nested row standing in for one
@@ -150,12 +145,15 @@ bool isAny(const Setting& /*setting*/)
     return true;
 }
 
-/// The lines of the nested tables that end and begin between one setting and the next.
-std::string passage(const std::string& nestBefore, const std::string& nest)
+/// Closes and opens the nested tables that end and begin between one setting and the next.
+void pass(TableWriter& table, std::string_view nestBefore, std::string_view nest)
 {
     if (nestBefore == nest)
-        return {};
-    return (nestBefore.empty() ? "" : "\t},\r\n") + (nest.empty() ? "" : "\t" + nest + " = {\r\n");
+        return;
+    if (!nestBefore.empty())
+        table.close();
+    if (!nest.empty())
+        table.open(nest);
 }
 
 std::vector<const Setting*> inOrder(const TableFile& file, RowOrder order)
@@ -224,22 +222,24 @@ SettingValues rebuilt(const TableFile& file, const TableIndex& index, const HubP
         isAny);
 }
 
-std::string composedRows(const TableFile& file, const SettingValues& values, RowOrder order,
-                         const HubProfiles& profiles)
+void writeRows(TableWriter& table, const TableFile& file, const SettingValues& values, RowOrder order,
+               const HubProfiles& profiles)
 {
-    std::string text;
-    std::string nest;
+    std::string_view nest;
     for (const Setting* setting : inOrder(file, order)) {
-        text += passage(nest, setting->nest) + rowText(*setting, values, order, profiles);
+        pass(table, nest, setting->nest);
+        writeSetting(table, *setting, values, order, profiles);
         nest = setting->nest;
     }
-    return text + passage(nest, {});
+    pass(table, nest, {});
 }
 
 std::string composed(const TableFile& file, const SettingValues& values, RowOrder order,
                      const HubProfiles& profiles)
 {
-    return file.table + " = {\r\n" + composedRows(file, values, order, profiles) + "}";
+    TableWriter table(file.table);
+    writeRows(table, file, values, order, profiles);
+    return table.closed();
 }
 
 void rebuildTableFile(const TableFile& file, const SettingsFiles& files, const HubProfiles& profiles)

@@ -11,6 +11,7 @@ namespace quillfen {
 class HubProfiles;
 class SettingsFiles;
 class TableIndex;
+class TableWriter;
 
 /// A settings file: one table, its settings in the order of the form's save, and the order of the rebuild
 /// where it is another.
@@ -57,9 +58,9 @@ enum class RowOrder
 std::string composed(const TableFile& file, const SettingValues& values, RowOrder order,
                      const HubProfiles& profiles);
 
-/// The rows alone, for a file that has more between its opening line and its brace.
-std::string composedRows(const TableFile& file, const SettingValues& values, RowOrder order,
-                         const HubProfiles& profiles);
+/// Writes the rows alone, for a file that has more between its opening line and its brace.
+void writeRows(TableWriter& table, const TableFile& file, const SettingValues& values, RowOrder order,
+               const HubProfiles& profiles);
 
 /// The build routine of a declared file: rebuilt() values, in the rebuild's order, written. Throws
 /// StoreError.

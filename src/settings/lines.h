@@ -9,6 +9,9 @@ namespace quillfen {
 /// The line limit of the readers that keep one.
 inline constexpr std::size_t lineLimit = 5000;
 
+/// The line end of every file that is written.
+inline constexpr std::string_view lineEnd = "\r\n";
+
 /// Walks the lines of a file's bytes. CR LF, LF and CR each end a line; a last line without an end counts.
 class LineCursor
 {

@@ -1,25 +1,27 @@
 #include "settings/listfile.h"
 
+#include "settings/tablewriter.h"
+
 #include <utility>
 
 namespace quillfen {
 namespace {
 
-std::string rowText(const ListFile& file, const ListRow& row, std::size_t number)
+TableWriter& writeRow(TableWriter& table, ListFile::Form form, const ListRow& row, std::size_t number)
 {
-    switch (file.form) {
+    switch (form) {
     case ListFile::Form::Plain:
-        return "\"" + row.text + "\"";
+        return table.row(quoted(row.text));
     case ListFile::Form::Keyed:
-        return "[\"" + row.text + "\"] = \"" + row.second + "\"";
+        return table.text(bracketed(quoted(row.text)), row.second);
     case ListFile::Form::Numbered:
-        return "[" + std::to_string(number) + "] = \"" + row.text + "\"";
+        return table.text(bracketed(std::to_string(number)), row.text);
     case ListFile::Form::Presence:
-        return "[\"" + row.text + "\"] = 1";
+        return table.row(bracketed(quoted(row.text)), "1");
     case ListFile::Form::Flags:
-        return "b" + row.text + (row.checked ? " = 1" : " = 0");
+        return table.row("b" + row.text, row.checked ? "1" : "0");
     }
-    return {};
+    return table;
 }
 
 /// Turns what the reader gave into what the list shows.
@@ -55,24 +57,24 @@ std::vector<ListRow> loadList(const SettingsFiles& files, const ListFile& file)
 
 std::string composedList(const ListFile& file, const std::vector<ListRow>& rows)
 {
-    std::string text = file.table + " = {\r\n";
+    TableWriter table(file.table);
     std::size_t number = 0;
     for (const ListRow& row : rows)
-        text.append("\t").append(rowText(file, row, ++number)).append(",\r\n");
-    return text + "}";
+        writeRow(table, file.form, row, ++number);
+    return table.closed();
 }
 
 std::string composedNestedLists(const NestedListsFile& file,
                                 const std::vector<std::vector<std::string>>& lists)
 {
-    std::string text = file.table + " = {\r\n";
+    TableWriter table(file.table);
     for (std::size_t list = 0; list < lists.size(); ++list) {
-        text += "\t" + file.tables.at(list) + " = {\r\n";
+        table.open(file.tables.at(list));
         for (const std::string& each : lists[list])
-            text += "\t\t\"" + each + "\",\r\n";
-        text += "\t},\r\n";
+            table.row(quoted(each));
+        table.close();
     }
-    return text + "}";
+    return table.closed();
 }
 
 void saveList(const SettingsFiles& files, const ListFile& file, const std::vector<ListRow>& rows)
@@ -86,14 +88,9 @@ void writeIfMissing(const SettingsFiles& files, std::string_view file, std::stri
         files.WriteSettingsFile(file, text);
 }
 
-std::string emptyTable(std::string_view table)
-{
-    return std::string(table) + " = {\r\n}";
-}
-
 void writeEmptyTableIfMissing(const SettingsFiles& files, std::string_view file, std::string_view table)
 {
-    writeIfMissing(files, file, emptyTable(table));
+    writeIfMissing(files, file, TableWriter(table).closed());
 }
 
 } // namespace quillfen

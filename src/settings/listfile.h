@@ -51,7 +51,4 @@ void writeIfMissing(const SettingsFiles& files, std::string_view file, std::stri
 /// The same with a table of no rows.
 void writeEmptyTableIfMissing(const SettingsFiles& files, std::string_view file, std::string_view table);
 
-/// A table of no rows: its opening line and its brace.
-std::string emptyTable(std::string_view table);
-
 } // namespace quillfen

@@ -1,6 +1,9 @@
 #include "settings/permissiongrid.h"
 
 #include "settings/lines.h"
+#include "settings/tablewriter.h"
+
+#include <algorithm>
 
 namespace quillfen {
 namespace {
@@ -10,23 +13,18 @@ namespace {
 template <typename ValueOf>
 std::string composed(const GridCommand& command, const std::vector<std::string>& keys, const ValueOf& valueOf)
 {
-    std::vector<std::string> openings; // of each row, alike in every table
-    openings.reserve(keys.size());
-    for (const std::string& key : keys)
-        openings.push_back("\t\t[" + key + "] = ");
-    std::size_t rows = 0; // about the bytes of a table's rows
-    for (const std::string& opening : openings)
-        rows += opening.size() + 4;
-    std::string text = command.table + " = {\r\n";
-    text.reserve(text.size() + keys.size() * (rows + 20));
+    constexpr std::size_t rowSize = 16; // about the bytes of a row
+    std::vector<std::string> bracketedKeys(keys.size());
+    std::transform(keys.begin(), keys.end(), bracketedKeys.begin(), bracketed);
+    TableWriter table(command.table);
+    table.reserve((keys.size() + 2) * (keys.size() + 2) * rowSize);
     for (std::size_t by = 0; by < keys.size(); ++by) {
-        text.append("\t[").append(keys[by]).append("] = {\r\n");
+        table.open(bracketedKeys[by]);
         for (std::size_t on = 0; on < keys.size(); ++on)
-            text.append(openings[on]).append(valueOf(by, on)).append(",\r\n");
-        text.append("\t},\r\n");
+            table.row(bracketedKeys[on], valueOf(by, on));
+        table.close();
     }
-    text += '}';
-    return text;
+    return table.closed();
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 
 #include "settings/profiles.h"
 #include "settings/tablefile.h"
+#include "settings/tablewriter.h"
 
 namespace quillfen {
 namespace {
@@ -37,7 +38,7 @@ void build(const Reconciliation& start, const HubProfiles& profiles)
             routine(start.files, profiles);
     }
     start.files.WriteSettingsFile(versionFile,
-                                  "tVersion = {\r\n\tsVersion = \"" + start.version + "\",\r\n}");
+                                  TableWriter("tVersion").text("sVersion", start.version).closed());
 }
 
 /// The script's folder comes with the hub script. Without it the program stands in the wrong place, and

@@ -76,8 +76,8 @@ public:
         }
         const auto first = trimmedTableKey(left);
         const auto second = trimmedTableValue(right);
-        // The opening line counts as row 1, so the rows behind an empty table are taken in its place: the
-        // files of several tables in the field are read so.
+        // The opening line counts as row 1, so that a list whose table is empty shows the rows of the table
+        // behind it.
         if (!m_table.empty() && (first == m_table || m_count == 1))
             m_inTable = true;
         if (second == "}" || !m_inTable)

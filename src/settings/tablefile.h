@@ -1,6 +1,7 @@
 #pragma once
 
 #include "settings/filestore.h"
+#include "settings/lines.h"
 #include "settings/paths.h"
 #include "settings/tableindex.h"
 
@@ -9,9 +10,6 @@
 #include <vector>
 
 namespace quillfen {
-
-/// The line end of every file that is written.
-inline constexpr std::string_view lineEnd = "\r\n";
 
 /// One row of a list, as the list readers fill it.
 struct ListRow

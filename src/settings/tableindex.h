@@ -21,8 +21,8 @@ public:
     explicit TableIndex(std::string bytes, std::size_t lines = lineLimit);
 
     /// The value of the first row with this key behind the first line that opens the table, or anywhere if no
-    /// table is named; empty if there is none. A closing brace doesn't end a table: rows behind it stay
-    /// visible. Files in the field depend on it.
+    /// table is named; empty if there is none. A closing brace doesn't end a table: the rows behind a nested
+    /// one are still the outer one's.
     std::string value(std::string_view key, std::string_view table = {}) const;
 
 private:

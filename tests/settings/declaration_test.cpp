@@ -1,4 +1,5 @@
 #include "settings/declaration.h"
+#include "settings/tablewriter.h"
 #include "support/hub.h"
 
 #include <gtest/gtest.h>
@@ -163,10 +164,14 @@ TEST_F(Declaration, ASaveMakesItsFolderOnlyWhereThatIsDeclared)
     EXPECT_EQ(hub.file("Own/A.tbl"), "tSample = {\r\n\tbFlag = 1,\r\n}\r\n");
 }
 
-TEST_F(Declaration, TheRowsAloneHaveNeitherOpeningLineNorBrace)
+TEST_F(Declaration, TheRowsAloneStandAmongOthersInATable)
 {
     const TableFile file = {"A.tbl", "tSample", {flag("bFlag", "chkCheckBox", "Flag", "1")}};
-    EXPECT_EQ(composedRows(file, {{"bFlag", "0"}}, RowOrder::Save, hub.profiles), "\tbFlag = 0,\r\n");
+    TableWriter table("tOther");
+    table.row("iFirst", "1");
+    writeRows(table, file, {{"bFlag", "0"}}, RowOrder::Save, hub.profiles);
+    table.row("iLast", "2");
+    EXPECT_EQ(table.closed(), "tOther = {\r\n\tiFirst = 1,\r\n\tbFlag = 0,\r\n\tiLast = 2,\r\n}");
 }
 
 /// A file of one setting.

@@ -1,5 +1,6 @@
 #include "settings/codepage.h"
 #include "settings/tablefile.h"
+#include "settings/tablewriter.h"
 #include "support/hub.h"
 
 #include <gtest/gtest.h>
@@ -91,6 +92,77 @@ TEST(Writer, MakesNoFolderAndItsFailureReachesTheCaller)
 {
     const test::Hub hub;
     EXPECT_THROW(hub.files.WriteSettingsFile(R"(Gone\A.tbl)", "x"), StoreError);
+}
+
+TEST(TableWriter, RowsStandATabDeeperThanTheirTableWhoseBraceEndsTheText)
+{
+    EXPECT_EQ(TableWriter("tEmpty").closed(), "tEmpty = {\r\n}");
+    TableWriter table("tSample");
+    table.row("bFlag", "1").text("sName", "a b").text("sNone", "").row("iNone", "");
+    EXPECT_EQ(table.closed(),
+              "tSample = {\r\n\tbFlag = 1,\r\n\tsName = \"a b\",\r\n\tsNone = \"\",\r\n\tiNone = ,\r\n}");
+}
+
+TEST(TableWriter, NestedTablesOpenAndCloseAtTheirDepth)
+{
+    TableWriter table("tOuter");
+    table.open("tInner").open(bracketed("-1")).row("bFlag", "0").close().row("iCount", "2").close();
+    table.open("tNone").close().row("iLast", "3");
+    EXPECT_EQ(table.closed(), "tOuter = {\r\n"
+                              "\ttInner = {\r\n"
+                              "\t\t[-1] = {\r\n"
+                              "\t\t\tbFlag = 0,\r\n"
+                              "\t\t},\r\n"
+                              "\t\tiCount = 2,\r\n"
+                              "\t},\r\n"
+                              "\ttNone = {\r\n"
+                              "\t},\r\n"
+                              "\tiLast = 3,\r\n"
+                              "}");
+}
+
+TEST(TableWriter, RowsMayHaveANumberATextOrNothingForAKey)
+{
+    TableWriter table("tSample");
+    table.text(bracketed("1"), "one").row(bracketed(quoted("two")), "1").row(quoted("three")).row("4");
+    EXPECT_EQ(table.closed(),
+              "tSample = {\r\n\t[1] = \"one\",\r\n\t[\"two\"] = 1,\r\n\t\"three\",\r\n\t4,\r\n}");
+}
+
+TEST(TableWriter, EscapesNothing)
+{
+    TableWriter table("tSample");
+    table.text("sOdd", "a\"b\\c\x80\r\n\t,}").row(quoted("]\"["));
+    EXPECT_EQ(table.closed(), "tSample = {\r\n\tsOdd = \"a\"b\\c\x80\r\n\t,}\",\r\n\t\"]\"[\",\r\n}");
+}
+
+TEST(TableWriter, LinesOfOtherShapesAndDepthsAreTold)
+{
+    TableWriter table;
+    table.line("tOdd = { ").indent(1).line("n=0");
+    table.open("[1]").indent(3).row("bDeep", "1").indent(2).close();
+    table.indent(0).row("iFlat", "2");
+    EXPECT_EQ(table.closed(),
+              "tOdd = { \r\n\tn=0\r\n\t[1] = {\r\n\t\t\tbDeep = 1,\r\n\t},\r\niFlat = 2,\r\n}");
+}
+
+TEST(TableWriter, ATableMayStayOpen)
+{
+    TableWriter table("tOpen");
+    table.open("tInner").row("bFlag", "1").close();
+    EXPECT_EQ(table.unclosed(), "tOpen = {\r\n\ttInner = {\r\n\t\tbFlag = 1,\r\n\t},");
+}
+
+TEST(TableWriter, MoreRowsThanThereWasRoomForAreWritten)
+{
+    TableWriter table("tMany");
+    table.reserve(40);
+    std::string expected = "tMany = {\r\n";
+    for (int row = 0; row < 100; ++row) {
+        table.text("sKey", "a text of some length");
+        expected += "\tsKey = \"a text of some length\",\r\n";
+    }
+    EXPECT_EQ(table.closed(), expected + "}");
 }
 
 TEST(FileNames, AreThoseThatTheCodePageHasInItsBytes)

@@ -5,8 +5,8 @@
 
 namespace quillfen::test {
 
-/// The files below the settings root that Lua can't load, each with the reason. The hub script's owners know
-/// of them.
+/// The files below the settings root that Lua can't load, each with the reason. The forms' own readers,
+/// which look at single lines, take them.
 using NotLoading = std::map<std::string, std::string>;
 
 /// Those of a fresh tree.

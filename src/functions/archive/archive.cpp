@@ -2,6 +2,7 @@
 
 #include "settings/lines.h"
 #include "settings/listfile.h"
+#include "settings/tablewriter.h"
 
 #include <algorithm>
 #include <array>
@@ -53,10 +54,9 @@ std::vector<std::string> twoDigits(int count)
     return numbers;
 }
 
-std::string announcementText(int number, const std::string& time, const std::string& bInMain)
+void writeAnnouncement(TableWriter& table, int number, std::string_view time, std::string_view bInMain)
 {
-    return "\t[" + std::to_string(number) + "] = {\r\n\t\tsTime = \"" + time +
-           "\",\r\n\t\tbInMain = " + bInMain + ",\r\n\t},\r\n";
+    table.open(bracketed(std::to_string(number))).text("sTime", time).row("bInMain", bInMain).close();
 }
 
 enum Cell
@@ -87,8 +87,8 @@ GridCommand commandOf(const ArchiveMember& member, const std::string& command)
 GridCommand rightClickOf(const std::string& word)
 {
     const ArchiveMember& hyperlink = archiveMembers().back();
-    // The form's tables lack the "RC" that their files have. The hub script and the form find each value by
-    // its profile's key.
+    // The form's tables lack the "RC" that their files have: the form finds each value by its profile's key
+    // alone.
     return {word, pathOf(hyperlink, "RCEnable" + word), tableOf(hyperlink, "Enable" + word)};
 }
 
@@ -105,21 +105,20 @@ std::vector<PermissionCell> loadCells(const std::vector<GridCommand>& commands, 
 }
 
 /// A command's file is written when the walk comes to the next command, so the last command's never is: a
-/// change of it is lost. The hub script's owners know the grids so.
+/// change of it is lost.
 void saveCells(const std::vector<GridCommand>& commands, const std::vector<PermissionCell>& cells,
                const SettingsFiles& files)
 {
-    std::string text;
+    TableWriter table;
     const PermissionCell* previous = nullptr;
     for (const PermissionCell& cell : cells) {
         if (!previous || previous->command != cell.command) {
             if (previous)
-                files.WriteSettingsFile(commands[previous->command].path, text + "\t},\r\n}");
-            text = commands[cell.command].table + " = {\r\n";
+                files.WriteSettingsFile(commands[previous->command].path, table.close().closed());
+            table = TableWriter(commands[cell.command].table);
+            table.indent(2); // as in a nested table, whose brace follows, though none is opened
         }
-        text.append("\t\t[")
-            .append(HubProfiles::key(cell.by))
-            .append(cell.allowed ? "] = 1,\r\n" : "] = 0,\r\n");
+        table.row(bracketed(HubProfiles::key(cell.by)), cell.allowed ? "1" : "0");
         previous = &cell;
     }
 }
@@ -145,23 +144,24 @@ void buildLinkOfTheWeek(const ArchiveMember& member, const SettingsFiles& files)
         const auto value = index.value(key, nested);
         return value.empty() ? standard : value;
     };
-    std::string text = table + " = {\r\n\tbEnabled = " + kept("bEnabled", table, "1") + ",\r\n";
-    text += "\tsChangeTime = \"" + kept("sChangeTime", table, "SUN 17:59") + "\",\r\n";
+    TableWriter lines(table);
+    lines.row("bEnabled", kept("bEnabled", table, "1"));
+    lines.text("sChangeTime", kept("sChangeTime", table, "SUN 17:59"));
     if (index.value("sTime", "1").empty())
-        text += announcementText(1, "SUN 18:00", "0");
+        writeAnnouncement(lines, 1, "SUN 18:00", "0");
     for (int number = 1; number <= 50; ++number) {
         const std::string nested = std::to_string(number);
         const auto time = index.value("sTime", nested);
         if (time.empty())
             break;
-        text += announcementText(number, time, kept("bInMain", nested, "0"));
+        writeAnnouncement(lines, number, time, kept("bInMain", nested, "0"));
     }
-    files.WriteSettingsFile(pathOf(member, itemOfTheWeek), text + "}");
+    files.WriteSettingsFile(pathOf(member, itemOfTheWeek), lines.closed());
 }
 
 /// Each table's text goes to the file of the next table in the ring. So a table finds its own file
 /// overwritten by the one before when its turn comes, and starts with no permission; only the first keeps its
-/// values, which then stand in the second's file. The hub script lives with it.
+/// values, which then stand in the second's file: there the form finds them by their profiles' keys alone.
 void buildPermissionRing(const ArchiveMember& member, const SettingsFiles& files, const HubProfiles& profiles)
 {
     static const std::vector<std::string> ring = {"EnableClear",    "EnableDelete",    "EnableModify",
@@ -170,12 +170,12 @@ void buildPermissionRing(const ArchiveMember& member, const SettingsFiles& files
     for (std::size_t place = 0; place < ring.size(); ++place) {
         const std::string table = tableOf(member, ring[place]);
         const auto index = files.index(pathOf(member, ring[place]));
-        std::string text = table + " = {\r\n";
-        for (std::size_t row = 0; row < profiles.count(); ++row) {
-            const auto value = index.value(HubProfiles::key(row), table);
-            text += "\t[" + HubProfiles::key(row) + "] = \"" + (value.empty() ? "0" : value) + "\",\r\n";
+        TableWriter lines(table);
+        for (const std::string& key : profiles.keys()) {
+            const auto value = index.value(key, table);
+            lines.text(bracketed(key), value.empty() ? "0" : value);
         }
-        files.WriteSettingsFile(pathOf(member, ring[(place + 1) % ring.size()]), text + "}");
+        files.WriteSettingsFile(pathOf(member, ring[(place + 1) % ring.size()]), lines.closed());
     }
 }
 
@@ -214,10 +214,11 @@ LinkOfTheWeek loadLinkOfTheWeek(const ArchiveMember& member, const SettingsFiles
 
 void saveLinkOfTheWeek(const ArchiveMember& member, const LinkOfTheWeek& link, const SettingsFiles& files)
 {
-    std::string text = tableOf(member, itemOfTheWeek) + " = {\r\n\tbEnabled = " + link.enabled + ",\r\n";
+    TableWriter table(tableOf(member, itemOfTheWeek));
+    table.row("bEnabled", link.enabled);
     // Without quotes and with the day's full name, unlike the build's: Lua can't load it, and the form itself
-    // reads it back without its day. Trees in the field hold both.
-    text += "\tsChangeTime = " + link.changeTime + ",\r\n";
+    // reads it back without its day.
+    table.row("sChangeTime", link.changeTime);
     int number = 0;
     std::string word; // a text that is no day's name keeps the word of the row before
     for (const CellRow& row : link.announcements) {
@@ -225,10 +226,10 @@ void saveLinkOfTheWeek(const ArchiveMember& member, const LinkOfTheWeek& link, c
             if (day.name == row.cells.at(Date))
                 word = day.word;
         }
-        text += announcementText(++number, word + " " + row.cells.at(Time),
-                                 row.cells.at(Location) == "Main" ? "1" : "0");
+        writeAnnouncement(table, ++number, word + " " + row.cells.at(Time),
+                          row.cells.at(Location) == "Main" ? "1" : "0");
     }
-    files.WriteSettingsFile(pathOf(member, itemOfTheWeek), text + "}");
+    files.WriteSettingsFile(pathOf(member, itemOfTheWeek), table.closed());
 }
 
 LinkOfTheWeek restoredLinkOfTheWeek()
@@ -245,7 +246,7 @@ RowListDeclaration announcements()
     list.menu = "mnuFirst";
     list.dialog.form = EditForm::FourCombos;
     list.dialog.addTitle = "Add Announcement";
-    list.dialog.editTitle = " Announcement"; // the owner knows it with its leading blank
+    list.dialog.editTitle = " Announcement"; // shown with its leading blank
     list.dialog.labels = {"Day", "Hour", "Minute", "Location"};
     list.dialog.entries = {dayNames(), hours(), minutes(), {"Main Chat", "Private Message"}};
     list.dialog.addMode = 6;  // a row without one of its parts could not be read back
@@ -320,7 +321,8 @@ void buildHyperlink(const SettingsFiles& files, const HubProfiles& profiles)
     for (const char* name : {"CategoryIndex", "Index", "Items", "PendingIndex", "PendingItems", "VoteIP"})
         writeEmptyTableIfMissing(files, pathOf(hyperlink, name), tableOf(hyperlink, name));
     // Who voted is forgotten by each rebuild.
-    files.WriteSettingsFile(pathOf(hyperlink, "VoteNick"), emptyTable(tableOf(hyperlink, "VoteNick")));
+    files.WriteSettingsFile(pathOf(hyperlink, "VoteNick"),
+                            TableWriter(tableOf(hyperlink, "VoteNick")).closed());
 }
 
 } // namespace quillfen

@@ -1,6 +1,7 @@
 #include "functions/communication/changers.h"
 
 #include "settings/listfile.h"
+#include "settings/tablewriter.h"
 
 namespace quillfen {
 namespace {
@@ -70,11 +71,11 @@ void buildTopicChanger(const SettingsFiles& files, const HubProfiles& profiles)
 {
     rebuildTableFile(topicChanger().settings, files, profiles);
     // The build looks for the texts one folder too deep, finds none, and writes them empty each time: a
-    // rebuild loses the owner's topics. The kick bar's build looks in the right place. Both are kept.
+    // rebuild loses the owner's topics. The kick bar's build looks in the right place and keeps its texts.
     const ListFile texts = textsFile(topicWords);
     if (!files.store().exists(
             files.paths().inSettings(R"(Communication\TopicChanger\TopicChanger\TopicChangerTopics.tbl)")))
-        files.WriteSettingsFile(texts.path, emptyTable(texts.table));
+        files.WriteSettingsFile(texts.path, TableWriter(texts.table).closed());
 }
 
 void buildKickBarChanger(const SettingsFiles& files, const HubProfiles& profiles)

@@ -2,33 +2,13 @@
 
 #include "settings/lines.h"
 #include "settings/listfile.h"
+#include "settings/tablewriter.h"
 
 namespace quillfen {
 namespace {
 
 /// As the rebuild names the targets; the form knows the last one no more.
 constexpr const char* rebuiltTargets[] = {"Banner", "All", "Passive", "Operator"};
-
-std::string opening()
-{
-    return massMessageSettings().table + " = {\r\n";
-}
-
-std::string cellText(std::string_view key, std::string_view value)
-{
-    std::string text = "\t\t";
-    return text.append(key).append(" = ").append(value).append(",\r\n");
-}
-
-std::string profileCell(std::size_t target, std::string_view value)
-{
-    return cellText("[" + HubProfiles::key(target) + "]", value);
-}
-
-std::string blockOpening(std::size_t by)
-{
-    return "\t[" + HubProfiles::key(by) + "] = {\r\n";
-}
 
 std::string targetKey(std::size_t target, const HubProfiles& profiles)
 {
@@ -72,20 +52,19 @@ MassMessage loadMassMessage(const SettingsFiles& files, const HubProfiles& profi
 
 void saveMassMessage(const MassMessage& message, const SettingsFiles& files, const HubProfiles& profiles)
 {
-    std::string text =
-        opening() + composedRows(massMessageSettings(), message.immune, RowOrder::Save, profiles);
+    TableWriter table(massMessageSettings().table);
+    writeRows(table, massMessageSettings(), message.immune, RowOrder::Save, profiles);
     const std::size_t last = profiles.count() + massMessageTargets().size() - 1;
     for (const PermissionCell& cell : message.cells) {
-        const std::string value = cell.allowed ? "1" : "0";
         if (cell.on == 0)
-            text += blockOpening(cell.by);
+            table.open(bracketed(HubProfiles::key(cell.by)));
         // The form puts the named targets in quotes and leaves "Operator" out; the rebuild does neither.
-        text += cell.on < profiles.count() ? profileCell(cell.on, value)
-                                           : cellText("[\"" + targetKey(cell.on, profiles) + "\"]", value);
+        const std::string target = targetKey(cell.on, profiles);
+        table.row(bracketed(cell.on < profiles.count() ? target : quoted(target)), cell.allowed ? "1" : "0");
         if (cell.on == last)
-            text += "\t},\r\n";
+            table.close();
     }
-    files.WriteSettingsFile(massMessageSettings().path, text + "}");
+    files.WriteSettingsFile(massMessageSettings().path, table.closed());
 }
 
 void buildMassMessage(const SettingsFiles& files, const HubProfiles& profiles)
@@ -94,20 +73,20 @@ void buildMassMessage(const SettingsFiles& files, const HubProfiles& profiles)
     auto keys = profiles.keys();
     keys.insert(keys.end(), std::begin(rebuiltTargets), std::end(rebuiltTargets));
     TableCells cells(index, keys);
-    std::string text =
-        opening() + composedRows(massMessageSettings(), rebuilt(massMessageSettings(), index, profiles),
-                                 RowOrder::Rebuild, profiles);
+    TableWriter table(massMessageSettings().table);
+    writeRows(table, massMessageSettings(), rebuilt(massMessageSettings(), index, profiles),
+              RowOrder::Rebuild, profiles);
     for (std::size_t by = 0; by < profiles.count(); ++by) {
-        text += blockOpening(by);
+        table.open(bracketed(keys[by]));
         cells.enter(keys[by]);
         for (std::size_t on = 0; on < keys.size(); ++on) {
             const auto stored = cells.at(on);
             const auto kept = stored.empty() ? std::string_view("0") : stored;
-            text += on < profiles.count() ? profileCell(on, kept) : cellText(keys[on], kept);
+            table.row(on < profiles.count() ? bracketed(keys[on]) : keys[on], kept);
         }
-        text += "\t},\r\n";
+        table.close();
     }
-    files.WriteSettingsFile(massMessageSettings().path, text + "}");
+    files.WriteSettingsFile(massMessageSettings().path, table.closed());
     writeEmptyTableIfMissing(files, R"(Communication\MassMessage\MassMessagePassiveImmune.tbl)",
                              "tMassMessagePassiveImmune");
 }

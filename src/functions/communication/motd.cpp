@@ -3,25 +3,16 @@
 #include "settings/lines.h"
 #include "settings/listfile.h"
 #include "settings/profiles.h"
+#include "settings/tablewriter.h"
 
 namespace quillfen {
 namespace {
 
 constexpr std::string_view motdFile = R"(Communication\MOTD\MOTDSettings.tbl)";
 
-std::string flagsText(const std::string& indent, const std::string& bUse, const std::string& bInMain)
+void writeFlags(TableWriter& table, std::string_view key, std::string_view bUse, std::string_view bInMain)
 {
-    return indent + "bUse = " + bUse + ",\r\n" + indent + "bInMain = " + bInMain + ",\r\n";
-}
-
-std::string profileText(std::size_t row, const std::string& bUse, const std::string& bInMain)
-{
-    return "\t\t[" + HubProfiles::key(row) + "] = {\r\n" + flagsText("\t\t\t", bUse, bInMain) + "\t\t},\r\n";
-}
-
-std::string allText(const std::string& bUse, const std::string& bInMain)
-{
-    return "\ttAll = {\r\n" + flagsText("\t\t", bUse, bInMain) + "\t},\r\n";
+    table.open(key).row("bUse", bUse).row("bInMain", bInMain).close();
 }
 
 std::string orZero(const std::string& value)
@@ -48,15 +39,16 @@ std::vector<CellRow> loadMotds(const SettingsFiles& files, const HubProfiles& pr
 
 void saveMotds(const SettingsFiles& files, const std::vector<CellRow>& rows)
 {
-    const auto bUse = [](const CellRow& row) { return std::string(row.checked ? "1" : "0"); };
-    const auto bInMain = [](const CellRow& row) {
-        return std::string(row.cells.at(1) == sentToMain ? "1" : "0");
+    TableWriter table("tMOTDSettings");
+    const auto writeRow = [&table](const std::string& key, const CellRow& row) {
+        writeFlags(table, key, row.checked ? "1" : "0", row.cells.at(1) == sentToMain ? "1" : "0");
     };
-    std::string text = "tMOTDSettings = {\r\n\ttByProfile = {\r\n";
+    table.open("tByProfile");
     for (std::size_t row = 0; row + 1 < rows.size(); ++row)
-        text += profileText(row, bUse(rows[row]), bInMain(rows[row]));
-    text += "\t},\r\n" + allText(bUse(rows.back()), bInMain(rows.back()));
-    files.WriteSettingsFile(motdFile, text + "}");
+        writeRow(bracketed(HubProfiles::key(row)), rows[row]);
+    table.close();
+    writeRow("tAll", rows.back());
+    files.WriteSettingsFile(motdFile, table.closed());
 }
 
 std::string motdTextFile(std::size_t row, const HubProfiles& profiles)
@@ -67,18 +59,18 @@ std::string motdTextFile(std::size_t row, const HubProfiles& profiles)
 void buildMotds(const SettingsFiles& files, const HubProfiles& profiles)
 {
     // The flags for everybody are looked up in the mass message's file, which this folder doesn't hold: they
-    // go back to 0 at every rebuild. The hub script's owners count on it.
+    // go back to 0 at every rebuild, while each profile's stay.
     const auto allIndex = files.subIndex(R"(Communication\MOTD\MassMessageSettings.tbl)");
     const auto index = files.subIndex(motdFile);
-    std::string text =
-        "tMOTDSettings = {\r\n" +
-        allText(orZero(allIndex.value("tAll", "bUse")), orZero(allIndex.value("tAll", "bInMain"))) +
-        "\ttByProfile = {\r\n";
-    for (std::size_t row = 0; row < profiles.count(); ++row) {
-        const std::string table = HubProfiles::key(row);
-        text += profileText(row, orZero(index.value(table, "bUse")), orZero(index.value(table, "bInMain")));
-    }
-    files.WriteSettingsFile(motdFile, text + "\t},\r\n}");
+    TableWriter table("tMOTDSettings");
+    writeFlags(table, "tAll", orZero(allIndex.value("tAll", "bUse")),
+               orZero(allIndex.value("tAll", "bInMain")));
+    table.open("tByProfile");
+    for (const std::string& key : profiles.keys())
+        writeFlags(table, bracketed(key), orZero(index.value(key, "bUse")),
+                   orZero(index.value(key, "bInMain")));
+    table.close();
+    files.WriteSettingsFile(motdFile, table.closed());
     for (std::size_t row = 0; row <= profiles.count(); ++row)
         writeIfMissing(files, motdTextFile(row, profiles), "");
 }

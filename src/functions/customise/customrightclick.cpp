@@ -3,6 +3,7 @@
 #include "settings/lines.h"
 #include "settings/listfile.h"
 #include "settings/profiles.h"
+#include "settings/tablewriter.h"
 
 #include <algorithm>
 #include <charconv>
@@ -54,13 +55,13 @@ std::string storedProfile(const std::string& shown, const HubProfiles& profiles)
 {
     for (const auto& [word, code] : groups) {
         if (shown == word)
-            return "\"" + code + "\"";
+            return quoted(code);
     }
     const auto& names = profiles.names();
     const auto name = std::find(names.begin(), names.end(), shown);
     if (name != names.end())
         return HubProfiles::key(static_cast<std::size_t>(name - names.begin()));
-    return integer(shown) ? shown : "\"" + shown + "\"";
+    return integer(shown) ? shown : quoted(shown);
 }
 
 std::string shownLocation(const std::string& stored)
@@ -103,17 +104,19 @@ std::vector<CellRow> loadRows(const SettingsFiles& files, const HubProfiles& pro
 
 void saveRows(const SettingsFiles& files, const HubProfiles& profiles, const std::vector<CellRow>& rows)
 {
-    std::string text = std::string(table) + " = {\r\n\tiCommands = " + std::to_string(rows.size()) + ",\r\n";
+    TableWriter lines(table);
+    lines.row("iCommands", std::to_string(rows.size()));
     int number = 0;
     for (const CellRow& row : rows) {
         // The rows of a block stand two tabs deeper than its brace.
-        text += "\t[" + std::to_string(++number) + "] = {\r\n";
-        text += std::string("\t\t\tbEnabled = ") + (row.checked ? "1" : "0") + ",\r\n";
-        text += "\t\t\tiWhere = " + storedLocation(row.cells[Location]) + ",\r\n";
-        text += "\t\t\tsProfile = " + storedProfile(row.cells[Profile], profiles) + ",\r\n";
-        text += "\t\t\tsRightClick = \"" + row.cells[RightClick] + "\",\r\n\t},\r\n";
+        lines.open(bracketed(std::to_string(++number))).indent(3);
+        lines.row("bEnabled", row.checked ? "1" : "0");
+        lines.row("iWhere", storedLocation(row.cells[Location]));
+        lines.row("sProfile", storedProfile(row.cells[Profile], profiles));
+        lines.text("sRightClick", row.cells[RightClick]);
+        lines.indent(2).close();
     }
-    files.WriteSettingsFile(path, text + "}");
+    files.WriteSettingsFile(path, lines.closed());
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 #include "settings/lines.h"
 #include "settings/listfile.h"
 #include "settings/profiles.h"
+#include "settings/tablewriter.h"
 
 #include <map>
 #include <set>
@@ -89,17 +90,12 @@ std::vector<CellRow> rebuiltTags(const SettingsFiles& files, const HubProfiles& 
     });
 }
 
-std::string tagText(const std::vector<CellRow>& tags)
+void writeTags(TableWriter& lines, const std::vector<CellRow>& tags)
 {
-    std::string text = std::string("\t") + tagTable + " = {\r\n";
+    lines.open(tagTable);
     for (std::size_t row = 0; row < tags.size(); ++row)
-        text += "\t\t[" + HubProfiles::key(row) + "] = \"" + tags[row].cells[1] + "\",\r\n";
-    return text + "\t},\r\n";
-}
-
-void write(const std::string& rows, const SettingsFiles& files)
-{
-    files.WriteSettingsFile(path, std::string(table) + " = {\r\n" + rows + "}");
+        lines.text(bracketed(HubProfiles::key(row)), tags[row].cells[1]);
+    lines.close();
 }
 
 } // namespace
@@ -130,16 +126,23 @@ RowListDeclaration descriptionTags()
 void saveDescriptionTags(const SettingValues& tagged, const std::vector<CellRow>& tags,
                          const SettingsFiles& files, const HubProfiles& profiles)
 {
-    write(composedRows(taggedProfiles(), tagged, RowOrder::Save, profiles) + tagText(tags), files);
+    TableWriter lines(table);
+    writeRows(lines, taggedProfiles(), tagged, RowOrder::Save, profiles);
+    writeTags(lines, tags);
+    files.WriteSettingsFile(path, lines.closed());
 }
 
 void buildDescriptionTags(const SettingsFiles& files, const HubProfiles& profiles)
 {
     const auto index = files.index(path);
-    const auto kept = [&](const TableFile& file) {
-        return composedRows(file, rebuilt(file, index, profiles), RowOrder::Rebuild, profiles);
+    TableWriter lines(table);
+    const auto writeKept = [&](const TableFile& file) {
+        writeRows(lines, file, rebuilt(file, index, profiles), RowOrder::Rebuild, profiles);
     };
-    write(kept(rebuiltOnly()) + tagText(rebuiltTags(files, profiles)) + kept(taggedProfiles()), files);
+    writeKept(rebuiltOnly());
+    writeTags(lines, rebuiltTags(files, profiles));
+    writeKept(taggedProfiles());
+    files.WriteSettingsFile(path, lines.closed());
     writeEmptyTableIfMissing(files, R"(CustomiseUser\DescriptionTags\DescriptionTags.tbl)",
                              "tDescriptionTags");
 }

@@ -47,7 +47,7 @@ const TableFile& numbersSettings()
             "chkCheckBox",
             {
                 flag("bCalculateOnFly", "chkCheckBox(6)", "Calculate Questions On Fly", "1"),
-                // Captions and keys cross over: owners know the boxes by their captions, the script its keys.
+                // Captions and keys cross over: each of the two boxes loads and saves the key of the other.
                 flag("bReportCalc", "chkCheckBox(7)", "Prevent Calculator", "1"),
                 flag("bPreventCalc", "chkCheckBox(8)", "Report Calculator", "1"),
                 quiz("iArchiveScores", "txtTextBoxUpDown(9)"),

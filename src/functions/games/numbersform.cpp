@@ -39,7 +39,7 @@ private:
 
 bool CalculationsPart::mayTake(const CellRow& row)
 {
-    // Only the first field is looked at, and any number will do: the hub script cuts it to an integer.
+    // Only the first field is looked at, and any number will do, "1.5" too.
     if (wholeNumber(row.cells.at(1)))
         return true;
     notify(&list(), "Invalid Entry", "Invalid Entry: Integers required in all fields", QMessageBox::Warning);

@@ -4,6 +4,7 @@
 #include "functions/games/shared/wordlist.h"
 #include "settings/codepage.h"
 #include "settings/listfile.h"
+#include "settings/tablewriter.h"
 
 #include <algorithm>
 
@@ -79,13 +80,13 @@ TriviaQuestionFiles loadTriviaQuestionFiles(const SettingsFiles& files)
 
 void saveTriviaQuestionFiles(const SettingsFiles& files, const TriviaQuestionFiles& questionFiles)
 {
-    std::string text = std::string(questionFilesTable) + " = {\r\n";
-    text.append("\t").append(defaultKey).append(" = \"").append(questionFiles.defaultFile).append("\",\r\n");
+    TableWriter table(questionFilesTable);
+    table.text(defaultKey, questionFiles.defaultFile);
     for (const std::string& name : questionFiles.names) {
         if (name != questionFiles.defaultFile)
-            text += "\t\"" + name + "\",\r\n";
+            table.row(quoted(name));
     }
-    files.WriteSettingsFile(questionFilesPath, text + "}");
+    files.WriteSettingsFile(questionFilesPath, table.closed());
 }
 
 std::string triviaQuestionFile(std::string_view name)
@@ -120,9 +121,9 @@ void buildTrivia(const SettingsFiles& files, const HubProfiles& profiles)
     makeScoreFiles(files, "Trivia", "Trivia");
     if (files.store().exists(files.paths().inSettings(questionFilesPath)))
         return;
-    files.WriteSettingsFile(
-        questionFilesPath,
-        "tTriviaQuestionFiles = {\r\n[\"sDefaultQuestionFile\"] = \"TriviaQuestions\",\r\n}");
+    TableWriter table(questionFilesTable);
+    table.indent(0).text(bracketed(quoted(defaultKey)), "TriviaQuestions");
+    files.WriteSettingsFile(questionFilesPath, table.closed());
     // Only together with its table: an owner who deleted the file but kept the table doesn't get it back.
     writeIfMissing(files, triviaQuestionFile("TriviaQuestions"),
                    "Misc:Which short word is the title of a novel in Tavis Orlemon's series?*mort\r\n");

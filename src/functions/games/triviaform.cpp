@@ -268,7 +268,7 @@ void QuestionsPart::forgetDefault(const QString& name)
     const QSignalBlocker quiet(m_default);
     const int entry = m_default->findText(name, Qt::MatchExactly | Qt::MatchCaseSensitive);
     m_default->removeItem(entry);
-    // Whichever was the default before, it is the file before the deleted one now: owners know the form so.
+    // Whichever was the default before, it is the file before the deleted one now.
     m_default->setCurrentIndex(std::max(entry - 1, 0));
 }
 

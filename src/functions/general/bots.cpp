@@ -2,6 +2,7 @@
 
 #include "settings/bottables.h"
 #include "settings/listfile.h"
+#include "settings/tablewriter.h"
 
 namespace quillfen {
 namespace {
@@ -81,17 +82,17 @@ std::vector<CellRow> loadBots(const SettingsFiles& files, const HubProfiles& pro
 
 void saveBots(const SettingsFiles& files, const HubProfiles& /*profiles*/, const std::vector<CellRow>& rows)
 {
-    std::string text = "tBots = {\r\n";
+    TableWriter table("tBots");
     for (const CellRow& row : rows) {
-        text += '\t' + botTable(row.cells[Function]) + " = {\r\n";
-        text += "\t\tsName = \"" + row.cells[Name] + "\",\r\n";
-        text += "\t\tsDesc = \"" + row.cells[Description] + "\",\r\n";
-        text += "\t\tsEmail = \"" + row.cells[Email] + "\",\r\n";
-        text += "\t\tbIsReg = 0,\r\n"; // nothing sets it: the hub script wants the row
-        text += "\t\tsFunction = \"" + row.cells[Group] + "\",\r\n";
-        text += "\t},\r\n";
+        table.open(botTable(row.cells[Function]));
+        table.text("sName", row.cells[Name]);
+        table.text("sDesc", row.cells[Description]);
+        table.text("sEmail", row.cells[Email]);
+        table.row("bIsReg", "0"); // nothing sets it
+        table.text("sFunction", row.cells[Group]);
+        table.close();
     }
-    files.WriteSettingsFile(botFile, text + "}");
+    files.WriteSettingsFile(botFile, table.closed());
 }
 
 RowListDeclaration declaredBots()

@@ -1,6 +1,7 @@
 #include "functions/general/languages.h"
 
 #include "settings/listfile.h"
+#include "settings/tablewriter.h"
 
 namespace quillfen {
 namespace {
@@ -90,13 +91,12 @@ std::vector<CellRow> loadLanguages(const SettingsFiles& files, const LanguageSet
 
 void saveLanguages(const SettingsFiles& files, const LanguageSet& set, const std::vector<CellRow>& rows)
 {
-    std::string text = std::string(set.listTable) + " = {\r\n";
+    TableWriter table(set.listTable);
     int number = 0; // counts the others alone, so that there is no gap at the current one
-    for (const CellRow& row : rows) {
-        const std::string key = row.checked ? std::string(currentKey) : "[" + std::to_string(++number) + "]";
-        text += "\t" + key + " = \"" + row.cells.at(0) + "\",\r\n";
-    }
-    files.WriteSettingsFile(set.listFile, text + "}");
+    for (const CellRow& row : rows)
+        table.text(row.checked ? std::string(currentKey) : bracketed(std::to_string(++number)),
+                   row.cells.at(0));
+    files.WriteSettingsFile(set.listFile, table.closed());
 }
 
 std::vector<CellRow> loadReferenceTexts(const SettingsFiles& files, const LanguageSet& set)
@@ -115,10 +115,10 @@ std::vector<CellRow> loadLanguageTexts(const SettingsFiles& files, const Languag
 void saveLanguageTexts(const SettingsFiles& files, const LanguageSet& set, std::string_view name,
                        const std::vector<CellRow>& rows)
 {
-    std::string text = std::string(set.textTable) + " = {\r\n";
+    TableWriter table(set.textTable);
     for (const CellRow& row : rows)
-        text += "\t" + row.cells.at(0) + " = \"" + row.cells.at(1) + "\",\r\n";
-    files.WriteSettingsFile(pathOf(set, name), text + "}");
+        table.text(row.cells.at(0), row.cells.at(1));
+    files.WriteSettingsFile(pathOf(set, name), table.closed());
 }
 
 } // namespace quillfen

@@ -68,9 +68,7 @@ constexpr std::array functions = {
     SwitchedFunction{"Whisper", true, "Allows users to whisper to each other in main chat"},
 };
 
-/// A rebuild resets every switch without a look at the old file, and the owner's ticks are lost: the one
-/// place where it destroys settings, so that a new version of the hub script starts with its functions as
-/// they were designed.
+/// A rebuild resets every switch without a look at the old file, and the owner's ticks are lost.
 void writeBuiltRows(const SettingsFiles& files, const ListFile& file)
 {
     std::vector<ListRow> rows;

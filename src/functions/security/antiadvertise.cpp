@@ -101,8 +101,8 @@ void buildAntiAdvertise(const SettingsFiles& files, const HubProfiles& profiles)
 {
     rebuildTableFile(antiAdvertiseSettings(), files, profiles);
     rebuildTableFile(declaredActions(), files, profiles);
-    // Each new file opens with the other's table. The form's first save gives each its own; until then both
-    // are empty, and trees in the field hold them so.
+    // Each new file opens with the other's table. Both are empty, so that the form shows nothing wrong, and
+    // its first save gives each its own.
     const ListFile blocked = addressFile("Blocked");
     const ListFile allowed = addressFile("Allowed");
     writeEmptyTableIfMissing(files, allowed.path, blocked.table);

@@ -46,7 +46,7 @@ RowListDeclaration declaredExemptUsers()
     return list;
 }
 
-/// The hub script knows no key for this check box: it only makes the form dirty.
+/// No key belongs to this check box: it only makes the form dirty.
 Setting idleNotification()
 {
     Setting setting = flag("bSendNotification", "chkCheckBox", "Send Notification", "0");

@@ -38,8 +38,8 @@ const TableFile& kickSettings()
 
 const PermissionGrid& kickPermissions()
 {
-    // The form's "TimeBan" is the rebuild's "TempBan": each keeps a file of its own, and a fresh tree has
-    // none for the form until its first save. Trees in the field hold both.
+    // The form's "TimeBan" is the rebuild's "TempBan": each has a file of its own. No form reads the
+    // rebuild's, and a fresh tree has none for this one until its first save.
     static const PermissionGrid grid = {{command("Drop"), command("Warn"), command("Kick"),
                                          command("TimeBan"), command("Ban"), command("Unban")}};
     return grid;

@@ -12,7 +12,7 @@ std::string tickAboveZero(const std::string& stored)
 }
 
 /// The rebuild looks for the three single values under swapped names, finds none, and writes their defaults
-/// each time: an owner's redirect address is lost. The hub script's own set-up counts on it.
+/// each time: an owner's redirect address is lost. The profiles' flags are kept.
 Setting reset(Setting setting)
 {
     setting.resets = true;
@@ -25,7 +25,7 @@ Setting restriction(Setting setting)
     return reset(setting);
 }
 
-/// The label says disabled and the heading says enabled: both words are what owners know the list by.
+/// The label says disabled and the heading says enabled; a ticked row is a 1 in `tDisabled`.
 Setting disabled(const std::string& word, const std::string& label, const std::string& column)
 {
     Setting setting = profileFlags("t" + word, "lvwDisabled" + word, label);

@@ -3,6 +3,7 @@
 #include "settings/lines.h"
 #include "settings/listfile.h"
 #include "settings/profiles.h"
+#include "settings/tablewriter.h"
 
 #include <algorithm>
 #include <charconv>
@@ -107,46 +108,38 @@ std::vector<CellRow> loadPermissions(const SettingsFiles& files, const HubProfil
     return rows;
 }
 
-std::string writtenData(const Rule& rule, const std::string& stored)
+void writeRule(TableWriter& table, const Rule& rule, const std::string& stored)
 {
     if (rule.letter == 's')
-        return "\"" + stored + "\"";
-    return stored.empty() ? "0" : stored; // what was never set is a rule of 0
+        table.text(keyOf(rule), stored);
+    else
+        table.row(keyOf(rule), stored.empty() ? "0" : stored); // what was never set is a rule of 0
 }
 
-/// The block of messages or redirects: keys with quoted texts.
-std::string textBlock(const std::string& table, const std::vector<std::pair<std::string, std::string>>& texts)
+void writeTexts(TableWriter& table, std::string_view key, const std::vector<CellRow>& rows)
 {
-    std::string block = "\t" + table + " = {\r\n";
-    for (const auto& [key, text] : texts)
-        block.append("\t\t").append(key).append(" = \"").append(text).append("\",\r\n");
-    return block + "\t},\r\n";
-}
-
-std::string textBlock(const std::string& table, const std::vector<CellRow>& rows)
-{
-    std::vector<std::pair<std::string, std::string>> texts;
-    texts.reserve(rows.size());
+    table.open(key);
     for (const CellRow& row : rows)
-        texts.emplace_back("s" + row.cells[0], row.cells[1]);
-    return textBlock(table, texts);
+        table.text("s" + row.cells[0], row.cells[1]);
+    table.close();
 }
 
 void saveRules(const SettingsFiles& files, const std::vector<std::vector<CellRow>>& lists)
 {
-    std::string text = rulesFile.table + " = {\r\n";
-    text += textBlock("tMessages", lists.at(1)) + textBlock("tRedirects", lists.at(2));
+    TableWriter table(rulesFile.table);
+    writeTexts(table, "tMessages", lists.at(1));
+    writeTexts(table, "tRedirects", lists.at(2));
     std::size_t place = 0;
     for (const CellRow& row : lists.at(0)) {
         const Rule& rule = rules()[place];
         if (place == 0)
-            text += "\t[" + row.cells[ProfileKey] + "] = {\r\n";
-        text += "\t\t" + keyOf(rule) + " = " + writtenData(rule, row.cells[Stored]) + ",\r\n";
+            table.open(bracketed(row.cells[ProfileKey]));
+        writeRule(table, rule, row.cells[Stored]);
         place = (place + 1) % rules().size();
         if (place == 0)
-            text += "\t},\r\n";
+            table.close();
     }
-    files.WriteSettingsFile(rulesFile.path, text + "}");
+    files.WriteSettingsFile(rulesFile.path, table.closed());
 }
 
 RowDialog dialogOf(const CellRow& row)
@@ -257,37 +250,33 @@ TableFile declaredSettings()
 void rebuildRules(const SettingsFiles& files, const HubProfiles& profiles)
 {
     const auto index = files.index(rulesFile.path);
-    std::string text = rulesFile.table + " = {\r\n";
-    for (const char* table : {"tMessages", "tRedirects"}) {
-        std::vector<std::pair<std::string, std::string>> texts;
+    TableWriter table(rulesFile.table);
+    for (const char* texts : {"tMessages", "tRedirects"}) {
+        table.open(texts);
         for (const Rule& rule : rules()) {
             const std::string key = "s" + std::string(rule.name);
-            texts.emplace_back(key, index.value(key, table));
+            table.text(key, index.value(key, texts));
         }
-        text += textBlock(table, texts);
+        table.close();
     }
-    for (std::size_t profile = 0; profile < profiles.count(); ++profile) {
-        const std::string block = HubProfiles::key(profile);
-        text += "\t[" + block + "] = {\r\n";
+    for (const std::string& block : profiles.keys()) {
+        table.open(bracketed(block));
         for (const Rule& rule : rules()) {
-            std::string value = index.value(keyOf(rule), block);
-            if (value.empty())
-                value = rule.standard;
-            text +=
-                "\t\t" + keyOf(rule) + " = " + (rule.letter == 's' ? "\"" + value + "\"" : value) + ",\r\n";
+            const std::string value = index.value(keyOf(rule), block);
+            writeRule(table, rule, value.empty() ? std::string(rule.standard) : value);
         }
-        text += "\t},\r\n";
+        table.close();
     }
-    files.WriteSettingsFile(rulesFile.path, text + "}");
+    files.WriteSettingsFile(rulesFile.path, table.closed());
 }
 
 /// Each rebuild starts the counters anew, and the ratio's key has another letter here than in the rules.
 void resetCounters(const SettingsFiles& files)
 {
-    std::string text = "tProfileRulesRedirectCounter = {\r\n";
+    TableWriter table("tProfileRulesRedirectCounter");
     for (const Rule& rule : rules())
-        text += "\ti" + std::string(rule.name) + " = 0,\r\n";
-    files.WriteSettingsFile(R"(Security\ProfileRules\ProfileRulesRedirectCounter.tbl)", text + "}");
+        table.row("i" + std::string(rule.name), "0");
+    files.WriteSettingsFile(R"(Security\ProfileRules\ProfileRulesRedirectCounter.tbl)", table.closed());
 }
 
 } // namespace

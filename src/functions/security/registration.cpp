@@ -1,5 +1,7 @@
 #include "functions/security/registration.h"
 
+#include "settings/tablewriter.h"
+
 namespace quillfen {
 namespace {
 
@@ -10,16 +12,13 @@ GridCommand command(const std::string& word, const std::string& name)
 
 /// A rebuild looks for each setting under swapped names, finds none, and writes the defaults whatever the
 /// file holds. Its last key has an `s` too many, so that the form shows the hub's first profile after it and
-/// writes the right key with its next save. The hub script lives with both.
+/// writes the key that it reads with its next save.
 void resetSettings(const SettingsFiles& files)
 {
     const TableFile& file = registrationSettings();
-    files.WriteSettingsFile(file.path, file.table + " = {\r\n"
-                                                    "\tbAllowRegme = 1,\r\n"
-                                                    "\tbKeepLog = 1,\r\n"
-                                                    "\tsPrefix = \"\",\r\n"
-                                                    "\tiRegProfiles = 3,\r\n"
-                                                    "}");
+    TableWriter table(file.table);
+    table.row("bAllowRegme", "1").row("bKeepLog", "1").text("sPrefix", "").row("iRegProfiles", "3");
+    files.WriteSettingsFile(file.path, table.closed());
 }
 
 } // namespace

@@ -152,8 +152,8 @@ const RowListGroup& modernInsults()
 void buildInsults(const SettingsFiles& files, const HubProfiles& /*profiles*/)
 {
     writeIfMissing(files, insultsFile.path, composedList(insultsFile, firstInsults));
-    // The build misspells the third table, so that the form shows its list empty until its first save. Trees
-    // in the field are so.
+    // The build misspells the third table, which no form reads: the list stays empty until a first save
+    // writes the table by its name.
     NestedListsFile fresh = medievalFile;
     fresh.tables.back() = "tThreee";
     writeIfMissing(files, medievalFile.path, oneWordEach(fresh, firstMedievalWords));

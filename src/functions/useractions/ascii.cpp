@@ -1,6 +1,7 @@
 #include "functions/useractions/ascii.h"
 
 #include "settings/listfile.h"
+#include "settings/tablewriter.h"
 
 namespace quillfen {
 namespace {
@@ -28,19 +29,15 @@ std::vector<CellRow> loadIndex(const SettingsFiles& files, const HubProfiles& /*
 
 void saveIndex(const SettingsFiles& files, const HubProfiles& /*profiles*/, const std::vector<CellRow>& rows)
 {
-    std::string text = std::string(indexTable) + " = {\r\n";
+    TableWriter table(indexTable);
     int number = 0;
     for (const CellRow& row : rows) {
-        text += "\t[" + std::to_string(++number) + "] = {\r\n";
+        table.open(bracketed(std::to_string(++number)));
         for (std::size_t cell = 0; cell < std::size(keys); ++cell)
-            text.append("\t\t")
-                .append(keys[cell])
-                .append(" = \"")
-                .append(row.cells.at(cell))
-                .append("\",\r\n");
-        text += "\t},\r\n";
+            table.text(keys[cell], row.cells.at(cell));
+        table.close();
     }
-    files.WriteSettingsFile(indexPath, text + "}");
+    files.WriteSettingsFile(indexPath, table.closed());
 }
 
 } // namespace

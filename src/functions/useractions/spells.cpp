@@ -44,8 +44,7 @@ std::vector<std::string> pieces(const std::string& text)
 }
 
 /// The rows of an amended spell's file. The pieces are counted from 0 and taken from 1 on, so the first
-/// phrase gathered is left out, unless a second gathering has put it behind the others. The hub script's
-/// owners know the book so.
+/// phrase gathered is left out, unless a second gathering has put it behind the others.
 std::vector<ListRow> phrasesToWrite(const CellRow& spell)
 {
     const auto all = pieces(spell.cells.at(SpellPhrases));

@@ -1,6 +1,7 @@
 #include "functions/games/shared/quizpattern.h"
 
 #include "settings/listfile.h"
+#include "settings/tablewriter.h"
 
 #include <algorithm>
 #include <array>
@@ -123,7 +124,7 @@ void makeScoreFiles(const SettingsFiles& files, const std::string& folder, const
     const std::string path = "Games\\" + folder + "\\" + game;
     writeEmptyTableIfMissing(files, path + "Players.tbl", "t" + game + "Players");
     writeEmptyTableIfMissing(files, path + "ScoresArchiveIndex.tbl", "t" + game + "ScoresArchiveIndex");
-    writeIfMissing(files, path + "Scores.tbl", "t" + game + "Scores = {\r\n\tn=0\r\n}");
+    writeIfMissing(files, path + "Scores.tbl", TableWriter("t" + game + "Scores").line("n=0").closed());
 }
 
 } // namespace quillfen

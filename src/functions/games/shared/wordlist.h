@@ -32,7 +32,7 @@ RowListDeclaration guessedWords(const std::string& path, const std::string& menu
 inline constexpr const char* firstWord = "quillfen\r\n";
 
 /// The text of the whole file, without the writer's line end. The last row stands without a line end, and
-/// without asterisk and answer: each save loses the last answer, as the hub script's owners know it.
+/// without asterisk and answer: each save loses the last answer, and a load shows the row without one.
 std::string composedWords(WordLine line, const std::vector<CellRow>& rows);
 
 } // namespace quillfen
