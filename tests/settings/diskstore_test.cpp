@@ -2,6 +2,7 @@
 
 #include <filesystem>
 #include <gtest/gtest.h>
+#include <random>
 
 namespace quillfen {
 namespace {
@@ -11,12 +12,11 @@ class Disk : public testing::Test
 protected:
     Disk()
     {
-        folder = (std::filesystem::temp_directory_path() /
-                  ("quillfen-disk-" + std::to_string(std::hash<std::string>()(
-                                          testing::UnitTest::GetInstance()->current_test_info()->name()))))
-                     .string();
-        std::filesystem::remove_all(folder);
-        std::filesystem::create_directory(folder);
+        const auto temporary = std::filesystem::temp_directory_path();
+        std::random_device random; // another run of the tests has a folder of its own
+        do
+            folder = (temporary / ("quillfen-disk-" + std::to_string(random()))).string();
+        while (!std::filesystem::create_directory(folder));
     }
     ~Disk() override { std::filesystem::remove_all(folder); }
 
@@ -70,6 +70,16 @@ TEST_F(Disk, ListsTheFilesOfAFolderInOrderAndNotItsFolders)
     EXPECT_EQ(disk.list(folder), (std::vector<std::string>{".hidden", "B.asc", "b.asc", "caf\xC3\xA9"}));
     EXPECT_EQ(disk.list(folder + "/no"), std::vector<std::string>());
     EXPECT_EQ(disk.list(folder + "/b.asc"), std::vector<std::string>());
+}
+
+TEST_F(Disk, SortsTheFilesOfAFolderWhicheverCameFirst)
+{
+    std::vector<std::string> sorted;
+    for (char name = 'a'; name <= 'z'; ++name)
+        sorted.emplace_back(1, name);
+    for (std::size_t file = 0; file < sorted.size(); ++file) // each of them once, to and fro
+        disk.write(folder + "/" + sorted[file * 7 % sorted.size()], "x");
+    EXPECT_EQ(disk.list(folder), sorted);
 }
 
 TEST_F(Disk, RemovesAFileAndMindsNoneThatIsGone)

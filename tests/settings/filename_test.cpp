@@ -18,6 +18,12 @@ TEST(FileNames, ThatNoFileCanBearAreFaulty)
         EXPECT_EQ(fileNameFault(name), "") << name;
 }
 
+TEST(FileNames, AreGoodUpToTheirTwoHundredthCharacter)
+{
+    EXPECT_EQ(fileNameFault(std::string(200, 'x')), "");
+    EXPECT_NE(fileNameFault(std::string(201, 'x')), "");
+}
+
 TEST(FileNames, ThatAreThereAlreadyAreGoodUnlessTheyLeadOutOfTheirFolder)
 {
     for (const std::string& name :

@@ -59,6 +59,19 @@ TEST_F(Grid, ARebuildKeepsEachValueAndGivesANewProfileNone)
                                     "\t[0] = {\r\n\t\t[-1] = 0,\r\n\t\t[0] = 0,\r\n\t},\r\n}\r\n");
 }
 
+TEST_F(Grid, CountsItsProfilesFromItsFirstOneOn)
+{
+    grid.firstProfile = 1;
+    hub.file("Kick.tbl") = "tKick = {\r\n\t[0] = {\r\n\t\t[0] = 1,\r\n\t},\r\n}\r\n";
+    auto cells = loadGrid(grid, hub.files, hub.profiles);
+    ASSERT_EQ(cells.size(), 2U);
+    EXPECT_TRUE(isAllowed(cells, 0, 1, 1));
+    EXPECT_FALSE(isAllowed(cells, 1, 1, 1));
+    cells[1].allowed = true;
+    saveGrid(grid, cells, hub.files, hub.profiles);
+    EXPECT_EQ(hub.file("Ban.tbl"), "tBan = {\r\n\t[0] = {\r\n\t\t[0] = 1,\r\n\t},\r\n}\r\n");
+}
+
 TEST_F(Grid, MayLeaveTheUnregisteredOut)
 {
     grid.firstProfile = 1;

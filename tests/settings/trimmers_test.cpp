@@ -90,5 +90,14 @@ TEST(LeadingNumber, IsWhatATextBeginsWith)
     EXPECT_EQ(leadingNumber("1e999"), 0);
 }
 
+TEST(WholeNumber, IsATextOfNothingElse)
+{
+    EXPECT_EQ(wholeNumber("+1"), 1);
+    EXPECT_EQ(wholeNumber(" -2.5 "), -2.5);
+    EXPECT_EQ(wholeNumber("0"), 0);
+    for (const char* text : {"", " ", "+", "1x", "x1", "1 2", "inf", "nan", "1e999"})
+        EXPECT_EQ(wholeNumber(text), std::nullopt) << text;
+}
+
 } // namespace
 } // namespace quillfen

@@ -1,0 +1,132 @@
+#include "functions/archive/archive.h"
+#include "functions/communication/autocorrect.h"
+#include "functions/communication/welcomeinfo.h"
+#include "functions/customise/asciiintros.h"
+#include "functions/customise/customrightclick.h"
+#include "functions/customise/descriptiontags.h"
+#include "functions/games/anagrams.h"
+#include "functions/games/numbers.h"
+#include "functions/games/scoreclearers.h"
+#include "functions/general/bots.h"
+#include "functions/security/clientchecker.h"
+#include "functions/security/profilerules.h"
+#include "functions/security/spies.h"
+#include "functions/useractions/actiontexts.h"
+#include "functions/useractions/ascii.h"
+#include "functions/useractions/spells.h"
+#include "settings/listdeclaration.h"
+#include "settings/profiles.h"
+
+#include <gtest/gtest.h>
+
+namespace quillfen {
+namespace {
+
+using Texts = std::vector<std::string>;
+
+void expectDeletion(const RowListDeclaration& list, const char* title, const char* text, const char* minimum)
+{
+    EXPECT_EQ(list.deletion.title, title);
+    EXPECT_EQ(list.deletion.text, text) << title;
+    EXPECT_EQ(list.deletion.minimum, minimum) << title;
+}
+
+/// What a row becomes when the dialog is left with these fields.
+CellRow taken(const RowListDeclaration& list, const Texts& fields, CellRow row)
+{
+    list.take(fields, row);
+    return row;
+}
+
+TEST(ListWords, OfADeletionAreTheFunctionsOwn)
+{
+    expectDeletion(anagramWords(), "Delete Word?", "Do you really want to delete this question?",
+                   "There must be a minimum of one Word");
+    expectDeletion(announcements(), "Delete Announcement Time?",
+                   "Do you really want to delete this Announcement Time?", "");
+    expectDeletion(asciiIntroUsers(), "Delete Intro?", "Do you really want to delete this intro?", "");
+    expectDeletion(asciiPictures(), "Delete Ascii?", "Do you really want to delete this Ascii?", "");
+    expectDeletion(attacks(), "Delete Intro?", "Do you really want to delete this intro?",
+                   "There must be a minimum of one Intro");
+    expectDeletion(autoCorrectWords(), "Delete Word?", "Do you really want to delete this Word?",
+                   "There must be a minimum of one Word");
+    expectDeletion(clientVersions(), "Delete Client?", "Do you really want to delete this Client?",
+                   "There must be a minimum of one Client");
+    expectDeletion(customRightClicks(HubProfiles()), "Delete right click?",
+                   "Do you really want to delete this right click?", "");
+    expectDeletion(forbiddenFiles(), "Delete Intro?", "Do you really want to delete this File?",
+                   "There must be a minimum of one File");
+    expectDeletion(numbersQuestions(), "Delete Word?", "Do you really want to delete this question?",
+                   "There must be a minimum of one Question");
+    expectDeletion(phraseList(), "Delete Spell Phrase?", "Do you really want to delete this Spell Phrase?",
+                   "There must be a minimum of one Spell Phrase");
+    expectDeletion(scoreClearers(), "Delete Exempt User?", "Do you really want to delete this User?", "");
+    expectDeletion(spellWards(), "Delete Warded User?", "Do you really want to delete this Warded User?", "");
+}
+
+TEST(ListFields, OfAnAnnouncementAreItsDayHourMinuteAndTheWholeNameOfItsPlace)
+{
+    const RowListDeclaration list = announcements();
+    EXPECT_EQ(list.fieldsOf({{"Sunday", "18:05", "PM"}}), (Texts{"Sunday", "18", "05", "Private Message"}));
+    EXPECT_EQ(list.fieldsOf({{"Monday", "07:30", "else"}}), (Texts{"Monday", "07", "30", "Main Chat"}));
+    EXPECT_EQ(taken(list, {"Friday", "23", "59", "Main Chat"}, {}), (CellRow{{"Friday", "23:59", "Main"}}));
+    EXPECT_EQ(taken(list, {"Friday", "00", "00", "Private Message"}, {}),
+              (CellRow{{"Friday", "00:00", "PM"}}));
+}
+
+TEST(ListFields, OfABotAreAllButItsFunction)
+{
+    const RowListDeclaration& list = bots();
+    const CellRow row{{"Chat", "nick", "about", "a@b", "group"}};
+    EXPECT_EQ(list.fieldsOf(row), (Texts{"nick", "about", "a@b"}));
+    EXPECT_EQ(list.labelsOf(row), (Texts{"Chat Bot", "Description", "Email"}));
+    EXPECT_EQ(taken(list, {"n", "d", "e"}, row), (CellRow{{"Chat", "n", "d", "e", "group"}}));
+}
+
+TEST(ListFields, OfACalculationAreItsNumbersBehindItsSign)
+{
+    const RowListDeclaration& list = numbersCalculationList();
+    const CellRow row{{"+", "1", "2", "3", "4"}};
+    EXPECT_EQ(list.fieldsOf(row), (Texts{"1", "2", "3", "4"}));
+    EXPECT_EQ(taken(list, {"5", "6", "7", "8"}, row), (CellRow{{"+", "5", "6", "7", "8"}}));
+}
+
+TEST(ListFields, OfAQuestionAreItsCategoryQuestionAndAnswer)
+{
+    const RowListDeclaration& list = numbersQuestions();
+    EXPECT_EQ(list.fieldsOf({{"Sums:one and one", "2"}}), (Texts{"Sums", "one and one", "2"}));
+    EXPECT_EQ(list.fieldsOf({{"Sums:one:two", "2"}}), (Texts{"Sums", "one", "2"}));
+    EXPECT_EQ(taken(list, {"Sums", "one and two", "3"}, {}), (CellRow{{"Sums:one and two", "3"}}));
+}
+
+TEST(ListFields, OfAClientAreTrimmedWhereItIsEditedAlone)
+{
+    const RowListDeclaration& list = clientVersions();
+    EXPECT_EQ(list.fieldsOf({{" a ", " 1 ", "True"}}), (Texts{"a", "1", "True"}));
+    EXPECT_EQ(list.labelsOf({{"a", "1", "True"}}), (Texts{"a Client", "Min Version", "Allow"}));
+    EXPECT_EQ(taken(list, {" b ", " 2 ", "False"}, {{"a", "1", "True"}}), (CellRow{{"b", "2", "False"}}));
+    EXPECT_EQ(taken(list, {" b ", " 2 ", "False"}, {{"", "", ""}}), (CellRow{{" b ", " 2 ", "False"}}));
+}
+
+TEST(ListFields, OfARightClickThatAreEmptyLeaveItsCells)
+{
+    const RowListDeclaration list = customRightClicks(HubProfiles());
+    EXPECT_EQ(taken(list, {"new", "", "Hub"}, {{"old", "Gone", "Users"}}), (CellRow{{"new", "Gone", "Hub"}}));
+    EXPECT_EQ(list.dialog.entries.at(0).back(), "All Profiles");
+    EXPECT_EQ(list.dialog.entries.at(1), (Texts{"Hub", "Users", "Hub & Users", "Search"}));
+}
+
+TEST(ListFields, OfATagAndOfARulesTextAreTheSecondCell)
+{
+    EXPECT_EQ(descriptionTags().fieldsOf({{"Master", "tag"}}), Texts{"tag"});
+    EXPECT_EQ(descriptionTags().labelsOf({{"Master", "tag"}}), Texts{"Master Tag"});
+    EXPECT_EQ(taken(descriptionTags(), {"new"}, {{"Master", "tag"}}), (CellRow{{"Master", "new"}}));
+    for (const std::size_t place : {1U, 2U}) {
+        const RowListDeclaration& list = profileRules().lists.at(place);
+        EXPECT_EQ(list.fieldsOf({{"Share", "text"}}), Texts{"text"});
+        EXPECT_EQ(taken(list, {"new"}, {{"Share", "text"}}), (CellRow{{"Share", "new"}}));
+    }
+}
+
+} // namespace
+} // namespace quillfen
