@@ -48,7 +48,7 @@ protected:
         };
     }
 
-    /// Both open above the range of their arrows, as the hub script has always had them.
+    /// The hints of Guess The Number are 20 by default, and their arrows end at 10.
     const Found deliberate = {"frmGamesGuessTheNumber: default: iHintTime",
                               "frmGamesGuessTheNumber: default: iMaxHints"};
 };
