@@ -112,8 +112,8 @@ void writeRule(TableWriter& table, const Rule& rule, const std::string& stored)
 {
     if (rule.letter == 's')
         table.text(keyOf(rule), stored);
-    else
-        table.row(keyOf(rule), stored.empty() ? "0" : stored); // what was never set is a rule of 0
+    else // what was never set is a rule of 0, and so is one of blanks, which loads as that
+        table.row(keyOf(rule), trimBlanks(stored).empty() ? "0" : stored);
 }
 
 void writeTexts(TableWriter& table, std::string_view key, const std::vector<CellRow>& rows)

@@ -201,6 +201,15 @@ TEST_F(ProfileRuleForms, AShareThatIsNoCountIsSavedAsTheNumberThatItShows)
     }
 }
 
+TEST_F(ProfileRuleForms, ARuleOfBlanksIsSavedAsZero)
+{
+    auto& form = open("Security~ProfileRules~Rules");
+    edit(form, "Permissions", 2, {"  "});
+    save(form);
+    EXPECT_EQ(rules.find("iMinSlots =   ,"), std::string::npos);
+    EXPECT_NE(rules.find("\t\tiMinSlots = 0,\r\n"), std::string::npos);
+}
+
 TEST_F(ProfileRuleForms, ARatiosDialogAsksForItsSecondNumber)
 {
     auto& form = open("Security~ProfileRules~Rules");
