@@ -88,6 +88,7 @@ TEST(LeadingNumber, IsWhatATextBeginsWith)
     EXPECT_EQ(leadingNumber("none"), 0);
     EXPECT_EQ(leadingNumber("inf"), 0);
     EXPECT_EQ(leadingNumber("1e999"), 0);
+    EXPECT_EQ(leadingNumber(std::string_view("123").substr(0, 2)), 12) << "what follows in memory is no part";
 }
 
 TEST(WholeNumber, IsATextOfNothingElse)
@@ -95,6 +96,7 @@ TEST(WholeNumber, IsATextOfNothingElse)
     EXPECT_EQ(wholeNumber("+1"), 1);
     EXPECT_EQ(wholeNumber(" -2.5 "), -2.5);
     EXPECT_EQ(wholeNumber("0"), 0);
+    EXPECT_EQ(wholeNumber(std::string_view("123").substr(0, 2)), 12);
     for (const char* text : {"", " ", "+", "1x", "x1", "1 2", "inf", "nan", "1e999"})
         EXPECT_EQ(wholeNumber(text), std::nullopt) << text;
 }

@@ -406,7 +406,7 @@ TEST_F(MainWindowTest, ElevenOpenFormsShowTenEntriesAndTheWayToAll)
 {
     fillWithForms();
     for (const auto& each : standIns)
-        open(each.key.toLatin1());
+        open(each.key.toLatin1().constData());
     open("General~Settings");
     open("General~Switches");
     EXPECT_FALSE(find<QAction>(window(), "mnuWindowsShowAll").isVisible());

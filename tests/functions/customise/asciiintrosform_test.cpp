@@ -92,8 +92,8 @@ TEST_F(AsciiIntroForm, ItsToolbarsTellWhatTheyWorkOn)
     const QStringList ofUsers = {"Add new user", "Delete user", "Edit user"};
     const QStringList ofFiles = {"Add new file", "Delete file", "Edit file"};
     for (int at = 0; at < 3; ++at) {
-        EXPECT_EQ(button(form, keys[at].toUtf8(), "tlbAscii").toolTip(), ofUsers[at]);
-        EXPECT_EQ(button(form, keys[at].toUtf8(), "tlbFiles").toolTip(), ofFiles[at]);
+        EXPECT_EQ(button(form, keys[at].toUtf8().constData(), "tlbAscii").toolTip(), ofUsers[at]);
+        EXPECT_EQ(button(form, keys[at].toUtf8().constData(), "tlbFiles").toolTip(), ofFiles[at]);
     }
 }
 

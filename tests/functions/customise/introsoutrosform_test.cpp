@@ -109,8 +109,9 @@ TEST_P(IntroOutroForms, LinesAreAddedOneAfterTheOther)
     for (const QString noun : {"Intro", "Outro"}) {
         const QStringList labels = isNamed() ? QStringList{noun + " for", noun} : QStringList{noun};
         const QStringList empty = fields("", "");
-        const auto dialogs = entering({{fields("bob", "one"), "cmdAdd"}, {fields("bob", "two"), "cmdOK"}},
-                                      [&] { button(form, "NEW", ("tlb" + noun).toUtf8()).trigger(); });
+        const auto dialogs =
+            entering({{fields("bob", "one"), "cmdAdd"}, {fields("bob", "two"), "cmdOK"}},
+                     [&] { button(form, "NEW", ("tlb" + noun).toUtf8().constData()).trigger(); });
         EXPECT_EQ(dialogs, (QList<SeenDialog>(2, {words.dialog, "Add " + noun, labels, empty})));
         EXPECT_EQ(list(form, noun).rows().size(), 2U);
     }
@@ -127,8 +128,9 @@ TEST_P(IntroOutroForms, ALineIsEditedByItsButtonAndByADoubleClick)
     for (const QString noun : {"Intro", "Outro"}) {
         const QStringList labels = isNamed() ? QStringList{noun + " for bob", noun} : QStringList{noun};
         clickRow(list(form, noun), 1);
-        const auto dialogs = entering({{fields(QString(), "zwei"), "cmdOK"}},
-                                      [&] { button(form, "EDIT", ("tlb" + noun).toUtf8()).trigger(); });
+        const auto dialogs = entering({{fields(QString(), "zwei"), "cmdOK"}}, [&] {
+            button(form, "EDIT", ("tlb" + noun).toUtf8().constData()).trigger();
+        });
         EXPECT_EQ(dialogs, (QList<SeenDialog>{{words.dialog, "Edit " + noun, labels, fields("bob", "two")}}));
         entering({{fields(QString(), "eins"), "cmdOK"}}, [&] { doubleClickRow(list(form, noun), 0); });
     }
@@ -147,7 +149,8 @@ TEST_P(IntroOutroForms, TheDeleteKeyAsksTheSameQuestionAsTheToolbar)
     for (int at = 0; at < 2; ++at) {
         auto& rows = list(form, nouns[at]);
         const QString toolbar = QString("tlb") + nouns[at];
-        auto boxes = deleteRow(form, rows.objectName().toUtf8(), toolbar.toUtf8(), 0, QMessageBox::Cancel);
+        auto boxes = deleteRow(form, rows.objectName().toUtf8().constData(), toolbar.toUtf8().constData(), 0,
+                               QMessageBox::Cancel);
         EXPECT_EQ(rows.rows().size(), 3U);
         boxes += answering(QMessageBox::Ok, [&rows] { QTest::keyClick(&rows, Qt::Key_Delete); });
         EXPECT_EQ(rows.rows().size(), 2U);
@@ -169,8 +172,8 @@ TEST_P(IntroOutroForms, TheLastLineStays)
         lines(noun) = table(noun, {"one"});
     auto& form = openForm();
     for (const QString noun : {"Intro", "Outro"}) {
-        const auto boxes =
-            deleteRow(form, ("lvw" + noun).toUtf8(), ("tlb" + noun).toUtf8(), 0, QMessageBox::Ok);
+        const auto boxes = deleteRow(form, ("lvw" + noun).toUtf8().constData(),
+                                     ("tlb" + noun).toUtf8().constData(), 0, QMessageBox::Ok);
         ASSERT_EQ(boxes.size(), 1);
         EXPECT_EQ(boxes[0].title, "Cannot delete");
         EXPECT_EQ(boxes[0].text, "There must be a minimum of one " + noun);

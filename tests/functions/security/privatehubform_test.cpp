@@ -39,7 +39,7 @@ TEST_F(PrivateHubForm, ShowsItsLabelsAndHeadings)
     EXPECT_EQ(range(form, "updUpDown"), (std::pair<std::string, std::string>("1", "720")));
     int label = 2;
     for (const List& list : lists) {
-        EXPECT_EQ(text(form, QStringLiteral("lblLabel(%1)").arg(label++).toLatin1()), list.label);
+        EXPECT_EQ(text(form, QStringLiteral("lblLabel(%1)").arg(label++).toLatin1().constData()), list.label);
         auto& view = find<RowList>(form, list.name);
         EXPECT_EQ(view.model()->headerData(0, Qt::Horizontal), list.column);
         EXPECT_EQ(shown(view), (QStringList{"Unregistered", "Master", "Operator", "VIP"}));

@@ -41,7 +41,8 @@ TEST_F(UserLogForm, ShowsTheDefaultsWithTheirLabelsAndRanges)
                             "Save Timer Interval",       "Number Of Top Hubbers to Show",
                             "Enabled View Log Profiles", "Enabled Log Profiles"};
     for (int number = 0; number < 6; ++number)
-        EXPECT_EQ(text(form, QStringLiteral("lblLabel(%1)").arg(number).toLatin1()), labels[number]);
+        EXPECT_EQ(text(form, QStringLiteral("lblLabel(%1)").arg(number).toLatin1().constData()),
+                  labels[number]);
     EXPECT_EQ(numbers(form), (std::vector<std::string>{"28", "2355", "60", "25"}));
     using Range = std::pair<std::string, std::string>;
     EXPECT_EQ(range(form, "updUpDown(0)"), Range("1", "365"));
