@@ -1,3 +1,4 @@
+#include "shell/kit/listview.h"
 #include "shell/window/navigatortable.h"
 #include "support/formtest.h"
 
@@ -5,11 +6,13 @@
 #include <QAbstractSpinBox>
 #include <QAccessible>
 #include <QComboBox>
+#include <QLineEdit>
 #include <QRadioButton>
 #include <QRegularExpression>
 #include <QScrollArea>
 #include <QSet>
 #include <QToolButton>
+#include <QWheelEvent>
 
 namespace quillfen {
 namespace {
@@ -142,6 +145,41 @@ TEST_P(EveryForm, StartsInItsFirstControlAndTabGoesOnInTheOrderSeen)
         EXPECT_TRUE(forward || met[at]->parentWidget() == toolbar)
             << nameOf(*met[at - 1]) << " is followed by " << nameOf(*met[at]);
     }
+}
+
+TEST_P(EveryForm, KeepsEachTextBoxOnOneLine)
+{
+    for (auto* box : openForm().findChildren<QLineEdit*>()) {
+        if (box->isReadOnly())
+            continue;
+        box->insert(QStringLiteral("a\r\n\nb"));
+        EXPECT_FALSE(box->text().contains(QRegularExpression("[\r\n]"))) << nameOf(*box);
+        EXPECT_TRUE(box->text().contains('a')) << nameOf(*box) << " takes what is entered";
+    }
+}
+
+TEST_P(EveryForm, HasARowSelectedInEachListThatHasRows)
+{
+    // Where what is selected has a meaning of its own, the user selects it.
+    const QString key = QString::fromStdString(GetParam());
+    const bool waits = key == "Communication~Portal" || key == "CustomiseUser~CustomRightClick";
+    for (const auto* list : openForm().findChildren<ListView*>())
+        EXPECT_EQ(list->currentRow() >= 0, !waits && list->model()->rowCount() > 0) << nameOf(*list);
+}
+
+TEST_P(EveryForm, LetsTheWheelPassOverComboBoxesAndNumbers)
+{
+    auto& form = openForm();
+    for (auto* box : form.findChildren<QWidget*>()) {
+        if (!qobject_cast<QComboBox*>(box) && !qobject_cast<QAbstractSpinBox*>(box))
+            continue;
+        box->clearFocus();
+        QWheelEvent wheel({5, 5}, box->mapToGlobal(QPointF(5, 5)), {}, {0, -120}, Qt::NoButton,
+                          Qt::NoModifier, Qt::NoScrollPhase, false);
+        QApplication::sendEvent(box, &wheel);
+        EXPECT_NE(box->focusPolicy(), Qt::WheelFocus) << nameOf(*box);
+    }
+    EXPECT_FALSE(isDirty(form));
 }
 
 TEST_P(EveryForm, NamesEveryControlForAssistiveTools)
