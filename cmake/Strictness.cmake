@@ -1,4 +1,5 @@
-# What Qt can refuse for us.
+# What the libraries can check or refuse for us.
+add_compile_definitions($<$<CONFIG:Debug>:_GLIBCXX_ASSERTIONS>)
 add_compile_definitions(
   QT_NO_CAST_FROM_BYTEARRAY QT_NO_CAST_TO_ASCII QT_NO_FOREACH QT_NO_JAVA_STYLE_ITERATORS
   QT_NO_NARROWING_CONVERSIONS_IN_CONNECT QT_NO_URL_CAST_FROM_STRING QT_STRICT_QLIST_ITERATORS)
