@@ -72,10 +72,10 @@ Control CalculationsPart::control(const Setting& setting)
 }
 
 /// The fixed questions, with room for a sentence.
-class QuestionsPart : public WordListPart
+class FixedQuestionsPart : public WordListPart
 {
 public:
-    QuestionsPart(const RowListDeclaration& questions, const FormContext& context)
+    FixedQuestionsPart(const RowListDeclaration& questions, const FormContext& context)
         : WordListPart(questions, context)
     {
         list().header()->resizeSection(0, questionWidth);
@@ -111,7 +111,7 @@ DeclaredSettings numbersSettingsPart()
 
 DeclaredList numbersQuestionsPart()
 {
-    return listPartOf<QuestionsPart>(numbersQuestions);
+    return listPartOf<FixedQuestionsPart>(numbersQuestions);
 }
 
 } // namespace quillfen

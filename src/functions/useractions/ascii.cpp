@@ -80,11 +80,6 @@ const RowListDeclaration& asciiPictures()
     return declared;
 }
 
-std::string asciiFile(std::string_view name)
-{
-    return R"(UserActions\Ascii\Ascii\)" + std::string(name) + ".asc";
-}
-
 void buildAscii(const SettingsFiles& files, const HubProfiles& profiles)
 {
     rebuildTableFile(asciiSettings(), files, profiles);

@@ -3,7 +3,6 @@
 #include "settings/declaration.h"
 #include "settings/listdeclaration.h"
 
-#include <string>
 #include <string_view>
 
 namespace quillfen {
@@ -14,8 +13,8 @@ const TableFile& asciiSettings();
 /// The pictures: file, display name and right-click menu of each.
 const RowListDeclaration& asciiPictures();
 
-/// The told path of a picture's file.
-std::string asciiFile(std::string_view name);
+/// The told folder of the pictures' files.
+inline constexpr std::string_view asciiFolder = R"(UserActions\Ascii\Ascii)";
 
 void buildAscii(const SettingsFiles& files, const HubProfiles& profiles);
 

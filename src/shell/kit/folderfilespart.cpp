@@ -14,18 +14,35 @@
 
 namespace quillfen {
 
-FolderFilesPart::FolderFilesPart(const RowListDeclaration& declaration, std::string folder,
-                                 const FormContext& context)
+RowFilesPart::RowFilesPart(const RowListDeclaration& declaration, std::string folder,
+                           const FormContext& context)
     : RowListPart(declaration, context),
       m_folder(std::move(folder))
 {
 }
 
+std::string RowFilesPart::pathOf(const CellRow& row) const
+{
+    return context().files.realFile(textFile(m_folder, row.cells[0]));
+}
+
+std::string RowFilesPart::refusal(const CellRow& row) const
+{
+    const std::string fault = leavingNameFault(row.cells[0]);
+    return fault.empty() ? RowListPart::refusal(row) : row.cells[0] + "\n\n" + fault;
+}
+
+bool RowFilesPart::mayDelete(const CellRow& row)
+{
+    return attempt(widget(), deleting(fromBytes(row.cells[0])),
+                   [&] { context().files.removeFile(pathOf(row)); });
+}
+
 void FolderFilesPart::load()
 {
-    RowListPart::load();
+    RowFilesPart::load();
     QStringList unlisted;
-    for (const std::string& name : context().files.untoldFileNames(m_folder))
+    for (const std::string& name : context().files.untoldFileNames(folder()))
         unlisted.append(QString::fromStdString(name).simplified());
     emit note(unlisted.isEmpty()
                   ? QString()
@@ -43,11 +60,6 @@ bool FolderFilesPart::isGoodName(const std::string& name)
     return !refuseNewFile(widget(), name);
 }
 
-std::string FolderFilesPart::pathOf(const CellRow& row) const
-{
-    return context().files.realFile(textFile(m_folder, row.cells[0]));
-}
-
 std::string FolderFilesPart::askName()
 {
     const RowDialog& words = declaration().dialog;
@@ -61,7 +73,7 @@ std::string FolderFilesPart::askName()
 void FolderFilesPart::add()
 {
     const std::string name = askName();
-    if (name.empty() || !editTextFile(widget()->window(), context().files, textFile(m_folder, name),
+    if (name.empty() || !editTextFile(widget()->window(), context().files, textFile(folder(), name),
                                       TextEditDialog::Mode::New))
         return;
     list().append({{name}});
@@ -78,18 +90,6 @@ void FolderFilesPart::edit()
     // A table written by hand can hold a name that leads out of the folder.
     if (!refuseListedFile(widget(), "Cannot open file", file.cells[0]))
         editTextFile(widget()->window(), context().files, pathOf(file));
-}
-
-std::string FolderFilesPart::refusal(const CellRow& row) const
-{
-    const std::string fault = leavingNameFault(row.cells[0]);
-    return fault.empty() ? RowListPart::refusal(row) : row.cells[0] + "\n\n" + fault;
-}
-
-bool FolderFilesPart::mayDelete(const CellRow& row)
-{
-    return attempt(widget(), deleting(fromBytes(row.cells[0])),
-                   [&] { context().files.removeFile(pathOf(row)); });
 }
 
 } // namespace quillfen
