@@ -143,7 +143,7 @@ SettingValues gathered(const std::vector<Setting>& settings, const HubProfiles& 
     return values;
 }
 
-std::string filled(std::string value, const std::string& defaultText)
+std::string filled(const std::string& value, const std::string& defaultText)
 {
     return value.empty() ? defaultText : value;
 }

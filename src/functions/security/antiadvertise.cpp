@@ -14,7 +14,7 @@ TableFile declaredActions()
 {
     TableFile file{blockedActionsFile().path, blockedActionsFile().table, {}};
     for (const std::string name : blockedActions)
-        file.settings.push_back(setting::flag("b" + name, "lvwBlockedActions", name, true));
+        file.settings.emplace_back(setting::flag("b" + name, "lvwBlockedActions", name, true));
     return file;
 }
 

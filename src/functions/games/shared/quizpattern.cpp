@@ -91,7 +91,7 @@ std::vector<Setting> withQuizFlags(const std::string& checkBoxes, std::vector<Se
     std::vector<Setting> settings;
     for (const QuizFlag& each : flags) {
         const std::string control = checkBoxes + "(" + std::to_string(settings.size()) + ")";
-        settings.push_back(setting::flag(each.key, control, each.caption, each.defaultValue));
+        settings.emplace_back(setting::flag(each.key, control, each.caption, each.defaultValue));
     }
     settings.insert(settings.end(), std::make_move_iterator(further.begin()),
                     std::make_move_iterator(further.end()));
