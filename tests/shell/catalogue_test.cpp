@@ -75,7 +75,7 @@ TEST_F(Declarations, OfAllFormsAreRight)
 TEST_F(Declarations, AFormDeclaredTwiceIsFound)
 {
     forms.push_back(forms.front());
-    EXPECT_EQ(faults(), Found{"frmGeneralNews: declared twice"});
+    EXPECT_EQ(faults(), Found{"frmGeneralGeneral: declared twice"});
 }
 
 TEST_F(Declarations, AFormWithoutCaptionOrPartsIsFound)
@@ -153,7 +153,7 @@ TEST_F(Declarations, ATableThatMissesWhatItIsMadeOfIsFound)
 
 TEST_F(Declarations, NamedTextsForWhichNobodyMakesAControlAreFound)
 {
-    std::get<DeclaredSettings>(form("frmGamesNumbers").parts.front()).make = nullptr;
+    std::get<DeclaredSettings>(form("frmGamesNumbers").parts.front()).kind = SettingsPartKind::Plain;
     EXPECT_EQ(faults(), Found{"frmGamesNumbers: nobody makes the control: tCalculation"});
 }
 
@@ -200,7 +200,7 @@ TEST_F(Declarations, AGroupAGridTicksAndATextThatMissAPartOfThemselvesAreFound)
 {
     form("frmUserActionsInsultsModern").parts = {DeclaredLists{[] { return RowListGroup{}; }}};
     form("frmSecurityFlood").parts = {DeclaredGrid{[] { return GridSource{}; }, {.columns = {"Command"}}}};
-    form("frmGeneralSwitches").parts = {DeclaredTicks{[] { return TickListDescription{}; }}};
+    form("frmGeneralSwitches").parts = {DeclaredTicks{[] { return TickList{}; }}};
     form("frmSecurityMainLock").parts = {DeclaredText{}};
     Found found = faults();
     std::ranges::sort(found);

@@ -1,4 +1,4 @@
-#include "settings/declaration.h"
+#include "declarations/declaration.h"
 
 #include "settings/lines.h"
 #include "settings/overloaded.h"
@@ -332,8 +332,8 @@ void saveTableFile(const TableFile& file, const SettingValues& values, const Set
                    const HubProfiles& profiles)
 {
     const std::string folder = files.paths().resolve(file.path.substr(0, file.path.find_last_of('\\')));
-    if (file.makesFolder && !files.store().exists(folder))
-        files.store().makeFolder(folder);
+    if (file.makesFolder)
+        makeFolderIfMissing(files.store(), folder);
     files.WriteSettingsFile(file.path, composed(file, values, RowOrder::Save, profiles));
 }
 
