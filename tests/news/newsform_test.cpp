@@ -92,8 +92,7 @@ TEST_F(NewsForm, AStoryOfAnyLengthScrollsAndNeverPassesTheScreen)
                             box->button(QMessageBox::Ok)->click();
                         });
         EXPECT_FALSE(isDirty(shownForm));
-        shownForm.parentWidget()->close();
-        QTest::qWait(1);
+        close(shownForm);
     }
 }
 

@@ -172,8 +172,7 @@ TEST_F(PortalForm, AnIgnoreListThatWasEmptiedAndSavedIsFilledAgain)
     }
     save();
     EXPECT_TRUE(settings.ends_with("\ttIgnoreNicks = {\r\n\t},\r\n"));
-    form().parentWidget()->close();
-    QTest::qWait(1);
+    close(form());
     EXPECT_EQ(
         shown(nicks()),
         QStringList({QStringLiteral(u"\u2022CommunicationBot\u2022"),
@@ -274,8 +273,7 @@ TEST_F(PortalForm, AFullListKeepsNewDarkAfterADeletion)
     EXPECT_FALSE(hubButton("NEW").isEnabled());
     EXPECT_TRUE(isDirty(form()));
     save();
-    form().parentWidget()->close();
-    QTest::qWait(1);
+    close(form());
     EXPECT_TRUE(hubButton("NEW").isEnabled()) << "until the form is opened again";
 }
 

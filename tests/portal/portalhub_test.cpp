@@ -18,20 +18,22 @@ using test::HubServer;
 
 constexpr const char* myInfo = "$MyINFO $ALL bot The bot$A$Bot\x08$bot@hub$0$|";
 
-/// A port that is free for TCP and, very likely, for UDP.
-quint16 freePort()
-{
-    QTcpServer server;
-    server.listen(QHostAddress::Any);
-    return server.serverPort();
-}
-
 bool isFree(quint16 port)
 {
     QTcpServer server;
     QUdpSocket datagrams;
     return server.listen(QHostAddress::Any, port) &&
            datagrams.bind(QHostAddress::Any, port, QUdpSocket::DontShareAddress);
+}
+
+/// A free port below those that the system gives out by itself, and another one for each test that runs at the
+/// same time.
+quint16 portOfThisProcess(int which)
+{
+    auto port = static_cast<quint16>(10'000 + (QCoreApplication::applicationPid() * 2 + which) % 20'000);
+    while (!isFree(port))
+        port = static_cast<quint16>(port + 2);
+    return port;
 }
 
 class PortalHubs : public test::FormTest
@@ -96,9 +98,17 @@ protected:
         return loggedIn;
     }
 
+    /// Whether the Portal has heard all that the hub said: it answers what the hub asks then.
+    static bool isHeard(HubServer& hub)
+    {
+        const auto answers = hub.heard.count(myInfo);
+        hub.say("$GetINFO bot x|");
+        return QTest::qWaitFor([&] { return hub.heard.count(myInfo) > answers; });
+    }
+
     HubServer one;
     HubServer two;
-    quint16 ports[2] = {freePort(), freePort()};
+    quint16 ports[2] = {portOfThisProcess(0), portOfThisProcess(1)};
 };
 
 TEST_F(PortalHubs, ATickLogsTheBotIn)
@@ -157,7 +167,7 @@ TEST_F(PortalHubs, AHubWithAnotherPasswordGetsNoSecondTry)
     two.password = "other";
     tick(1);
     ASSERT_TRUE(two.waitFor("$MyPass secret|"));
-    QTest::qWait(100);
+    EXPECT_TRUE(isHeard(two));
     EXPECT_EQ(two.heard.count("$MyPass"), 1);
     EXPECT_FALSE(two.heard.contains("$Version"));
     EXPECT_TRUE(two.isConnected());
@@ -188,9 +198,9 @@ TEST_F(PortalHubs, MessagesComeInAnyPieces)
 {
     logInBoth();
     one.say("<user> fra");
-    QTest::qWait(20);
+    QTest::qWait(0);
     one.say("gment|<user> glued|<user> and|<us");
-    QTest::qWait(20);
+    QTest::qWait(0);
     one.say("er> cut|");
     EXPECT_TRUE(two.waitFor("cut|"));
     EXPECT_EQ(two.heard, "<bot> <user> fragment|<bot> <user> glued|<bot> <user> and|<bot> <user> cut|");
@@ -235,7 +245,7 @@ TEST_F(PortalHubs, AHubThatHangsUpClosesTheLinkAndTheTickStays)
         EXPECT_TRUE(isTicked(0));
         EXPECT_TRUE(two.isConnected());
         two.say("<other> alone|");
-        QTest::qWait(50);
+        EXPECT_TRUE(isHeard(two));
         EXPECT_FALSE(one.isConnected());
         tick(0); // off: fails at the farewell, without a word
         EXPECT_FALSE(one.heard.contains("$Quit"));
@@ -280,12 +290,12 @@ TEST_F(PortalHubs, ARefusingHubSaysNothingAndTheTickStays)
     one.refuse();
     const auto boxes = answering(QMessageBox::Ok, [this] {
         tick(0);
-        QTest::qWait(200);
+        QTcpServer server;
+        EXPECT_TRUE(QTest::qWaitFor([&] { return server.listen(QHostAddress::Any, ports[0]); }))
+            << "the listener is closed";
     });
     EXPECT_TRUE(boxes.isEmpty());
     EXPECT_TRUE(isTicked(0));
-    QTcpServer server;
-    EXPECT_TRUE(server.listen(QHostAddress::Any, ports[0])) << "the listener is closed";
 }
 
 TEST_F(PortalHubs, AHostThatDoesNotResolveSaysNothingEither)
@@ -311,8 +321,7 @@ TEST_F(PortalHubs, AnAddressWithoutAPortIsToldAndLeavesNoSocketOpen)
         EXPECT_EQ(boxes[0].format, Qt::PlainText);
         EXPECT_FALSE(isTicked(0));
         EXPECT_TRUE(isFree(ports[0])) << address;
-        form().parentWidget()->close();
-        QTest::qWait(1);
+        close(form());
     }
 }
 
@@ -327,8 +336,7 @@ TEST_F(PortalHubs, AClientPortThatIsNoneIsTold)
         ASSERT_EQ(boxes.size(), 1) << port;
         EXPECT_EQ(boxes[0].text, QStringLiteral("The link can't be opened: \"%1\" is no port").arg(port));
         EXPECT_FALSE(isTicked(0));
-        form().parentWidget()->close();
-        QTest::qWait(1);
+        close(form());
     }
 }
 
@@ -380,7 +388,8 @@ TEST_F(PortalHubs, AMissingFieldIsAskedForAndTheTickTakenAway)
         EXPECT_FALSE(isTicked(0));
         field.setText(kept);
     }
-    QTest::qWait(20);
+    tick(1);
+    EXPECT_TRUE(two.waitForLogin());
     EXPECT_EQ(one.connections, 0);
 }
 
@@ -421,8 +430,9 @@ TEST_F(PortalHubs, ATickWithoutASelectedRowDoesNothing)
 {
     hubs().clearSelection();
     hubs().model()->setData(hubs().model()->index(0, 0), Qt::Checked, Qt::CheckStateRole);
-    QTest::qWait(50);
-    EXPECT_EQ(one.connections + two.connections, 0);
+    tick(1);
+    EXPECT_TRUE(two.waitForLogin());
+    EXPECT_EQ(one.connections, 0);
 }
 
 TEST_F(PortalHubs, SpaceSelectsTheRowThatItTicks)
@@ -466,11 +476,11 @@ TEST_F(PortalHubs, NobodyIsAcceptedOnTheClientPortAndDatagramsAreOnlyNoted)
     QTcpSocket visitor;
     visitor.connectToHost(QHostAddress::LocalHost, ports[0]);
     visitor.write("$MyNick visitor|");
-    QTest::qWait(50);
+    EXPECT_TRUE(isHeard(one));
     EXPECT_EQ(visitor.bytesAvailable(), 0);
     QUdpSocket sender;
     sender.writeDatagram(QByteArray(), QHostAddress::LocalHost, ports[0]);
-    QTest::qWait(30);
+    EXPECT_TRUE(isHeard(one)); // and so is what came before
     EXPECT_FALSE(links().udpSeen());
     for (int time = 0; time < 5; ++time)
         sender.writeDatagram("$SR x|", QHostAddress::LocalHost, ports[0]);
@@ -506,8 +516,8 @@ TEST_F(PortalHubs, ClosingTheFormInTheMiddleOfAYieldHarmsNothing)
     timer.start(0);
     one.say(list + "|<user> late|");
     EXPECT_TRUE(QTest::qWaitFor([this] { return !one.isConnected() && !two.isConnected(); }));
-    QTest::qWait(50);
-    EXPECT_TRUE(window().findChild<QMdiArea*>()->subWindowList().isEmpty());
+    auto& area = *window().findChild<QMdiArea*>();
+    EXPECT_TRUE(QTest::qWaitFor([&area] { return area.subWindowList().isEmpty(); }));
     EXPECT_EQ(two.heard, "");
     EXPECT_TRUE(isFree(ports[0]));
 }

@@ -54,7 +54,7 @@ TEST(Tooltip, WaitsForItsDelay)
     CTooltip tooltip;
     tooltip.setDelayTime(60'000); // so long that no slow machine gets there
     tooltip.Create(&parent, {0, 0});
-    QTest::qWait(50);
+    QCoreApplication::processEvents();
     EXPECT_FALSE(parent.findChild<QWidget*>("CTooltip")->isVisible());
 }
 

@@ -62,6 +62,13 @@ protected:
         return *qobject_cast<EditorForm*>(active->widget());
     }
 
+    /// Closes a form, which is gone then.
+    static void close(EditorForm& form)
+    {
+        form.parentWidget()->close();
+        QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); // no event loop runs that would do it
+    }
+
     /// Puts a form of this part into the place of "Games ~ Anagrams".
     void standIn(PartDeclaration part)
     {
