@@ -3,6 +3,7 @@
 #include "functions/games/shared/questions.h"
 #include "functions/games/shared/quizpattern.h"
 #include "functions/games/shared/wordlist.h"
+#include "settings/lines.h"
 #include "settings/listfile.h"
 
 #include <algorithm>
@@ -32,6 +33,15 @@ Setting calculations()
     return namedTexts("tCalculation", "lvwNumbers", "Calculations",
                       {"sAddition", "sSubtraction", "sMultiplication", "sDivision"},
                       {"0,10000,0,10000", "0,10000,0,10000", "0,20,0,100", "1,10,1,50"});
+}
+
+/// Only the first field is looked at, and any number will do, "1.5" too.
+std::optional<RowRefusal> calculationRefusal(const std::vector<CellRow>& /*rows*/, const CellRow& row,
+                                             const CellRow* /*before*/)
+{
+    if (wholeNumber(row.cells.at(1)))
+        return {};
+    return RowRefusal{"Invalid Entry", "Invalid Entry: Integers required in all fields"};
 }
 
 } // namespace
@@ -96,6 +106,8 @@ const RowListDeclaration& numbersCalculationList()
         list.take = [](const std::vector<std::string>& fields, CellRow& row) {
             std::copy(fields.begin(), fields.end(), row.cells.begin() + 1);
         };
+        list.refusal = calculationRefusal;
+        list.asksAgain = true;
         return list;
     }();
     return declared;
@@ -123,15 +135,11 @@ std::string calculationText(const CellRow& row)
 const RowListDeclaration& numbersQuestions()
 {
     static const RowListDeclaration declared = [] {
-        RowListDeclaration list = wordList(questionsPath, WordLine::Question);
+        RowListDeclaration list = wordList("Question", questionsPath, WordLine::Question);
         list.columns = {"Questions", "Answers"};
         list.menu = "mnuNumbers";
         list.dialog.form = EditForm::ThreeFields;
-        list.dialog.addTitle = "Add Question";
-        list.dialog.editTitle = "Edit Question";
         list.dialog.labels = {"Category", "Question", "Answer"};
-        list.deletion = {"Delete Word?", "Do you really want to delete this question?",
-                         "There must be a minimum of one Question"};
         list.fieldsOf = questionFields;
         list.take = [](const std::vector<std::string>& fields, CellRow& row) { row = questionRow(fields); };
         return list;
