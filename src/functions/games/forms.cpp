@@ -7,7 +7,7 @@
 #include "functions/games/hangmanform.h"
 #include "functions/games/numbersform.h"
 #include "functions/games/russianroulette.h"
-#include "functions/games/scoreclearersform.h"
+#include "functions/games/scoreclearers.h"
 #include "functions/games/shared/wordlistpart.h"
 #include "functions/games/slotmachine.h"
 #include "functions/games/threecardmonty.h"
@@ -33,7 +33,7 @@ FormCatalogue gamesForms()
     return {
         {anagrams(), {DeclaredSettings{anagramSettings}, listPartOf<WordListPart>(anagramWords)}},
         settingsForm({"frmGamesCodeBreaker", "Games ~ CodeBreaker"}, codeBreakerSettings),
-        {{"frmGamesGlobalsScoreClearers", "Games ~ Score Clearers"}, {scoreClearersPart()}},
+        listForm({"frmGamesGlobalsScoreClearers", "Games ~ Score Clearers"}, scoreClearers),
         settingsForm({"frmGamesGuessTheNumber", "Games ~ GuessTheNumber"}, guessTheNumberSettings),
         {{"frmGamesHangman", "Games ~ Hangman"},
          {hangmanSettingsPart(), listPartOf<WordListPart>(hangmanWords), gallowsPart()}},

@@ -40,7 +40,7 @@ FormCatalogue useractionsForms()
         collectionForm("frmUserActionsProverbs", "User Actions ~ Proverbs", proverbs),
         collectionForm("frmUserActionsQuotations", "User Actions ~ Quotations", quotations),
         {{"frmUserActionsSpellSettings", "UserActions ~ Spells ~ Settings", {7500, 7500}},
-         {DeclaredSettings{spellSettings}, wardsPart()}},
+         {DeclaredSettings{spellSettings}, listPart(spellWards)}},
         {{"frmUserActionsSpellsSpellBook", "UserActions ~ Spells ~ SpellBook", bookSize},
          {spellBookPart(spellBook())}},
         settingsForm({"frmUserActionsNickSpellSettings", "UserActions ~ NickSpells ~ Settings"},

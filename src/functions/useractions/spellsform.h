@@ -6,9 +6,6 @@ namespace quillfen {
 
 struct SpellBook;
 
-/// The warded users.
-DeclaredList wardsPart();
-
 /// The spells of a book, and the phrases of the one that is being amended.
 OwnPart spellBookPart(const SpellBook& book);
 

@@ -9,13 +9,9 @@ TextFilePart::TextFilePart(const QString& toolbar, const QString& caption, std::
                            const FormContext& context)
     : m_path(std::move(path)),
       m_context(context),
-      m_toolbar(new QToolBar)
+      m_toolbar(smallToolbar(toolbar, {AddEditButton}))
 {
-    m_toolbar->setObjectName(toolbar);
-    m_toolbar->setIconSize({16, 16});
     m_toolbar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-    int index = 0;
-    AddEditButton(*m_toolbar, index);
     auto* action = button(*m_toolbar, "EDIT");
     action->setText(caption);
     action->setToolTip("Edit"); // the text beside the icon tells what is edited

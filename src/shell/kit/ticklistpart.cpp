@@ -12,7 +12,7 @@ TickListPart::TickListPart(TickListDescription description, const FormContext& c
       m_list(new RowList(m_description.control,
                          m_description.label.isEmpty() ? QStringList(m_description.caption) : QStringList(),
                          true)),
-      m_widget(m_description.label.isEmpty() ? m_list : listWithToolbar(m_description.label, nullptr, m_list))
+      m_widget(m_description.label.isEmpty() ? m_list : labelled(m_description.label, m_list))
 {
     m_list->setAccessibleName(m_description.label.isEmpty() ? m_description.caption : m_description.label);
     connect(m_list, &RowList::tickChanged, this, &FormPart::changed);
