@@ -1,7 +1,9 @@
 #include "settings/profiles.h"
 
 #include "settings/lines.h"
-#include "settings/tablefile.h"
+#include "settings/filestore.h"
+#include "settings/paths.h"
+#include "settings/tabletrim.h"
 
 namespace quillfen {
 

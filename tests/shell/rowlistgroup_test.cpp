@@ -93,11 +93,10 @@ protected:
         declared.load = [](const SettingsFiles&, const HubProfiles&) {
             return std::vector<CellRow>{{{"good"}}, {{"other"}}};
         };
-        DeclaredList standing = listPart([this] { return declared; });
-        standing.make = [this](const RowListDeclaration& each, const FormContext& context) {
-            return new RowListPart(each, context, hooks);
+        standIn(listPart([this] { return declared; }, ListPartKind::Words));
+        makers.list = [this](ListPartKind, const RowListDeclaration& each, const FormContext& context) {
+            return std::make_unique<RowListPart>(each, context, hooks);
         };
-        standIn(standing);
     }
 
     QStringList after(EditorForm& form, int row, const char* key, const QString& text)

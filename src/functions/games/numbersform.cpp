@@ -1,8 +1,8 @@
 #include "functions/games/numbersform.h"
 
 #include "functions/games/numbers.h"
-#include "functions/games/shared/wordlistpart.h"
 #include "shell/kit/rowlist.h"
+#include "shell/kit/rowlistpart.h"
 #include "shell/kit/tablefilepart.h"
 
 #include <QHeaderView>
@@ -71,16 +71,9 @@ private:
 
 } // namespace
 
-DeclaredSettings numbersSettingsPart()
+std::unique_ptr<FormPart> makeNumbersSettingsPart(const TableFile& file, const FormContext& context)
 {
-    return {numbersSettings, [](const TableFile& file, const FormContext& context) {
-                return new NumbersPart(file, calculationsPart(context), context);
-            }};
-}
-
-DeclaredList numbersQuestionsPart()
-{
-    return listPartOf<WordListPart>(numbersQuestions);
+    return std::make_unique<NumbersPart>(file, calculationsPart(context), context);
 }
 
 } // namespace quillfen

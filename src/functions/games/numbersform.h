@@ -1,13 +1,14 @@
 #pragma once
 
-#include "shell/kit/declaredforms.h"
+#include "shell/kit/formpart.h"
+
+#include <memory>
 
 namespace quillfen {
 
-/// The settings with the calculations among them.
-DeclaredSettings numbersSettingsPart();
+struct TableFile;
 
-/// The fixed questions.
-DeclaredList numbersQuestionsPart();
+/// The settings with the calculations among them.
+std::unique_ptr<FormPart> makeNumbersSettingsPart(const TableFile& file, const FormContext& context);
 
 } // namespace quillfen

@@ -1,7 +1,6 @@
 #include "functions/games/scoreclearers.h"
 
 #include "settings/codepage.h"
-#include "settings/listfile.h"
 
 #include <algorithm>
 
@@ -44,9 +43,14 @@ const RowListDeclaration& scoreClearers()
     return declared;
 }
 
-void buildScoreClearers(const SettingsFiles& files, const HubProfiles& /*profiles*/)
+FunctionDeclaration scoreClearersFunction()
 {
-    writeEmptyTableIfMissing(files, clearers.path, clearers.table);
+    return {.nodes = {{"Games~ScoreClearers",
+                       "Score Clearers",
+                       {{{"frmGamesGlobalsScoreClearers", "Games ~ Score Clearers"},
+                         {listPart(scoreClearers)}}}}},
+            .folders = {R"(Games\Globals)"},
+            .build = {emptyTable(clearers)}};
 }
 
 } // namespace quillfen

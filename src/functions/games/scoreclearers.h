@@ -1,12 +1,12 @@
 #pragma once
 
-#include "settings/listdeclaration.h"
+#include "declarations/function.h"
 
 namespace quillfen {
 
 /// The users who may clear scores, each of them once.
 const RowListDeclaration& scoreClearers();
 
-void buildScoreClearers(const SettingsFiles& files, const HubProfiles& profiles);
+FunctionDeclaration scoreClearersFunction();
 
 } // namespace quillfen

@@ -196,11 +196,9 @@ void QuestionsPart::closeFile()
 
 } // namespace
 
-OwnPart triviaQuestionsPart()
+std::unique_ptr<FormPart> makeTriviaQuestionsPart(const FormContext& context)
 {
-    OwnPart part = ownPart<QuestionsPart>();
-    part.lists = [] { return std::vector{triviaQuestionLists().rows}; };
-    return part;
+    return std::make_unique<QuestionsPart>(context);
 }
 
 } // namespace quillfen

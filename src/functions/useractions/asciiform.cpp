@@ -32,17 +32,13 @@ bool isDrawn(QWidget* parent, const SettingsFiles& files, const CellRow& row, co
 
 } // namespace
 
-DeclaredList asciiPicturesPart()
+std::unique_ptr<FormPart> makeAsciiPicturesPart(const RowListDeclaration& list, const FormContext& context)
 {
-    DeclaredList pictures = listPart(asciiPictures);
-    pictures.make = [](const RowListDeclaration& list, const FormContext& context) {
-        RowListHooks hooks = fileHooks(context, std::string(asciiFolder));
-        hooks.accept = [&files = context.files](QWidget* parent, const CellRow& row, const CellRow* before) {
-            return isDrawn(parent, files, row, before);
-        };
-        return new RowListPart(list, context, std::move(hooks));
+    RowListHooks hooks = fileHooks(context, std::string(asciiFolder));
+    hooks.accept = [&files = context.files](QWidget* parent, const CellRow& row, const CellRow* before) {
+        return isDrawn(parent, files, row, before);
     };
-    return pictures;
+    return std::make_unique<RowListPart>(list, context, std::move(hooks));
 }
 
 } // namespace quillfen

@@ -144,13 +144,9 @@ void SpellBookPart::gather()
 
 } // namespace
 
-OwnPart spellBookPart(const SpellBook& book)
+std::unique_ptr<FormPart> makeSpellBookPart(const SpellBook& book, const FormContext& context)
 {
-    return {[&book](const FormContext& context) { return new SpellBookPart(book, context); },
-            {},
-            [&book] {
-                return std::vector{spellList(book), phraseList()};
-            }};
+    return std::make_unique<SpellBookPart>(book, context);
 }
 
 } // namespace quillfen

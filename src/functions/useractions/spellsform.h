@@ -1,12 +1,14 @@
 #pragma once
 
-#include "shell/kit/declaredforms.h"
+#include "shell/kit/formpart.h"
+
+#include <memory>
 
 namespace quillfen {
 
 struct SpellBook;
 
 /// The spells of a book, and the phrases of the one that is being amended.
-OwnPart spellBookPart(const SpellBook& book);
+std::unique_ptr<FormPart> makeSpellBookPart(const SpellBook& book, const FormContext& context);
 
 } // namespace quillfen
