@@ -18,6 +18,18 @@
 namespace quillfen {
 namespace {
 
+QWidget* labelledDefault(QComboBox& box)
+{
+    box.setObjectName("cboQuestionFileDefault");
+    box.setAccessibleName("Default Question File");
+    auto* widget = new QWidget;
+    auto* fields = new QFormLayout(widget);
+    fields->setContentsMargins({});
+    fields->setRowWrapPolicy(QFormLayout::WrapAllRows);
+    fields->addRow(labelFor("Default Question File", &box), &box);
+    return widget;
+}
+
 /// The question files with the default among them, and the questions of the one that is open.
 class QuestionsPart : public ListedFilesPart
 {
@@ -39,32 +51,24 @@ protected:
     void addName(const std::string& name) override;
 
 private:
-    void addDefault();
+    QuestionsPart(const FormContext& context, QComboBox* preset);
+
     void allowSave();
     void setQuestionButtons(const std::vector<bool>& enabled);
 
-    QComboBox* m_default = new ComboBox;
+    QComboBox* m_default;
 };
 
-QuestionsPart::QuestionsPart(const FormContext& context)
+QuestionsPart::QuestionsPart(const FormContext& context) : QuestionsPart(context, new ComboBox) {}
+
+QuestionsPart::QuestionsPart(const FormContext& context, QComboBox* preset)
     : ListedFilesPart(
           triviaQuestionLists(), context,
-          {.builders = {BuildFileEditToolbar}, .rowsLightButtons = false, .note = [this] { allowSave(); }})
+          {.builders = {BuildFileEditToolbar}, .rowsLightButtons = false, .note = [this] { allowSave(); }},
+          labelledDefault(*preset)),
+      m_default(preset)
 {
-    addDefault();
     connect(m_default, &QComboBox::currentTextChanged, this, &FormPart::changed);
-}
-
-void QuestionsPart::addDefault()
-{
-    m_default->setObjectName("cboQuestionFileDefault");
-    m_default->setAccessibleName("Default Question File");
-    auto* above = new QWidget;
-    auto* fields = new QFormLayout(above);
-    fields->setContentsMargins({});
-    fields->setRowWrapPolicy(QFormLayout::WrapAllRows);
-    fields->addRow(labelFor("Default Question File", m_default), m_default);
-    nameTools().addAbove(above);
 }
 
 void QuestionsPart::load()

@@ -12,6 +12,7 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QSplitter>
+#include <QVBoxLayout>
 
 #include <algorithm>
 
@@ -20,6 +21,18 @@ namespace {
 
 /// The extension of a chosen file goes, whatever it is.
 constexpr int extensionSize = 4;
+
+QWidget* below(QWidget* above, QWidget* names)
+{
+    if (!above)
+        return names;
+    auto* widget = new QWidget;
+    auto* column = new QVBoxLayout(widget);
+    column->setContentsMargins({});
+    column->addWidget(above);
+    column->addWidget(names, 1);
+    return widget;
+}
 
 QWidget* sideBySide(QWidget* names, QWidget* rows)
 {
@@ -33,7 +46,8 @@ QWidget* sideBySide(QWidget* names, QWidget* rows)
 
 } // namespace
 
-ListedFilesPart::ListedFilesPart(ListedFiles files, const FormContext& context, RowListHooks hooks)
+ListedFilesPart::ListedFilesPart(ListedFiles files, const FormContext& context, RowListHooks hooks,
+                                 QWidget* above)
     : m_files(std::move(files)),
       m_context(context),
       m_names(new RowList(fromBytes(m_files.names.list), texts(m_files.names.columns), m_files.names.ticks)),
@@ -44,7 +58,7 @@ ListedFilesPart::ListedFilesPart(ListedFiles files, const FormContext& context, 
                                    fromBytes(m_files.names.menu)},
                                   {BuildFileListToolbar}, context)),
       m_rows(new RowListPart(m_files.rows, context, std::move(hooks))),
-      m_widget(sideBySide(m_nameTools, m_rows->widget()))
+      m_widget(sideBySide(below(above, m_nameTools), m_rows->widget()))
 {
     m_rows->setParent(this);
     m_nameTools->connectButtons(this, {{"NEW", &ListedFilesPart::askName},

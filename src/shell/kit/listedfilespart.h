@@ -19,8 +19,9 @@ public:
     RoutineTable routines() override;
 
 protected:
-    /// `hooks` are those of the open file's rows.
-    ListedFilesPart(ListedFiles files, const FormContext& context, RowListHooks hooks);
+    /// `hooks` are those of the open file's rows; `above` stands above the names.
+    ListedFilesPart(ListedFiles files, const FormContext& context, RowListHooks hooks,
+                    QWidget* above = nullptr);
 
     /// NEW: a name was typed.
     virtual void startFile(const std::string& name) = 0;

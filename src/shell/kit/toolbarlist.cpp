@@ -10,7 +10,7 @@ namespace quillfen {
 ToolbarList::ToolbarList(ListView* list, const ToolbarListNames& names,
                          const std::vector<ToolbarBuilder>& builders, const FormContext& context)
     : m_list(list),
-      m_toolbar(smallToolbar(names.toolbar, builders)),
+      m_toolbar(smallToolbar(names.toolbar, {})),
       m_toolbars(new QHBoxLayout),
       m_menu(names.menu)
 {
@@ -23,6 +23,7 @@ ToolbarList::ToolbarList(ListView* list, const ToolbarListNames& names,
     layout->addLayout(m_toolbars);
     m_toolbars->addWidget(m_toolbar);
     layout->addWidget(m_list, 1);
+    addButtons(*m_toolbar, builders); // behind the list, so that Tab comes to the list first
 
     connect(m_list, &ListView::editAsked, this, [this, key = names.activates] { press(key); });
     connect(m_list, &ListView::deleteAsked, this, [this] { press("DELETE"); });
@@ -65,11 +66,6 @@ void ToolbarList::addToolbar(QToolBar* toolbar)
 {
     m_toolbars->addWidget(toolbar);
     m_toolbars->addStretch();
-}
-
-void ToolbarList::addAbove(QWidget* widget)
-{
-    qobject_cast<QVBoxLayout*>(layout())->insertWidget(0, widget);
 }
 
 void ToolbarList::addRemark(const QString& text)

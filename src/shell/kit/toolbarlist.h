@@ -55,9 +55,6 @@ public:
     /// Puts a second toolbar behind the list's own.
     void addToolbar(QToolBar* toolbar);
 
-    /// Puts something above the toolbar.
-    void addAbove(QWidget* widget);
-
     /// Tells something below the list.
     void addRemark(const QString& text);
 

@@ -77,10 +77,15 @@ QToolBar* smallToolbar(const QString& name, const std::vector<ToolbarBuilder>& b
     auto* toolbar = new QToolBar;
     toolbar->setObjectName(name);
     toolbar->setIconSize({16, 16});
+    addButtons(*toolbar, builders);
+    return toolbar;
+}
+
+void addButtons(QToolBar& toolbar, const std::vector<ToolbarBuilder>& builders)
+{
     int index = 0;
     for (const ToolbarBuilder build : builders)
-        build(*toolbar, index);
-    return toolbar;
+        build(toolbar, index);
 }
 
 QAction* addButton(QToolBar& toolbar, int& index, const QString& key, const QString& toolTip,

@@ -33,6 +33,9 @@ void BuildMovementToolbar(QToolBar& toolbar, int& index);
 /// have it. The caller owns it.
 QToolBar* smallToolbar(const QString& name, const std::vector<ToolbarBuilder>& builders);
 
+/// Puts in what the builders put in, one behind the other.
+void addButtons(QToolBar& toolbar, const std::vector<ToolbarBuilder>& builders);
+
 /// One button by its key; the icon is the one of that name.
 QAction* addButton(QToolBar& toolbar, int& index, const QString& key, const QString& toolTip,
                    const QString& icon);
