@@ -46,8 +46,8 @@ private:
 WeekPart::WeekPart(const ArchiveMember& member, const FormContext& context)
     : m_member(member),
       m_context(context),
-      m_enabled(makeControl(flag("bEnabled", "chkCheckBox(0)", "Enable Link of Week", "1"), context.profiles,
-                            [this] { emit changed(); })),
+      m_enabled(makeControl(setting::flag("bEnabled", "chkCheckBox(0)", "Enable Link of Week", true),
+                            context.profiles, [this] { emit changed(); })),
       m_changeTime(new QLineEdit),
       m_changeBar(smallToolbar("tlbChangeTime", {AddEditButton})),
       m_announcements(new RowListPart(announcements(), context)),

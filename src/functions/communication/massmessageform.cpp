@@ -37,8 +37,8 @@ private:
 
 MassMessagePart::MassMessagePart(const FormContext& context)
     : m_context(context),
-      m_immune(
-          makeControl(massMessageSettings().settings.front(), context.profiles, [this] { emit changed(); })),
+      m_immune(makeControl(std::get<setting::Field>(massMessageSettings().settings.front()), context.profiles,
+                           [this] { emit changed(); })),
       m_grid(new PermissionGridPart(GridSource{{"MassMessage"}, massMessageTargets(), {}, {}}, blockGrid(),
                                     context)),
       m_widget(placed())
@@ -66,7 +66,7 @@ QWidget* MassMessagePart::placed() const
     auto* widget = new QWidget;
     auto* layout = new QHBoxLayout(widget);
     layout->setContentsMargins({});
-    layout->addWidget(labelled(fromBytes(massMessageSettings().settings.front().label), m_immune.widget));
+    layout->addWidget(labelled(m_immune.label, m_immune.widget));
     layout->addWidget(m_grid->widget(), 2);
     return widget;
 }

@@ -33,14 +33,15 @@ private:
 
 DescriptionTagsPart::DescriptionTagsPart(const FormContext& context)
     : m_context(context),
-      m_tagged(makeControl(taggedProfiles().settings.front(), context.profiles, [this] { emit changed(); })),
+      m_tagged(makeControl(std::get<setting::Field>(taggedProfiles().settings.front()), context.profiles,
+                           [this] { emit changed(); })),
       m_tags(new RowListPart(descriptionTags(), context)),
       m_widget(new QWidget)
 {
     adopt(*m_tags);
     auto* layout = new QHBoxLayout(m_widget);
     layout->setContentsMargins({});
-    layout->addWidget(labelled(fromBytes(taggedProfiles().settings.front().label), m_tagged.widget));
+    layout->addWidget(labelled(m_tagged.label, m_tagged.widget));
     layout->addWidget(m_tags->widget(), 2);
 }
 

@@ -24,29 +24,29 @@ RowListPart* calculationsPart(const FormContext& context)
     return calculations;
 }
 
-void show(RowList& list, const Setting& setting, const SettingValues& values)
+void show(RowList& list, const setting::NamedTexts& texts, const SettingValues& values)
 {
     const std::size_t columns = numbersCalculationList().columns.size();
     list.setRows({});
-    for (std::size_t at = 0; at < setting.entries.size(); ++at) {
-        const std::string& entry = setting.entries[at];
-        CellRow row = calculationRow(calculationOperators.at(at), values.at(textRow(setting, entry)));
+    for (std::size_t at = 0; at < texts.texts.size(); ++at) {
+        const std::string& name = texts.texts[at].name;
+        CellRow row = calculationRow(calculationOperators.at(at), values.at(textRow(texts.key, name)));
         const bool isWhole = row.cells.size() == columns;
         row.cells.resize(columns);
         list.append(std::move(row));
         if (!isWhole)
-            throw LoadError(entry + " in " + numbersSettings().path + " has fewer than four numbers");
+            throw LoadError(name + " in " + numbersSettings().path + " has fewer than four numbers");
     }
 }
 
-Control calculationsControl(RowListPart& calculations, const Setting& setting)
+Control calculationsControl(RowListPart& calculations, const setting::NamedTexts& texts)
 {
     RowList& list = calculations.list();
     return {calculations.widget(),
-            [&list, &setting](const SettingValues& values) { show(list, setting, values); },
-            [&list, &setting](SettingValues& values) {
-                for (std::size_t at = 0; at < setting.entries.size(); ++at)
-                    values[textRow(setting, setting.entries[at])] = calculationText(list.rows().at(at));
+            [&list, &texts](const SettingValues& values) { show(list, texts, values); },
+            [&list, &texts](SettingValues& values) {
+                for (std::size_t at = 0; at < texts.texts.size(); ++at)
+                    values[textRow(texts.key, texts.texts[at].name)] = calculationText(list.rows().at(at));
             }};
 }
 
@@ -55,9 +55,10 @@ class NumbersPart : public TableFilePart
 {
 public:
     NumbersPart(const TableFile& file, RowListPart* calculations, const FormContext& context)
-        : TableFilePart(
-              file, context,
-              [calculations](const Setting& setting) { return calculationsControl(*calculations, setting); }),
+        : TableFilePart(file, context,
+                        [calculations](const setting::NamedTexts& texts) {
+                            return calculationsControl(*calculations, texts);
+                        }),
           m_calculations(calculations)
     {
         calculations->setParent(this);
