@@ -102,14 +102,14 @@ TEST_F(Numbers, AListOfOneRowIsSavedWithoutAnAsterisk)
 
 TEST_F(Numbers, ACalculationIsRefusedForLettersInItsFirstNumberAlone)
 {
-    const RowListDeclaration& list = numbersCalculationList();
+    const RowListDeclaration& declared = numbersCalculationList();
     const CellRow before{{"+", "0", "1", "0", "1"}};
-    const auto refused = list.refusal({before}, {{"+", "x", "1", "0", "1"}}, &before);
+    const auto refused = declared.refusal({before}, {{"+", "x", "1", "0", "1"}}, &before);
     ASSERT_TRUE(refused);
     EXPECT_EQ(refused->title, "Invalid Entry");
     EXPECT_EQ(refused->text, "Invalid Entry: Integers required in all fields");
-    EXPECT_TRUE(list.asksAgain);
-    EXPECT_FALSE(list.refusal({before}, {{"+", "1.5", "x", "y", "z"}}, &before));
+    EXPECT_TRUE(declared.asksAgain);
+    EXPECT_FALSE(declared.refusal({before}, {{"+", "1.5", "x", "y", "z"}}, &before));
 }
 
 TEST_F(Numbers, ACalculationIsFourNumbersJoinedByCommas)
