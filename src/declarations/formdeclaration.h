@@ -64,11 +64,8 @@ enum class SettingsPartKind
 enum class ListPartKind
 {
     Plain,
-    Words, ///< a file that is opened, saved and closed by itself
-    FixedQuestions,
-    ScoreClearers,
-    AsciiPictures,
-    SpellWards,
+    Words,         ///< a file that is opened, saved and closed by itself
+    AsciiPictures, ///< each with its file
 };
 
 /// The parts that only their function has.

@@ -56,6 +56,22 @@ RowListGroup::Save saveOf(const NestedListsFile& file)
     };
 }
 
+RowListDeclaration listOf(const std::string& noun, Fewest fewest)
+{
+    RowListDeclaration list;
+    list.dialog.addTitle = "Add " + noun;
+    list.dialog.editTitle = "Edit " + noun;
+    list.dialog.labels = {noun};
+    list.deletion = deletionOf(noun, noun, fewest == Fewest::One ? noun : "");
+    return list;
+}
+
+DeleteWords deletionOf(const std::string& titled, const std::string& asked, const std::string& least)
+{
+    return {"Delete " + titled + "?", "Do you really want to delete this " + asked + "?",
+            least.empty() ? least : "There must be a minimum of one " + least};
+}
+
 std::vector<CellRow> noRows(const HubProfiles& /*profiles*/)
 {
     return {};

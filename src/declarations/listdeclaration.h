@@ -64,6 +64,13 @@ struct DeleteWords
     std::string minimum{}; ///< "There must be a minimum of one ..."; empty: the list may become empty
 };
 
+/// Why a row is not taken, as a box tells it.
+struct RowRefusal
+{
+    std::string title;
+    std::string text;
+};
+
 /// A list with its toolbar, its dialog and its words. All texts are code page bytes.
 struct RowListDeclaration
 {
@@ -75,12 +82,14 @@ struct RowListDeclaration
     std::string movement{}; ///< the toolbar that moves rows, tlb...; empty: they keep their places
     std::vector<std::string> toolTips{}; ///< of NEW, DELETE and EDIT, where they tell more than those
     std::string label{};                 ///< above the list; may be empty
+    std::string remark{};                ///< below the list; may be empty
     std::vector<std::string> columns{};
     int hiddenColumns = 0; ///< how many of the last ones don't show
     bool ticks = false;
     std::string menu{}; ///< the borrowed right-click menu, mnu...
     RowDialog dialog{};
     DeleteWords deletion{};
+    bool selectsFirst = false; ///< after a deletion the first row is selected
     Load load{};
     Save save{}; ///< throws StoreError
 
@@ -95,6 +104,12 @@ struct RowListDeclaration
     std::function<std::string(const CellRow&)> editTitleOf{};
     std::function<std::vector<std::string>(const CellRow&)> labelsOf{};
 
+    /// Why a row is not taken; `before` is the row that was edited, null where one is added.
+    std::function<std::optional<RowRefusal>(const std::vector<CellRow>& rows, const CellRow& row,
+                                            const CellRow* before)>
+        refusal{};
+    bool asksAgain = false; ///< the dialog of a row that was refused comes up again
+
     /// The dialog that edits a row, where rows differ in theirs.
     std::function<RowDialog(const CellRow&)> dialogOf{};
 };
@@ -108,6 +123,22 @@ struct RowListGroup
     Save save;                             ///< takes the rows of each list; throws StoreError
 };
 
+/// Files of rows that a list names, one of which may be open: its rows stand in a second list. All texts are
+/// code page bytes.
+struct ListedFiles
+{
+    /// The list of the names. Its dialog's title and label are those of the box that asks for a new name; the
+    /// question of its deletion ends with the name.
+    RowListDeclaration names;
+    RowListDeclaration rows;
+
+    std::string chooseTitle;   ///< of the dialog that chooses a file which is there
+    std::string folder;        ///< where that begins, a told path
+    std::string filter;        ///< as that shows it
+    std::string patterns;      ///< what it means: "*.lst"
+    std::string refusesAdding; ///< the title of the box that refuses a chosen file
+};
+
 /// What a list reader gave, as a list view holds it: text, second column and tick.
 std::vector<CellRow> cellRows(std::vector<ListRow> list);
 
@@ -118,6 +149,21 @@ RowListGroup::Save saveOf(const NestedListsFile& file);
 /// The loading and saving of a list that is one whole file.
 RowListDeclaration::Load loadOf(const ListFile& file);
 RowListDeclaration::Save saveOf(const ListFile& file);
+
+/// How few rows a list may come to have.
+enum class Fewest
+{
+    None,
+    One
+};
+
+/// A list whose rows dialogs and boxes call by one noun: "Add <noun>", "Edit <noun>", "Delete <noun>?". The
+/// dialog has one field, labelled by it too.
+RowListDeclaration listOf(const std::string& noun, Fewest fewest);
+
+/// The words around a deletion where lists call a row by several nouns: in the title, in the question and,
+/// where one row must stay, in the refusal.
+DeleteWords deletionOf(const std::string& titled, const std::string& asked, const std::string& least = {});
 
 /// RESTORE empties the list.
 std::vector<CellRow> noRows(const HubProfiles& profiles);

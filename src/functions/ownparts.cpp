@@ -8,7 +8,6 @@
 #include "functions/customise/descriptiontagsform.h"
 #include "functions/games/hangmanform.h"
 #include "functions/games/numbersform.h"
-#include "functions/games/scoreclearersform.h"
 #include "functions/games/shared/wordlistpart.h"
 #include "functions/games/triviaform.h"
 #include "functions/general/languages.h"
@@ -49,14 +48,8 @@ std::unique_ptr<FormPart> rowsPart(ListPartKind kind, const RowListDeclaration& 
         return std::make_unique<RowListPart>(list, context);
     case ListPartKind::Words:
         return std::make_unique<WordListPart>(list, context);
-    case ListPartKind::FixedQuestions:
-        return makeFixedQuestionsPart(list, context);
-    case ListPartKind::ScoreClearers:
-        return makeScoreClearersPart(list, context);
     case ListPartKind::AsciiPictures:
         return makeAsciiPicturesPart(list, context);
-    case ListPartKind::SpellWards:
-        return makeWardsPart(list, context);
     }
     throw std::invalid_argument("no such list");
 }

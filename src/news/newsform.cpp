@@ -3,10 +3,9 @@
 #include "news/news.h"
 #include "settings/tablefile.h"
 #include "shell/kit/codepagetext.h"
-#include "shell/kit/labels.h"
 #include "shell/kit/messages.h"
 #include "shell/kit/rowlist.h"
-#include "shell/kit/toolbars.h"
+#include "shell/kit/toolbarlist.h"
 
 #include <QHeaderView>
 
@@ -39,28 +38,18 @@ public:
     explicit NewsPart(const FormContext& context)
         : m_context(context),
           m_list(new RowList("lvwNews", {"Date", "News Headline", "News Story", "Symbol", "News ID"}, false)),
-          m_toolbar(new QToolBar),
-          m_widget(listWithToolbar({}, m_toolbar, m_list))
+          m_tools(new ToolbarList(m_list, {"tlbListview", "News"}, {AddDeleteButton, AddEditButton}, context))
     {
-        m_list->setAccessibleName("News");
         for (const Column narrow : {Date, Symbol, Number})
             m_list->header()->resizeSection(narrow, 12 * m_list->fontMetrics().averageCharWidth());
         m_list->header()->setStretchLastSection(false);
         m_list->header()->setSectionResizeMode(Story, QHeaderView::Stretch);
-        m_toolbar->setObjectName("tlbListview");
-        m_toolbar->setIconSize({16, 16});
-        int index = 0;
-        AddDeleteButton(*m_toolbar, index);
-        AddEditButton(*m_toolbar, index);
-        connectButton(*m_toolbar, "DELETE", this, &NewsPart::removeSelected);
-        connectButton(*m_toolbar, "EDIT", this, &NewsPart::showSelected);
-        connect(m_list, &RowList::deleteAsked, this, &NewsPart::removeSelected);
-        connect(m_list, &RowList::editAsked, this, &NewsPart::showSelected);
-        connect(m_list, &RowList::countChanged, this, &NewsPart::followRows);
-        followRows();
+        m_tools->connectButtons(this,
+                                {{"DELETE", &NewsPart::removeSelected}, {"EDIT", &NewsPart::showSelected}});
+        m_tools->letRowsLightButtons();
     }
 
-    QWidget* widget() override { return m_widget; }
+    QWidget* widget() override { return m_tools; }
 
     void load() override
     {
@@ -101,16 +90,9 @@ private:
                fromBytes(article.story), QMessageBox::NoIcon);
     }
 
-    void followRows()
-    {
-        for (const char* key : {"DELETE", "EDIT"})
-            button(*m_toolbar, key)->setEnabled(!m_list->isEmpty());
-    }
-
     FormContext m_context;
     RowList* m_list;
-    QToolBar* m_toolbar;
-    QWidget* m_widget;
+    ToolbarList* m_tools;
 };
 
 } // namespace

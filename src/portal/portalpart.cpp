@@ -7,7 +7,7 @@
 #include "shell/kit/labels.h"
 #include "shell/kit/messages.h"
 #include "shell/kit/rowlist.h"
-#include "shell/kit/toolbars.h"
+#include "shell/kit/toolbarlist.h"
 #include "shell/kit/units.h"
 
 #include <QCoreApplication>
@@ -42,32 +42,22 @@ EditRequest hubRequest(const char* title)
 {
     return {EditForm::ThreeFields,
             title,
-            "A",
+            EditResult::Add,
             habitualAddMode(EditForm::ThreeFields),
             {"Hub Address", "Client Password", "Client Port"}};
 }
 
 EditRequest nickRequest(const char* title)
 {
-    return {EditForm::OneFields, title, "A", habitualAddMode(EditForm::OneFields), {"Nick"}};
+    return {EditForm::OneFields, title, EditResult::Add, habitualAddMode(EditForm::OneFields), {"Nick"}};
 }
 
 EditAnswer edited(QWidget* parent, EditRequest request, std::vector<std::string> values)
 {
-    request.gEditResult = "E";
+    request.gEditResult = EditResult::Edit;
     request.gEditMode = habitualEditMode(request.form);
     request.values = std::move(values);
     return showEditDialog(parent, request);
-}
-
-QToolBar* listToolbar(const QString& name)
-{
-    auto* toolbar = new QToolBar;
-    toolbar->setObjectName(name);
-    toolbar->setIconSize({16, 16});
-    int index = 0;
-    BuildListToolbar(*toolbar, index);
-    return toolbar;
 }
 
 /// Lets a list's columns follow its width.
@@ -138,9 +128,11 @@ void fitNickColumn(QHeaderView& columns, int width)
 PortalPart::PortalPart(const FormContext& context)
     : m_context(context),
       m_hubs(new RowList("lvwHubs", {"Hub Address", "Client Password", "Client Port", "HubName"}, true)),
-      m_hubBar(listToolbar("tlbHubs")),
+      m_hubTools(new ToolbarList(m_hubs, {"tlbHubs", "Hub Settings", "Hub Settings", "mnuFirst"},
+                                 {BuildListToolbar}, context)),
       m_nicks(new RowList("lvwNicks", {"ID", "Nicks"}, false)),
-      m_nickBar(listToolbar("tlbNicks")),
+      m_nickTools(new ToolbarList(m_nicks, {"tlbNicks", "Nicks To Ignore", "Nicks To Ignore", "mnuSecond"},
+                                  {BuildListToolbar}, context)),
       m_widget(placed()),
       m_live(new LiveLinks(*this))
 {
@@ -152,7 +144,6 @@ PortalPart::PortalPart(const FormContext& context)
     for (auto* list : {m_hubs, m_nicks})
         list->setSelectsFirst(false); // a selected hub is the one that ticks work on
     connectLists();
-    followRows();
 }
 
 PortalPart::~PortalPart()
@@ -162,14 +153,12 @@ PortalPart::~PortalPart()
 
 QWidget* PortalPart::placed()
 {
-    m_hubs->setAccessibleName("Hub Settings");
-    m_nicks->setAccessibleName("Nicks To Ignore");
     auto* widget = new QWidget;
     auto* layout = new QVBoxLayout(widget);
     layout->setContentsMargins({});
     layout->addWidget(identity());
-    layout->addWidget(listWithToolbar("Hub Settings", m_hubBar, m_hubs), 2);
-    layout->addWidget(listWithToolbar("Nicks To Ignore", m_nickBar, m_nicks), 3);
+    layout->addWidget(m_hubTools, 2);
+    layout->addWidget(m_nickTools, 3);
     return widget;
 }
 
@@ -194,31 +183,23 @@ QWidget* PortalPart::identity()
 
 void PortalPart::connectLists()
 {
-    connectButton(*m_hubBar, "NEW", this, &PortalPart::addHub);
-    connectButton(*m_hubBar, "DELETE", this, &PortalPart::deleteHub);
-    connectButton(*m_hubBar, "EDIT", this, &PortalPart::editHub);
-    connect(m_hubs, &RowList::editAsked, this, &PortalPart::editHub);
-    connect(m_hubs, &RowList::deleteAsked, this, &PortalPart::deleteHub);
-    connect(m_hubs, &RowList::menuAsked, this,
-            [this](const QPoint& at) { m_context.showMenu("mnuFirst", at); });
+    m_hubTools->connectButtons(
+        this,
+        {{"NEW", &PortalPart::addHub}, {"DELETE", &PortalPart::deleteHub}, {"EDIT", &PortalPart::editHub}});
+    m_nickTools->connectButtons(this, {{"NEW", &PortalPart::addNick},
+                                       {"DELETE", &PortalPart::deleteNick},
+                                       {"EDIT", &PortalPart::editNick}});
+    for (auto* tools : {m_hubTools, m_nickTools})
+        tools->letRowsLightButtons();
     connect(m_hubs, &RowList::tickChanged, this, &PortalPart::followTick);
-    connect(m_hubs, &RowList::countChanged, this, &PortalPart::followRows);
-
-    connectButton(*m_nickBar, "NEW", this, &PortalPart::addNick);
-    connectButton(*m_nickBar, "DELETE", this, &PortalPart::deleteNick);
-    connectButton(*m_nickBar, "EDIT", this, &PortalPart::editNick);
-    connect(m_nicks, &RowList::editAsked, this, &PortalPart::editNick);
-    connect(m_nicks, &RowList::deleteAsked, this, &PortalPart::deleteNick);
-    connect(m_nicks, &RowList::menuAsked, this,
-            [this](const QPoint& at) { m_context.showMenu("mnuSecond", at); });
-    connect(m_nicks, &RowList::countChanged, this, &PortalPart::followRows);
+    connect(m_nicks, &RowList::countChanged, this, [this] { m_ignored.reset(); });
     connect(m_nicks->model(), &QAbstractItemModel::dataChanged, this, [this] { m_ignored.reset(); });
 }
 
 RoutineTable PortalPart::routines()
 {
-    RoutineTable all = buttonRoutines("mnuFirst", *m_hubBar);
-    all.insert(buttonRoutines("mnuSecond", *m_nickBar));
+    RoutineTable all = m_hubTools->routines();
+    all.insert(m_nickTools->routines());
     return all;
 }
 
@@ -231,7 +212,7 @@ void PortalPart::load()
     for (const HubRow& hub : settings.hubs)
         m_hubs->append(hubRow(hub));
     if (m_hubs->rows().size() == fullHubList)
-        button(*m_hubBar, "NEW")->setEnabled(false);
+        m_hubTools->tool("NEW").setEnabled(false);
     for (const std::string& nick : settings.ignoreNicks)
         m_nicks->append(nickRow(nick));
     if (m_nicks->isEmpty()) {
@@ -262,7 +243,7 @@ void PortalPart::addHub()
     addRows(m_hubs, hubRequest("Add Hub"), [this](const std::vector<std::string>& values) {
         m_hubs->append(hubRow({values[0], values[1], values[2]}));
         if (m_hubs->rows().size() == fullHubList)
-            button(*m_hubBar, "NEW")->setEnabled(false);
+            m_hubTools->tool("NEW").setEnabled(false);
         emit changed();
     });
 }
@@ -275,13 +256,13 @@ void PortalPart::editHub()
         return;
     const auto& cells = m_hubs->rows()[static_cast<std::size_t>(selected)].cells;
     const auto answer = edited(m_hubs, hubRequest("Edit Hub"), {cells[0], cells[1], cells[2]});
-    if (answer.gEditResult == "1") {
+    if (answer.gEditResult == EditResult::Ok) {
         CellRow last = m_hubs->rows().back();
         std::copy(answer.gEditValues.begin(), answer.gEditValues.end(), last.cells.begin());
         m_hubs->replace(static_cast<int>(m_hubs->rows().size()) - 1, std::move(last));
         emit changed();
     }
-    button(*m_hubBar, "NEW")->setEnabled(true);
+    m_hubTools->tool("NEW").setEnabled(true);
 }
 
 /// A full list keeps its NEW button dark after a deletion, until the form is opened again: the button asks
@@ -295,7 +276,7 @@ void PortalPart::deleteHub()
     if (!m_hubs->isEmpty())
         m_hubs->select(0);
     if (m_hubs->rows().size() == fullHubList)
-        button(*m_hubBar, "NEW")->setEnabled(true);
+        m_hubTools->tool("NEW").setEnabled(true);
     emit changed();
 }
 
@@ -328,7 +309,7 @@ void PortalPart::editNick()
         return;
     const auto& nick = m_nicks->rows()[static_cast<std::size_t>(selected)].cells[1];
     const auto answer = edited(m_nicks, nickRequest("Edit Nick"), {nick});
-    if (answer.gEditResult != "1")
+    if (answer.gEditResult != EditResult::Ok)
         return;
     m_nicks->replace(static_cast<int>(m_nicks->rows().size()) - 1, nickRow(answer.gEditValues[0]));
     emit changed();
@@ -341,15 +322,6 @@ void PortalPart::deleteNick()
         return;
     m_nicks->remove(selected);
     emit changed();
-}
-
-void PortalPart::followRows()
-{
-    m_ignored.reset();
-    for (const auto& [list, bar] : {std::pair(m_hubs, m_hubBar), std::pair(m_nicks, m_nickBar)}) {
-        for (const char* key : {"DELETE", "EDIT"})
-            button(*bar, key)->setEnabled(!list->isEmpty());
-    }
 }
 
 std::string PortalPart::field(std::size_t at) const

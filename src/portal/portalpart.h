@@ -10,11 +10,11 @@
 #include <unordered_set>
 
 class QLineEdit;
-class QToolBar;
 
 namespace quillfen {
 
 class RowList;
+class ToolbarList;
 
 /// The Portal's controls: the bot's identity, the hubs, whose ticks open and close the links, and the nicks
 /// that are not relayed.
@@ -51,7 +51,6 @@ private:
     void addNick();
     void editNick();
     void deleteNick();
-    void followRows();
     PortalSettings shown() const;
 
     // What the links ask.
@@ -73,9 +72,9 @@ private:
     FormContext m_context;
     std::array<QLineEdit*, 4> m_fields{};
     RowList* m_hubs;
-    QToolBar* m_hubBar;
+    ToolbarList* m_hubTools;
     RowList* m_nicks;
-    QToolBar* m_nickBar;
+    ToolbarList* m_nickTools;
     QWidget* m_widget;
     LiveLinks* m_live;
     mutable std::optional<std::unordered_set<std::string>> m_ignored; ///< of the nick list as it stands

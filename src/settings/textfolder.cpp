@@ -11,6 +11,11 @@ std::string textFile(std::string_view folder, std::string_view name)
     return std::string(folder).append("\\").append(name).append(".asc");
 }
 
+std::string textFileOnDisk(const SettingsFiles& files, std::string_view folder, std::string_view name)
+{
+    return files.realFile(textFile(folder, name));
+}
+
 std::vector<std::string> textNames(const SettingsFiles& files, std::string_view folder)
 {
     auto names = files.fileNames(folder);

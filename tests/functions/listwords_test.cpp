@@ -8,7 +8,9 @@
 #include "functions/games/anagrams.h"
 #include "functions/games/numbers.h"
 #include "functions/games/scoreclearers.h"
+#include "functions/games/trivia.h"
 #include "functions/general/bots.h"
+#include "functions/general/languages.h"
 #include "functions/security/clientchecker.h"
 #include "functions/security/profilerules.h"
 #include "functions/security/spies.h"
@@ -62,6 +64,46 @@ TEST(ListWords, OfADeletionAreTheFunctionsOwn)
                    "There must be a minimum of one Spell Phrase");
     expectDeletion(scoreClearers(), "Delete Exempt User?", "Do you really want to delete this User?", "");
     expectDeletion(spellWards(), "Delete Warded User?", "Do you really want to delete this Warded User?", "");
+}
+
+TEST(ListWords, FollowTheNounOfTheRows)
+{
+    const RowListDeclaration frogs = listOf("Frog", Fewest::One);
+    EXPECT_EQ(frogs.dialog.addTitle, "Add Frog");
+    EXPECT_EQ(frogs.dialog.editTitle, "Edit Frog");
+    EXPECT_EQ(frogs.dialog.labels, Texts{"Frog"});
+    expectDeletion(frogs, "Delete Frog?", "Do you really want to delete this Frog?",
+                   "There must be a minimum of one Frog");
+    expectDeletion(listOf("Frog", Fewest::None), "Delete Frog?", "Do you really want to delete this Frog?",
+                   "");
+}
+
+TEST(ListWords, OfADeletionMayCallARowBySeveralNouns)
+{
+    RowListDeclaration list;
+    list.deletion = deletionOf("Frog", "toad", "Newt");
+    expectDeletion(list, "Delete Frog?", "Do you really want to delete this toad?",
+                   "There must be a minimum of one Newt");
+    list.deletion = deletionOf("Frog", "toad");
+    EXPECT_EQ(list.deletion.minimum, "");
+}
+
+TEST(ListWords, OfListedFilesAreThoseOfTheirBoxes)
+{
+    const ListedFiles questions = triviaQuestionLists();
+    EXPECT_EQ(questions.names.deletion.title, "Delete Question File?");
+    EXPECT_EQ(questions.names.deletion.minimum, "There must be a minimum of one Question File");
+    expectDeletion(questions.rows, "Delete Question?", "Do you really want to delete this question?",
+                   "There must be a minimum of one Question");
+    EXPECT_EQ(questions.rows.dialog.addTitle, "Add Trivia Question");
+    EXPECT_EQ(questions.rows.dialog.editTitle, "Edit Trivia Question");
+    const ListedFiles languages = languageLists(languageSets()[2]);
+    EXPECT_EQ(languages.names.dialog.addTitle, "Add New Command");
+    EXPECT_EQ(languages.names.dialog.labels, Texts{"Enter name of new Message File:"});
+    EXPECT_EQ(languages.names.deletion.title, "Delete Language File?");
+    EXPECT_EQ(languages.rows.dialog.editTitle, "Edit Message");
+    EXPECT_EQ(languages.rows.fieldsOf({{"sHelp", "help"}}), Texts{"help"});
+    EXPECT_EQ(taken(languages.rows, {"aid"}, {{"sHelp", "help"}}), (CellRow{{"sHelp", "aid"}}));
 }
 
 TEST(ListFields, OfAnAnnouncementAreItsDayHourMinuteAndTheWholeNameOfItsPlace)

@@ -1,6 +1,7 @@
 #include "settings/codepage.h"
 #include "settings/tablefile.h"
 #include "settings/tablewriter.h"
+#include "settings/textfolder.h"
 #include "support/hub.h"
 
 #include <gtest/gtest.h>
@@ -198,6 +199,7 @@ TEST(RealFiles, AreThoseOfTheToldNameAndElseThoseThatDifferInCaseAlone)
     EXPECT_EQ(hub.files.realFile("A\\rules.asc"), "A\\rules.asc"); // there is none
     EXPECT_EQ(hub.files.realFile("No\\news.asc"), "No\\news.asc");
     EXPECT_EQ(hub.files.realFile("news.asc"), "news.asc");
+    EXPECT_EQ(textFileOnDisk(hub.files, "A", "news"), "A\\NEWS.ASC");
 }
 
 TEST(FileNames, OfARemovedFileAreGone)

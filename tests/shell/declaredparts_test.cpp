@@ -159,8 +159,9 @@ TEST_F(FormOf, ALineEndNeverGetsIntoAValueOfOneLine)
 
 TEST_F(FormOf, ALineEndNeverGetsThroughAnEditDialog)
 {
-    EditDialog dialog({EditForm::UpDownCombo, "Edit", "E", 1, {"One", "Two"}, {"1", "a"}, {{"a"}}});
-    EditDialog texts({EditForm::OneFields, "Edit", "E", 0, {"One"}, {"1"}});
+    EditDialog dialog(
+        {EditForm::UpDownCombo, "Edit", EditResult::Edit, 1, {"One", "Two"}, {"1", "a"}, {{"a"}}});
+    EditDialog texts({EditForm::OneFields, "Edit", EditResult::Edit, 0, {"One"}, {"1"}});
     for (const Entering how : {Entering::Paste, Entering::InputMethod}) {
         for (EditDialog* each : {&dialog, &texts}) {
             auto& box = find<QLineEdit>(*each, "txtTextBox(0)");

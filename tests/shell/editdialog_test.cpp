@@ -83,7 +83,7 @@ const std::vector<Expected> expectedModes = {
 class EditDialogTest : public test::FormTest
 {
 protected:
-    static EditRequest request(EditForm form, int mode, const char* gEditResult = "A")
+    static EditRequest request(EditForm form, int mode, EditResult gEditResult = EditResult::Add)
     {
         return {form,
                 "Add Thing",
@@ -189,13 +189,13 @@ TEST_F(EditDialogTest, ClearingFieldZeroTakesTheButtonsOut)
 
 TEST_F(EditDialogTest, OpensWithOkWhenFieldZeroIsFilledAndKeepsAddOutWhenItEdits)
 {
-    EditRequest edit = request(EditForm::TwoFields, 1, "E");
+    EditRequest edit = request(EditForm::TwoFields, 1, EditResult::Edit);
     edit.values = {"old", "text"};
     EditDialog dialog(edit);
     EXPECT_TRUE(command(dialog, "cmdOK").isEnabled());
     EXPECT_FALSE(command(dialog, "cmdAdd").isEnabled());
     command(dialog, "cmdOK").click();
-    EXPECT_EQ(dialog.answer().gEditResult, "1");
+    EXPECT_EQ(dialog.answer().gEditResult, EditResult::Ok);
     EXPECT_EQ(dialog.answer().gEditValues, (std::vector<std::string>{"old", "text"}));
 }
 
@@ -208,12 +208,12 @@ TEST_F(EditDialogTest, AnEmptyRequiredFieldKeepsItOpenWithoutAWord)
     EXPECT_TRUE(dialog.isVisible());
     command(dialog, "cmdAdd").click();
     EXPECT_TRUE(dialog.isVisible());
-    EXPECT_EQ(dialog.answer().gEditResult, "");
+    EXPECT_EQ(dialog.answer().gEditResult, EditResult::None);
     EXPECT_TRUE(dialog.answer().gEditValues.empty());
     find<QLineEdit>(dialog, "txtTextBox(1)").setText("y");
     command(dialog, "cmdOK").click();
     EXPECT_FALSE(dialog.isVisible());
-    EXPECT_EQ(dialog.answer().gEditResult, "1");
+    EXPECT_EQ(dialog.answer().gEditResult, EditResult::Ok);
 }
 
 TEST_F(EditDialogTest, CancelEscapeAndTheClosedWindowTakeNothing)
@@ -224,7 +224,8 @@ TEST_F(EditDialogTest, CancelEscapeAndTheClosedWindowTakeNothing)
         find<QLineEdit>(dialog, "txtTextBox(0)").setText("x");
         leave(dialog);
         EXPECT_FALSE(dialog.isVisible());
-        EXPECT_EQ(dialog.answer().gEditResult + std::to_string(dialog.answer().gEditValues.size()), "0");
+        EXPECT_EQ(dialog.answer().gEditResult, EditResult::None);
+        EXPECT_TRUE(dialog.answer().gEditValues.empty());
         return dialog.answer().byCancel;
     };
     EXPECT_TRUE(answerAfter([](EditDialog& dialog) { command(dialog, "cmdCancel").click(); }));
@@ -268,7 +269,7 @@ TEST_F(EditDialogTest, ClosingTheWindowEndsTheAddLoop)
 
 TEST_F(EditDialogTest, ValuesComeInFieldOrder)
 {
-    EditRequest edit = request(EditForm::UpDownCombo, 1, "E");
+    EditRequest edit = request(EditForm::UpDownCombo, 1, EditResult::Edit);
     edit.values = {"7", "b"};
     EditDialog dialog(edit);
     auto& number = find<QAbstractSpinBox>(dialog, "updUpDown(0)");
@@ -282,7 +283,7 @@ TEST_F(EditDialogTest, ValuesComeInFieldOrder)
 
 TEST_F(EditDialogTest, EachOfTwoNumbersHasTheCallersRangeAtItsPlace)
 {
-    EditRequest edit = request(EditForm::TwoUpDowns, 1, "E");
+    EditRequest edit = request(EditForm::TwoUpDowns, 1, EditResult::Edit);
     edit.values = {"3", "8"};
     edit.ranges = {{2, 4}, {7, 9}};
     const auto after = [&edit](Qt::Key arrow) {
@@ -303,7 +304,7 @@ TEST_F(EditDialogTest, EveryByteGoesThroughAField)
     std::string bytes;
     for (int byte = 0x20; byte < 256; ++byte)
         bytes += static_cast<char>(byte);
-    EditRequest edit = request(EditForm::OneFields, 0, "E");
+    EditRequest edit = request(EditForm::OneFields, 0, EditResult::Edit);
     edit.values = {bytes};
     EditDialog dialog(edit);
     command(dialog, "cmdOK").click();
@@ -344,7 +345,7 @@ TEST_F(EditDialogTest, ARequiredComboBoxShowsItsColourAsFlatAsATextBoxDoes)
 
 TEST_F(EditDialogTest, AnOwnersAmpersandIsShownAndMakesNoKey)
 {
-    EditRequest edit = request(EditForm::OneFields, 0, "E");
+    EditRequest edit = request(EditForm::OneFields, 0, EditResult::Edit);
     edit.labels = {"R&D Tag"};
     EditDialog dialog(edit);
     dialog.show();
@@ -358,7 +359,7 @@ TEST_F(EditDialogTest, AnOwnersAmpersandIsShownAndMakesNoKey)
 
 TEST_F(EditDialogTest, AVeryLongLabelIsCutAndItsToolTipTellsItAll)
 {
-    EditRequest edit = request(EditForm::TwoFields, 0, "E");
+    EditRequest edit = request(EditForm::TwoFields, 0, EditResult::Edit);
     edit.labels = {std::string(2000, 'w') + " <b>Client</b>", "Short"};
     EditDialog dialog(edit);
     dialog.show();
@@ -372,7 +373,7 @@ TEST_F(EditDialogTest, AVeryLongLabelIsCutAndItsToolTipTellsItAll)
 
 TEST_F(EditDialogTest, TheWheelOverAComboBoxWithoutFocusChangesNothing)
 {
-    EditRequest edit = request(EditForm::TextCombo, 1, "E");
+    EditRequest edit = request(EditForm::TextCombo, 1, EditResult::Edit);
     edit.values = {"x", "a"};
     EditDialog dialog(edit);
     dialog.show();

@@ -4,6 +4,9 @@
 #include "support/dialogs.h"
 #include "support/formtest.h"
 
+#include <QComboBox>
+#include <QLineEdit>
+
 namespace quillfen {
 namespace {
 
@@ -77,34 +80,22 @@ TEST_F(GroupForm, ADeleteWithoutASelectionMeansTheOnlyRow)
     EXPECT_TRUE(isDirty(form));
 }
 
-/// A list that lets nothing be taken or deleted but what is called "good".
-class PickyPart : public RowListPart
-{
-public:
-    using RowListPart::RowListPart;
-
-protected:
-    bool mayTake(const CellRow& row) override { return row.cells.front() == "good"; }
-    bool mayDelete(const CellRow& row) override { return row.cells.front() == "good"; }
-};
-
-class PickyForm : public test::FormTest
+/// A form of one list of "good" and "other", to which a test gives its own declaration and hooks.
+class HookedForm : public test::FormTest
 {
 protected:
-    PickyForm()
+    HookedForm()
     {
-        RowListDeclaration list;
-        list.list = "lvwRows";
-        list.toolbar = "tlbRows";
-        list.columns = {"Rows"};
-        list.menu = "mnuFirst";
-        list.dialog.addTitle = "Add";
-        list.load = [](const SettingsFiles&, const HubProfiles&) {
+        declared.list = "lvwRows";
+        declared.toolbar = "tlbRows";
+        declared.columns = {"Rows"};
+        declared.menu = "mnuFirst";
+        declared.load = [](const SettingsFiles&, const HubProfiles&) {
             return std::vector<CellRow>{{{"good"}}, {{"other"}}};
         };
-        standIn(listPart([list] { return list; }, ListPartKind::Words));
-        makers.list = [](ListPartKind, const RowListDeclaration& each, const FormContext& context) {
-            return std::make_unique<PickyPart>(each, context);
+        standIn(listPart([this] { return declared; }, ListPartKind::Words));
+        makers.list = [this](ListPartKind, const RowListDeclaration& each, const FormContext& context) {
+            return std::make_unique<RowListPart>(each, context, hooks);
         };
     }
 
@@ -123,10 +114,15 @@ protected:
                         });
         return shown(list);
     }
+
+    RowListDeclaration declared = listOf("Row", Fewest::None);
+    RowListHooks hooks;
 };
 
-TEST_F(PickyForm, ARowIsTakenOrDeletedOnlyIfItsFormLetsIt)
+TEST_F(HookedForm, ARowIsTakenOrDeletedOnlyIfItsFormLetsIt)
 {
+    hooks.accept = [](QWidget*, const CellRow& row, const CellRow*) { return row.cells[0] == "good"; };
+    hooks.release = [](QWidget*, const CellRow& row) { return row.cells[0] == "good"; };
     auto& form = open("Games~Anagrams");
     const QStringList rows = {"good", "other"};
     EXPECT_EQ(after(form, 0, "NEW", "bad"), rows);
@@ -137,6 +133,143 @@ TEST_F(PickyForm, ARowIsTakenOrDeletedOnlyIfItsFormLetsIt)
     EXPECT_EQ(after(form, 0, "NEW", "good"), (QStringList{"good", "good", "good"}));
     EXPECT_EQ(after(form, 0, "DELETE", {}), (QStringList{"good", "good"}));
     EXPECT_TRUE(isDirty(form));
+}
+
+TEST_F(HookedForm, AnAcceptKnowsWhichRowWasEdited)
+{
+    QStringList asked;
+    hooks.accept = [&asked](QWidget* parent, const CellRow& row, const CellRow* before) {
+        asked.append(QString::fromStdString((before ? before->cells[0] : "new") + ">" + row.cells[0]));
+        return parent->objectName() == "lvwRows";
+    };
+    auto& form = open("Games~Anagrams");
+    after(form, 1, "EDIT", "x");
+    after(form, 0, "NEW", "y");
+    EXPECT_EQ(asked, (QStringList{"other>x", "new>y"}));
+}
+
+TEST_F(HookedForm, ADeclaredRefusalIsToldAndKeepsTheListAsItIs)
+{
+    declared.refusal = [](const std::vector<CellRow>& rows, const CellRow& row,
+                          const CellRow* before) -> std::optional<RowRefusal> {
+        if (before || row != rows.front())
+            return {};
+        return RowRefusal{"Twice", "It is there"};
+    };
+    auto& form = open("Games~Anagrams");
+    QStringList boxes;
+    test::withModal([&form] { button(form, "NEW", "tlbRows").trigger(); },
+                    [&boxes](QWidget& modal) {
+                        if (auto* box = qobject_cast<QMessageBox*>(&modal)) {
+                            boxes.append(box->windowTitle() + "|" + box->text());
+                            box->button(QMessageBox::Ok)->click();
+                            return;
+                        }
+                        test::fillField(test::fieldOf(modal, 0), "good");
+                        find<QPushButton>(modal, "cmdOK").click();
+                    });
+    EXPECT_EQ(boxes, QStringList{"Twice|It is there"});
+    EXPECT_EQ(shown(find<RowList>(form, "lvwRows")), (QStringList{"good", "other"}));
+    EXPECT_FALSE(isDirty(form));
+    EXPECT_EQ(after(form, 1, "EDIT", "good"), (QStringList{"good", "good"})) << "an edited row may be equal";
+}
+
+TEST_F(HookedForm, ARefusedEditMayAskAgainWithTheRowAsItWas)
+{
+    declared.asksAgain = true;
+    declared.refusal = [](const std::vector<CellRow>&, const CellRow& row,
+                          const CellRow*) -> std::optional<RowRefusal> {
+        return row.cells[0] == "bad" ? std::optional(RowRefusal{"Bad", "No"}) : std::nullopt;
+    };
+    auto& form = open("Games~Anagrams");
+    find<RowList>(form, "lvwRows").select(1);
+    QStringList offered;
+    test::withModal([&form] { button(form, "EDIT", "tlbRows").trigger(); },
+                    [&offered](QWidget& modal) {
+                        if (auto* box = qobject_cast<QMessageBox*>(&modal)) {
+                            box->button(QMessageBox::Ok)->click();
+                            return;
+                        }
+                        auto& field = find<QLineEdit>(modal, "txtTextBox(0)");
+                        offered.append(field.text());
+                        field.setText(offered.size() == 1 ? "bad" : "fine");
+                        find<QPushButton>(modal, "cmdOK").click();
+                    });
+    EXPECT_EQ(offered, (QStringList{"other", "other"}));
+    EXPECT_EQ(shown(find<RowList>(form, "lvwRows")), (QStringList{"good", "fine"}));
+}
+
+TEST_F(HookedForm, TheFormRefusesADeletionBeforeTheListDoes)
+{
+    declared.deletion.minimum = "One must stay";
+    hooks.refuse = [](const CellRow& row) { return std::string(row.cells[0] == "other" ? "In use" : ""); };
+    auto& form = open("Games~Anagrams");
+    const auto told = [&form](int row) {
+        find<RowList>(form, "lvwRows").select(row);
+        const auto boxes =
+            test::answering(QMessageBox::Ok, [&form] { button(form, "DELETE", "tlbRows").trigger(); });
+        return boxes.empty() ? QString() : boxes[0].text;
+    };
+    EXPECT_EQ(told(1), "In use");
+    EXPECT_EQ(told(0), "Do you really want to delete this Row?");
+    EXPECT_EQ(told(0), "In use");
+    EXPECT_EQ(shown(find<RowList>(form, "lvwRows")), QStringList{"other"});
+}
+
+TEST_F(HookedForm, ANoteTakesThePlaceOfTheDirtyForm)
+{
+    int notes = 0;
+    hooks.note = [&notes] { ++notes; };
+    auto& form = open("Games~Anagrams");
+    after(form, 0, "NEW", "a");
+    after(form, 0, "EDIT", "b");
+    after(form, 0, "DELETE", {});
+    EXPECT_EQ(notes, 3);
+    EXPECT_FALSE(isDirty(form));
+}
+
+TEST_F(HookedForm, AnOfferIsMadeAnewForEachDialog)
+{
+    declared.dialog.form = EditForm::TextCombo;
+    declared.columns = {"Text", "Entry"};
+    int offers = 0;
+    hooks.offer = [&offers](RowDialog dialog) {
+        dialog.entries = {{std::to_string(++offers)}};
+        return dialog;
+    };
+    auto& form = open("Games~Anagrams");
+    QStringList seen;
+    for (const char* key : {"NEW", "EDIT"})
+        test::withModal([&] { button(form, key, "tlbRows").trigger(); },
+                        [&seen](QWidget& modal) {
+                            seen.append(modal.windowTitle() +
+                                        find<QComboBox>(modal, "cboComboBox(0)").itemText(0));
+                            find<QPushButton>(modal, "cmdCancel").click();
+                        });
+    EXPECT_EQ(seen, (QStringList{"Add Row1", "Edit Row2"}));
+}
+
+TEST_F(HookedForm, TheFirstRowMayBeSelectedAfterADeletion)
+{
+    declared.selectsFirst = true;
+    declared.load = [](const SettingsFiles&, const HubProfiles&) {
+        return std::vector<CellRow>{{{"a"}}, {{"b"}}, {{"c"}}};
+    };
+    auto& form = open("Games~Anagrams");
+    after(form, 1, "DELETE", {});
+    EXPECT_EQ(find<RowList>(form, "lvwRows").currentRow(), 0);
+}
+
+TEST_F(HookedForm, AnotherButtonMayBeWhatADoubleClickPresses)
+{
+    hooks.builders = {BuildListToolbar, AddAmendButton};
+    hooks.activates = "AMEND";
+    auto& form = open("Games~Anagrams");
+    int amended = 0;
+    QObject::connect(&button(form, "AMEND", "tlbRows"), &QAction::triggered, &form,
+                     [&amended] { ++amended; });
+    doubleClickRow(find<RowList>(form, "lvwRows"), 1);
+    EXPECT_EQ(amended, 1);
 }
 
 } // namespace

@@ -16,7 +16,7 @@ QString shownTitle(const QWidget& window)
 TEST(WindowTitle, OfADialogShowsTheMarkOfWhatIsUnsavedAsItIsTyped)
 {
     for (const char* title : {"[*]", "a [*][*] b", "[*] [", "[[*]]", "plain"}) {
-        EditDialog dialog({EditForm::OneFields, title, "E", 0, {"Word"}});
+        EditDialog dialog({EditForm::OneFields, title, EditResult::Edit, 0, {"Word"}});
         dialog.show();
         EXPECT_EQ(shownTitle(dialog), title);
     }

@@ -151,7 +151,7 @@ void showEditDialogs(QWidget& parent, Tour& tour)
         const auto kind = static_cast<quillfen::EditForm>(form);
         quillfen::EditRequest request{kind,
                                       "Add Row",
-                                      "A",
+                                      quillfen::EditResult::Add,
                                       quillfen::habitualAddMode(kind),
                                       {"Bad Nick", "Minimum Share", "Action", "Profile"}};
         request.values = {"Warn", "60", "Warn", "Warn"};

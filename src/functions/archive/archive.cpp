@@ -271,20 +271,18 @@ LinkOfTheWeek restoredLinkOfTheWeek()
 
 RowListDeclaration announcements()
 {
-    RowListDeclaration list;
+    RowListDeclaration list = listOf("Announcement", Fewest::None);
     list.list = "lvwWeek";
     list.toolbar = "tlbWeek";
     list.columns = {"Date", "Time", "Location"};
     list.menu = "mnuFirst";
     list.dialog.form = EditForm::FourCombos;
-    list.dialog.addTitle = "Add Announcement";
     list.dialog.editTitle = " Announcement"; // shown with its leading blank
     list.dialog.labels = {"Day", "Hour", "Minute", "Location"};
     list.dialog.entries = {dayNames(), hours(), minutes(), {"Main Chat", "Private Message"}};
     list.dialog.addMode = 6;  // a row without one of its parts could not be read back
     list.dialog.editMode = 7; // the same, without another round
-    list.deletion.title = "Delete Announcement Time?";
-    list.deletion.text = "Do you really want to delete this Announcement Time?";
+    list.deletion = deletionOf("Announcement Time", "Announcement Time");
     list.fieldsOf = fieldsOf;
     list.take = [](const std::vector<std::string>& fields, CellRow& row) { row = announcementOf(fields); };
     return list;

@@ -6,6 +6,7 @@
 #include "shell/kit/controls.h"
 #include "shell/kit/editdialog.h"
 #include "shell/kit/labels.h"
+#include "shell/kit/rowlist.h"
 #include "shell/kit/rowlistpart.h"
 #include "shell/kit/toolbars.h"
 
@@ -29,14 +30,12 @@ public:
     RoutineTable routines() override { return m_announcements->routines(); }
 
 private:
-    RowListDeclaration declaredList();
     void place();
     void show(const LinkOfTheWeek& link);
     void editChangeTime();
 
     const ArchiveMember& m_member;
     FormContext m_context;
-    LinkOfTheWeek m_shown{}; ///< where the list takes its rows from
     Control m_enabled;
     QLineEdit* m_changeTime;
     QToolBar* m_changeBar;
@@ -50,28 +49,17 @@ WeekPart::WeekPart(const ArchiveMember& member, const FormContext& context)
       m_enabled(makeControl(setting::flag("bEnabled", "chkCheckBox(0)", "Enable Link of Week", true),
                             context.profiles, [this] { emit changed(); })),
       m_changeTime(new QLineEdit),
-      m_changeBar(new QToolBar),
-      m_announcements(new RowListPart(declaredList(), context)),
+      m_changeBar(smallToolbar("tlbChangeTime", {AddEditButton})),
+      m_announcements(new RowListPart(announcements(), context)),
       m_widget(new QWidget)
 {
     m_changeTime->setObjectName("txtChangeTime");
     m_changeTime->setAccessibleName("Change Time");
     limitToOneLine(*m_changeTime);
     connect(m_changeTime, &QLineEdit::textChanged, this, &FormPart::changed);
-    m_changeBar->setObjectName("tlbChangeTime");
-    m_changeBar->setIconSize({16, 16});
-    int index = 0;
-    AddEditButton(*m_changeBar, index);
     connectButton(*m_changeBar, "EDIT", this, &WeekPart::editChangeTime);
     adopt(*m_announcements);
     place();
-}
-
-RowListDeclaration WeekPart::declaredList()
-{
-    RowListDeclaration list = announcements();
-    list.load = [this](const SettingsFiles&, const HubProfiles&) { return m_shown.announcements; };
-    return list;
 }
 
 void WeekPart::place()
@@ -91,10 +79,9 @@ void WeekPart::place()
 
 void WeekPart::show(const LinkOfTheWeek& link)
 {
-    m_shown = link;
     m_enabled.show({{"bEnabled", link.enabled}});
     m_changeTime->setText(fromBytes(link.changeTime));
-    m_announcements->load();
+    m_announcements->list().setRows(link.announcements);
 }
 
 void WeekPart::save()
@@ -111,11 +98,12 @@ void WeekPart::editChangeTime()
     const std::string shown = toBytes(m_changeTime->text());
     const auto [day, time, found] = splitInPieces(shown, ' ');
     const std::string clock(time);
-    EditRequest request{EditForm::ThreeCombos, "Edit Change Time", "E", 5, {"Day", "Hour", "Minute"}};
+    EditRequest request{
+        EditForm::ThreeCombos, "Edit Change Time", EditResult::Edit, 5, {"Day", "Hour", "Minute"}};
     request.values = {std::string(day), clock.substr(0, 2), clock.size() > 3 ? clock.substr(3, 2) : ""};
     request.entries = {dayNames(), hours(), minutes()};
     const EditAnswer answer = showEditDialog(m_widget, request);
-    if (answer.gEditResult != "1")
+    if (answer.gEditResult != EditResult::Ok)
         return;
     const auto& fields = answer.gEditValues;
     m_changeTime->setText(fromBytes(fields.at(0) + " " + fields.at(1) + ":" + fields.at(2)));

@@ -10,19 +10,15 @@ const ListFile filtersFile = {R"(Communication\AutoCorrect\AutoCorrectFilters.tb
 
 RowListDeclaration declaredWords()
 {
-    RowListDeclaration words;
+    RowListDeclaration words = listOf("AutoCorrect Word", Fewest::One); // also where a build began with none
     words.list = "lvwAutoCorrectWords";
     words.toolbar = "tlbAutoCorrectWords";
     words.label = "AutoCorrect Words";
     words.columns = {"Word", "Replacement"};
     words.menu = "mnuFirst";
     words.dialog.form = EditForm::TwoFields;
-    words.dialog.addTitle = "Add AutoCorrect Word";
-    words.dialog.editTitle = "Edit AutoCorrect Word";
     words.dialog.labels = {"Original Word", "Replacement Word"};
-    words.deletion.title = "Delete Word?";
-    words.deletion.text = "Do you really want to delete this Word?";
-    words.deletion.minimum = "There must be a minimum of one Word"; // also where a build began with none
+    words.deletion = deletionOf("Word", "Word", "Word");
     words.load = loadOf(wordsFile);
     words.save = saveOf(wordsFile);
     return words;

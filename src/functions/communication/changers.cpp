@@ -32,17 +32,12 @@ ListFile textsFile(const ChangerWords& words)
 
 Changer changer(const ChangerWords& words)
 {
-    RowListDeclaration texts;
+    RowListDeclaration texts = listOf(words.text, Fewest::None);
     texts.list = words.list;
     texts.toolbar = words.toolbar;
     texts.label = words.label;
     texts.columns = {words.column};
     texts.menu = "mnuFirst";
-    texts.dialog.addTitle = "Add " + words.text;
-    texts.dialog.editTitle = "Edit " + words.text;
-    texts.dialog.labels = {words.text};
-    texts.deletion.title = "Delete " + words.text + "?";
-    texts.deletion.text = "Do you really want to delete this " + words.text + "?";
     texts.load = loadOf(textsFile(words));
     texts.save = saveOf(textsFile(words));
     texts.restored = noRows;

@@ -6,7 +6,7 @@
 #include "shell/kit/labels.h"
 #include "shell/kit/permissiongridpart.h"
 #include "shell/kit/textedit.h"
-#include "shell/kit/toolbars.h"
+#include "shell/kit/toolbarlist.h"
 
 #include <QHBoxLayout>
 
@@ -20,13 +20,12 @@ public:
     explicit MassMessagePart(const FormContext& context);
 
     QWidget* widget() override { return m_widget; }
-    void load() override { m_grid->load(); }
+    void load() override;
     void restore() override {} ///< the form has no RESTORE
-    void save() override { m_grid->save(); }
+    void save() override;
     RoutineTable routines() override { return m_grid->routines(); }
 
 private:
-    GridSource source();
     QWidget* placed() const;
     void addPassiveButton();
 
@@ -40,30 +39,26 @@ MassMessagePart::MassMessagePart(const FormContext& context)
     : m_context(context),
       m_immune(makeControl(std::get<setting::Field>(massMessageSettings().settings.front()), context.profiles,
                            [this] { emit changed(); })),
-      m_grid(new PermissionGridPart(source(), blockGrid(), context)),
+      m_grid(new PermissionGridPart(GridSource{{"MassMessage"}, massMessageTargets(), {}, {}}, blockGrid(),
+                                    context)),
       m_widget(placed())
 {
     adopt(*m_grid);
     addPassiveButton();
 }
 
-GridSource MassMessagePart::source()
+void MassMessagePart::load()
 {
-    GridSource source;
-    source.commands = {"MassMessage"};
-    source.named = massMessageTargets();
-    source.load = [this](const SettingsFiles& files, const HubProfiles& profiles) {
-        MassMessage message = loadMassMessage(files, profiles);
-        m_immune.show(message.immune);
-        return message.cells;
-    };
-    source.save = [this](const std::vector<PermissionCell>& cells, const SettingsFiles& files,
-                         const HubProfiles& profiles) {
-        MassMessage message{{}, cells};
-        m_immune.collect(message.immune);
-        saveMassMessage(message, files, profiles);
-    };
-    return source;
+    MassMessage message = loadMassMessage(m_context.files, m_context.profiles);
+    m_immune.show(message.immune);
+    m_grid->show(std::move(message.cells));
+}
+
+void MassMessagePart::save()
+{
+    MassMessage message{{}, m_grid->cells()};
+    m_immune.collect(message.immune);
+    saveMassMessage(message, m_context.files, m_context.profiles);
 }
 
 QWidget* MassMessagePart::placed() const
@@ -71,19 +66,18 @@ QWidget* MassMessagePart::placed() const
     auto* widget = new QWidget;
     auto* layout = new QHBoxLayout(widget);
     layout->setContentsMargins({});
-    layout->addWidget(listWithToolbar(m_immune.label, nullptr, m_immune.widget));
+    layout->addWidget(labelled(m_immune.label, m_immune.widget));
     layout->addWidget(m_grid->widget(), 2);
     return widget;
 }
 
 void MassMessagePart::addPassiveButton()
 {
-    auto* toolbar = m_grid->widget()->findChild<QToolBar*>("tlbListview");
     int first = 0;
-    AddAmendButton(*toolbar, first);
-    auto* amend = button(*toolbar, "AMEND");
-    amend->setToolTip(amend->toolTip() + " Passive File");
-    connect(amend, &QAction::triggered, this,
+    AddAmendButton(m_grid->tools().toolbar(), first);
+    QAction& amend = m_grid->tools().tool("AMEND");
+    amend.setToolTip(amend.toolTip() + " Passive File");
+    connect(&amend, &QAction::triggered, this,
             [this] { editTextFile(m_widget->window(), m_context.files, std::string(passiveMessageFile)); });
 }
 

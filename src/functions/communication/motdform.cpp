@@ -1,10 +1,9 @@
 #include "functions/communication/motdform.h"
 
 #include "functions/communication/motd.h"
-#include "shell/kit/labels.h"
 #include "shell/kit/rowlist.h"
 #include "shell/kit/textedit.h"
-#include "shell/kit/toolbars.h"
+#include "shell/kit/toolbarlist.h"
 
 namespace quillfen {
 namespace {
@@ -15,7 +14,7 @@ class MotdPart : public FormPart
 public:
     explicit MotdPart(const FormContext& context);
 
-    QWidget* widget() override { return m_widget; }
+    QWidget* widget() override { return m_tools; }
     void load() override { m_list->setRows(loadMotds(m_context.files, m_context.profiles)); }
     void restore() override {} ///< the form has no RESTORE
     void save() override { saveMotds(m_context.files, m_list->rows()); }
@@ -26,25 +25,16 @@ private:
 
     FormContext m_context;
     RowList* m_list;
-    QToolBar* m_toolbar;
-    QWidget* m_widget;
+    ToolbarList* m_tools;
 };
 
 MotdPart::MotdPart(const FormContext& context)
     : m_context(context),
       m_list(new RowList("lvwMOTD", {"Profile Active", "Send To"}, true)),
-      m_toolbar(new QToolBar),
-      m_widget(listWithToolbar(QString(), m_toolbar, m_list))
+      m_tools(new ToolbarList(m_list, {"tlbMOTD", "Messages Of The Day"}, {AddEditButton, AddAmendButton},
+                              context))
 {
-    m_list->setAccessibleName("Messages Of The Day");
-    m_toolbar->setObjectName("tlbMOTD");
-    m_toolbar->setIconSize({16, 16});
-    int index = 0;
-    AddEditButton(*m_toolbar, index);
-    AddAmendButton(*m_toolbar, index);
-    connectButton(*m_toolbar, "EDIT", this, &MotdPart::toggle);
-    connectButton(*m_toolbar, "AMEND", this, &MotdPart::amend);
-    connect(m_list, &RowList::editAsked, this, &MotdPart::toggle);
+    m_tools->connectButtons(this, {{"EDIT", &MotdPart::toggle}, {"AMEND", &MotdPart::amend}});
     connect(m_list, &RowList::tickChanged, this, &FormPart::changed);
 }
 
@@ -63,7 +53,7 @@ void MotdPart::amend()
 {
     const int at = m_list->currentRow();
     if (at >= 0)
-        editTextFile(m_widget->window(), m_context.files,
+        editTextFile(m_tools->window(), m_context.files,
                      motdTextFile(static_cast<std::size_t>(at), m_context.profiles));
 }
 

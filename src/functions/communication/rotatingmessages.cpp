@@ -73,7 +73,7 @@ RowListDeclaration rotatingFiles(const RotatingMessages& messages)
     list.dialog.addTitle = "Enter filename";
     // The private messages' form asks in the words of the main messages' too.
     list.dialog.labels = {"Enter filename for new Rotating Main Message"};
-    list.deletion = {"Delete File?", "Do you really want to delete this File?"};
+    list.deletion = deletionOf("File", "File");
     list.load = [&messages](const SettingsFiles& files, const HubProfiles&) {
         return loadRotatingNames(messages, files);
     };

@@ -8,17 +8,13 @@ const ListFile hubsFile = {R"(Communication\WelcomeInfo\WelcomeInfoNetworkHubs.t
 
 RowListDeclaration declaredHubs()
 {
-    RowListDeclaration hubs;
+    RowListDeclaration hubs = listOf("Hub", Fewest::None);
     hubs.list = "lvwHubs";
     hubs.toolbar = "tlbHubs";
     hubs.label = "Network Hubs";
     hubs.columns = {"HubName"};
     hubs.menu = "mnuFirst";
-    hubs.dialog.addTitle = "Add Hub";
-    hubs.dialog.editTitle = "Edit Hub";
-    hubs.dialog.labels = {"Hub"};
-    hubs.deletion.title = "Delete Intro?"; // the words of other lists, which users know here
-    hubs.deletion.text = "Do you really want to delete this File?";
+    hubs.deletion = deletionOf("Intro", "File"); // the words of other lists, which users know here
     hubs.load = loadOf(hubsFile);
     hubs.save = saveOf(hubsFile);
     hubs.restored = noRows;

@@ -31,7 +31,7 @@ RowListDeclaration declaredUsers()
     list.dialog.addTitle = "Add Ascii Profile for User";
     list.dialog.labels = list.columns;
     list.editTitleOf = [](const CellRow& row) { return "Edit Ascii Intro for " + row.cells[0]; };
-    list.deletion = {"Delete Intro?", "Do you really want to delete this intro?"};
+    list.deletion = deletionOf("Intro", "intro");
     list.load = loadOf(usersFile);
     list.save = saveOf(usersFile);
     list.restored = noRows;
@@ -49,7 +49,7 @@ RowListDeclaration declaredFiles()
     list.menu = "mnuSecond";
     list.dialog.addTitle = "Enter filename";
     list.dialog.labels = {"Enter filename for new Ascii Intro"};
-    list.deletion = {"Delete Ascii Intro?", "Do you really want to delete this Ascii Intro?"};
+    list.deletion = deletionOf("Ascii Intro", "Ascii Intro");
     list.load = loadFiles;
     list.save = saveOf(indexFile);
     return list;

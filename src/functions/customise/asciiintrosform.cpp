@@ -11,67 +11,20 @@
 namespace quillfen {
 namespace {
 
-/// The users, each with a picture of the folder.
-class UsersPart : public RowListPart
-{
-public:
-    UsersPart(const RowListPart& files, const FormContext& context)
-        : RowListPart(asciiIntroUsers(), context),
-          m_files(files)
-    {
-    }
-
-protected:
-    RowDialog dialog() const override
-    {
-        RowDialog offered = RowListPart::dialog();
-        offered.entries.emplace_back();
-        for (const CellRow& file : m_files.rows())
-            offered.entries.back().push_back(file.cells[0]);
-        return offered;
-    }
-
-private:
-    const RowListPart& m_files;
-};
-
-/// The pictures. One that a user has can't go.
-class FilesPart : public FolderFilesPart
-{
-public:
-    explicit FilesPart(const FormContext& context)
-        : FolderFilesPart(asciiIntroFiles(), std::string(asciiIntroFolder), context)
-    {
-    }
-
-    void setUsers(const RowListPart& users) { m_users = &users; }
-
-protected:
-    std::string refusal(const CellRow& file) const override
-    {
-        const bool inUse =
-            std::any_of(m_users->rows().begin(), m_users->rows().end(),
-                        [&file](const CellRow& user) { return user.cells[1] == file.cells[0]; });
-        return inUse ? "Cannot delete this Ascii Intro as it is in use" : FolderFilesPart::refusal(file);
-    }
-
-private:
-    const RowListPart* m_users = nullptr;
-};
-
 /// Users and pictures side by side: each list asks the other.
 class AsciiIntrosPart : public FormPart
 {
 public:
     explicit AsciiIntrosPart(const FormContext& context)
-        : m_files(new FilesPart(context)),
-          m_users(new UsersPart(*m_files, context)),
+        : m_files(new FolderFilesPart(asciiIntroFiles(), std::string(asciiIntroFolder), context,
+                                      [this](const CellRow& file) { return useOf(file); })),
+          m_users(new RowListPart(asciiIntroUsers(), context,
+                                  {.offer = [this](RowDialog dialog) { return withFiles(dialog); }})),
           m_widget(new QWidget)
     {
-        m_files->setUsers(*m_users);
         auto* layout = new QHBoxLayout(m_widget);
         layout->setContentsMargins({});
-        for (RowListPart* list : {m_users, static_cast<RowListPart*>(m_files)}) {
+        for (RowListPart* list : {m_users, m_files}) {
             adopt(*list);
             layout->addWidget(list->widget());
         }
@@ -101,7 +54,25 @@ public:
     }
 
 private:
-    FilesPart* m_files;
+    /// A picture that a user has can't go.
+    std::string useOf(const CellRow& file) const
+    {
+        const bool inUse =
+            std::any_of(m_users->rows().begin(), m_users->rows().end(),
+                        [&file](const CellRow& user) { return user.cells[1] == file.cells[0]; });
+        return inUse ? "Cannot delete this Ascii Intro as it is in use" : std::string();
+    }
+
+    /// The users' dialog offers the pictures.
+    RowDialog withFiles(RowDialog dialog) const
+    {
+        dialog.entries.emplace_back();
+        for (const CellRow& file : m_files->rows())
+            dialog.entries.back().push_back(file.cells[0]);
+        return dialog;
+    }
+
+    RowListPart* m_files;
     RowListPart* m_users;
     QWidget* m_widget;
 };

@@ -126,7 +126,7 @@ RowListDeclaration customRightClicks(const HubProfiles& profiles)
     for (const auto& group : groups)
         whose.push_back(group.first);
 
-    RowListDeclaration list;
+    RowListDeclaration list = listOf("Right Click", Fewest::None);
     list.list = "lvwCustomRightClicks";
     list.toolbar = "tlbHubs";
     list.movement = "tlbListviewMovement";
@@ -135,8 +135,6 @@ RowListDeclaration customRightClicks(const HubProfiles& profiles)
     list.ticks = true;
     list.menu = "mnuFirst";
     list.dialog.form = EditForm::OneTextTwoCombo;
-    list.dialog.addTitle = "Add Right Click";
-    list.dialog.editTitle = "Edit Right Click";
     list.dialog.labels = list.columns;
     list.dialog.entries = {whose, locations};
     list.take = [](const std::vector<std::string>& fields, CellRow& row) {
@@ -145,7 +143,7 @@ RowListDeclaration customRightClicks(const HubProfiles& profiles)
                 row.cells[at] = fields[at];
         }
     };
-    list.deletion = {"Delete right click?", "Do you really want to delete this right click?"};
+    list.deletion = deletionOf("right click", "right click");
     list.load = loadRows;
     list.save = saveRows;
     return list;

@@ -19,54 +19,48 @@ public:
     explicit DescriptionTagsPart(const FormContext& context);
 
     QWidget* widget() override { return m_widget; }
-    void load() override { m_tags->load(); }
+    void load() override;
     void restore() override;
-    void save() override { m_tags->save(); }
+    void save() override;
     RoutineTable routines() override { return m_tags->routines(); }
 
 private:
-    RowListDeclaration declaredTags();
-
-    const HubProfiles& m_profiles;
+    FormContext m_context;
     Control m_tagged;
     RowListPart* m_tags;
     QWidget* m_widget;
 };
 
 DescriptionTagsPart::DescriptionTagsPart(const FormContext& context)
-    : m_profiles(context.profiles),
+    : m_context(context),
       m_tagged(makeControl(std::get<setting::Field>(taggedProfiles().settings.front()), context.profiles,
                            [this] { emit changed(); })),
-      m_tags(new RowListPart(declaredTags(), context)),
+      m_tags(new RowListPart(descriptionTags(), context)),
       m_widget(new QWidget)
 {
     adopt(*m_tags);
     auto* layout = new QHBoxLayout(m_widget);
     layout->setContentsMargins({});
-    layout->addWidget(listWithToolbar(m_tagged.label, nullptr, m_tagged.widget));
+    layout->addWidget(labelled(m_tagged.label, m_tagged.widget));
     layout->addWidget(m_tags->widget(), 2);
 }
 
-/// The tags' list loads and saves the profiles with it.
-RowListDeclaration DescriptionTagsPart::declaredTags()
+void DescriptionTagsPart::load()
 {
-    RowListDeclaration tags = descriptionTags();
-    tags.load = [this, load = tags.load](const SettingsFiles& files, const HubProfiles& profiles) {
-        m_tagged.show(loaded(taggedProfiles(), files.index(taggedProfiles().path), profiles));
-        return load(files, profiles);
-    };
-    tags.save = [this](const SettingsFiles& files, const HubProfiles& profiles,
-                       const std::vector<CellRow>& rows) {
-        SettingValues tagged;
-        m_tagged.collect(tagged);
-        saveDescriptionTags(tagged, rows, files, profiles);
-    };
-    return tags;
+    m_tagged.show(loaded(taggedProfiles(), m_context.files.index(taggedProfiles().path), m_context.profiles));
+    m_tags->load();
+}
+
+void DescriptionTagsPart::save()
+{
+    SettingValues tagged;
+    m_tagged.collect(tagged);
+    saveDescriptionTags(tagged, m_tags->rows(), m_context.files, m_context.profiles);
 }
 
 void DescriptionTagsPart::restore()
 {
-    m_tagged.show(restored(taggedProfiles(), m_profiles));
+    m_tagged.show(restored(taggedProfiles(), m_context.profiles));
     m_tags->restore();
 }
 

@@ -80,17 +80,13 @@ ListFile linesFile(const Family& family, const std::string& noun)
 RowListDeclaration linesOf(const Family& family, const std::string& noun, const std::string& asked,
                            const std::vector<CellRow>& restored)
 {
-    RowListDeclaration list;
+    RowListDeclaration list = listOf(noun, Fewest::One);
     list.list = "lvw" + noun;
     list.toolbar = "tlb" + noun;
     list.label = family.label + " " + noun + "s";
     list.columns = {noun};
     list.menu = "mnu" + noun;
-    list.dialog.addTitle = "Add " + noun;
-    list.dialog.editTitle = "Edit " + noun;
-    list.dialog.labels = {noun};
-    list.deletion = {"Delete " + noun + "?", "Do you really want to delete this " + asked + "?",
-                     "There must be a minimum of one " + noun};
+    list.deletion = deletionOf(noun, asked, noun);
     list.load = loadOf(linesFile(family, noun));
     list.restored = [&restored](const HubProfiles&) { return restored; };
     if (family.named) {

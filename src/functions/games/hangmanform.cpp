@@ -59,13 +59,11 @@ private:
 
 GallowsPart::GallowsPart(const FormContext& context)
     : m_context(context),
-      m_toolbar(new QToolBar),
+      m_toolbar(smallToolbar("tlbAscii", {AddEditButton})),
       m_stage(new QSlider(Qt::Horizontal)),
       m_picture(new QPlainTextEdit),
       m_widget(placed())
 {
-    int index = 0;
-    AddEditButton(*m_toolbar, index);
     button(*m_toolbar, "EDIT")->setToolTip("Edit ascii");
     connectButton(*m_toolbar, "EDIT", this, &GallowsPart::edit);
     connect(m_stage, &QSlider::valueChanged, this, &GallowsPart::showStage);
@@ -73,8 +71,6 @@ GallowsPart::GallowsPart(const FormContext& context)
 
 QWidget* GallowsPart::placed()
 {
-    m_toolbar->setObjectName("tlbAscii");
-    m_toolbar->setIconSize({16, 16});
     m_stage->setObjectName("sldAscii");
     m_stage->setAccessibleName("Ascii");
     m_stage->setRange(0, lastGallowsStage);

@@ -3,6 +3,7 @@
 #include "functions/games/shared/questions.h"
 #include "functions/games/shared/quizpattern.h"
 #include "functions/games/shared/wordlist.h"
+#include "settings/lines.h"
 
 #include <algorithm>
 
@@ -35,6 +36,15 @@ Setting calculations()
                                 {"sSubtraction", "0,10000,0,10000"},
                                 {"sMultiplication", "0,20,0,100"},
                                 {"sDivision", "1,10,1,50"}}};
+}
+
+/// Only the first field is looked at, and any number will do, "1.5" too.
+std::optional<RowRefusal> calculationRefusal(const std::vector<CellRow>& /*rows*/, const CellRow& row,
+                                             const CellRow* /*before*/)
+{
+    if (wholeNumber(row.cells.at(1)))
+        return {};
+    return RowRefusal{"Invalid Entry", "Invalid Entry: Integers required in all fields"};
 }
 
 } // namespace
@@ -92,6 +102,8 @@ const RowListDeclaration& numbersCalculationList()
         list.take = [](const std::vector<std::string>& fields, CellRow& row) {
             std::copy(fields.begin(), fields.end(), row.cells.begin() + 1);
         };
+        list.refusal = calculationRefusal;
+        list.asksAgain = true;
         return list;
     }();
     return declared;
@@ -119,15 +131,11 @@ std::string calculationText(const CellRow& row)
 const RowListDeclaration& numbersQuestions()
 {
     static const RowListDeclaration declared = [] {
-        RowListDeclaration list = wordList(questionsPath, WordLine::Question);
+        RowListDeclaration list = wordList("Question", questionsPath, WordLine::Question);
         list.columns = {"Questions", "Answers"};
         list.menu = "mnuNumbers";
         list.dialog.form = EditForm::ThreeFields;
-        list.dialog.addTitle = "Add Question";
-        list.dialog.editTitle = "Edit Question";
         list.dialog.labels = {"Category", "Question", "Answer"};
-        list.deletion = {"Delete Word?", "Do you really want to delete this question?",
-                         "There must be a minimum of one Question"};
         list.fieldsOf = questionFields;
         list.take = [](const std::vector<std::string>& fields, CellRow& row) { row = questionRow(fields); };
         return list;
@@ -142,7 +150,7 @@ FunctionDeclaration numbersFunction()
                        "Numbers",
                        {{{"frmGamesNumbers", "Games ~ Numbers"},
                          {DeclaredSettings{numbersSettings, SettingsPartKind::Numbers},
-                          listPart(numbersQuestions, ListPartKind::FixedQuestions)}}}}};
+                          listPart(numbersQuestions, ListPartKind::Words)}}}}};
     function.build.push_back(FirstText{questionsPath, "Mathematics: What is 2 Plus 2 = ??*4\r\n"});
     return function;
 }

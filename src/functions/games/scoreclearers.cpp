@@ -9,28 +9,6 @@ namespace {
 
 const ListFile clearers = {R"(Games\Globals\ScoreClearers.tbl)", "tScoreClearers", ListFile::Form::Presence};
 
-} // namespace
-
-const RowListDeclaration& scoreClearers()
-{
-    static const RowListDeclaration declared = [] {
-        RowListDeclaration list;
-        list.list = "lvwUsers";
-        list.toolbar = "tlbListview";
-        list.columns = {"Users"};
-        list.menu = "mnuFirst";
-        list.dialog.addTitle = "Add User";
-        list.dialog.editTitle = "Edit User";
-        list.dialog.labels = {"User"};
-        // The title is that of the exempt users' lists.
-        list.deletion = {"Delete Exempt User?", "Do you really want to delete this User?", ""};
-        list.load = loadOf(clearers);
-        list.save = saveOf(clearers);
-        return list;
-    }();
-    return declared;
-}
-
 bool isClearer(const std::vector<CellRow>& rows, std::string_view nick)
 {
     return std::any_of(rows.begin(), rows.end(), [wanted = codepage::lowered(nick)](const CellRow& row) {
@@ -38,12 +16,39 @@ bool isClearer(const std::vector<CellRow>& rows, std::string_view nick)
     });
 }
 
+/// No user is added twice; an edited one isn't looked at.
+std::optional<RowRefusal> refusal(const std::vector<CellRow>& rows, const CellRow& row, const CellRow* before)
+{
+    if (before || !isClearer(rows, row.cells.front()))
+        return {};
+    return RowRefusal{"Duplicate user", "Duplicate users are not permitted"};
+}
+
+} // namespace
+
+const RowListDeclaration& scoreClearers()
+{
+    static const RowListDeclaration declared = [] {
+        RowListDeclaration list = listOf("User", Fewest::None);
+        list.list = "lvwUsers";
+        list.toolbar = "tlbListview";
+        list.columns = {"Users"};
+        list.menu = "mnuFirst";
+        list.deletion.title = "Delete Exempt User?"; // that of the exempt users' lists
+        list.refusal = refusal;
+        list.load = loadOf(clearers);
+        list.save = saveOf(clearers);
+        return list;
+    }();
+    return declared;
+}
+
 FunctionDeclaration scoreClearersFunction()
 {
     return {.nodes = {{"Games~ScoreClearers",
                        "Score Clearers",
                        {{{"frmGamesGlobalsScoreClearers", "Games ~ Score Clearers"},
-                         {listPart(scoreClearers, ListPartKind::ScoreClearers)}}}}},
+                         {listPart(scoreClearers)}}}}},
             .folders = {R"(Games\Globals)"},
             .build = {emptyTable(clearers)}};
 }

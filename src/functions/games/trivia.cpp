@@ -1,5 +1,6 @@
 #include "functions/games/trivia.h"
 
+#include "functions/games/shared/questions.h"
 #include "functions/games/shared/quizpattern.h"
 #include "functions/games/shared/wordlist.h"
 #include "settings/codepage.h"
@@ -78,6 +79,37 @@ const TableFile& triviaSettings()
     return file;
 }
 
+ListedFiles triviaQuestionLists()
+{
+    ListedFiles files;
+    files.names.list = "lvwQuestionFiles";
+    files.names.toolbar = "tlbQuestionFiles";
+    files.names.columns = {"Available Question Files"};
+    files.names.menu = "mnuFirst";
+    files.names.dialog.addTitle = "Enter filename";
+    files.names.dialog.labels = {"Enter filename"};
+    files.names.deletion = {"Delete Question File?", "Do you really want to delete ",
+                            "There must be a minimum of one Question File"};
+    files.rows.list = "lvwQuestions";
+    files.rows.toolbar = "tlbQuestions";
+    files.rows.columns = {"Questions", "Answers"};
+    files.rows.menu = "mnuTriviaQuestions";
+    files.rows.dialog.form = EditForm::ThreeFields;
+    files.rows.dialog.addTitle = "Add Trivia Question";
+    files.rows.dialog.editTitle = "Edit Trivia Question";
+    files.rows.dialog.labels = {"Category", "Question", "Answer"};
+    files.rows.deletion = deletionOf("Question", "question", "Question");
+    files.rows.selectsFirst = true;
+    files.rows.fieldsOf = questionFields;
+    files.rows.take = [](const std::vector<std::string>& fields, CellRow& row) { row = questionRow(fields); };
+    files.chooseTitle = "Select Trivia File to open";
+    files.folder = R"(Games\Trivia\)";
+    files.filter = "(*.lst)";
+    files.patterns = "*.lst";
+    files.refusesAdding = "Cannot add file";
+    return files;
+}
+
 TriviaQuestionFiles loadTriviaQuestionFiles(const SettingsFiles& files)
 {
     TriviaQuestionFiles result{files.ReadTableValue(questionFilesPath, defaultKey), {}};
@@ -145,7 +177,9 @@ FunctionDeclaration triviaFunction()
                        "Trivia ~ Settings"},
                       {"Games~Trivia~Questions",
                        "Questions",
-                       {{questions, {OwnPart{OwnPartKind::TriviaQuestions}}}},
+                       {{questions,
+                         {OwnPart{.kind = OwnPartKind::TriviaQuestions,
+                                  .lists = [] { return std::vector{triviaQuestionLists().rows}; }}}}},
                        "Trivia ~ Questions"}};
     function.folders.push_back(R"(Games\Trivia\QuestionFiles)");
     function.build.push_back(makeFirstQuestions);

@@ -23,6 +23,9 @@ TriviaQuestionFiles loadTriviaQuestionFiles(const SettingsFiles& files);
 /// Writes the default and every other name. Throws StoreError.
 void saveTriviaQuestionFiles(const SettingsFiles& files, const TriviaQuestionFiles& questionFiles);
 
+/// The question files and the questions of one; their loading and saving is told below.
+ListedFiles triviaQuestionLists();
+
 /// The told path of a question file.
 std::string triviaQuestionFile(std::string_view name);
 

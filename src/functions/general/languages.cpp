@@ -87,6 +87,36 @@ std::span<const LanguageSet> languageSets()
     return sets;
 }
 
+ListedFiles languageLists(const LanguageSet& set)
+{
+    ListedFiles files;
+    files.names.list = "lvwFiles";
+    files.names.toolbar = "tlbFiles";
+    files.names.columns = {"Languages"};
+    files.names.ticks = true;
+    files.names.menu = "mnuFirst";
+    files.names.dialog.addTitle = set.newTitle;
+    files.names.dialog.labels = {std::string(set.newPrompt)};
+    files.names.deletion = {"Delete Language File?", "Are you sure you wish to delete "};
+    files.names.load = [&set](const SettingsFiles& on, const HubProfiles&) { return loadLanguages(on, set); };
+    files.names.save = [&set](const SettingsFiles& on, const HubProfiles&, const std::vector<CellRow>& rows) {
+        saveLanguages(on, set, rows);
+    };
+    files.rows.list = "lvwTexts";
+    files.rows.toolbar = "tlbTexts";
+    files.rows.columns = {std::string(set.keyColumn), std::string(set.textColumn)};
+    files.rows.dialog.editTitle = set.editTitle;
+    files.rows.dialog.labels = {std::string(set.editLabel)};
+    files.rows.fieldsOf = [](const CellRow& row) { return std::vector<std::string>{row.cells[1]}; };
+    files.rows.take = [](const std::vector<std::string>& fields, CellRow& row) { row.cells[1] = fields[0]; };
+    files.chooseTitle = "Select Language File to open";
+    files.folder = set.folder;
+    files.filter = "(*.TBL)";
+    files.patterns = "*.tbl *.TBL";
+    files.refusesAdding = "Cannot Add Language File";
+    return files;
+}
+
 std::vector<CellRow> loadLanguages(const SettingsFiles& files, const LanguageSet& set)
 {
     std::vector<ListRow> list;

@@ -32,6 +32,9 @@ struct LanguageSet
 /// Commands, right clicks and messages.
 std::span<const LanguageSet> languageSets();
 
+/// The languages of a set, and the texts of one; their loading and saving is told below.
+ListedFiles languageLists(const LanguageSet& set);
+
 /// The languages of a set by name; the current one is checked.
 std::vector<CellRow> loadLanguages(const SettingsFiles& files, const LanguageSet& set);
 

@@ -2,322 +2,197 @@
 
 #include "functions/general/languages.h"
 #include "settings/codepage.h"
-#include "settings/tablefile.h"
 #include "shell/kit/codepagetext.h"
-#include "shell/kit/editdialog.h"
-#include "shell/kit/inputbox.h"
-#include "shell/kit/labels.h"
+#include "shell/kit/listedfilespart.h"
 #include "shell/kit/messages.h"
 #include "shell/kit/rowlist.h"
-#include "shell/kit/toolbars.h"
-
-#include <QFileDialog>
-#include <QFileInfo>
-#include <QHeaderView>
-#include <QSplitter>
-#include <QToolBar>
+#include "shell/kit/toolbarlist.h"
 
 #include <algorithm>
 
 namespace quillfen {
 namespace {
 
-/// The languages of a set, of which one is current, and the texts of the one that is open. The list of
-/// languages is the form's; an open language is saved by a button of its own.
-class LanguagesPart : public FormPart
+/// SAVE, CLOSE, EDIT and EDITALL.
+void buildTextsToolbar(QToolBar& toolbar, int& index)
+{
+    BuildFileEditToolbar(toolbar, index);
+    removeButton(toolbar, "NEW");
+    removeButton(toolbar, "DELETE");
+    index -= 2;
+    AddEditAllButton(toolbar, index);
+}
+
+/// The languages of a set, of which one is current, and the texts of the one that is open.
+class LanguagesPart : public ListedFilesPart
 {
 public:
     LanguagesPart(const LanguageSet& set, const FormContext& context);
 
-    QWidget* widget() override { return m_widget; }
-    void load() override;
-    void restore() override {} ///< the lists have no defaults of their own: the form only becomes dirty
-    void save() override;
-    RoutineTable routines() override;
+protected:
+    void startFile(const std::string& name) override;
+    bool mayJoin(const std::string& name) override;
+    bool mayOpen() override;
+    void openFile(const std::string& name) override;
+    bool mustStay(const std::string& name) override;
+    bool asksToGo(const std::string& name) override;
+    void followGone(const std::string& /*name*/) override { emit changed(); }
+    void saveFile() override;
+    void closeFile() override;
 
 private:
-    QWidget* placed();
-    void connectFiles();
-    void connectTexts();
-    static QString word(std::string_view bytes) { return fromBytes(bytes); }
-
     void choose(int row);
-    void newLanguage();
-    void addExisting();
-    void removeLanguage();
-    void openLanguage();
-    void showTexts(std::vector<CellRow> rows, const std::string& name);
-    void setTextButtons(bool editable);
-
     void editText();
     void editAllTexts();
-    bool editRow(int row); ///< false if the dialog was closed: there is no going on then
-    void saveTexts();
-    void closeTexts();
+    void followText();
+    void showTexts(std::vector<CellRow> texts, const std::string& name);
     void leaveTexts();
 
-    std::string selectedName() const;
-    bool isListed(const std::string& name, bool anyCase) const;
-
     const LanguageSet& m_set;
-    FormContext m_context;
-    RowList* m_files;
-    RowList* m_texts;
-    QToolBar* m_fileBar;
-    QToolBar* m_textBar;
-    QWidget* m_widget;
+    std::string m_open;      ///< the file under edit, without its extension; empty if none is
     bool m_readOnly = false; ///< the reference language is on view
 };
 
 LanguagesPart::LanguagesPart(const LanguageSet& set, const FormContext& context)
-    : m_set(set),
-      m_context(context),
-      m_files(new RowList("lvwFiles", {"Languages"}, true)),
-      m_texts(new RowList("lvwTexts", {word(set.keyColumn), word(set.textColumn)}, false)),
-      m_fileBar(new QToolBar),
-      m_textBar(new QToolBar),
-      m_widget(placed())
+    : ListedFilesPart(languageLists(set), context,
+                      {.builders = {buildTextsToolbar},
+                       .activates = {}, // a double click edits the reference's texts too, where EDIT is dark
+                       .rowsLightButtons = false,
+                       .note = [this] { followText(); }}),
+      m_set(set)
 {
-    connectFiles();
-    connectTexts();
+    rows().list().setAccessibleName(fromBytes(set.textColumn));
+    connect(&names(), &RowList::tickChanged, this, &LanguagesPart::choose);
+    connect(&rows().list(), &RowList::editAsked, this, &LanguagesPart::editText);
+    rows().tools().connectButtons(this, {{"EDITALL", &LanguagesPart::editAllTexts}});
     leaveTexts();
 }
 
-QWidget* LanguagesPart::placed()
-{
-    m_fileBar->setObjectName("tlbFiles");
-    m_textBar->setObjectName("tlbTexts");
-    m_files->setAccessibleName("Languages");
-    m_texts->setAccessibleName(word(m_set.textColumn));
-    m_texts->header()->resizeSection(0, 180);
-    for (auto* toolbar : {m_fileBar, m_textBar})
-        toolbar->setIconSize({16, 16});
-    auto* splitter = new QSplitter;
-    splitter->addWidget(listWithToolbar(QString(), m_fileBar, m_files));
-    splitter->addWidget(listWithToolbar(QString(), m_textBar, m_texts));
-    splitter->setStretchFactor(1, 1);
-    splitter->setChildrenCollapsible(false);
-    return splitter;
-}
-
-void LanguagesPart::connectFiles()
-{
-    int index = 0;
-    BuildFileListToolbar(*m_fileBar, index);
-    connectButton(*m_fileBar, "NEW", this, &LanguagesPart::newLanguage);
-    connectButton(*m_fileBar, "OPEN", this, &LanguagesPart::addExisting);
-    connectButton(*m_fileBar, "DELETE", this, &LanguagesPart::removeLanguage);
-    connectButton(*m_fileBar, "EDIT", this, &LanguagesPart::openLanguage);
-    connect(m_files, &RowList::tickChanged, this, &LanguagesPart::choose);
-    connect(m_files, &RowList::editAsked, this, &LanguagesPart::openLanguage);
-    connect(m_files, &RowList::deleteAsked, this, &LanguagesPart::removeLanguage);
-    connect(m_files, &RowList::menuAsked, this,
-            [this](const QPoint& at) { m_context.showMenu("mnuFirst", at); });
-}
-
-void LanguagesPart::connectTexts()
-{
-    int index = 0;
-    BuildFileEditToolbar(*m_textBar, index);
-    removeButton(*m_textBar, "NEW");
-    removeButton(*m_textBar, "DELETE");
-    index -= 2;
-    AddEditAllButton(*m_textBar, index);
-    connectButton(*m_textBar, "SAVE", this, &LanguagesPart::saveTexts);
-    connectButton(*m_textBar, "CLOSE", this, &LanguagesPart::closeTexts);
-    connectButton(*m_textBar, "EDIT", this, &LanguagesPart::editText);
-    connectButton(*m_textBar, "EDITALL", this, &LanguagesPart::editAllTexts);
-    connect(m_texts, &RowList::editAsked, this, &LanguagesPart::editText);
-}
-
-RoutineTable LanguagesPart::routines()
-{
-    return buttonRoutines("mnuFirst", *m_fileBar);
-}
-
-void LanguagesPart::load()
-{
-    m_files->setRows(loadLanguages(m_context.files, m_set));
-}
-
-void LanguagesPart::save()
-{
-    saveLanguages(m_context.files, m_set, m_files->rows());
-}
-
-std::string LanguagesPart::selectedName() const
-{
-    const int row = m_files->currentRow();
-    return row < 0 ? std::string() : m_files->rows()[static_cast<std::size_t>(row)].cells[0];
-}
-
-bool LanguagesPart::isListed(const std::string& name, bool anyCase) const
-{
-    const auto& rows = m_files->rows();
-    return std::any_of(rows.begin(), rows.end(), [&](const CellRow& row) {
-        return anyCase ? codepage::lowered(row.cells[0]) == codepage::lowered(name) : row.cells[0] == name;
-    });
-}
-
+/// One language is current: a click checks its own and unchecks the others, and a second click changes
+/// nothing.
 void LanguagesPart::choose(int row)
 {
-    // One language is current: a click checks its own and unchecks the others, and a second click changes
-    // nothing.
-    for (int at = 0; at < static_cast<int>(m_files->rows().size()); ++at) {
-        CellRow cells = m_files->rows()[static_cast<std::size_t>(at)];
-        cells.checked = at == row;
-        m_files->replace(at, std::move(cells));
+    for (int at = 0; at < static_cast<int>(names().rows().size()); ++at) {
+        CellRow language = names().rows()[static_cast<std::size_t>(at)];
+        language.checked = at == row;
+        names().replace(at, std::move(language));
     }
     emit changed();
 }
 
-void LanguagesPart::newLanguage()
+void LanguagesPart::startFile(const std::string& name)
 {
-    const std::string name = askText(m_widget, word(m_set.newTitle), word(m_set.newPrompt));
-    if (name.empty() || refuseNewFile(m_widget, name))
+    if (refuseNewFile(widget(), name))
         return;
     m_readOnly = false;
-    showTexts(loadReferenceTexts(m_context.files, m_set), name);
+    showTexts(loadReferenceTexts(context().files, m_set), name);
 }
 
-void LanguagesPart::addExisting()
+bool LanguagesPart::mayJoin(const std::string& name)
 {
-    // The filter's own words stand in front of its patterns, which don't show.
-    const QString path =
-        QFileDialog::getOpenFileName(m_widget, "Select Language File to open",
-                                     QString::fromStdString(m_context.files.paths().inSettings(m_set.folder)),
-                                     "(*.TBL) (*.tbl *.TBL)", nullptr, QFileDialog::HideNameFilterDetails);
-    if (path.isEmpty())
-        return;
-    QString file = QFileInfo(path).fileName();
-    file.chop(4);
-    const std::string name = toBytes(file);
-    if (fromBytes(name) != file) {
-        notify(m_widget, "Cannot Add Language File", file + " has characters that the hub script can't read",
-               QMessageBox::Warning);
-        return;
-    }
-    if (isListed(name, true)) {
-        notify(m_widget, "Cannot Add Language File", file + word(m_set.duplicateTail), QMessageBox::Warning);
-        return;
-    }
-    m_files->append({{name}});
-    emit changed();
+    if (!isListed(name))
+        return true;
+    tellRefusal(fromBytes(files().refusesAdding), name, std::string(m_set.duplicateTail));
+    return false;
 }
 
-void LanguagesPart::removeLanguage()
+bool LanguagesPart::mustStay(const std::string& name)
 {
-    if (m_files->currentRow() < 0)
-        return;
-    const std::string name = selectedName();
-    if (name == referenceLanguage) {
-        notify(m_widget, "Cannot delete", word(m_set.deleteRefusal), QMessageBox::Warning);
-        return;
-    }
-    if (!askYesNo(m_widget, "Delete Language File?",
-                  "Are you sure you wish to delete " + fromBytes(name) + '?'))
-        return;
-    m_files->remove(m_files->currentRow());
-    emit changed();
+    const bool isReference = name == referenceLanguage;
+    if (isReference)
+        notify(widget(), "Cannot delete", fromBytes(m_set.deleteRefusal), QMessageBox::Warning);
+    return isReference;
 }
 
-void LanguagesPart::openLanguage()
+bool LanguagesPart::asksToGo(const std::string& name)
 {
-    if (!m_texts->isEmpty()) {
-        notify(m_widget, "Cannot Edit", "There is already a file being edited", QMessageBox::Warning);
-        return;
-    }
-    const std::string name = selectedName();
-    if (m_files->currentRow() < 0 || refuseListedFile(m_widget, "Cannot open file", name))
-        return;
+    const DeleteWords& words = files().names.deletion;
+    return askYesNo(widget(), fromBytes(words.title), fromBytes(words.text + name + '?'));
+}
+
+bool LanguagesPart::mayOpen()
+{
+    const bool isOpen = !rows().rows().empty();
+    if (isOpen)
+        notify(widget(), "Cannot Edit", "There is already a file being edited", QMessageBox::Warning);
+    return !isOpen;
+}
+
+void LanguagesPart::openFile(const std::string& name)
+{
     m_readOnly = name == referenceLanguage;
     if (m_readOnly)
-        notify(m_widget, "Read Only", "DEFAULT file cannot be edited", QMessageBox::Information);
+        notify(widget(), "Read Only", "DEFAULT file cannot be edited", QMessageBox::Information);
     // The name goes on in upper case, and so does the file that is saved; the list keeps its own spelling.
-    showTexts(loadLanguageTexts(m_context.files, m_set, name), codepage::raised(name));
+    showTexts(loadLanguageTexts(context().files, m_set, name), codepage::raised(name));
 }
 
-void LanguagesPart::showTexts(std::vector<CellRow> rows, const std::string& name)
+void LanguagesPart::showTexts(std::vector<CellRow> texts, const std::string& name)
 {
-    m_texts->setRows(std::move(rows));
-    m_texts->setProperty("tag", fromBytes(name));
-    m_texts->setEnabled(true);
-    if (!m_texts->isEmpty())
-        m_texts->select(0);
-    setTextButtons(!m_readOnly);
-}
-
-void LanguagesPart::setTextButtons(bool editable)
-{
-    // Without a reference there are no texts that could change first.
-    button(*m_textBar, "SAVE")->setEnabled(editable && m_texts->isEmpty());
-    button(*m_textBar, "CLOSE")->setEnabled(true);
-    button(*m_textBar, "EDIT")->setEnabled(editable);
-    button(*m_textBar, "EDITALL")->setEnabled(editable);
-}
-
-bool LanguagesPart::editRow(int row)
-{
-    CellRow cells = m_texts->rows()[static_cast<std::size_t>(row)];
-    m_texts->select(row);
-    EditRequest request{EditForm::OneFields,
-                        std::string(m_set.editTitle),
-                        "E",
-                        habitualEditMode(EditForm::OneFields),
-                        {std::string(m_set.editLabel)}};
-    request.values = {cells.cells[1]};
-    const EditAnswer answer = showEditDialog(m_widget, request);
-    if (answer.gEditResult != "1")
-        return answer.byCancel;
-    cells.cells[1] = answer.gEditValues[0];
-    m_texts->replace(row, std::move(cells));
-    if (m_readOnly) // a change of the reference stays on the screen
-        return true;
-    button(*m_textBar, "SAVE")->setEnabled(true);
-    emit changed();
-    return true;
+    const bool areThere = !texts.empty();
+    m_open = name;
+    rows().list().setRows(std::move(texts));
+    rows().list().setEnabled(true);
+    if (areThere)
+        rows().list().select(0);
+    rowTool("SAVE").setEnabled(!m_readOnly &&
+                               !areThere); // without texts there is none that could change first
+    rowTool("CLOSE").setEnabled(true);
+    rowTool("EDIT").setEnabled(!m_readOnly);
+    rowTool("EDITALL").setEnabled(!m_readOnly);
 }
 
 void LanguagesPart::editText()
 {
-    if (m_texts->currentRow() >= 0)
-        editRow(m_texts->currentRow());
+    if (rows().list().currentRow() >= 0)
+        rows().editRow(rows().list().currentRow());
 }
 
+/// Cancel leaves one text as it is; a closed dialog ends the round.
 void LanguagesPart::editAllTexts()
 {
-    for (int row = 0; row < static_cast<int>(m_texts->rows().size()); ++row) {
-        if (!editRow(row))
+    for (int row = 0; row < static_cast<int>(rows().rows().size()); ++row) {
+        rows().list().select(row);
+        const EditAnswer answer = rows().editRow(row);
+        if (answer.gEditResult != EditResult::Ok && !answer.byCancel)
             return;
     }
 }
 
-void LanguagesPart::saveTexts()
+/// A change of the reference stays on the screen.
+void LanguagesPart::followText()
 {
-    const std::string name = toBytes(m_texts->property("tag").toString());
-    if (m_readOnly || !attempt(m_widget, saving(fromBytes(name)),
-                               [&] { saveLanguageTexts(m_context.files, m_set, name, m_texts->rows()); }))
+    if (m_readOnly)
         return;
-    leaveTexts();
-    if (isListed(name, false))
-        return;
-    m_files->append({{name}});
+    rowTool("SAVE").setEnabled(true);
     emit changed();
 }
 
-void LanguagesPart::closeTexts()
+void LanguagesPart::saveFile()
 {
-    if (!m_readOnly && !confirm(m_widget, "Discard changes?", "Are you sure you'd like to discard changes?"))
+    const std::string name = m_open;
+    if (m_readOnly || !attempt(widget(), saving(fromBytes(name)),
+                               [&] { saveLanguageTexts(context().files, m_set, name, rows().rows()); }))
         return;
     leaveTexts();
+    const auto& listed = names().rows();
+    if (std::none_of(listed.begin(), listed.end(),
+                     [&name](const CellRow& row) { return row.cells[0] == name; }))
+        addName(name);
+}
+
+void LanguagesPart::closeFile()
+{
+    if (m_readOnly || confirm(widget(), "Discard changes?", "Are you sure you'd like to discard changes?"))
+        leaveTexts();
 }
 
 void LanguagesPart::leaveTexts()
 {
-    m_texts->setRows({});
-    m_texts->setProperty("tag", QString());
-    m_texts->setEnabled(false);
-    for (auto* action : m_textBar->actions())
+    m_open.clear();
+    rows().list().setRows({});
+    rows().list().setEnabled(false);
+    for (auto* action : rows().tools().toolbar().actions())
         action->setEnabled(false);
 }
 

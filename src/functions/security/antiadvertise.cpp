@@ -27,17 +27,12 @@ ListFile addressFile(const std::string& word)
 RowListDeclaration addressList(const std::string& word)
 {
     const std::string noun = word + " Address";
-    RowListDeclaration list;
+    RowListDeclaration list = listOf(noun, Fewest::One);
     list.list = "lvw" + word + "Addresses";
     list.toolbar = "tlb" + word + "Addresses";
     list.label = noun + "es";
     list.columns = {"Address"};
-    list.dialog.addTitle = "Add " + noun;
-    list.dialog.editTitle = "Edit " + noun;
-    list.dialog.labels = {noun};
-    // The question is worded as that of the intros.
-    list.deletion = {"Delete Intro?", "Do you really want to delete this File?",
-                     "There must be a minimum of one " + noun};
+    list.deletion = deletionOf("Intro", "File", noun); // worded as that of the intros
     list.load = loadOf(addressFile(word));
     list.save = saveOf(addressFile(word));
     list.restored = noRows;

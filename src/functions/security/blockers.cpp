@@ -13,13 +13,8 @@ const ListFile exemptUserFile = {R"(Security\CloneBlocker\CloneBlockerExemptUser
 /// A list of one-word rows, worded by what a row is called.
 RowListDeclaration wordedList(const ListFile& file, const std::string& word)
 {
-    RowListDeclaration list;
+    RowListDeclaration list = listOf(word, Fewest::None);
     list.menu = "mnuFirst";
-    list.dialog.addTitle = "Add " + word;
-    list.dialog.editTitle = "Edit " + word;
-    list.dialog.labels = {word};
-    list.deletion.title = "Delete " + word + "?";
-    list.deletion.text = "Do you really want to delete this " + word + "?";
     list.load = loadOf(file);
     list.save = saveOf(file);
     return list;

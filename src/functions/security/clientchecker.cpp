@@ -50,13 +50,12 @@ std::vector<std::string> trimmed(const std::vector<std::string>& texts)
 
 RowListDeclaration declaredVersions()
 {
-    RowListDeclaration list;
+    RowListDeclaration list = listOf("Client", Fewest::One);
     list.list = "lvwClients";
     list.toolbar = "tlbClients";
     list.columns = {"Client", "Min Version", "Allow"};
     list.menu = "mnuFirst";
     list.dialog.form = EditForm::TwoTextCombo;
-    list.dialog.addTitle = "Add Client";
     list.dialog.editTitle = "Edit File";
     list.dialog.labels = {"Client", "Min Version", "Allow"};
     list.dialog.entries = {{"True", "False"}};
@@ -69,8 +68,6 @@ RowListDeclaration declaredVersions()
         const bool isAdded = row.cells[Allow].empty(); // one that is edited has its word there
         row.cells = isAdded ? fields : trimmed(fields);
     };
-    list.deletion = {"Delete Client?", "Do you really want to delete this Client?",
-                     "There must be a minimum of one Client"};
     list.load = loadVersions;
     list.save = saveVersions;
     return list;

@@ -2,10 +2,9 @@
 
 #include "functions/security/rules.h"
 #include "settings/profiles.h"
-#include "shell/kit/labels.h"
 #include "shell/kit/rowlist.h"
 #include "shell/kit/textedit.h"
-#include "shell/kit/toolbars.h"
+#include "shell/kit/toolbarlist.h"
 
 namespace quillfen {
 namespace {
@@ -18,21 +17,13 @@ public:
     explicit RulesPart(const FormContext& context)
         : m_context(context),
           m_list(new RowList("lvwRules", {"Profiles"}, false)),
-          m_toolbar(new QToolBar),
-          m_widget(listWithToolbar(QString(), m_toolbar, m_list))
+          m_tools(new ToolbarList(m_list, {"tlbListview", "Profiles", {}, "mnuOnlyEdit"}, {AddEditButton},
+                                  context))
     {
-        m_list->setAccessibleName("Profiles");
-        m_toolbar->setObjectName("tlbListview");
-        m_toolbar->setIconSize({16, 16});
-        int index = 0;
-        AddEditButton(*m_toolbar, index);
-        connectButton(*m_toolbar, "EDIT", this, &RulesPart::edit);
-        connect(m_list, &RowList::editAsked, this, &RulesPart::edit);
-        connect(m_list, &RowList::menuAsked, this,
-                [this](const QPoint& at) { m_context.showMenu("mnuOnlyEdit", at); });
+        m_tools->connectButtons(this, {{"EDIT", &RulesPart::edit}});
     }
 
-    QWidget* widget() override { return m_widget; }
+    QWidget* widget() override { return m_tools; }
 
     void load() override
     {
@@ -45,20 +36,19 @@ public:
     void restore() override {}
     void save() override {}
 
-    RoutineTable routines() override { return buttonRoutines("mnuOnlyEdit", *m_toolbar); }
+    RoutineTable routines() override { return m_tools->routines(); }
 
 private:
     void edit()
     {
         const int row = m_list->currentRow();
         if (row >= 0)
-            editTextFile(m_widget->window(), m_context.files, rulesFile(static_cast<std::size_t>(row)));
+            editTextFile(m_tools->window(), m_context.files, rulesFile(static_cast<std::size_t>(row)));
     }
 
     FormContext m_context;
     RowList* m_list;
-    QToolBar* m_toolbar;
-    QWidget* m_widget;
+    ToolbarList* m_tools;
 };
 
 } // namespace

@@ -41,24 +41,20 @@ void saveTerms(const SettingsFiles& files, const HubProfiles& /*profiles*/, cons
 
 RowListDeclaration declaredTerms()
 {
-    RowListDeclaration list;
+    RowListDeclaration list = listOf("File", Fewest::One);
     list.list = "lvwFiles";
     list.toolbar = "tlbFiles";
     list.label = "Forbidden Files";
     list.columns = {"File", "Action"};
     list.menu = "mnuFirst";
     list.dialog.form = EditForm::TextCombo;
-    list.dialog.addTitle = "Add File";
-    list.dialog.editTitle = "Edit File";
     list.dialog.labels = {"File", "Action"};
     list.dialog.entries = {searchActions()};
     list.dialog.addValues = {"", "Kick"};
     list.labelsOf = [](const CellRow& row) {
         return std::vector<std::string>{row.cells[Term] + " File", "Action"};
     };
-    // The question is worded as that of the intros.
-    list.deletion = {"Delete Intro?", "Do you really want to delete this File?",
-                     "There must be a minimum of one File"};
+    list.deletion.title = "Delete Intro?"; // worded as that of the intros
     list.load = loadTerms;
     list.save = saveTerms;
     return list;

@@ -40,13 +40,8 @@ struct ListWords
 
 RowListDeclaration listOf(const ListWords& words)
 {
-    RowListDeclaration list;
-    list.dialog.addTitle = "Add " + words.item;
-    list.dialog.editTitle = "Edit " + words.item;
-    list.dialog.labels = {words.item};
-    list.deletion.minimum = "There must be a minimum of one " + words.minimum;
-    list.deletion.title = "Delete " + words.title + "?";
-    list.deletion.text = "Do you really want to delete this " + words.text + "?";
+    RowListDeclaration list = listOf(words.item, Fewest::One);
+    list.deletion = deletionOf(words.title, words.text, words.minimum);
     return list;
 }
 

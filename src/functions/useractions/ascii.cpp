@@ -61,17 +61,13 @@ const TableFile& asciiSettings()
 const RowListDeclaration& asciiPictures()
 {
     static const RowListDeclaration declared = [] {
-        RowListDeclaration list;
+        RowListDeclaration list = listOf("Ascii", Fewest::None);
         list.list = "lvwAscii";
         list.toolbar = "tlbFiles";
         list.columns = {"Filename", "Display Name", "Right Click Menu"};
         list.menu = "mnuFirst";
         list.dialog.form = EditForm::ThreeFields;
-        list.dialog.addTitle = "Add Ascii";
-        list.dialog.editTitle = "Edit Ascii";
         list.dialog.labels = list.columns;
-        list.deletion.title = "Delete Ascii?";
-        list.deletion.text = "Do you really want to delete this Ascii?";
         list.load = loadIndex;
         list.save = saveIndex;
         return list;

@@ -3,56 +3,42 @@
 #include "functions/useractions/ascii.h"
 #include "settings/filename.h"
 #include "settings/tablefile.h"
+#include "settings/textfolder.h"
 #include "shell/kit/folderfilespart.h"
 #include "shell/kit/messages.h"
-#include "shell/kit/rowlist.h"
 #include "shell/kit/textedit.h"
 
 namespace quillfen {
 namespace {
 
-/// The list of pictures. A row comes or changes only together with its picture, and goes with it.
-class PicturesPart : public RowFilesPart
+/// A picture that is there already may be listed under any name that stays in the folder.
+bool isGoodName(QWidget* parent, const SettingsFiles& files, const std::string& name)
 {
-public:
-    PicturesPart(const RowListDeclaration& pictures, const FormContext& context)
-        : RowFilesPart(pictures, std::string(asciiFolder), context)
-    {
-    }
+    const bool isThere =
+        leavingNameFault(name).empty() &&
+        files.store().exists(files.paths().resolve(textFileOnDisk(files, asciiFolder, name)));
+    return isThere || !refuseNewFile(parent->window(), name);
+}
 
-protected:
-    bool mayAdd(const CellRow& row) override { return isGoodName(row) && isDrawn(row); }
-
-    bool mayTake(const CellRow& row) override
-    {
-        const CellRow& before = rows()[static_cast<std::size_t>(list().currentRow())];
-        const bool isGood = row.cells.front() == before.cells.front()
-                                ? !refuseListedFile(widget()->window(), "Cannot open file", row.cells.front())
-                                : isGoodName(row);
-        return isGood && isDrawn(row);
-    }
-
-private:
-    /// A picture that is there already may be listed under any name that stays in the folder.
-    bool isGoodName(const CellRow& row) const
-    {
-        const SettingsFiles& files = context().files;
-        const bool isThere = leavingNameFault(row.cells.front()).empty() &&
-                             files.store().exists(files.paths().resolve(pathOf(row)));
-        return isThere || !refuseNewFile(list().window(), row.cells.front());
-    }
-
-    bool isDrawn(const CellRow& row) const
-    {
-        return editTextFile(list().window(), context().files, pathOf(row));
-    }
-};
+/// A row comes or changes only together with its picture.
+bool isDrawn(QWidget* parent, const SettingsFiles& files, const CellRow& row, const CellRow* before)
+{
+    const std::string& name = row.cells.front();
+    const bool isGood = before && before->cells.front() == name
+                            ? !refuseListedFile(parent->window(), "Cannot open file", name)
+                            : isGoodName(parent, files, name);
+    return isGood && editTextFile(parent->window(), files, textFileOnDisk(files, asciiFolder, name));
+}
 
 } // namespace
 
 std::unique_ptr<FormPart> makeAsciiPicturesPart(const RowListDeclaration& list, const FormContext& context)
 {
-    return std::make_unique<PicturesPart>(list, context);
+    RowListHooks hooks = fileHooks(context, std::string(asciiFolder));
+    hooks.accept = [&files = context.files](QWidget* parent, const CellRow& row, const CellRow* before) {
+        return isDrawn(parent, files, row, before);
+    };
+    return std::make_unique<RowListPart>(list, context, std::move(hooks));
 }
 
 } // namespace quillfen

@@ -22,17 +22,11 @@ Collection collection(const std::string& word, int delay)
                         setting::flag("bSendToAll", "chkSendToAll", "Send To All", true),
                         setting::number("iDelay", "txtDelay(0)", "Delay", delay, 10, 720)},
                        {"bManualControl", "iDelay", "bSendToAll"}};
-    RowListDeclaration& texts = result.texts;
+    RowListDeclaration& texts = result.texts = listOf(word, Fewest::One);
     texts.list = "lvw" + word + "s";
     texts.toolbar = "tlb" + word + "s";
     texts.columns = {word + "s"};
     texts.menu = "mnuFirst";
-    texts.dialog.addTitle = "Add " + word;
-    texts.dialog.editTitle = "Edit " + word;
-    texts.dialog.labels = {word};
-    texts.deletion.minimum = "There must be a minimum of one " + word;
-    texts.deletion.title = "Delete " + word + "?";
-    texts.deletion.text = "Do you really want to delete this " + word + "?";
     texts.load = loadOf(textsFile(word));
     texts.save = saveOf(textsFile(word));
     return result;

@@ -99,17 +99,13 @@ const TableFile& nickSpellSettings()
 const RowListDeclaration& spellWards()
 {
     static const RowListDeclaration declared = [] {
-        RowListDeclaration list;
+        RowListDeclaration list = listOf("Warded User", Fewest::None);
         list.list = "lvwWards";
         list.toolbar = "tlbWards";
         list.label = "Warded Users";
+        list.remark = "Allows IPs beginning with 0 (such as 0.3.6.0)";
         list.columns = {"Warded User"};
         list.menu = "mnuFirst";
-        list.dialog.addTitle = "Add Warded User";
-        list.dialog.editTitle = "Edit Warded User";
-        list.dialog.labels = {"Warded User"};
-        list.deletion.title = "Delete Warded User?";
-        list.deletion.text = "Do you really want to delete this Warded User?";
         list.load = loadOf(wardsFile);
         list.save = saveOf(wardsFile);
         return list;
@@ -119,18 +115,16 @@ const RowListDeclaration& spellWards()
 
 RowListDeclaration spellList(const SpellBook& book)
 {
-    RowListDeclaration list;
+    RowListDeclaration list = listOf("Spell", Fewest::One);
     list.list = "lvwSpells";
     list.toolbar = "tlbSpells";
     list.columns = {"Spell Name", "Spell Description", "Spell Phrases", "Spell LInes"};
+    list.hiddenColumns = 2;
     list.menu = "mnuFirst";
     list.dialog.form = EditForm::TwoFields;
     list.dialog.addTitle = "Add New Spell";
     list.dialog.editTitle = "Edit Warded User"; // copied from the wards
     list.dialog.labels = {"Spell Name", "Spell Description"};
-    list.deletion.minimum = "There must be a minimum of one Spell";
-    list.deletion.title = "Delete Spell?";
-    list.deletion.text = "Do you really want to delete this Spell?";
     list.load = [load = loadOf(bookFile(book))](const SettingsFiles& files, const HubProfiles& profiles) {
         auto rows = load(files, profiles);
         for (CellRow& row : rows)
@@ -142,17 +136,12 @@ RowListDeclaration spellList(const SpellBook& book)
 
 RowListDeclaration phraseList()
 {
-    RowListDeclaration list;
+    RowListDeclaration list = listOf("Spell Phrase", Fewest::One);
     list.list = "lvwSpellPhrases";
     list.toolbar = "tlbSpellPhrases";
     list.columns = {"Spell Phrase"};
     list.menu = "mnuSecond";
     list.dialog.addTitle = "Add New Spell Phrase";
-    list.dialog.editTitle = "Edit Spell Phrase";
-    list.dialog.labels = {"Spell Phrase"};
-    list.deletion.minimum = "There must be a minimum of one Spell Phrase";
-    list.deletion.title = "Delete Spell Phrase?";
-    list.deletion.text = "Do you really want to delete this Spell Phrase?";
     return list;
 }
 
@@ -196,7 +185,7 @@ FunctionDeclaration spellsFunction()
                   {"UserActions~Spells~Settings",
                    "Settings",
                    {{{"frmUserActionsSpellSettings", "UserActions ~ Spells ~ Settings", {7500, 7500}},
-                     {DeclaredSettings{spellSettings}, listPart(spellWards, ListPartKind::SpellWards)}}},
+                     {DeclaredSettings{spellSettings}, listPart(spellWards)}}},
                    "Spells ~ Settings"},
                   {"UserActions~Spells~SpellBook", "Spell Book",
                    bookForm("frmUserActionsSpellsSpellBook", "UserActions ~ Spells ~ SpellBook",

@@ -2,98 +2,24 @@
 
 #include "functions/useractions/spells.h"
 #include "settings/codepage.h"
-#include "shell/kit/codepagetext.h"
 #include "shell/kit/messages.h"
 #include "shell/kit/rowlist.h"
 #include "shell/kit/rowlistpart.h"
-#include "shell/kit/toolbars.h"
+#include "shell/kit/toolbarlist.h"
 
-#include <QLabel>
-#include <QVBoxLayout>
+#include <QHBoxLayout>
 
 #include <algorithm>
 
 namespace quillfen {
 namespace {
 
-/// The warded users, with a note below them.
-class WardsPart : public RowListPart
+/// A new name is also a new file's.
+bool hasGoodName(QWidget* parent, const CellRow& spell, const CellRow* before)
 {
-public:
-    WardsPart(const RowListDeclaration& wards, const FormContext& context)
-        : RowListPart(wards, context),
-          m_widget(new QWidget)
-    {
-        auto* note = new QLabel("Allows IPs beginning with 0 (such as 0.3.6.0)");
-        note->setTextFormat(Qt::PlainText);
-        note->setWordWrap(true);
-        auto* layout = new QVBoxLayout(m_widget);
-        layout->setContentsMargins({});
-        layout->addWidget(RowListPart::widget(), 1);
-        layout->addWidget(note);
-    }
-
-    QWidget* widget() override { return m_widget; }
-
-private:
-    QWidget* m_widget;
-};
-
-/// The spells of a book. A double click amends a spell's phrases.
-class SpellsPart : public RowListPart
-{
-public:
-    SpellsPart(const SpellBook& book, std::function<void()> amend, const FormContext& context)
-        : RowListPart(spellList(book), context),
-          m_amend(std::move(amend))
-    {
-        int index = static_cast<int>(toolbar().actions().size());
-        AddAmendButton(toolbar(), index);
-        button(toolbar(), "AMEND")->setToolTip("Amend Spell Phrases");
-        connect(button(toolbar(), "AMEND"), &QAction::triggered, this, m_amend);
-        list().setColumnHidden(SpellPhrases, true);
-        list().setColumnHidden(SpellLines, true);
-        followRows();
-    }
-
-    using RowListPart::list;
-
-    /// The selected spell's name; empty if none is selected.
-    std::string selected() const
-    {
-        const int row = list().currentRow();
-        return row < 0 ? std::string() : rows()[static_cast<std::size_t>(row)].cells[SpellName];
-    }
-
-protected:
-    bool mayAdd(const CellRow& row) override
-    {
-        return !refuseNewFile(widget()->window(), row.cells[SpellName]);
-    }
-
-    bool mayTake(const CellRow& row) override { return row.cells[SpellName] == selected() || mayAdd(row); }
-
-    void activate() override { m_amend(); }
-
-private:
-    std::function<void()> m_amend;
-};
-
-/// The phrases of the spell that is being amended.
-class PhrasesPart : public RowListPart
-{
-public:
-    PhrasesPart(const RowListDeclaration& phrases, const FormContext& context) : RowListPart(phrases, context)
-    {
-    }
-
-    /// Without a spell there is nothing to add a phrase to.
-    void setSpell(const std::string& spell)
-    {
-        list().setProperty("tag", fromBytes(spell));
-        button(toolbar(), "NEW")->setEnabled(!spell.empty());
-    }
-};
+    const std::string& name = spell.cells[SpellName];
+    return (before && before->cells[SpellName] == name) || !refuseNewFile(parent->window(), name);
+}
 
 /// A spell book: its spells, and the phrases of the one that is being amended.
 class SpellBookPart : public FormPart
@@ -108,7 +34,7 @@ public:
     RoutineTable routines() override;
 
 private:
-    RowListDeclaration declaredPhrases();
+    std::string selectedSpell() const;
     void amend();
     void setCurrent(const std::string& spell);
     void showPhrasesOf(const std::string& spell);
@@ -119,36 +45,37 @@ private:
     FormContext m_context;
     std::string m_current;      ///< the spell that is being amended; empty if none is
     std::size_t m_spellCount{}; ///< before the change that is being followed
-    SpellsPart* m_spells;
-    PhrasesPart* m_phrases;
+    RowListPart* m_spells;
+    RowListPart* m_phrases;
     QWidget* m_widget;
 };
 
 SpellBookPart::SpellBookPart(const SpellBook& book, const FormContext& context)
     : m_book(book),
       m_context(context),
-      m_spells(new SpellsPart(
-          book, [this] { amend(); }, context)),
-      m_phrases(new PhrasesPart(declaredPhrases(), context)),
+      m_spells(new RowListPart(spellList(book), context,
+                               {.builders = {BuildListToolbar, AddAmendButton},
+                                .activates = "AMEND",
+                                .accept = hasGoodName,
+                                .note = [this] { followSpells(); }})),
+      m_phrases(new RowListPart(phraseList(), context, {.note = [this] { gather(); }})),
       m_widget(new QWidget)
 {
     m_spells->setParent(this);
     m_phrases->setParent(this);
-    connect(m_spells, &FormPart::changed, this, [this] { followSpells(); });
-    connect(m_phrases, &FormPart::changed, this, [this] { gather(); });
+    m_spells->tools().connectButtons(this, {{"AMEND", &SpellBookPart::amend}});
+    m_spells->tools().tool("AMEND").setToolTip("Amend Spell Phrases");
     auto* layout = new QHBoxLayout(m_widget);
     layout->setContentsMargins({});
     layout->addWidget(m_spells->widget(), 3);
     layout->addWidget(m_phrases->widget(), 2);
 }
 
-RowListDeclaration SpellBookPart::declaredPhrases()
+/// Empty if none is selected.
+std::string SpellBookPart::selectedSpell() const
 {
-    RowListDeclaration phrases = phraseList();
-    phrases.load = [this](const SettingsFiles& files, const HubProfiles&) {
-        return m_current.empty() ? std::vector<CellRow>() : loadPhrases(m_book, m_current, files);
-    };
-    return phrases;
+    const int row = m_spells->list().currentRow();
+    return row < 0 ? std::string() : m_spells->rows()[static_cast<std::size_t>(row)].cells[SpellName];
 }
 
 RoutineTable SpellBookPart::routines()
@@ -167,21 +94,23 @@ void SpellBookPart::load()
 
 void SpellBookPart::amend()
 {
-    const std::string spell = m_spells->selected();
+    const std::string spell = selectedSpell();
     if (!spell.empty() && !refuseListedFile(m_widget->window(), "Cannot open file", spell))
         showPhrasesOf(spell);
 }
 
+/// Without a spell there is nothing to add a phrase to.
 void SpellBookPart::setCurrent(const std::string& spell)
 {
     m_current = spell;
-    m_phrases->setSpell(spell);
+    m_phrases->tools().tool("NEW").setEnabled(!spell.empty());
 }
 
 void SpellBookPart::showPhrasesOf(const std::string& spell)
 {
     setCurrent(spell);
-    m_phrases->load();
+    m_phrases->list().setRows(spell.empty() ? std::vector<CellRow>()
+                                            : loadPhrases(m_book, spell, m_context.files));
 }
 
 /// A spell that is renamed while it is amended stays the one that is amended; with a deleted one its phrases
@@ -196,7 +125,7 @@ void SpellBookPart::followSpells()
         if (rows.size() < m_spellCount)
             showPhrasesOf({});
         else
-            setCurrent(m_spells->selected());
+            setCurrent(selectedSpell());
     }
     m_spellCount = rows.size();
     emit changed();
@@ -214,11 +143,6 @@ void SpellBookPart::gather()
 }
 
 } // namespace
-
-std::unique_ptr<FormPart> makeWardsPart(const RowListDeclaration& list, const FormContext& context)
-{
-    return std::make_unique<WardsPart>(list, context);
-}
 
 std::unique_ptr<FormPart> makeSpellBookPart(const SpellBook& book, const FormContext& context)
 {

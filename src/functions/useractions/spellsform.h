@@ -6,11 +6,7 @@
 
 namespace quillfen {
 
-struct RowListDeclaration;
 struct SpellBook;
-
-/// The warded users.
-std::unique_ptr<FormPart> makeWardsPart(const RowListDeclaration& list, const FormContext& context);
 
 /// The spells of a book, and the phrases of the one that is being amended.
 std::unique_ptr<FormPart> makeSpellBookPart(const SpellBook& book, const FormContext& context);

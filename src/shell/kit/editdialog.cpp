@@ -102,7 +102,7 @@ void colourAsRequired(QWidget& input)
 
 EditDialog::EditDialog(const EditRequest& request, QWidget* parent)
     : QDialog(parent),
-      m_mayAdd(request.gEditResult == "A" && !modeOf(request).bNoAdd)
+      m_mayAdd(request.gEditResult == EditResult::Add && !modeOf(request).bNoAdd)
 {
     const Kind& kind = kindOf(request.form);
     setObjectName(kind.name);
@@ -183,8 +183,8 @@ void EditDialog::addButtons()
     cancel->setObjectName("cmdCancel");
     cancel->setText("Cancel");
     m_ok->setDefault(true);
-    connect(m_ok, &QPushButton::clicked, this, [this] { finish("1"); });
-    connect(m_add, &QPushButton::clicked, this, [this] { finish("A"); });
+    connect(m_ok, &QPushButton::clicked, this, [this] { finish(EditResult::Ok); });
+    connect(m_add, &QPushButton::clicked, this, [this] { finish(EditResult::Add); });
     connect(cancel, &QPushButton::clicked, this, [this] {
         m_answer.byCancel = true;
         reject();
@@ -201,7 +201,7 @@ void EditDialog::follow()
     m_add->setEnabled(filled && m_mayAdd);
 }
 
-void EditDialog::finish(const char* result)
+void EditDialog::finish(EditResult result)
 {
     for (const Field& field : m_fields) {
         if (field.required && field.text().empty()) {
@@ -225,10 +225,10 @@ EditAnswer showEditDialog(QWidget* parent, const EditRequest& request)
 void addRows(QWidget* parent, const EditRequest& request,
              const std::function<void(const std::vector<std::string>&)>& take)
 {
-    EditAnswer answer{"A", {}};
-    while (answer.gEditResult == "A") {
+    EditAnswer answer{EditResult::Add};
+    while (answer.gEditResult == EditResult::Add) {
         answer = showEditDialog(parent, request);
-        if (!answer.gEditResult.empty())
+        if (answer.gEditResult != EditResult::None)
             take(answer.gEditValues);
     }
 }

@@ -14,12 +14,22 @@ class QPushButton;
 
 namespace quillfen {
 
+/// What a dialog is called for, Add or Edit, and what came of it: OK, Add, which takes a row and goes on to
+/// the next, or nothing for Cancel and for the closed window.
+enum class EditResult : char
+{
+    None = '\0',
+    Add = 'A',
+    Edit = 'E',
+    Ok = '1',
+};
+
 /// A call of an edit dialog. Fields, labels and results stand in field order, at most four.
 struct EditRequest
 {
     EditForm form;
     std::string title;
-    std::string gEditResult; ///< "A" to add, "E" to edit
+    EditResult gEditResult;
     int gEditMode;
     std::vector<std::string> labels;
     std::vector<std::string> values{};               ///< what the fields start with; empty where missing
@@ -27,12 +37,12 @@ struct EditRequest
     std::vector<std::pair<int, int>> ranges{};       ///< for each number
 };
 
-/// What came of it: "1" for OK, "A" for Add, empty for Cancel and for the closed window.
+/// What came of it.
 struct EditAnswer
 {
-    std::string gEditResult;
-    std::vector<std::string> gEditValues;
-    bool byCancel = false; ///< an empty result came of Cancel, and not of the closed window or Escape
+    EditResult gEditResult = EditResult::None;
+    std::vector<std::string> gEditValues{};
+    bool byCancel = false; ///< no result came of Cancel, and not of the closed window or Escape
 };
 
 /// One of the twelve dialogs that edit a row. It has no idea which list it serves.
@@ -59,7 +69,7 @@ private:
     Field comboField(const EditRequest& request, const std::string& value);
     void addButtons();
     void follow();
-    void finish(const char* result);
+    void finish(EditResult result);
 
     std::vector<Field> m_fields;
     int m_texts = 0; ///< inputs of each kind so far: they are counted apart
@@ -74,7 +84,7 @@ private:
 /// Shows the dialog modally.
 EditAnswer showEditDialog(QWidget* parent, const EditRequest& request);
 
-/// Shows the dialog again and again for as long as its answer is "A", and gives each row that it takes to
+/// Shows the dialog again and again for as long as its answer is Add, and gives each row that it takes to
 /// `take`.
 void addRows(QWidget* parent, const EditRequest& request,
              const std::function<void(const std::vector<std::string>&)>& take);

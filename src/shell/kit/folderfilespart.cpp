@@ -14,35 +14,48 @@
 
 namespace quillfen {
 
-RowFilesPart::RowFilesPart(const RowListDeclaration& declaration, std::string folder,
-                           const FormContext& context)
-    : RowListPart(declaration, context),
+namespace {
+
+RowListHooks withRefusal(RowListHooks hooks, const std::function<std::string(const CellRow&)>& refuse)
+{
+    if (refuse) {
+        hooks.refuse = [refuse, otherwise = hooks.refuse](const CellRow& row) {
+            const std::string reason = refuse(row);
+            return reason.empty() ? otherwise(row) : reason;
+        };
+    }
+    return hooks;
+}
+
+} // namespace
+
+RowListHooks fileHooks(const FormContext& context, const std::string& folder)
+{
+    RowListHooks hooks;
+    hooks.refuse = [](const CellRow& row) {
+        const std::string fault = leavingNameFault(row.cells[0]);
+        return fault.empty() ? fault : row.cells[0] + "\n\n" + fault;
+    };
+    hooks.release = [&files = context.files, folder](QWidget* parent, const CellRow& row) {
+        return attempt(parent, deleting(fromBytes(row.cells[0])),
+                       [&] { files.removeFile(textFileOnDisk(files, folder, row.cells[0])); });
+    };
+    return hooks;
+}
+
+FolderFilesPart::FolderFilesPart(const RowListDeclaration& declaration, std::string folder,
+                                 const FormContext& context,
+                                 const std::function<std::string(const CellRow&)>& refuse)
+    : RowListPart(declaration, context, withRefusal(fileHooks(context, folder), refuse)),
       m_folder(std::move(folder))
 {
 }
 
-std::string RowFilesPart::pathOf(const CellRow& row) const
-{
-    return context().files.realFile(textFile(m_folder, row.cells[0]));
-}
-
-std::string RowFilesPart::refusal(const CellRow& row) const
-{
-    const std::string fault = leavingNameFault(row.cells[0]);
-    return fault.empty() ? RowListPart::refusal(row) : row.cells[0] + "\n\n" + fault;
-}
-
-bool RowFilesPart::mayDelete(const CellRow& row)
-{
-    return attempt(widget(), deleting(fromBytes(row.cells[0])),
-                   [&] { context().files.removeFile(pathOf(row)); });
-}
-
 void FolderFilesPart::load()
 {
-    RowFilesPart::load();
+    RowListPart::load();
     QStringList unlisted;
-    for (const std::string& name : context().files.untoldFileNames(folder()))
+    for (const std::string& name : context().files.untoldFileNames(m_folder))
         unlisted.append(QString::fromStdString(name).simplified());
     emit note(unlisted.isEmpty()
                   ? QString()
@@ -73,12 +86,10 @@ std::string FolderFilesPart::askName()
 void FolderFilesPart::add()
 {
     const std::string name = askName();
-    if (name.empty() || !editTextFile(widget()->window(), context().files, textFile(folder(), name),
+    if (name.empty() || !editTextFile(widget()->window(), context().files, textFile(m_folder, name),
                                       TextEditDialog::Mode::New))
         return;
-    list().append({{name}});
-    list().select(static_cast<int>(rows().size()) - 1);
-    touch();
+    append({{name}});
 }
 
 void FolderFilesPart::edit()
@@ -89,7 +100,8 @@ void FolderFilesPart::edit()
     const CellRow& file = rows()[static_cast<std::size_t>(row)];
     // A table written by hand can hold a name that leads out of the folder.
     if (!refuseListedFile(widget(), "Cannot open file", file.cells[0]))
-        editTextFile(widget()->window(), context().files, pathOf(file));
+        editTextFile(widget()->window(), context().files,
+                     textFileOnDisk(context().files, m_folder, file.cells[0]));
 }
 
 } // namespace quillfen

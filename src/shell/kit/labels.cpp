@@ -37,16 +37,13 @@ QStringList texts(const std::vector<std::string>& bytes)
     return all;
 }
 
-QWidget* listWithToolbar(const QString& label, QWidget* toolbar, QWidget* list)
+QWidget* labelled(const QString& label, QWidget* list)
 {
     auto* widget = new QWidget;
     auto* layout = new QVBoxLayout(widget);
     layout->setContentsMargins({});
     layout->setSpacing(2);
-    if (!label.isEmpty())
-        layout->addWidget(labelFor(label, list));
-    if (toolbar)
-        layout->addWidget(toolbar);
+    layout->addWidget(labelFor(label, list));
     layout->addWidget(list, 1);
     return widget;
 }

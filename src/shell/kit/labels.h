@@ -23,8 +23,7 @@ QString withoutKeys(QString text);
 /// Code page texts as screen texts.
 QStringList texts(const std::vector<std::string>& bytes);
 
-/// A list below its toolbar or toolbars, and both below the list's label; there may be no toolbar, and
-/// without a text there is no label.
-QWidget* listWithToolbar(const QString& label, QWidget* toolbar, QWidget* list);
+/// A list below its label.
+QWidget* labelled(const QString& label, QWidget* list);
 
 } // namespace quillfen

@@ -3,7 +3,7 @@
 #include "shell/kit/codepagetext.h"
 #include "shell/kit/labels.h"
 #include "shell/kit/listview.h"
-#include "shell/kit/toolbars.h"
+#include "shell/kit/toolbarlist.h"
 
 #include <QAbstractTableModel>
 #include <QHeaderView>
@@ -172,19 +172,18 @@ PermissionGridPart::PermissionGridPart(GridSource source, GridWords words, const
       m_context(context),
       m_model(new PermissionModel(m_source, m_words, context.profiles, this)),
       m_list(new ListView(fromBytes(m_words.list))),
-      m_toolbar(new QToolBar),
-      m_widget(listWithToolbar(QString(), m_toolbar, m_list))
+      m_tools(new ToolbarList(m_list, {fromBytes(m_words.toolbar), "Permissions"}, {AddEditButton}, context))
 {
     m_list->setModel(m_model);
-    m_list->setAccessibleName("Permissions");
     fitColumns();
     for (int column = 4; column < m_model->columnCount(); ++column)
         m_list->setColumnHidden(column, true);
-    buildToolbar();
+    m_tools->connectButtons(this, {{"EDIT", &PermissionGridPart::toggle}});
+    if (m_words.filters)
+        addFilters();
     m_list->setDoubleClickEdits(!m_words.clickToggles);
     if (m_words.clickToggles)
         connect(m_list, &QTreeView::clicked, this, &PermissionGridPart::toggle);
-    connect(m_list, &ListView::editAsked, this, &PermissionGridPart::toggle);
     connect(m_list, &ListView::menuAsked, this, &PermissionGridPart::showMenu);
 }
 
@@ -210,15 +209,14 @@ void PermissionGridPart::fitColumns()
     m_list->setColumnWidths(widths);
 }
 
-void PermissionGridPart::buildToolbar()
+QWidget* PermissionGridPart::widget()
 {
-    m_toolbar->setObjectName(fromBytes(m_words.toolbar));
-    m_toolbar->setIconSize({16, 16});
-    int index = 0;
-    AddEditButton(*m_toolbar, index);
-    connectButton(*m_toolbar, "EDIT", this, &PermissionGridPart::toggle);
-    if (!m_words.filters)
-        return;
+    return m_tools;
+}
+
+void PermissionGridPart::addFilters()
+{
+    int index = static_cast<int>(m_tools->toolbar().actions().size());
     auto* commands =
         addFilter(index, fromBytes(m_words.commandFilter), fromBytes(m_words.commandFilterTip), "command");
     for (const std::string& command : m_source.commands) {
@@ -235,11 +233,11 @@ void PermissionGridPart::buildToolbar()
 QAction* PermissionGridPart::addFilter(int& index, const QString& key, const QString& toolTip,
                                        const QString& icon)
 {
-    auto* filter = addButton(*m_toolbar, index, key, toolTip, icon);
+    QToolBar& toolbar = m_tools->toolbar();
+    auto* filter = addButton(toolbar, index, key, toolTip, icon);
     filter->setCheckable(true);
-    filter->setMenu(new QMenu(m_toolbar));
-    qobject_cast<QToolButton*>(m_toolbar->widgetForAction(filter))
-        ->setPopupMode(QToolButton::MenuButtonPopup);
+    filter->setMenu(new QMenu(&toolbar));
+    qobject_cast<QToolButton*>(toolbar.widgetForAction(filter))->setPopupMode(QToolButton::MenuButtonPopup);
     connect(filter, &QAction::triggered, this, [this, filter] { release(filter); });
     connect(filter->menu(), &QMenu::triggered, this,
             [this, filter](const QAction* entry) { choose(filter, entry->objectName()); });
@@ -270,12 +268,22 @@ void PermissionGridPart::release(QAction* filter)
 
 void PermissionGridPart::load()
 {
-    m_model->setCells(m_source.load(m_context.files, m_context.profiles));
+    show(m_source.load(m_context.files, m_context.profiles));
 }
 
 void PermissionGridPart::save()
 {
-    m_source.save(m_model->cells(), m_context.files, m_context.profiles);
+    m_source.save(cells(), m_context.files, m_context.profiles);
+}
+
+void PermissionGridPart::show(std::vector<PermissionCell> cells)
+{
+    m_model->setCells(std::move(cells));
+}
+
+const std::vector<PermissionCell>& PermissionGridPart::cells() const
+{
+    return m_model->cells();
 }
 
 RoutineTable PermissionGridPart::routines()

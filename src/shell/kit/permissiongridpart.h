@@ -5,12 +5,12 @@
 #include "shell/kit/formpart.h"
 
 class QAction;
-class QToolBar;
 
 namespace quillfen {
 
 class ListView;
 class PermissionModel;
+class ToolbarList;
 
 /// A permission grid: one row per command, acting profile and target profile, toggled between yes and no, and
 /// filtered by command and by acting profile. What a filter hides is saved all the same.
@@ -22,14 +22,20 @@ public:
     PermissionGridPart(GridSource source, GridWords words, const FormContext& context);
     PermissionGridPart(const PermissionGrid& grid, GridWords words, const FormContext& context);
 
-    QWidget* widget() override { return m_widget; }
+    QWidget* widget() override;
     void load() override;
     void restore() override {} ///< grids have no defaults
     void save() override;
     RoutineTable routines() override;
 
+    /// For a part that has the grid's cells from a file of its own.
+    void show(std::vector<PermissionCell> cells);
+    const std::vector<PermissionCell>& cells() const;
+
+    ToolbarList& tools() const { return *m_tools; }
+
 private:
-    void buildToolbar();
+    void addFilters();
     QAction* addFilter(int& index, const QString& key, const QString& toolTip, const QString& icon);
     void choose(QAction* filter, const QString& entry);
     void release(QAction* filter);
@@ -42,8 +48,7 @@ private:
     FormContext m_context;
     PermissionModel* m_model;
     ListView* m_list;
-    QToolBar* m_toolbar;
-    QWidget* m_widget;
+    ToolbarList* m_tools;
 };
 
 } // namespace quillfen

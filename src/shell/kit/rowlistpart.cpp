@@ -1,14 +1,12 @@
 #include "shell/kit/rowlistpart.h"
 
 #include "shell/kit/codepagetext.h"
-#include "shell/kit/editdialog.h"
 #include "shell/kit/labels.h"
 #include "shell/kit/messages.h"
 #include "shell/kit/rowlist.h"
-#include "shell/kit/toolbars.h"
+#include "shell/kit/toolbarlist.h"
 
 #include <QGridLayout>
-#include <QHBoxLayout>
 
 #include <algorithm>
 
@@ -17,7 +15,7 @@ namespace {
 
 EditRequest requestOf(const RowDialog& dialog)
 {
-    EditRequest request{dialog.form, dialog.addTitle, "A",
+    EditRequest request{dialog.form, dialog.addTitle, EditResult::Add,
                         dialog.addMode.value_or(habitualAddMode(dialog.form)), dialog.labels};
     request.entries = dialog.entries;
     request.ranges = dialog.ranges;
@@ -25,55 +23,67 @@ EditRequest requestOf(const RowDialog& dialog)
     return request;
 }
 
+ToolbarListNames namesOf(const RowListDeclaration& list, const RowListHooks& hooks)
+{
+    const std::string& told = list.label.empty() ? list.columns.front() : list.label;
+    return {fromBytes(list.toolbar), fromBytes(told), fromBytes(list.label), fromBytes(list.menu),
+            hooks.activates};
+}
+
+std::vector<ToolbarBuilder> buildersOf(const RowListDeclaration& list, const RowListHooks& hooks)
+{
+    if (!hooks.builders.empty())
+        return hooks.builders;
+    return {list.dialog.addTitle.empty() ? AddEditButton : BuildListToolbar};
+}
+
 } // namespace
 
-RowListPart::RowListPart(RowListDeclaration declaration, const FormContext& context)
+RowListPart::RowListPart(RowListDeclaration declaration, const FormContext& context, RowListHooks hooks)
     : m_declaration(std::move(declaration)),
       m_context(context),
+      m_hooks(std::move(hooks)),
       m_list(new RowList(fromBytes(m_declaration.list), texts(m_declaration.columns), m_declaration.ticks)),
-      m_toolbar(new QToolBar),
-      m_movement(m_declaration.movement.empty() ? nullptr : new QToolBar),
-      m_widget(placed())
+      m_tools(new ToolbarList(m_list, namesOf(m_declaration, m_hooks), buildersOf(m_declaration, m_hooks),
+                              context)),
+      m_movement(m_declaration.movement.empty()
+                     ? nullptr
+                     : smallToolbar(fromBytes(m_declaration.movement), {BuildMovementToolbar}))
 {
     const int columns = static_cast<int>(m_declaration.columns.size());
     for (int hidden = 1; hidden <= m_declaration.hiddenColumns; ++hidden)
         m_list->setColumnHidden(columns - hidden, true);
-    buildToolbar();
+    tellInToolTips();
+    if (!m_declaration.remark.empty())
+        m_tools->addRemark(fromBytes(m_declaration.remark));
     if (m_movement)
         buildMovement();
+    m_tools->connectButtons(
+        this,
+        {{"NEW", &RowListPart::add}, {"EDIT", &RowListPart::edit}, {"DELETE", &RowListPart::removeSelected}});
     connect(m_list, &RowList::tickChanged, this, &FormPart::changed);
-    connect(m_list, &RowList::countChanged, this, [this] { followRows(); });
-    connect(m_list, &RowList::editAsked, this, [this] { activate(); });
-    connect(m_list, &RowList::deleteAsked, this, &RowListPart::removeSelected);
-    connect(m_list, &RowList::menuAsked, this,
-            [this](const QPoint& at) { m_context.showMenu(fromBytes(m_declaration.menu), at); });
-    RowListPart::followRows();
+    if (m_hooks.rowsLightButtons)
+        m_tools->letRowsLightButtons();
 }
 
-void RowListPart::buildToolbar()
+QWidget* RowListPart::widget()
 {
-    m_toolbar->setObjectName(fromBytes(m_declaration.toolbar));
-    m_toolbar->setIconSize({16, 16});
-    int index = 0;
-    if (m_declaration.dialog.addTitle.empty())
-        AddEditButton(*m_toolbar, index);
-    else
-        BuildListToolbar(*m_toolbar, index);
-    for (std::size_t place = 0; place < m_declaration.toolTips.size(); ++place)
-        m_toolbar->actions()
-            .at(static_cast<int>(place))
-            ->setToolTip(fromBytes(m_declaration.toolTips[place]));
-    connectButton(*m_toolbar, "NEW", this, &RowListPart::add);
-    connectButton(*m_toolbar, "EDIT", this, &RowListPart::edit);
-    connectButton(*m_toolbar, "DELETE", this, &RowListPart::removeSelected);
+    return m_tools;
+}
+
+void RowListPart::tellInToolTips()
+{
+    std::size_t place = 0;
+    for (const char* key : {"NEW", "DELETE", "EDIT"}) {
+        auto* action = button(m_tools->toolbar(), key);
+        if (action && place < m_declaration.toolTips.size())
+            action->setToolTip(fromBytes(m_declaration.toolTips[place++]));
+    }
 }
 
 void RowListPart::buildMovement()
 {
-    m_movement->setObjectName(fromBytes(m_declaration.movement));
-    m_movement->setIconSize({16, 16});
-    int index = 0;
-    BuildMovementToolbar(*m_movement, index);
+    m_tools->addToolbar(m_movement);
     m_list->addActions(m_movement->actions());
     m_list->setSelectsFirst(false); // the buttons tell by their states whether a row is selected
     connectButton(*m_movement, "MoveTop", this, [this] { moveSelected(0); });
@@ -85,21 +95,6 @@ void RowListPart::buildMovement()
             &RowListPart::followSelection);
     connect(m_list, &RowList::countChanged, this, &RowListPart::followSelection);
     followSelection();
-}
-
-QWidget* RowListPart::placed()
-{
-    const QString label = fromBytes(m_declaration.label);
-    m_list->setAccessibleName(label.isEmpty() ? fromBytes(m_declaration.columns.front()) : label);
-    if (!m_movement)
-        return listWithToolbar(label, m_toolbar, m_list);
-    auto* toolbars = new QWidget;
-    auto* layout = new QHBoxLayout(toolbars);
-    layout->setContentsMargins({});
-    layout->addWidget(m_toolbar);
-    layout->addWidget(m_movement);
-    layout->addStretch();
-    return listWithToolbar(label, toolbars, m_list);
 }
 
 void RowListPart::load()
@@ -120,83 +115,120 @@ void RowListPart::save()
 
 RoutineTable RowListPart::routines()
 {
-    return buttonRoutines(fromBytes(m_declaration.menu), *m_toolbar);
+    return m_tools->routines();
 }
 
-bool RowListPart::isLit(const char* key) const
+RowDialog RowListPart::dialog() const
 {
-    const auto* action = button(*m_toolbar, key);
-    return action && action->isEnabled();
+    return m_hooks.offer ? m_hooks.offer(m_declaration.dialog) : m_declaration.dialog;
 }
 
 void RowListPart::add()
 {
-    if (!isLit("NEW"))
-        return;
-    addRows(m_list, requestOf(dialog()), [this](const std::vector<std::string>& values) {
-        CellRow row{std::vector<std::string>(std::max(m_declaration.columns.size(), values.size()))};
-        if (m_declaration.take)
-            m_declaration.take(values, row);
-        else
-            std::copy(values.begin(), values.end(), row.cells.begin());
-        if (!mayAdd(row))
-            return;
-        m_list->append(std::move(row));
-        m_list->select(static_cast<int>(m_list->rows().size()) - 1);
-        touch();
+    addRows(m_list, requestOf(dialog()), [this](const std::vector<std::string>& fields) {
+        const CellRow empty{std::vector<std::string>(std::max(m_declaration.columns.size(), fields.size()))};
+        CellRow row = taken(fields, empty);
+        if (mayTake(row, nullptr))
+            append(std::move(row));
     });
+}
+
+void RowListPart::append(CellRow row)
+{
+    m_list->append(std::move(row));
+    m_list->select(static_cast<int>(m_list->rows().size()) - 1);
+    touch();
 }
 
 void RowListPart::edit()
 {
-    const int at = m_list->currentRow();
-    if (at < 0 || !isLit("EDIT"))
-        return;
-    CellRow row = m_list->rows()[static_cast<std::size_t>(at)];
+    if (m_list->currentRow() >= 0)
+        editRow(m_list->currentRow());
+}
+
+EditAnswer RowListPart::editRow(int at)
+{
+    const CellRow before = m_list->rows()[static_cast<std::size_t>(at)];
+    for (;;) {
+        EditAnswer answer = showEditDialog(m_list, editRequest(before));
+        if (answer.gEditResult != EditResult::Ok)
+            return answer;
+        CellRow row = taken(answer.gEditValues, before);
+        if (mayTake(row, &before)) {
+            m_list->replace(at, std::move(row));
+            touch();
+        } else if (m_declaration.asksAgain) {
+            continue;
+        }
+        return answer;
+    }
+}
+
+EditRequest RowListPart::editRequest(const CellRow& row) const
+{
     const RowDialog offered = m_declaration.dialogOf ? m_declaration.dialogOf(row) : dialog();
     EditRequest request = requestOf(offered);
-    request.gEditResult = "E";
+    request.gEditResult = EditResult::Edit;
     request.gEditMode = offered.editMode.value_or(habitualEditMode(offered.form));
     request.title = m_declaration.editTitleOf ? m_declaration.editTitleOf(row) : offered.editTitle;
     if (m_declaration.labelsOf)
         request.labels = m_declaration.labelsOf(row);
     request.values = m_declaration.fieldsOf ? m_declaration.fieldsOf(row) : row.cells;
+    return request;
+}
 
-    const EditAnswer answer = showEditDialog(m_list, request);
-    if (answer.gEditResult != "1")
-        return;
+/// The row with what was typed into the fields.
+CellRow RowListPart::taken(const std::vector<std::string>& fields, CellRow row) const
+{
     if (m_declaration.take)
-        m_declaration.take(answer.gEditValues, row);
+        m_declaration.take(fields, row);
     else
-        std::copy(answer.gEditValues.begin(), answer.gEditValues.end(), row.cells.begin());
-    if (!mayTake(row))
-        return;
-    m_list->replace(at, std::move(row));
-    touch();
+        std::copy(fields.begin(), fields.end(), row.cells.begin());
+    return row;
+}
+
+bool RowListPart::mayTake(const CellRow& row, const CellRow* before)
+{
+    const auto refused = m_declaration.refusal ? m_declaration.refusal(rows(), row, before) : std::nullopt;
+    if (refused) {
+        notify(m_list, fromBytes(refused->title), fromBytes(refused->text), QMessageBox::Warning);
+        return false;
+    }
+    return !m_hooks.accept || m_hooks.accept(m_list, row, before);
+}
+
+void RowListPart::touch()
+{
+    if (m_hooks.note)
+        m_hooks.note();
+    else
+        emit changed();
 }
 
 void RowListPart::removeSelected()
 {
     const bool isOnly = m_list->rows().size() == 1; // then it is clear which, also when none is selected
     const int at = isOnly ? 0 : m_list->currentRow();
-    if (at < 0 || !isLit("DELETE"))
-        return;
-    const CellRow& row = m_list->rows()[static_cast<std::size_t>(at)];
-    const std::string refused = refusal(row);
-    if (!refused.empty()) {
-        notify(m_list, "Cannot delete", fromBytes(refused), QMessageBox::Critical);
-        return;
-    }
-    const DeleteWords& words = m_declaration.deletion;
-    if (!confirm(m_list, fromBytes(words.title), fromBytes(words.text)) || !mayDelete(row))
+    if (at < 0 || !mayDelete(m_list->rows()[static_cast<std::size_t>(at)]))
         return;
     m_list->remove(at);
+    if (m_declaration.selectsFirst)
+        m_list->select(0);
     touch();
 }
 
-std::string RowListPart::refusal(const CellRow& /*row*/) const
+bool RowListPart::mayDelete(const CellRow& row)
 {
-    return m_list->rows().size() == 1 ? m_declaration.deletion.minimum : std::string();
+    const DeleteWords& words = m_declaration.deletion;
+    std::string refused = m_hooks.refuse ? m_hooks.refuse(row) : std::string();
+    if (refused.empty() && m_list->rows().size() == 1)
+        refused = words.minimum;
+    if (!refused.empty()) {
+        notify(m_list, "Cannot delete", fromBytes(refused), QMessageBox::Critical);
+        return false;
+    }
+    return confirm(m_list, fromBytes(words.title), fromBytes(words.text)) &&
+           (!m_hooks.release || m_hooks.release(m_list, row));
 }
 
 void RowListPart::moveSelected(int place)
@@ -215,14 +247,6 @@ void RowListPart::followSelection()
         button(*m_movement, key)->setEnabled(row > 0);
     for (const char* key : {"MoveDown", "MoveBottom"})
         button(*m_movement, key)->setEnabled(row >= 0 && row < last);
-}
-
-void RowListPart::followRows()
-{
-    for (const char* key : {"DELETE", "EDIT", "AMEND"}) {
-        if (auto* action = button(*m_toolbar, key))
-            action->setEnabled(!m_list->isEmpty());
-    }
 }
 
 const std::vector<CellRow>& RowListPart::rows() const

@@ -1,14 +1,43 @@
 #pragma once
 
 #include "declarations/listdeclaration.h"
+#include "shell/kit/editdialog.h"
 #include "shell/kit/formpart.h"
-
-class QAction;
-class QToolBar;
+#include "shell/kit/toolbars.h"
 
 namespace quillfen {
 
 class RowList;
+class ToolbarList;
+
+/// What a form adds to a declared list where a window, a file or another list takes part.
+struct RowListHooks
+{
+    /// The toolbar; without builders it has NEW, DELETE and EDIT, or EDIT alone where rows are not added.
+    std::vector<ToolbarBuilder> builders{};
+
+    /// The button that a double click on a row presses.
+    QString activates = "EDIT";
+
+    /// Off where the buttons don't follow whether there are rows.
+    bool rowsLightButtons = true;
+
+    /// The dialog as it is offered at this moment.
+    std::function<RowDialog(RowDialog)> offer{};
+
+    /// Whether a row is taken after all; `before` is the row that was edited, null where one is added. Boxes
+    /// and dialogs show over `parent`.
+    std::function<bool(QWidget* parent, const CellRow& row, const CellRow* before)> accept{};
+
+    /// Why a row can't go, told before anything is asked; empty if it can.
+    std::function<std::string(const CellRow&)> refuse{};
+
+    /// Lets go what belongs to a row; false leaves the row in the list.
+    std::function<bool(QWidget* parent, const CellRow& row)> release{};
+
+    /// A row came, went, moved or changed; without this the form is dirty.
+    std::function<void()> note{};
+};
 
 /// A declared list: its rows, its toolbar of NEW, DELETE and EDIT, its dialog and its questions.
 class RowListPart : public FormPart
@@ -16,63 +45,50 @@ class RowListPart : public FormPart
     Q_OBJECT
 
 public:
-    RowListPart(RowListDeclaration declaration, const FormContext& context);
+    RowListPart(RowListDeclaration declaration, const FormContext& context, RowListHooks hooks = {});
 
-    QWidget* widget() override { return m_widget; }
+    QWidget* widget() override;
     void load() override;
     void restore() override;
     void save() override;
     RoutineTable routines() override;
 
     const std::vector<CellRow>& rows() const;
+    RowList& list() const { return *m_list; }
+    ToolbarList& tools() const { return *m_tools; }
+
+    /// Shows a row's dialog, and takes what it answers.
+    EditAnswer editRow(int at);
 
 protected:
-    /// The dialog as it is offered at this moment.
-    virtual RowDialog dialog() const { return m_declaration.dialog; }
-
-    /// Why a row can't go, told before anything is asked; empty if it can.
-    virtual std::string refusal(const CellRow& row) const;
-
-    /// What a form does before an added or edited row is taken, and before a row goes; false leaves the list
-    /// as it is.
-    virtual bool mayTake(const CellRow& /*row*/) { return true; }
-    virtual bool mayDelete(const CellRow& /*row*/) { return true; }
-
-    /// The same for an added row alone.
-    virtual bool mayAdd(const CellRow& row) { return mayTake(row); }
-
-    /// What a row's coming, going or change means to the form: it is dirty.
-    virtual void touch() { emit changed(); }
-
-    /// What a double click on a row does.
-    virtual void activate() { edit(); }
-
     virtual void add();
     virtual void edit();
 
     const RowListDeclaration& declaration() const { return m_declaration; }
     const FormContext& context() const { return m_context; }
-    RowList& list() const { return *m_list; }
-    QToolBar& toolbar() const { return *m_toolbar; }
 
-    /// Lets the buttons that need a row follow whether there is one.
-    virtual void followRows();
+    /// Puts a row behind the others.
+    void append(CellRow row);
 
 private:
-    void buildToolbar();
     void buildMovement();
-    QWidget* placed();
+    void tellInToolTips();
     void removeSelected();
-    bool isLit(const char* key) const; ///< menus, keys and double clicks do no more than the buttons
     void moveSelected(int place);
     void followSelection();
+    RowDialog dialog() const;
+    EditRequest editRequest(const CellRow& row) const;
+    CellRow taken(const std::vector<std::string>& fields, CellRow row) const;
+    bool mayTake(const CellRow& row, const CellRow* before);
+    bool mayDelete(const CellRow& row);
+    void touch();
 
     RowListDeclaration m_declaration;
     FormContext m_context;
+    RowListHooks m_hooks;
     RowList* m_list;
-    QToolBar* m_toolbar;
+    ToolbarList* m_tools;
     QToolBar* m_movement; ///< null where rows keep their places
-    QWidget* m_widget;
 };
 
 /// Declared lists side by side that are saved together.

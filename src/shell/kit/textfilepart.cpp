@@ -9,13 +9,9 @@ namespace quillfen {
 TextFilePart::TextFilePart(const DeclaredText& text, const FormContext& context)
     : m_path(text.path),
       m_context(context),
-      m_toolbar(new QToolBar)
+      m_toolbar(smallToolbar(fromBytes(text.toolbar), {AddEditButton}))
 {
-    m_toolbar->setObjectName(fromBytes(text.toolbar));
-    m_toolbar->setIconSize({16, 16});
     m_toolbar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-    int index = 0;
-    AddEditButton(*m_toolbar, index);
     auto* action = button(*m_toolbar, "EDIT");
     action->setText(fromBytes(text.caption));
     action->setToolTip("Edit"); // the text beside the icon tells what is edited

@@ -12,7 +12,7 @@ TickListPart::TickListPart(TickList ticks, const FormContext& context)
       m_list(new RowList(fromBytes(m_ticks.control),
                          m_ticks.label.empty() ? QStringList(fromBytes(m_ticks.caption)) : QStringList(),
                          true)),
-      m_widget(m_ticks.label.empty() ? m_list : listWithToolbar(fromBytes(m_ticks.label), nullptr, m_list))
+      m_widget(m_ticks.label.empty() ? m_list : labelled(fromBytes(m_ticks.label), m_list))
 {
     m_list->setAccessibleName(fromBytes(m_ticks.label.empty() ? m_ticks.caption : m_ticks.label));
     connect(m_list, &RowList::tickChanged, this, &FormPart::changed);

@@ -72,6 +72,22 @@ void orderTab(const QToolBar& toolbar)
 
 } // namespace
 
+QToolBar* smallToolbar(const QString& name, const std::vector<ToolbarBuilder>& builders)
+{
+    auto* toolbar = new QToolBar;
+    toolbar->setObjectName(name);
+    toolbar->setIconSize({16, 16});
+    addButtons(*toolbar, builders);
+    return toolbar;
+}
+
+void addButtons(QToolBar& toolbar, const std::vector<ToolbarBuilder>& builders)
+{
+    int index = 0;
+    for (const ToolbarBuilder build : builders)
+        build(toolbar, index);
+}
+
 QAction* addButton(QToolBar& toolbar, int& index, const QString& key, const QString& toolTip,
                    const QString& icon)
 {
@@ -224,7 +240,6 @@ void ConfirmDiscard(QTreeView& list, QToolBar& toolbar, bool& bDiscardNow)
     if (!bDiscardNow)
         return;
     list.model()->removeRows(0, list.model()->rowCount());
-    list.setProperty("tag", QString());
     const auto buttons = toolbar.actions();
     for (int at = 0; at < 5; ++at)
         buttons.at(at)->setEnabled(at == 0);

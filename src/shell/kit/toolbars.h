@@ -4,6 +4,8 @@
 #include <QString>
 #include <QToolBar>
 
+#include <vector>
+
 class QStatusBar;
 class QTreeView;
 class QWidget;
@@ -12,6 +14,8 @@ namespace quillfen {
 
 /// The builders put their buttons in at a running index, which they move on behind what they added. A button
 /// is a QAction whose object name is its key.
+using ToolbarBuilder = void (*)(QToolBar& toolbar, int& index);
+
 void BuildFormToolbar(QToolBar& toolbar, int& index);
 void AddDeleteButton(QToolBar& toolbar, int& index);
 void AddEditButton(QToolBar& toolbar, int& index);
@@ -24,6 +28,13 @@ void BuildFileEditToolbar(QToolBar& toolbar, int& index);
 /// The buttons that move a list's selected row: "MoveTop", "MoveUp", "MoveDown", "MoveBottom". Their keys
 /// (Alt and Home, Up, Down, End) work in the widgets that they are added to.
 void BuildMovementToolbar(QToolBar& toolbar, int& index);
+
+/// A toolbar of that name with what the builders put in, one behind the other, as lists and single controls
+/// have it. The caller owns it.
+QToolBar* smallToolbar(const QString& name, const std::vector<ToolbarBuilder>& builders);
+
+/// Puts in what the builders put in, one behind the other.
+void addButtons(QToolBar& toolbar, const std::vector<ToolbarBuilder>& builders);
 
 /// One button by its key; the icon is the one of that name.
 QAction* addButton(QToolBar& toolbar, int& index, const QString& key, const QString& toolTip,
@@ -58,8 +69,8 @@ bool SetControlsClean(QToolBar& toolbar, QStatusBar& statusBar);
 /// Lays out a form's status bar with its two panels.
 void PlaceChildForm(QStatusBar& statusBar);
 
-/// Leaves one open list file: asks unless bDiscardNow is set, and sets it on OK. Then the list and its tag
-/// (the file's name) are emptied, button 1 lights and buttons 2 to 5 go out.
+/// Leaves one open list file: asks unless bDiscardNow is set, and sets it on OK. Then the list is
+/// emptied, button 1 lights and buttons 2 to 5 go out.
 void ConfirmDiscard(QTreeView& list, QToolBar& toolbar, bool& bDiscardNow);
 
 } // namespace quillfen

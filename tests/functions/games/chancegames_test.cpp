@@ -151,12 +151,22 @@ TEST_F(ChanceGames, ScoreClearersAreSavedByBeingThere)
     EXPECT_EQ(hub.file(clearers), "tScoreClearers = {\r\n}\r\n");
 }
 
-TEST_F(ChanceGames, AClearerIsKnownInAnyCase)
+TEST_F(ChanceGames, AClearerIsNotAddedTwiceInAnyCase)
 {
-    EXPECT_TRUE(isClearer({{{"Quill"}}}, "qUILL"));
-    EXPECT_TRUE(isClearer({{{"\xC4rger"}}}, "\xE4RGER"));
-    EXPECT_FALSE(isClearer({{{"Quill"}}}, "Quil"));
-    EXPECT_FALSE(isClearer({}, ""));
+    const auto refusal = [](const std::vector<CellRow>& rows, const char* nick) {
+        const auto refused = scoreClearers().refusal(rows, {{nick}}, nullptr);
+        return refused ? refused->title + "|" + refused->text : std::string();
+    };
+    EXPECT_EQ(refusal({{{"Quill"}}}, "qUILL"), "Duplicate user|Duplicate users are not permitted");
+    EXPECT_NE(refusal({{{"\xC4rger"}}}, "\xE4RGER"), "");
+    EXPECT_EQ(refusal({{{"Quill"}}}, "Quil"), "");
+    EXPECT_EQ(refusal({}, ""), "");
+}
+
+TEST_F(ChanceGames, AnEditedClearerIsNotLookedAt)
+{
+    const std::vector<CellRow> rows = {{{"Quill"}}, {{"Fen"}}};
+    EXPECT_FALSE(scoreClearers().refusal(rows, {{"Quill"}}, &rows[1]));
 }
 
 } // namespace

@@ -100,6 +100,18 @@ TEST_F(Numbers, AListOfOneRowIsSavedWithoutAnAsterisk)
     EXPECT_EQ(list, "A:one\r\n");
 }
 
+TEST_F(Numbers, ACalculationIsRefusedForLettersInItsFirstNumberAlone)
+{
+    const RowListDeclaration& declared = numbersCalculationList();
+    const CellRow before{{"+", "0", "1", "0", "1"}};
+    const auto refused = declared.refusal({before}, {{"+", "x", "1", "0", "1"}}, &before);
+    ASSERT_TRUE(refused);
+    EXPECT_EQ(refused->title, "Invalid Entry");
+    EXPECT_EQ(refused->text, "Invalid Entry: Integers required in all fields");
+    EXPECT_TRUE(declared.asksAgain);
+    EXPECT_FALSE(declared.refusal({before}, {{"+", "1.5", "x", "y", "z"}}, &before));
+}
+
 TEST_F(Numbers, ACalculationIsFourNumbersJoinedByCommas)
 {
     EXPECT_EQ(calculationRow("+", "1,2,3,4"), (CellRow{{"+", "1", "2", "3", "4"}}));

@@ -308,7 +308,6 @@ TEST_F(TriviaQuestions, EditAsksAndLoadsTheFile)
     EXPECT_EQ(boxes[0].text, "Loading the question file may take some time. Do you wish to proceed?");
     EXPECT_EQ(boxes[0].buttons, QMessageBox::Ok | QMessageBox::Cancel);
     EXPECT_EQ(shown(questions(form)), (QStringList{"Zoo:Big cat?|lion", "Zoo:Long neck?|giraffe"}));
-    EXPECT_EQ(questions(form).property("tag").toString(), "zoo");
     EXPECT_EQ(lit(form), "01111");
     EXPECT_FALSE(isDirty(form));
     const auto again = answering(QMessageBox::Ok, [&form] { doubleClickRow(files(form), 0); });
@@ -323,7 +322,6 @@ TEST_F(TriviaQuestions, CancellingTheLoadLeavesTheListClearedAndASaveEmptiesTheF
     load(form, "zoo");
     load(form, "music", QMessageBox::Cancel);
     EXPECT_TRUE(questions(form).isEmpty());
-    EXPECT_EQ(questions(form).property("tag").toString(), "");
     EXPECT_EQ(lit(form), "10000");
     tool(form, "SAVE").trigger();
     EXPECT_EQ(lst("music"), "\r\n"); // the selected one
@@ -419,7 +417,6 @@ TEST_F(TriviaQuestions, ClosingAFileAsksAndClearsItsList)
     EXPECT_EQ(lit(form), "01111"); // SAVE goes off also after Cancel
     answering(QMessageBox::Ok, [&form] { tool(form, "CLOSE").trigger(); });
     EXPECT_TRUE(questions(form).isEmpty());
-    EXPECT_EQ(questions(form).property("tag").toString(), "");
     EXPECT_EQ(lit(form), "00000");
 }
 
@@ -437,7 +434,6 @@ TEST_F(TriviaQuestions, ANewFileIsWrittenAtOnceInLowerCase)
     EXPECT_TRUE(shown(files(form)).contains("foo"));
     EXPECT_TRUE(lst("foo").starts_with("Literature:"));
     EXPECT_TRUE(questions(form).isEmpty());
-    EXPECT_EQ(questions(form).property("tag").toString(), "foo");
     EXPECT_EQ(lit(form), "00110");
     EXPECT_TRUE(isDirty(form));
 }
@@ -450,7 +446,6 @@ TEST_F(TriviaQuestions, ANewFileLeavesALoadedListInSightOfWhichNoQuestionGoes)
     const QStringList loaded = shown(questions(form));
     newFile(form, "foo");
     EXPECT_EQ(shown(questions(form)), loaded);
-    EXPECT_EQ(questions(form).property("tag").toString(), "foo");
     EXPECT_EQ(lit(form), "10110"); // SAVE as it stood
     clickRow(questions(form), 0);
     EXPECT_TRUE(
@@ -598,7 +593,6 @@ TEST_F(TriviaQuestions, ADiscardReadsTheFilesAgainAndClosesTheOpenOne)
     EXPECT_EQ(shown(files(form)), (QStringList{"music", "trivia", "zoo"}));
     EXPECT_EQ(preset(form).count(), 3);
     EXPECT_TRUE(questions(form).isEmpty());
-    EXPECT_EQ(questions(form).property("tag").toString(), "");
     EXPECT_EQ(lit(form), "00000");
     EXPECT_FALSE(isDirty(form));
 }

@@ -193,7 +193,6 @@ TEST_P(LanguageForms, ADoubleClickLaysALanguageOverTheReference)
     doubleClickRow(files(form), rowOf(files(form), "german"));
     EXPECT_EQ(shown(texts(form)), (QStringList{"sHelp|help", "sKick|tritt"}));
     EXPECT_EQ(texts(form).currentRow(), 0);
-    EXPECT_EQ(texts(form).property("tag").toString(), "GERMAN");
     EXPECT_EQ(lit(form), (QStringList{"CLOSE", "EDIT", "EDITALL"}));
     EXPECT_TRUE(texts(form).isEnabled());
     EXPECT_FALSE(isDirty(form));
@@ -313,7 +312,6 @@ TEST_P(LanguageForms, OneLanguageIsEditedAtATime)
     ASSERT_EQ(boxes.size(), 1);
     EXPECT_EQ(boxes[0].title, "Cannot Edit");
     EXPECT_EQ(boxes[0].text, "There is already a file being edited");
-    EXPECT_EQ(texts(form).property("tag").toString(), "GERMAN");
     files(form).clearSelection();
     EXPECT_EQ(answering(QMessageBox::Ok, [&form] { fileTool(form, "EDIT").trigger(); }).value(0).title,
               "Cannot Edit");
@@ -328,7 +326,6 @@ TEST_P(LanguageForms, ALanguageThatLeadsOutOfItsFolderIsNotOpened)
     EXPECT_EQ(boxes[0].title, "Cannot open file");
     EXPECT_TRUE(texts(form).isEmpty());
     edit(form, "con"); // a bad name that stays there
-    EXPECT_EQ(texts(form).property("tag").toString(), "CON");
 }
 
 TEST_P(LanguageForms, ClosingALanguageAsksAndACancelLeavesItOpen)
@@ -353,7 +350,6 @@ TEST_P(LanguageForms, ANewLanguageStartsWithTheReferencesTextsAndKeepsItsNameAsT
     auto& form = openForm();
     newLanguage(form, "French");
     EXPECT_EQ(shown(texts(form)), (QStringList{"sHelp|help", "sKick|kick"}));
-    EXPECT_EQ(texts(form).property("tag").toString(), "French");
     EXPECT_EQ(texts(form).currentRow(), 0);
     EXPECT_FALSE(hasFile("French"));
     typing({"aide"}, [&form] { textTool(form, "EDIT").trigger(); });
@@ -507,12 +503,10 @@ TEST_P(LanguageForms, TheLanguagesMenuServesThem)
     window().popUpMenu("mnuFirst")->hide();
     clickRow(files(form), rowOf(files(form), "german"));
     find<QAction>(window(), "mnuFirstEdit").trigger();
-    EXPECT_EQ(texts(form).property("tag").toString(), "GERMAN");
     answering(QMessageBox::Yes, [this] { find<QAction>(window(), "mnuFirstDelete").trigger(); });
     EXPECT_EQ(shown(files(form)), QStringList{"DEFAULT"});
     test::withModal([this] { find<QAction>(window(), "mnuFirstAdd").trigger(); },
                     [](QWidget& modal) { test::typeInto(modal, "French"); });
-    EXPECT_EQ(texts(form).property("tag").toString(), "French");
 }
 
 TEST_P(LanguageForms, ADiscardShowsTheListAsTheFileHasIt)

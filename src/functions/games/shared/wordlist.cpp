@@ -24,9 +24,10 @@ std::string composedWords(WordLine line, const std::vector<CellRow>& rows)
     return text;
 }
 
-RowListDeclaration wordList(const std::string& path, WordLine line)
+RowListDeclaration wordList(const std::string& noun, const std::string& path, WordLine line)
 {
-    RowListDeclaration words;
+    RowListDeclaration words = listOf(noun, Fewest::One);
+    words.deletion = deletionOf("Word", "question", noun); // words and questions are asked about alike
     words.list = "lvwWords";
     words.toolbar = "tlbListview";
     words.toolTips = {"Add new Word", "Delete Word", "Edit Word"}; // also where the rows are questions
@@ -42,15 +43,9 @@ RowListDeclaration wordList(const std::string& path, WordLine line)
 
 RowListDeclaration guessedWords(const std::string& path, const std::string& menu)
 {
-    RowListDeclaration words = wordList(path, WordLine::Word);
+    RowListDeclaration words = wordList("Word", path, WordLine::Word);
     words.columns = {"Word"};
     words.menu = menu;
-    words.dialog.addTitle = "Add Word";
-    words.dialog.editTitle = "Edit Word";
-    words.dialog.labels = {"Word"};
-    // The box asks in the words of the games of questions.
-    words.deletion = {"Delete Word?", "Do you really want to delete this question?",
-                      "There must be a minimum of one Word"};
     return words;
 }
 

@@ -20,10 +20,10 @@ enum class WordLine
 std::vector<CellRow> listFileRows(const SettingsFiles& files, const std::string& path,
                                   std::string_view delimiter, Rows rows);
 
-/// The game's own list of words, lvwWords, over a list file. Loading shows as many rows as the file has
-/// lines: a question without an asterisk has an empty answer, but a line with one that ends in "t" is lost to
-/// the list reader.
-RowListDeclaration wordList(const std::string& path, WordLine line);
+/// The game's own list of words, lvwWords, over a list file. `noun` is what a row is called. Loading shows as
+/// many rows as the file has lines: a question without an asterisk has an empty answer, but a line with one
+/// that ends in "t" is lost to the list reader.
+RowListDeclaration wordList(const std::string& noun, const std::string& path, WordLine line);
 
 /// The list of the games whose words are guessed, with the menu of that game.
 RowListDeclaration guessedWords(const std::string& path, const std::string& menu);

@@ -3,46 +3,58 @@
 #include "shell/kit/hourglass.h"
 #include "shell/kit/messages.h"
 #include "shell/kit/rowlist.h"
-#include "shell/kit/toolbars.h"
+#include "shell/kit/toolbarlist.h"
 
 namespace quillfen {
 
-WordListPart::WordListPart(const RowListDeclaration& words, const FormContext& context)
-    : RowListPart(words, context)
+namespace {
+
+void addFileButtons(QToolBar& toolbar, int& index)
 {
-    int index = 0;
-    addButton(toolbar(), index, "OPEN", "Open Words file", "open");
-    addButton(toolbar(), index, "SAVE", "Save Words file", "save");
-    addButton(toolbar(), index, "CLOSE", "Close Words file", "close");
-    connectButton(toolbar(), "OPEN", this, &WordListPart::openFile);
-    connectButton(toolbar(), "SAVE", this, &WordListPart::saveFile);
-    connectButton(toolbar(), "CLOSE", this, &WordListPart::closeFile);
+    addButton(toolbar, index, "OPEN", "Open Words file", "open");
+    addButton(toolbar, index, "SAVE", "Save Words file", "save");
+    addButton(toolbar, index, "CLOSE", "Close Words file", "close");
+}
+
+} // namespace
+
+WordListPart::WordListPart(const RowListDeclaration& words, const FormContext& context)
+    : m_words(new RowListPart(words, context,
+                              {.builders = {addFileButtons, BuildListToolbar},
+                               .rowsLightButtons = false, // they follow what was done with the file
+                               .note = [] {}}))
+{
+    m_words->setParent(this);
+    m_words->tools().connectButtons(this, {{"OPEN", &WordListPart::openFile},
+                                           {"SAVE", &WordListPart::saveFile},
+                                           {"CLOSE", &WordListPart::closeFile}});
     setButtons(true, false);
 }
 
 void WordListPart::openFile()
 {
     const Hourglass hourglass;
-    RowListPart::load();
+    m_words->load();
     setButtons(false, true);
 }
 
 void WordListPart::saveFile()
 {
-    if (list().isEmpty()) {
-        notify(&list(), "Questions needed", "You must specify some questions", QMessageBox::Warning);
+    if (m_words->rows().empty()) {
+        notify(widget(), "Questions needed", "You must specify some questions", QMessageBox::Warning);
         return;
     }
-    if (!attempt(&list(), saving("The words' file"), [this] { RowListPart::save(); }))
+    if (!attempt(widget(), saving("The words' file"), [this] { m_words->save(); }))
         return;
-    bool bDiscardNow = true;                        // what is shown is in the file: nothing to ask
-    ConfirmDiscard(list(), toolbar(), bDiscardNow); // leaves the sixth button, EDIT, lit
+    bool bDiscardNow = true; // what is shown is in the file: nothing to ask
+    ConfirmDiscard(m_words->list(), m_words->tools().toolbar(),
+                   bDiscardNow); // leaves the sixth button, EDIT, lit
 }
 
 void WordListPart::closeFile()
 {
     bool bDiscardNow = false;
-    ConfirmDiscard(list(), toolbar(), bDiscardNow);
+    ConfirmDiscard(m_words->list(), m_words->tools().toolbar(), bDiscardNow);
     // Also after Cancel: the rows stay in sight, and only OPEN, which reads the file again, goes on from
     // there.
     setButtons(true, false);
@@ -50,7 +62,7 @@ void WordListPart::closeFile()
 
 void WordListPart::setButtons(bool open, bool others)
 {
-    for (auto* action : toolbar().actions())
+    for (auto* action : m_words->tools().toolbar().actions())
         action->setEnabled(action->objectName() == "OPEN" ? open : others);
 }
 
