@@ -381,8 +381,8 @@ FunctionDeclaration archiveFolders()
         .build = {rebuildLinkOfTheWeek, RebuiltSettings{[] { return newItems(hyperlink()); }},
                   rebuildPermissionRing}};
     for (const char* name : {"CategoryIndex", "Index", "Items", "PendingIndex", "PendingItems", "VoteIP"})
-        function.build.push_back(EmptyTable{pathOf(hyperlink(), name), tableOf(hyperlink(), name)});
-    function.build.push_back(forgetVoters);
+        function.build.emplace_back(EmptyTable{pathOf(hyperlink(), name), tableOf(hyperlink(), name)});
+    function.build.emplace_back(forgetVoters);
     return function;
 }
 

@@ -132,7 +132,7 @@ FunctionDeclaration rotatingPrivateMessagesFunction()
         {"Communication~RotatingPrivateMessage", "Rotating Private Message",
          rotatingForm({"frmCommunicationRotatingPrivateMessage", "Communication ~ RotatingPrivateMessage"},
                       rotatingPrivateMessages)}};
-    function.build.push_back(
+    function.build.emplace_back(
         EmptyTable{R"(Communication\RotatingPrivateMessage\RotatingPrivateMessageImmuneUsers.tbl)",
                    "tRotatingPrivateMessageImmuneUsers"});
     return function;

@@ -138,9 +138,9 @@ FormDeclaration introsOutrosForm(const char* name, const std::string& word, cons
 
 void addSteps(FunctionDeclaration& function, const Family& family, const IntrosOutros& (*all)())
 {
-    function.build.push_back(RebuiltSettings{[all] { return all().settings; }});
+    function.build.emplace_back(RebuiltSettings{[all] { return all().settings; }});
     for (const char* noun : {"Intro", "Outro"})
-        function.build.push_back(emptyTable(linesFile(family, noun)));
+        function.build.emplace_back(emptyTable(linesFile(family, noun)));
 }
 
 } // namespace

@@ -56,7 +56,7 @@ FunctionDeclaration anagramsFunction()
         {"Games~Anagrams",
          "Anagrams",
          {{form, {DeclaredSettings{anagramSettings}, listPart(anagramWords, ListPartKind::Words)}}}}};
-    function.build.push_back(FirstText{wordsPath, firstWord});
+    function.build.emplace_back(FirstText{wordsPath, firstWord});
     return function;
 }
 

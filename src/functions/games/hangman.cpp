@@ -67,9 +67,9 @@ FunctionDeclaration hangmanFunction()
                          {DeclaredSettings{hangmanSettings, SettingsPartKind::Hangman},
                           listPart(hangmanWords, ListPartKind::Words), OwnPart{OwnPartKind::Gallows}}}}}};
     function.folders.push_back(R"(Games\Hangman\Ascii)");
-    function.build.push_back(FirstText{wordsPath, firstWord});
+    function.build.emplace_back(FirstText{wordsPath, firstWord});
     for (int stage = 0; stage <= lastGallowsStage; ++stage)
-        function.build.push_back(FirstText{gallowsFile(stage), ""});
+        function.build.emplace_back(FirstText{gallowsFile(stage), ""});
     return function;
 }
 

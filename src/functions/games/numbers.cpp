@@ -151,7 +151,7 @@ FunctionDeclaration numbersFunction()
                        {{{"frmGamesNumbers", "Games ~ Numbers"},
                          {DeclaredSettings{numbersSettings, SettingsPartKind::Numbers},
                           listPart(numbersQuestions, ListPartKind::Words)}}}}};
-    function.build.push_back(FirstText{questionsPath, "Mathematics: What is 2 Plus 2 = ??*4\r\n"});
+    function.build.emplace_back(FirstText{questionsPath, "Mathematics: What is 2 Plus 2 = ??*4\r\n"});
     return function;
 }
 

@@ -182,7 +182,7 @@ FunctionDeclaration triviaFunction()
                                   .lists = [] { return std::vector{triviaQuestionLists().rows}; }}}}},
                        "Trivia ~ Questions"}};
     function.folders.push_back(R"(Games\Trivia\QuestionFiles)");
-    function.build.push_back(makeFirstQuestions);
+    function.build.emplace_back(makeFirstQuestions);
     return function;
 }
 

@@ -73,7 +73,7 @@ FunctionDeclaration kicksFunction()
                   EmptyTable{R"(Security\Kick\Logs\KickerLog.tbl)", "tKickerLog"},
                   EmptyTable{R"(Security\Kick\Logs\KickLog.tbl)", "tKickLog"}}};
     for (const char* word : {"Ban", "Drop", "Kick", "TempBan", "Unban", "Warn"})
-        function.build.push_back(RebuiltGrid{command(word)});
+        function.build.emplace_back(RebuiltGrid{command(word)});
     return function;
 }
 

@@ -69,8 +69,8 @@ FunctionDeclaration registrationFunction()
                       DeclaredGrid{[] { return sourceOf(registrationPermissions()); }, gridWords()}}}}}},
         .folders = {R"(Security\Registration)", R"(Security\Registration\Logs)"}};
     for (const char* name : {"Add", "ChangePassword", "Delete", "GetPassword"})
-        function.build.push_back(RebuiltGrid{command({}, name), registrationPermissions().firstProfile});
-    function.build.push_back(resetSettings);
+        function.build.emplace_back(RebuiltGrid{command({}, name), registrationPermissions().firstProfile});
+    function.build.emplace_back(resetSettings);
     return function;
 }
 
