@@ -1,7 +1,7 @@
 #pragma once
 
 #include "functions/catalogue.h"
-#include "settings/diskstore.h"
+#include "store/diskstore.h"
 #include "settings/paths.h"
 #include "settings/profiles.h"
 #include "settings/rebuild.h"

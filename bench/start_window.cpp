@@ -3,7 +3,7 @@
 #include "app/start.h"
 #include "firstpaint.h"
 #include "formopening.h"
-#include "settings/diskstore.h"
+#include "store/diskstore.h"
 
 #include <cstdlib>
 

@@ -1,16 +1,17 @@
 # Holds the includes of the sources against the floors of docs/architecture.md: each folder may use its own and those
 # that are listed. usage: cmake -DSOURCES=<folder of src> -P layers.cmake
-set(allowed_settings "settings")
-set(allowed_functions "settings|functions|shell/kit")
+set(allowed_store "store")
+set(allowed_settings "store|settings")
+set(allowed_functions "store|settings|functions|shell/kit")
 set(allowed_functions/forms.cpp "portal|news|functions|shell/kit") # the one list of all forms
-set(allowed_portal "settings|portal|shell/kit")
-set(allowed_news "settings|news|shell/kit")
+set(allowed_portal "store|settings|portal|shell/kit")
+set(allowed_news "store|settings|news|shell/kit")
 set(allowed_shell/icons "shell/icons")
-set(allowed_shell/kit "settings|shell/icons|shell/kit")
-set(allowed_shell/window "settings|shell/icons|shell/kit|shell/window")
-set(allowed_app "settings|functions|news|shell/kit|shell/window|app")
+set(allowed_shell/kit "store|settings|shell/icons|shell/kit")
+set(allowed_shell/window "store|settings|shell/icons|shell/kit|shell/window")
+set(allowed_app "store|settings|functions|news|shell/kit|shell/window|app")
 
-foreach(floor settings functions portal news shell/icons shell/kit shell/window app)
+foreach(floor store settings functions portal news shell/icons shell/kit shell/window app)
   file(GLOB_RECURSE sources RELATIVE ${SOURCES} ${SOURCES}/${floor}/*.h ${SOURCES}/${floor}/*.cpp)
   if(NOT sources)
     message(SEND_ERROR "no sources in ${floor}")

@@ -1,5 +1,5 @@
 #include "app/start.h"
-#include "settings/diskstore.h"
+#include "store/diskstore.h"
 
 #include <QApplication>
 

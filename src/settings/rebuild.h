@@ -1,6 +1,6 @@
 #pragma once
 
-#include "settings/filestore.h"
+#include "store/filestore.h"
 
 #include <functional>
 #include <string>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "settings/filestore.h"
+#include "store/filestore.h"
 #include "settings/lines.h"
 #include "settings/paths.h"
 #include "settings/tableindex.h"

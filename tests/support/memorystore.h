@@ -1,6 +1,6 @@
 #pragma once
 
-#include "settings/filestore.h"
+#include "store/filestore.h"
 
 #include <functional>
 #include <map>
@@ -59,6 +59,16 @@ public:
         std::vector<std::string> names;
         for (const auto& [path, bytes] : files) {
             if (parent(path) == folder)
+                names.push_back(path.substr(folder.size() + 1));
+        }
+        return names;
+    }
+
+    std::vector<std::string> listFolders(const std::string& folder) const override
+    {
+        std::vector<std::string> names;
+        for (const std::string& path : folders) {
+            if (parent(path) == folder && path != folder)
                 names.push_back(path.substr(folder.size() + 1));
         }
         return names;

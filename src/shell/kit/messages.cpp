@@ -1,7 +1,7 @@
 #include "shell/kit/messages.h"
 
 #include "settings/filename.h"
-#include "settings/filestore.h"
+#include "store/filestore.h"
 #include "shell/kit/codepagetext.h"
 #include "shell/kit/longtext.h"
 #include "shell/kit/windowtitle.h"

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <stdexcept>
 #include <string>
@@ -27,6 +28,41 @@ private:
     std::string m_reason;
 };
 
+/// A commit that failed when some of its files had taken their places already: which ones are new, and which
+/// still hold what they held.
+class HalfCommitted : public StoreError
+{
+public:
+    HalfCommitted(const StoreError& failure, std::vector<std::string> changed, std::vector<std::string> left)
+        : StoreError(failure),
+          m_changed(std::move(changed)),
+          m_left(std::move(left))
+    {
+    }
+
+    const std::vector<std::string>& changed() const { return m_changed; }
+    const std::vector<std::string>& left() const { return m_left; }
+
+private:
+    std::vector<std::string> m_changed;
+    std::vector<std::string> m_left;
+};
+
+/// One thing to be done to the disk.
+struct StoreChange
+{
+    enum class Kind
+    {
+        Write,
+        Remove,
+        MakeFolder
+    };
+
+    Kind kind;
+    std::string path;
+    std::string bytes{}; ///< of a file that is written
+};
+
 /// The disk as the core sees it. Paths are the platform's, in UTF-8; contents are bytes, never text mode.
 class FileStore
 {
@@ -52,8 +88,26 @@ public:
     /// be read.
     virtual std::vector<std::string> list(const std::string& folder) const = 0;
 
+    /// The names of the folders in a folder, in the same way.
+    virtual std::vector<std::string> listFolders(const std::string& folder) const = 0;
+
     /// Deletes a file; one that is gone already is no failure. Throws StoreError.
     virtual void remove(const std::string& path) = 0;
+
+    /// Carries out changes in their order, each path among them once. Throws HalfCommitted if some were made,
+    /// and any other StoreError if none was.
+    virtual void commit(const std::vector<StoreChange>& changes);
+
+    /// Returns when all that was written below a folder would outlast a power cut. Throws StoreError.
+    virtual void sync(const std::string& folder);
+
+protected:
+    /// Carries out one change by the call of its kind.
+    void carryOut(const StoreChange& change);
 };
+
+/// Carries out changes by one call each, and tells in the failure of one what became of the others.
+void carryOutEach(const std::vector<StoreChange>& changes,
+                  const std::function<void(const StoreChange& change)>& carryOut);
 
 } // namespace quillfen

@@ -1,0 +1,44 @@
+#include "store/filestore.h"
+
+namespace quillfen {
+
+void FileStore::carryOut(const StoreChange& change)
+{
+    switch (change.kind) {
+    case StoreChange::Kind::Write:
+        return write(change.path, change.bytes);
+    case StoreChange::Kind::Remove:
+        return remove(change.path);
+    case StoreChange::Kind::MakeFolder:
+        return makeFolder(change.path);
+    }
+}
+
+void FileStore::commit(const std::vector<StoreChange>& changes)
+{
+    carryOutEach(changes, [this](const StoreChange& change) { carryOut(change); });
+}
+
+void FileStore::sync(const std::string&) {}
+
+void carryOutEach(const std::vector<StoreChange>& changes,
+                  const std::function<void(const StoreChange& change)>& carryOut)
+{
+    std::size_t done = 0;
+    try {
+        for (; done < changes.size(); ++done)
+            carryOut(changes[done]);
+    } catch (const StoreError& failure) {
+        std::vector<std::string> changed;
+        std::vector<std::string> left;
+        for (std::size_t at = 0; at < changes.size(); ++at) {
+            if (changes[at].kind != StoreChange::Kind::MakeFolder)
+                (at < done ? changed : left).push_back(changes[at].path);
+        }
+        if (changed.empty())
+            throw;
+        throw HalfCommitted(failure, std::move(changed), std::move(left));
+    }
+}
+
+} // namespace quillfen
