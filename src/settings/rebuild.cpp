@@ -1,5 +1,6 @@
 #include "settings/rebuild.h"
 
+#include "settings/codepage.h"
 #include "settings/profiles.h"
 #include "settings/tablefile.h"
 #include "settings/tablewriter.h"
@@ -27,8 +28,18 @@ try {
     throw NoNewsFolder(error.path(), error.reason());
 }
 
-void build(const Reconciliation& start, const HubProfiles& profiles)
+/// The name of a rebuild among the earlier versions.
+Cause rebuildCause(const SettingsFiles& files, bool forVersion)
 {
+    const auto version = codepage::toUtf8(files.ReadTableValue(versionFile, "sVersion"));
+    return {forVersion ? "Rebuild from " + version : "Rebuild for more profiles", Cause::Kind::Rebuild};
+}
+
+/// File by file in the order of the catalogue. The version comes last: a rebuild that stopped is asked for
+/// again.
+void build(const Reconciliation& start, const HubProfiles& profiles, const Cause& cause)
+{
+    Draft draft(start.files.store(), cause);
     const auto& paths = start.files.paths();
     makeIfMissing(start.files.store(), paths.settingsRoot());
     for (const CatalogueRow& row : start.catalogue) {
@@ -39,6 +50,7 @@ void build(const Reconciliation& start, const HubProfiles& profiles)
     }
     start.files.WriteSettingsFile(versionFile,
                                   TableWriter("tVersion").text("sVersion", start.version).closed());
+    draft.commit();
 }
 
 /// The script's folder comes with the hub script. Without it the program stands in the wrong place, and
@@ -59,7 +71,7 @@ StartResult CheckSettingsRebuild(const Reconciliation& start, char rebuildCase, 
         return StartResult::Current;
     if (!start.confirm(forVersion ? versionQuestion : profileQuestion))
         return StartResult::Refused;
-    build(start, profiles);
+    build(start, profiles, rebuildCause(start.files, forVersion));
     return StartResult::Rebuilt;
 }
 

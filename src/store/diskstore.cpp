@@ -320,6 +320,13 @@ std::optional<std::string> DiskStore::read(const std::string& path) const
     return bytes;
 }
 
+std::optional<std::uintmax_t> DiskStore::size(const std::string& path) const
+{
+    std::error_code error;
+    const auto size = fs::file_size(nativePath(path), error);
+    return error ? std::nullopt : std::optional(size);
+}
+
 bool DiskStore::exists(const std::string& path) const
 {
     std::error_code error;

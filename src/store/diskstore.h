@@ -15,6 +15,7 @@ public:
     DiskStore(DiskCalls& calls, Access access = Access::AsUsual);
 
     std::optional<std::string> read(const std::string& path) const override;
+    std::optional<std::uintmax_t> size(const std::string& path) const override;
     bool exists(const std::string& path) const override;
 
     /// Without what a crash left of our own.

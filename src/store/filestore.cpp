@@ -2,21 +2,21 @@
 
 namespace quillfen {
 
-void FileStore::carryOut(const StoreChange& change)
+void carryOut(FileStore& store, const StoreChange& change)
 {
     switch (change.kind) {
     case StoreChange::Kind::Write:
-        return write(change.path, change.bytes);
+        return store.write(change.path, change.bytes);
     case StoreChange::Kind::Remove:
-        return remove(change.path);
+        return store.remove(change.path);
     case StoreChange::Kind::MakeFolder:
-        return makeFolder(change.path);
+        return store.makeFolder(change.path);
     }
 }
 
 void FileStore::commit(const std::vector<StoreChange>& changes)
 {
-    carryOutEach(changes, [this](const StoreChange& change) { carryOut(change); });
+    carryOutEach(changes, [this](const StoreChange& change) { carryOut(*this, change); });
 }
 
 void FileStore::sync(const std::string&) {}

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <functional>
 #include <optional>
 #include <stdexcept>
@@ -75,6 +76,9 @@ public:
     /// All bytes of a file; nothing if there is no such file or it can't be read.
     virtual std::optional<std::string> read(const std::string& path) const = 0;
 
+    /// How many bytes a file has; nothing if there is no such file.
+    virtual std::optional<std::uintmax_t> size(const std::string& path) const = 0;
+
     /// Replaces or makes a file. Its folder must exist. Throws StoreError.
     virtual void write(const std::string& path, std::string_view bytes) = 0;
 
@@ -100,11 +104,10 @@ public:
 
     /// Returns when all that was written below a folder would outlast a power cut. Throws StoreError.
     virtual void sync(const std::string& folder);
-
-protected:
-    /// Carries out one change by the call of its kind.
-    void carryOut(const StoreChange& change);
 };
+
+/// Carries out one change by the call of its kind. Throws StoreError.
+void carryOut(FileStore& store, const StoreChange& change);
 
 /// Carries out changes by one call each, and tells in the failure of one what became of the others.
 void carryOutEach(const std::vector<StoreChange>& changes,

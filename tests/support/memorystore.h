@@ -31,6 +31,12 @@ public:
         return damage ? damage(file->second) : file->second;
     }
 
+    std::optional<std::uintmax_t> size(const std::string& path) const override
+    {
+        const auto file = files.find(path);
+        return file == files.end() ? std::nullopt : std::optional<std::uintmax_t>(file->second.size());
+    }
+
     void write(const std::string& path, std::string_view bytes) override
     {
         note("write ", path);
