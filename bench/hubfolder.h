@@ -1,11 +1,11 @@
 #pragma once
 
+#include "declarations/rebuild.h"
 #include "functions/catalogue.h"
-#include "store/diskstore.h"
 #include "settings/paths.h"
 #include "settings/profiles.h"
-#include "settings/rebuild.h"
 #include "settings/tablefile.h"
+#include "store/diskstore.h"
 
 #include <cstddef>
 #include <filesystem>

@@ -106,6 +106,13 @@ public:
     virtual void sync(const std::string& folder);
 };
 
+/// Throws StoreError.
+inline void makeFolderIfMissing(FileStore& store, const std::string& folder)
+{
+    if (!store.exists(folder))
+        store.makeFolder(folder);
+}
+
 /// Carries out one change by the call of its kind. Throws StoreError.
 void carryOut(FileStore& store, const StoreChange& change);
 

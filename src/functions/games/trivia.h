@@ -1,7 +1,6 @@
 #pragma once
 
-#include "settings/declaration.h"
-#include "settings/listdeclaration.h"
+#include "declarations/function.h"
 
 #include <string>
 #include <string_view>
@@ -37,6 +36,6 @@ void saveTriviaQuestions(const SettingsFiles& files, std::string_view name, cons
 /// A new question file with its one row. Throws StoreError.
 void createTriviaQuestions(const SettingsFiles& files, std::string_view name);
 
-void buildTrivia(const SettingsFiles& files, const HubProfiles& profiles);
+FunctionDeclaration triviaFunction();
 
 } // namespace quillfen
