@@ -25,8 +25,10 @@ try {
 /// The name of a rebuild among the earlier versions.
 Cause rebuildCause(const SettingsFiles& files, bool forVersion)
 {
+    if (!forVersion)
+        return {"Rebuild for more profiles", Cause::Kind::Rebuild};
     const auto version = codepage::toUtf8(files.ReadTableValue(versionFile, "sVersion"));
-    return {forVersion ? "Rebuild from " + version : "Rebuild for more profiles", Cause::Kind::Rebuild};
+    return {version.empty() ? "Rebuild" : "Rebuild from " + version, Cause::Kind::Rebuild};
 }
 
 /// File by file in the order of the catalogue. The version comes last: a rebuild that stopped is asked for

@@ -154,7 +154,7 @@ void DraftStore::remove(const std::string& path)
 void DraftStore::take(StoreChange change)
 {
     if (!m_draft)
-        return carryOutWhole({std::move(change)}, defaultCause());
+        return carryOutWhole({std::move(change)}, m_listener.cause());
     std::erase_if(m_draft->m_changes,
                   [&change](const StoreChange& each) { return each.path == change.path; });
     m_draft->m_changes.push_back(std::move(change));
@@ -163,7 +163,7 @@ void DraftStore::take(StoreChange change)
 void DraftStore::commit(const std::vector<StoreChange>& changes)
 {
     if (!m_draft)
-        return carryOutWhole(changes, defaultCause());
+        return carryOutWhole(changes, m_listener.cause());
     for (const StoreChange& change : changes)
         take(change);
 }
@@ -204,7 +204,7 @@ void DraftStore::carryOutWhole(const std::vector<StoreChange>& changes, const Ca
     KeptVersion version(m_history, cause,
                         m_history ? replacedBy(changes, m_disk) : std::vector<ReplacedFile>());
     version.dropIfNothingChanges([&] { m_disk.commit(changes); });
-    onKept(version.fault());
+    m_listener.versionKept(version.fault());
 }
 
 void DraftStore::carryOutOneByOne(std::vector<StoreChange> changes, const Cause& cause)
@@ -224,7 +224,7 @@ void DraftStore::carryOutOneByOne(std::vector<StoreChange> changes, const Cause&
             m_disk.commit({change});
         });
     });
-    onKept(version.fault());
+    m_listener.versionKept(version.fault());
 }
 
 } // namespace quillfen

@@ -10,6 +10,16 @@ namespace quillfen {
 class Draft;
 class History;
 
+/// What a store asks and tells of commits.
+struct StoreListener
+{
+    /// By whose doing files are written while no draft is open.
+    std::function<Cause()> cause = [] { return Cause{"Quillfen"}; };
+
+    /// A commit is done: why no version of what it replaced was kept, or nothing if all went well.
+    std::function<void(const std::string& fault)> versionKept = [](const std::string&) {};
+};
+
 /// What all settings are read from and written to: the disk, and over it the open draft, if there is one.
 /// What is written while none is open is committed at once.
 class DraftStore : public FileStore
@@ -32,11 +42,8 @@ public:
     /// From now on what a commit replaces is kept there; nowhere if it is null.
     void keepVersionsIn(History* history) { m_history = history; }
 
-    /// The cause of what is written while no draft is open, asked for at each write.
-    std::function<Cause()> defaultCause = [] { return Cause{"Quillfen"}; };
-
-    /// Told of each commit: why no version of what it replaced was kept, or nothing if all went well.
-    std::function<void(const std::string& fault)> onKept = [](const std::string&) {};
+    /// From now on asks and tells that one.
+    void hear(StoreListener listener) { m_listener = std::move(listener); }
 
 private:
     friend class Draft;
@@ -47,6 +54,7 @@ private:
     void carryOutOneByOne(std::vector<StoreChange> changes, const Cause& cause);
 
     FileStore& m_disk;
+    StoreListener m_listener;
     History* m_history = nullptr;
     Draft* m_draft = nullptr;
 };

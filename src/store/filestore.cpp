@@ -1,6 +1,17 @@
 #include "store/filestore.h"
 
+#include "store/nativepath.h"
+
 namespace quillfen {
+
+void makeFolderAndThoseAbove(FileStore& store, const std::string& folder)
+{
+    const auto above = nativePath(folder).parent_path();
+    if (above == nativePath(folder) || store.exists(folder)) // nobody makes a root
+        return;
+    makeFolderAndThoseAbove(store, pathText(above));
+    store.makeFolder(folder);
+}
 
 void carryOut(FileStore& store, const StoreChange& change)
 {

@@ -113,6 +113,9 @@ inline void makeFolderIfMissing(FileStore& store, const std::string& folder)
         store.makeFolder(folder);
 }
 
+/// Makes a folder and those above it, as far as they are missing. Throws StoreError.
+void makeFolderAndThoseAbove(FileStore& store, const std::string& folder);
+
 /// Carries out one change by the call of its kind. Throws StoreError.
 void carryOut(FileStore& store, const StoreChange& change);
 

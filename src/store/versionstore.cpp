@@ -1,6 +1,5 @@
 #include "store/versionstore.h"
 
-#include "store/nativepath.h"
 #include "store/versionentry.h"
 
 #include <algorithm>
@@ -25,14 +24,6 @@ std::optional<unsigned> numberOf(const std::string& name)
     unsigned number = 0;
     std::from_chars(name.data(), name.data() + name.size(), number);
     return nameOf(number) == name && number < numberLimit ? std::optional(number) : std::nullopt;
-}
-
-void makeWithThoseAbove(FileStore& disk, const std::filesystem::path& folder)
-{
-    if (folder == folder.parent_path() || disk.exists(pathText(folder))) // a root isn't made
-        return;
-    makeWithThoseAbove(disk, folder.parent_path());
-    disk.makeFolder(pathText(folder));
 }
 
 /// Deletes what is of no more use; what can't be deleted does no harm.
@@ -62,7 +53,7 @@ std::string VersionStore::blobPath(const std::string& blob) const
 void VersionStore::makeFolders()
 {
     for (const char* folder : {"/entries", "/bytes"})
-        makeWithThoseAbove(m_disk, nativePath(m_folder + folder));
+        makeFolderAndThoseAbove(m_disk, m_folder + folder);
 }
 
 std::string VersionStore::keptBlob(const std::string& bytes)

@@ -118,7 +118,10 @@ protected:
     DraftWithVersions()
     {
         store.keepVersionsIn(&history);
-        store.onKept = [this](const std::string& fault) { told.push_back(fault); };
+        StoreListener listener;
+        listener.cause = [this] { return Cause{active}; };
+        listener.versionKept = [this](const std::string& fault) { told.push_back(fault); };
+        store.hear(listener);
         versionDisk.folders = {"", "/data"};
     }
 
@@ -127,6 +130,7 @@ protected:
     test::MemoryStore versionDisk;
     VersionStore versions{versionDisk, "/data/versions"};
     History history{disk, "/hub", versions};
+    std::string active = "General ~ Bots";
     Names told;
 };
 
@@ -161,7 +165,7 @@ TEST_F(DraftWithVersions, KeepsNoVersionOfWhatStaysAsItIsOrLiesElsewhere)
 
 TEST_F(DraftWithVersions, KeepsWhatIsWrittenAtOnceUnderTheNameOfWhoeverWorksThen)
 {
-    store.defaultCause = [] { return Cause{"Communication ~ MOTD"}; };
+    active = "Communication ~ MOTD";
     store.remove("/hub/a/two");
     ASSERT_EQ(entries().size(), 1U);
     EXPECT_EQ(entries()[0].cause.words, "Communication ~ MOTD");
