@@ -1,8 +1,13 @@
 #include "app/hubdata.h"
+#include "app/start.h"
+#include "support/boxes.h"
 #include "support/diskfolder.h"
+#include "support/hub.h"
 
 #include <QDir>
 #include <QFileInfo>
+#include <QLabel>
+#include <QStatusBar>
 
 #include <gtest/gtest.h>
 
@@ -90,6 +95,23 @@ TEST_F(DataOfAHub, WithoutARoomForItFailsWhenAVersionIsKeptAndNotBefore)
     EXPECT_TRUE(data.isOnlyEditor());
     EXPECT_THROW(data.history().keep({"a save"}, {{settings() + "/a.tbl", "old"}}), StoreError);
     EXPECT_TRUE(data.history().entries().entries.empty());
+}
+
+TEST_F(DataOfAHub, TheWindowOfASecondEditorSaysThatAnotherRuns)
+{
+    const auto saysSo = [this](HubData& data) {
+        test::Hub hub;
+        hub.store.files["/hub/cfg/Profiles.xml"] = "<Name>Master</Name>\r\n";
+        Program program(hub.store, "/hub/scripts", {"5.2.0"});
+        program.use(data);
+        test::answering(QMessageBox::Ok, [&program] { EXPECT_EQ(program.start(), std::nullopt); });
+        const auto* panel = program.window().statusBar()->findChild<QLabel*>("OTHERS");
+        return panel ? panel->text() : QString();
+    };
+    HubData first(disk, programFolder(), dataFolder());
+    HubData second(disk, programFolder(), dataFolder());
+    EXPECT_EQ(saysSo(first), "");
+    EXPECT_EQ(saysSo(second), "Morvaleth's Quillfen runs on this hub already");
 }
 
 } // namespace
