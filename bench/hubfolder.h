@@ -2,10 +2,11 @@
 
 #include "declarations/rebuild.h"
 #include "functions/catalogue.h"
-#include "settings/diskstore.h"
 #include "settings/paths.h"
 #include "settings/profiles.h"
 #include "settings/tablefile.h"
+#include "store/diskstore.h"
+#include "store/history.h"
 
 #include <cstddef>
 #include <filesystem>
@@ -27,6 +28,7 @@ public:
     {
         std::filesystem::copy(QUILLFEN_SAMPLE_HUB, m_folder, std::filesystem::copy_options::recursive);
         writeProfiles(profileCount);
+        files.store().keepVersionsIn(&m_history);
     }
 
     HubFolder(const HubFolder&) = delete;
@@ -40,6 +42,7 @@ public:
 
     std::string scripts() const { return (m_folder / "scripts").string(); }
     std::filesystem::path folder() const { return m_folder; }
+    std::filesystem::path data() const { return m_folder / "data"; } ///< with the earlier versions
     std::filesystem::path tree() const { return files.paths().settingsRoot(); }
 
     /// The program's start as far as the tree goes, each question answered with OK. A start that follows has
@@ -74,6 +77,10 @@ private:
 public:
     SettingsFiles files;
     HubProfiles profiles; ///< filled by the start
+
+private:
+    VersionStore m_versions{m_disk, data().string()};
+    History m_history{m_disk, files.paths().settingsRoot(), m_versions};
 };
 
 } // namespace quillfen::bench

@@ -1,9 +1,10 @@
 // The program's whole start in the scripts folder that is given, up to its first painted window. A number
 // behind it asks for so many rounds in which every form is opened and closed.
+#include "app/hubdata.h"
 #include "app/start.h"
 #include "firstpaint.h"
 #include "formopening.h"
-#include "settings/diskstore.h"
+#include "store/diskstore.h"
 
 #include <cstdlib>
 
@@ -31,7 +32,11 @@ int main(int argc, char** argv)
     if (argc < 2)
         return 2;
     DiskStore disk;
-    Program program(disk, QString::fromLocal8Bit(argv[1]), {QUILLFEN_VERSION});
+    const auto folder = QString::fromLocal8Bit(argv[1]);
+    HubData data(disk, folder, folder + "/../data");
+    data.sweep();
+    Program program(disk, folder, {QUILLFEN_VERSION});
+    program.use(data);
     if (const auto exitCode = program.start())
         return *exitCode;
     const int rounds = argc > 2 ? std::atoi(argv[2]) : 0;

@@ -23,6 +23,13 @@ public:
         DiskStore::write(path, bytes);
     }
 
+    void commit(const std::vector<StoreChange>& changes) override
+    {
+        for (const StoreChange& change : changes)
+            written.emplace_back(change.path, change.bytes);
+        DiskStore::commit(changes);
+    }
+
     std::vector<std::pair<std::string, std::string>> written;
 };
 
@@ -76,27 +83,83 @@ void firstBuild(benchmark::State& state)
     }
 }
 
-void rebuildTree(benchmark::State& state)
+using Written = std::vector<std::pair<std::string, std::string>>;
+
+void writePlainly(const Written& written)
+{
+    for (const auto& [path, bytes] : written) {
+        std::ofstream file(path, std::ios::binary | std::ios::trunc);
+        file.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+    }
+}
+
+/// Adds an empty line to each file of the tree, so that a rebuild finds none as it should be.
+void makeStale(const HubFolder& hub)
+{
+    for (const auto& entry : std::filesystem::recursive_directory_iterator(hub.tree())) {
+        if (entry.is_regular_file())
+            std::ofstream(entry.path(), std::ios::binary | std::ios::app) << "\r\n";
+    }
+}
+
+/// A rebuild that leaves each file as it is, or replaces it and keeps the old one, beside plain writes of
+/// what it replaces then.
+void rebuildTree(benchmark::State& state, bool replaces)
 {
     HubFolder hub(static_cast<std::size_t>(state.range(0)));
     hub.start();
     RecordingStore recorder;
+    makeStale(hub);
     hub.rebuild(SettingsFiles(recorder, SettingsPaths(hub.scripts())));
-    const auto writePlainly = [&] {
-        for (const auto& [path, bytes] : recorder.written) {
-            std::ofstream file(path, std::ios::binary | std::ios::trunc);
-            file.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
-        }
-    };
     for (auto _ : state) {
+        std::filesystem::remove_all(hub.data());
+        if (replaces)
+            makeStale(hub);
         const Spent ours = spentOn([&] { hub.rebuild(); });
-        reportBoth(state, ours, spentOn(writePlainly));
+        reportBoth(state, ours, spentOn([&] { writePlainly(recorder.written); }));
     }
     std::size_t bytes = 0;
     for (const auto& [path, content] : recorder.written)
         bytes += content.size();
     state.counters["files"] = static_cast<double>(recorder.written.size());
     state.counters["KiB"] = static_cast<double>(bytes) / 1024;
+}
+
+/// A disk that lets nobody wait.
+class UnsyncedCalls : public DiskCalls
+{
+public:
+    void sync(Handle) override {}
+    void syncFolder(const std::string&) override {}
+};
+
+/// A form's save of six files: the draft, the earlier versions and the replacing, without the waiting for the
+/// disk.
+void saveForm(benchmark::State& state)
+{
+    const HubFolder hub(5);
+    UnsyncedCalls calls;
+    DiskStore disk(calls);
+    VersionStore versions(disk, hub.data().string());
+    History history(disk, hub.folder().string(), versions);
+    DraftStore store(disk);
+    store.keepVersionsIn(&history);
+    int round = 0;
+    for (auto _ : state) {
+        Written files;
+        ++round;
+        for (int file = 0; file < 6; ++file)
+            files.emplace_back((hub.folder() / ("file" + std::to_string(file))).string(),
+                               std::string(2000, static_cast<char>('a' + file)) + std::to_string(round));
+        const auto save = [&] {
+            Draft draft(store, {"a save"});
+            for (const auto& [path, bytes] : files)
+                store.write(path, bytes);
+            draft.commit();
+        };
+        const double ours = secondsOf(save);
+        reportPair(state, ours, secondsOf([&] { writePlainly(files); }));
+    }
 }
 
 constexpr int repetitions = 41;
@@ -122,14 +185,19 @@ void printTable(const Figures& figures)
             printBoth("first build of the tree, " + profilesOf(count) + ", beside copying it", *build, 1.5);
     }
     for (const int count : profileCounts) {
-        const auto* rebuild = figures.of("rebuildTree/" + std::to_string(count));
-        if (!rebuild)
-            continue;
-        printBoth("rebuild, " + profilesOf(count) + " (" + number(rebuild->counters.at("files").value, 0) +
-                      " files, " + number(rebuild->counters.at("KiB").value, 0) +
-                      " KiB), beside writing the same bytes",
-                  *rebuild, count == 64 ? std::optional(3.0) : std::nullopt);
+        for (const std::string which : {"unchanged", "replaced"}) {
+            const auto* rebuild = figures.of("rebuild_" + which + '/' + std::to_string(count));
+            if (!rebuild)
+                continue;
+            printBoth("rebuild, " + profilesOf(count) + " (" +
+                          number(rebuild->counters.at("files").value, 0) + " files, " +
+                          number(rebuild->counters.at("KiB").value, 0) + " KiB, " + which +
+                          "), beside writing the same bytes",
+                      *rebuild, count == 64 ? std::optional(3.0) : std::nullopt);
+        }
     }
+    if (const auto* save = figures.of("saveForm"))
+        printPair("save of six files without waiting for the disk, beside plain writes", save, {});
 }
 
 } // namespace
@@ -140,8 +208,12 @@ int main(int argc, char** argv)
     using namespace quillfen::bench;
     for (const int count : profileCounts) {
         repeated(benchmark::RegisterBenchmark("firstBuild", firstBuild)->Arg(count), repetitions);
-        repeated(benchmark::RegisterBenchmark("rebuildTree", rebuildTree)->Arg(count), repetitions);
+        repeated(benchmark::RegisterBenchmark("rebuild_unchanged", rebuildTree, false)->Arg(count),
+                 repetitions);
+        repeated(benchmark::RegisterBenchmark("rebuild_replaced", rebuildTree, true)->Arg(count),
+                 repetitions);
     }
+    repeated(benchmark::RegisterBenchmark("saveForm", saveForm), repetitions);
     Figures figures;
     figures.run(argc, argv);
     printTable(figures);

@@ -1,18 +1,19 @@
 # Holds the includes of the sources against the floors of docs/architecture.md: each folder may use its own and those
 # that are listed. usage: cmake -DSOURCES=<folder of src> -P layers.cmake
-set(allowed_settings "settings")
-set(allowed_declarations "settings|declarations")
-set(allowed_functions "settings|declarations|functions|shell/kit")
+set(allowed_store "store")
+set(allowed_settings "store|settings")
+set(allowed_declarations "store|settings|declarations")
+set(allowed_functions "store|settings|declarations|functions|shell/kit")
 set(allowed_functions/catalogue.cpp "declarations|functions|news|portal") # the one list of all functions
 set(allowed_functions/ownparts.cpp "portal|news|functions|shell/kit") # and that of their own parts
-set(allowed_portal "settings|declarations|portal|shell/kit")
-set(allowed_news "settings|declarations|news|shell/kit")
+set(allowed_portal "store|settings|declarations|portal|shell/kit")
+set(allowed_news "store|settings|declarations|news|shell/kit")
 set(allowed_shell/icons "shell/icons")
-set(allowed_shell/kit "settings|declarations|shell/icons|shell/kit")
-set(allowed_shell/window "settings|declarations|functions|shell/icons|shell/kit|shell/window")
-set(allowed_app "settings|declarations|functions|news|shell/kit|shell/window|app")
+set(allowed_shell/kit "store|settings|declarations|shell/icons|shell/kit")
+set(allowed_shell/window "store|settings|declarations|functions|shell/icons|shell/kit|shell/window")
+set(allowed_app "store|settings|declarations|functions|news|shell/kit|shell/window|app")
 
-foreach(floor settings declarations functions portal news shell/icons shell/kit shell/window app)
+foreach(floor store settings declarations functions portal news shell/icons shell/kit shell/window app)
   file(GLOB_RECURSE sources RELATIVE ${SOURCES} ${SOURCES}/${floor}/*.h ${SOURCES}/${floor}/*.cpp)
   if(NOT sources)
     message(SEND_ERROR "no sources in ${floor}")

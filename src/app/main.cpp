@@ -1,16 +1,22 @@
+#include "app/hubdata.h"
 #include "app/start.h"
-#include "settings/diskstore.h"
+#include "store/diskstore.h"
 
 #include <QApplication>
 
 int main(int argc, char** argv)
 {
     const QApplication application(argc, argv);
+    QCoreApplication::setApplicationName("quillfen"); // whatever the owner calls the file
+    const QString folder = QCoreApplication::applicationDirPath();
     quillfen::DiskStore disk;
+    quillfen::HubData data(disk, folder);
+    data.sweep();
     quillfen::ProgramInfo info{QUILLFEN_VERSION, QStringLiteral(QUILLFEN_WEB_BASE)};
     info.newsBase = QStringLiteral(QUILLFEN_NEWS_BASE);
     info.updatesBase = QStringLiteral(QUILLFEN_UPDATES_BASE);
-    quillfen::Program program(disk, QCoreApplication::applicationDirPath(), std::move(info));
+    quillfen::Program program(disk, folder, std::move(info));
+    program.use(data);
     if (const auto exitCode = program.start())
         return *exitCode;
     program.window().show();

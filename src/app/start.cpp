@@ -1,5 +1,6 @@
 #include "app/start.h"
 
+#include "app/hubdata.h"
 #include "declarations/rebuild.h"
 #include "functions/catalogue.h"
 #include "functions/ownparts.h"
@@ -8,6 +9,7 @@
 #include "shell/kit/contraststyle.h"
 #include "shell/kit/messages.h"
 
+#include <QLabel>
 #include <QStatusBar>
 
 namespace quillfen {
@@ -34,6 +36,23 @@ Program::Program(FileStore& store, const QString& programFolder, ProgramInfo inf
 {
 }
 
+void Program::use(HubData& data)
+{
+    m_files.store().keepVersionsIn(&data.history());
+    m_isOnlyEditor = data.isOnlyEditor();
+}
+
+/// The user may go on: what is saved last holds.
+void Program::tellOfOthers()
+{
+    if (m_isOnlyEditor)
+        return;
+    auto* panel = new QLabel(m_info.product + " runs on this hub already");
+    panel->setObjectName("OTHERS");
+    panel->setTextFormat(Qt::PlainText);
+    m_window->statusBar()->addPermanentWidget(panel);
+}
+
 std::optional<int> Program::start()
 {
     ContrastStyle::install();
@@ -53,6 +72,7 @@ std::optional<int> Program::start()
     }
     auto* news = new NewsClient(*m_window->statusBar(), m_files, m_info.version.toStdString(),
                                 {m_info.newsBase.toStdString(), m_info.updatesBase.toStdString()});
+    tellOfOthers();
     news->runStart();
     return std::nullopt;
 }

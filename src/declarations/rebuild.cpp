@@ -1,5 +1,6 @@
 #include "declarations/rebuild.h"
 
+#include "settings/codepage.h"
 #include "settings/profiles.h"
 #include "settings/tablefile.h"
 #include "settings/tablewriter.h"
@@ -21,13 +22,26 @@ try {
     throw NoNewsFolder(error.path(), error.reason());
 }
 
-void buildTree(const Reconciliation& start, const HubProfiles& profiles)
+/// The name of a rebuild among the earlier versions.
+Cause rebuildCause(const SettingsFiles& files, bool forVersion)
 {
+    if (!forVersion)
+        return {"Rebuild for more profiles", Cause::Kind::Rebuild};
+    const auto version = codepage::toUtf8(files.ReadTableValue(versionFile, "sVersion"));
+    return {version.empty() ? "Rebuild" : "Rebuild from " + version, Cause::Kind::Rebuild};
+}
+
+/// File by file in the order of the catalogue. The version comes last: a rebuild that stopped is asked for
+/// again.
+void buildTree(const Reconciliation& start, const HubProfiles& profiles, const Cause& cause)
+{
+    Draft draft(start.files.store(), cause);
     makeFolderIfMissing(start.files.store(), start.files.paths().settingsRoot());
     for (const FunctionDeclaration& function : start.catalogue)
         buildFunction(function, start.files, profiles);
     start.files.WriteSettingsFile(versionFile,
                                   TableWriter("tVersion").text("sVersion", start.version).closed());
+    draft.commit();
 }
 
 /// The script's folder comes with the hub script. Without it the program stands in the wrong place, and
@@ -49,7 +63,7 @@ StartResult CheckSettingsRebuild(const Reconciliation& start, RebuildCase rebuil
         return StartResult::Current;
     if (!start.confirm(forVersion ? versionQuestion : profileQuestion))
         return StartResult::Refused;
-    buildTree(start, profiles);
+    buildTree(start, profiles, rebuildCause(start.files, forVersion));
     return StartResult::Rebuilt;
 }
 

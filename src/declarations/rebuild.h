@@ -1,7 +1,7 @@
 #pragma once
 
 #include "declarations/function.h"
-#include "settings/filestore.h"
+#include "store/filestore.h"
 
 #include <functional>
 #include <string>

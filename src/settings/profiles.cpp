@@ -1,9 +1,9 @@
 #include "settings/profiles.h"
 
 #include "settings/lines.h"
-#include "settings/filestore.h"
 #include "settings/paths.h"
 #include "settings/tabletrim.h"
+#include "store/filestore.h"
 
 namespace quillfen {
 

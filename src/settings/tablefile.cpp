@@ -116,15 +116,15 @@ std::string_view withoutListedExtension(std::string_view name)
 
 } // namespace
 
-SettingsFiles::SettingsFiles(FileStore& store, SettingsPaths paths)
-    : m_store(store),
+SettingsFiles::SettingsFiles(FileStore& disk, SettingsPaths paths)
+    : m_store(std::make_unique<DraftStore>(disk)),
       m_paths(std::move(paths))
 {
 }
 
 std::string SettingsFiles::bytesOf(const std::string& path) const
 {
-    return m_store.read(path).value_or(std::string());
+    return m_store->read(path).value_or(std::string());
 }
 
 TableIndex SettingsFiles::index(std::string_view file, bool bAppRelative) const
@@ -217,13 +217,13 @@ void SettingsFiles::WriteSettingsFile(std::string_view file, std::string_view te
     std::string bytes;
     bytes.reserve(text.size() + lineEnd.size());
     bytes.append(text).append(lineEnd);
-    m_store.write(m_paths.resolve(file, bAppRelative), bytes);
+    m_store->write(m_paths.resolve(file, bAppRelative), bytes);
 }
 
 std::vector<std::string> SettingsFiles::fileNames(std::string_view folder) const
 {
     std::vector<std::string> names;
-    for (const std::string& name : m_store.list(m_paths.resolve(folder))) {
+    for (const std::string& name : m_store->list(m_paths.resolve(folder))) {
         if (auto told = toldName(name))
             names.push_back(std::move(*told));
     }
@@ -232,14 +232,14 @@ std::vector<std::string> SettingsFiles::fileNames(std::string_view folder) const
 
 std::vector<std::string> SettingsFiles::untoldFileNames(std::string_view folder) const
 {
-    auto names = m_store.list(m_paths.resolve(folder));
+    auto names = m_store->list(m_paths.resolve(folder));
     std::erase_if(names, [](const std::string& name) { return toldName(name).has_value(); });
     return names;
 }
 
 std::string SettingsFiles::realFile(std::string_view file) const
 {
-    if (m_store.exists(m_paths.resolve(file)))
+    if (m_store->exists(m_paths.resolve(file)))
         return std::string(file);
     const auto separator = file.rfind('\\');
     const auto name = file.substr(separator + 1); // all of it without a folder
@@ -256,7 +256,7 @@ std::string SettingsFiles::realFile(std::string_view file) const
 
 void SettingsFiles::removeFile(std::string_view file) const
 {
-    m_store.remove(m_paths.resolve(file));
+    m_store->remove(m_paths.resolve(file));
 }
 
 } // namespace quillfen

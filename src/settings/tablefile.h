@@ -1,11 +1,12 @@
 #pragma once
 
-#include "settings/filestore.h"
 #include "settings/lines.h"
 #include "settings/paths.h"
 #include "settings/tableindex.h"
 #include "settings/tabletrim.h"
+#include "store/draft.h"
 
+#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -36,9 +37,10 @@ enum class Rows
 class SettingsFiles
 {
 public:
-    SettingsFiles(FileStore& store, SettingsPaths paths);
+    SettingsFiles(FileStore& disk, SettingsPaths paths);
 
-    FileStore& store() const { return m_store; }
+    /// What all goes through: the disk, and over it the open draft, if there is one.
+    DraftStore& store() const { return *m_store; }
     const SettingsPaths& paths() const { return m_paths; }
 
     /// The file, indexed for many calls of TableIndex::value; an empty index if it can't be read.
@@ -94,7 +96,7 @@ public:
 private:
     std::string bytesOf(const std::string& path) const;
 
-    FileStore& m_store;
+    std::unique_ptr<DraftStore> m_store;
     SettingsPaths m_paths;
 };
 

@@ -15,6 +15,7 @@ fresh_hub() {
 
 state() { (cd "$work/hub" && find . -type f ! -name quillfen -exec md5sum {} + | sort -k 2; find . -type d | sort); }
 
+rm -rf "$work/data"
 fresh_hub
 begin "first start builds the tree"
 press "$version_box" Return
@@ -33,16 +34,20 @@ close_main
 sed -i 's/bFlatRC = 0/bFlatRC = 1/' "$tree/General/Globals/GeneralSettings.tbl"
 sed -i "s/$version/5.1.9/" "$tree/General/Globals/Version.tbl"
 before=$(state)
+echo left > "$tree/General/.quillfen-1-2.aside" # by a crash
 begin "refused version change ends the program and changes nothing"
 press "$version_box" Escape
 ends_with 0
-[ "$(state)" = "$before" ] || fail "the refusal changed something"
+[ "$(state)" = "$before" ] || fail "the refusal changed something, or what a crash left was not swept up"
 
 begin "version change rebuilds and keeps what was set"
 press "$version_box" Return
 close_main
 grep -q "bFlatRC = 1," "$tree/General/Globals/GeneralSettings.tbl" || fail "a setting was lost"
 grep -q "sVersion = \"$version\"," "$tree/General/Globals/Version.tbl" || fail "no version record"
+data=$(echo "$work"/data/quillfen/hubs/hub-*)
+grep -q "^cause Rebuild from 5.1.9$" "$data"/versions/entries/* || fail "what the rebuild replaced was not kept"
+[ "$(stat -c %a "$data")" = 700 ] || fail "others may read the hub's data"
 
 sed -i 's|^</Profiles>|<Profile>\r\n<Name>Guest</Name>\r\n</Profile>\r\n</Profiles>|' "$work/hub/cfg/Profiles.xml"
 begin "more profiles rebuild"
@@ -75,5 +80,5 @@ press "Morvaleth's Quillfen" Return
 ends_with 1
 [ ! -e "$tree/General/PtokaX/Profiles.xml" ] || fail "the start went on"
 
-rm -rf "$work/hub"
+rm -rf "$work/hub" "$work/data"
 echo "all starts went as they should"

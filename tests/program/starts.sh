@@ -9,6 +9,7 @@ read -r number <&"${display[0]}"
 export DISPLAY=:$number
 
 export QT_QPA_PLATFORM=xcb
+export XDG_DATA_HOME=$work/data
 scripts=$work/hub/scripts
 tree="$scripts/Morvaleth's Quillfen/Settings"
 version_box="Morvaleth's Quillfen: Version Change Detected"

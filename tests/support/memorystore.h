@@ -1,6 +1,6 @@
 #pragma once
 
-#include "settings/filestore.h"
+#include "store/filestore.h"
 
 #include <functional>
 #include <map>
@@ -31,6 +31,12 @@ public:
         return damage ? damage(file->second) : file->second;
     }
 
+    std::optional<std::uintmax_t> size(const std::string& path) const override
+    {
+        const auto file = files.find(path);
+        return file == files.end() ? std::nullopt : std::optional<std::uintmax_t>(file->second.size());
+    }
+
     void write(const std::string& path, std::string_view bytes) override
     {
         note("write ", path);
@@ -59,6 +65,16 @@ public:
         std::vector<std::string> names;
         for (const auto& [path, bytes] : files) {
             if (parent(path) == folder)
+                names.push_back(path.substr(folder.size() + 1));
+        }
+        return names;
+    }
+
+    std::vector<std::string> listFolders(const std::string& folder) const override
+    {
+        std::vector<std::string> names;
+        for (const std::string& path : folders) {
+            if (parent(path) == folder && path != folder)
                 names.push_back(path.substr(folder.size() + 1));
         }
         return names;

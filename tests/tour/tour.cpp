@@ -2,7 +2,7 @@
 // every form and every dialog by itself, in a light or a dark palette.
 #include "app/start.h"
 #include "functions/catalogue.h"
-#include "settings/diskstore.h"
+#include "store/diskstore.h"
 #include "shell/kit/editdialog.h"
 #include "shell/kit/textedit.h"
 #include "shell/window/aboutbox.h"

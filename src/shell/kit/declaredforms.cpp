@@ -57,7 +57,7 @@ struct PartMaker
 std::unique_ptr<EditorForm> makeForm(const FormDeclaration& declaration, const PartMakers& makers,
                                      const FormContext& context)
 {
-    auto form = std::make_unique<EditorForm>(declaration.form);
+    auto form = std::make_unique<EditorForm>(declaration.form, context.files.store());
     for (const PartDeclaration& part : declaration.parts)
         form->add(std::visit(PartMaker{makers, context}, part));
     return form;

@@ -4,6 +4,7 @@
 #include "shell/kit/messages.h"
 #include "shell/kit/toolbars.h"
 #include "shell/kit/units.h"
+#include "store/draft.h"
 
 #include <QCloseEvent>
 #include <QFrame>
@@ -41,8 +42,9 @@ public:
 
 } // namespace
 
-EditorForm::EditorForm(const FormDescription& description)
+EditorForm::EditorForm(const FormDescription& description, DraftStore& store)
     : m_description(description),
+      m_store(store),
       m_toolbar(new QToolBar),
       m_frame(new QFrame),
       m_statusBar(new QStatusBar)
@@ -95,6 +97,19 @@ bool EditorForm::isLit(const QString& name) const
 
 void EditorForm::showNote(const QString& text)
 {
+    m_note = text;
+    fillSecondPanel();
+}
+
+void EditorForm::tellVersionFault(const QString& fault)
+{
+    m_versionFault = fault;
+    fillSecondPanel();
+}
+
+void EditorForm::fillSecondPanel()
+{
+    const QString text = m_versionFault.isEmpty() ? m_note : "No version was kept: " + m_versionFault;
     auto* panel = m_statusBar->findChildren<QLabel*>(Qt::FindDirectChildrenOnly).at(1);
     panel->setText(text);
     panel->setToolTip(text.isEmpty() ? QString() : Qt::convertFromPlainText(text));
@@ -165,8 +180,10 @@ void EditorForm::save()
         return;
     // After a failure the form stays dirty and complete, so that nothing typed is lost.
     const bool saved = attempt(this, saving(caption()), [this] {
+        Draft draft(m_store, {m_description.caption});
         for (FormPart* part : m_parts)
             part->save();
+        draft.commit();
     });
     if (!saved)
         return;

@@ -17,6 +17,8 @@ class QToolBar;
 
 namespace quillfen {
 
+class DraftStore;
+
 /// An editor form: its toolbar, its parts in a frame that scrolls where there is too little room for them,
 /// its status bar, and the cycle of load, change, save, discard, restore and close. It alone knows whether
 /// the controls differ from the files.
@@ -25,7 +27,7 @@ class EditorForm : public QWidget
     Q_OBJECT
 
 public:
-    explicit EditorForm(const FormDescription& description);
+    EditorForm(const FormDescription& description, DraftStore& store);
 
     /// Places the part behind the ones before.
     void add(std::unique_ptr<FormPart> part);
@@ -41,6 +43,9 @@ public:
 
     /// Whether a borrowed menu shows that routine's item as lit: not while its button is dark.
     bool isLit(const QString& name) const;
+
+    /// Shows in the second status panel why no version of what was replaced last was kept; empty if one was.
+    void tellVersionFault(const QString& fault);
 
     bool isDirty() const { return bDirty; }
     QString caption() const { return windowTitle(); }
@@ -65,9 +70,11 @@ private:
     void restore();
     void markDirty();
     void showNote(const QString& text);
+    void fillSecondPanel();
     bool confirmDiscard();
 
     FormDescription m_description;
+    DraftStore& m_store;
     QString m_tag;
     QToolBar* m_toolbar;
     QFrame* m_frame;
@@ -76,7 +83,9 @@ private:
     RoutineTable m_routines;
     bool bDirty = false;
     bool m_loading = false;
-    QString m_notLoaded; ///< why the last load stopped; empty after one that went through
+    QString m_note;         ///< what a part says in the second panel
+    QString m_versionFault; ///< and what takes its place there
+    QString m_notLoaded;    ///< why the last load stopped; empty after one that went through
 };
 
 } // namespace quillfen

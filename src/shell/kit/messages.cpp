@@ -1,15 +1,33 @@
 #include "shell/kit/messages.h"
 
 #include "settings/filename.h"
-#include "settings/filestore.h"
 #include "shell/kit/codepagetext.h"
 #include "shell/kit/longtext.h"
 #include "shell/kit/windowtitle.h"
+#include "store/filestore.h"
 
 #include <QDir>
+#include <QFileInfo>
 
 namespace quillfen {
 namespace {
+
+QString namesOf(const std::vector<std::string>& paths)
+{
+    QStringList names;
+    for (const std::string& path : paths)
+        names.append(QFileInfo(QString::fromStdString(path)).fileName());
+    return names.join(", ");
+}
+
+/// What a save that stopped half-way made of its files; empty where it changed none.
+QString whatChanged(const StoreError& error)
+{
+    const auto* half = dynamic_cast<const HalfCommitted*>(&error);
+    if (!half)
+        return {};
+    return " New already: " + namesOf(half->changed()) + ". Still as before: " + namesOf(half->left()) + '.';
+}
 
 QMessageBox::StandardButton show(QWidget* parent, const QString& title, const QString& text,
                                  QMessageBox::Icon icon, QMessageBox::StandardButtons buttons,
@@ -71,7 +89,8 @@ bool attempt(QWidget* parent, const FailureWords& words, const std::function<voi
         write();
         return true;
     } catch (const StoreError& error) {
-        tellFailure(parent, parent->window()->windowTitle(), words, error);
+        tellFailure(parent, parent->window()->windowTitle(),
+                    {words.failed, words.remedy + whatChanged(error)}, error);
         return false;
     }
 }

@@ -138,6 +138,8 @@ MainWindow::MainWindow(const ProgramInfo& program, const FormContext& context, c
     letKeysReachButtons(*this);
     m_navigator->find();
 
+    followStore();
+
     connect(m_popUpMenus, &PopUpMenus::routineMissing, this, [this](const QString& routine) {
         notify(this, m_program.product, "The active form has no " + routine + '.', QMessageBox::Critical);
     });
@@ -145,7 +147,23 @@ MainWindow::MainWindow(const ProgramInfo& program, const FormContext& context, c
 
 MainWindow::~MainWindow()
 {
+    m_context.files.store().hear({});
     m_area->disconnect(this); // as it goes with its forms, they still activate each other
+}
+
+/// What is written outside of a form's save, a text or a deletion, is the active form's doing.
+void MainWindow::followStore()
+{
+    StoreListener listener;
+    listener.cause = [this] {
+        const auto* form = activeForm();
+        return Cause{form ? form->caption().toStdString() : m_program.product.toStdString()};
+    };
+    listener.versionKept = [this](const std::string& fault) {
+        if (auto* form = activeForm())
+            form->tellVersionFault(QString::fromStdString(fault));
+    };
+    m_context.files.store().hear(std::move(listener));
 }
 
 void MainWindow::addToolbar(bool portalShown)

@@ -45,6 +45,7 @@ protected:
 
 private:
     void buildMenus();
+    void followStore();
     void addToolbar(bool portalShown);
     EditorForm* formOf(const QString& key);
     QMdiSubWindow* subWindowOf(const QString& name) const;

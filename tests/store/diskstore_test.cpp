@@ -1,0 +1,275 @@
+#include "store/diskstore.h"
+#include "support/diskfolder.h"
+
+#include <gtest/gtest.h>
+
+#ifndef _WIN32
+#include <sys/stat.h>
+#include <unistd.h>
+#endif
+
+namespace quillfen {
+namespace {
+
+class Disk : public testing::Test
+{
+protected:
+    DiskStore disk;
+    test::DiskFolder place;
+    const std::string folder = place.path();
+};
+
+TEST_F(Disk, KeepsEveryByte)
+{
+    std::string bytes;
+    for (int byte = 0; byte < 256; ++byte)
+        bytes += static_cast<char>(byte);
+    disk.write(folder + "/a", bytes);
+    EXPECT_EQ(disk.read(folder + "/a"), bytes);
+}
+
+TEST_F(Disk, AShorterTextReplacesALongerOne)
+{
+    disk.write(folder + "/a", "a long text");
+    disk.write(folder + "/a", "b");
+    EXPECT_EQ(disk.read(folder + "/a"), "b");
+}
+
+TEST_F(Disk, HasNamesInUtf8)
+{
+    disk.write(folder + "/caf\xC3\xA9", "x");
+    EXPECT_TRUE(
+        std::filesystem::exists(std::filesystem::path(folder) / std::filesystem::path(u8"caf\u00E9")));
+}
+
+TEST_F(Disk, AMissingFileAndAFolderAreNotRead)
+{
+    EXPECT_FALSE(disk.read(folder + "/no"));
+    EXPECT_FALSE(disk.read(folder));
+    EXPECT_FALSE(disk.exists(folder + "/no"));
+    EXPECT_TRUE(disk.exists(folder));
+}
+
+TEST_F(Disk, MakesOneFolder)
+{
+    disk.makeFolder(folder + "/a");
+    EXPECT_TRUE(std::filesystem::is_directory(folder + "/a"));
+}
+
+TEST_F(Disk, ListsTheFilesOfAFolderInOrderAndNotItsFolders)
+{
+    for (const char* name : {"/b.asc", "/B.asc", "/caf\xC3\xA9", "/.hidden"})
+        disk.write(folder + name, "x");
+    disk.makeFolder(folder + "/a");
+    disk.write(folder + "/a/inner", "x");
+    EXPECT_EQ(disk.list(folder), (std::vector<std::string>{".hidden", "B.asc", "b.asc", "caf\xC3\xA9"}));
+    EXPECT_EQ(disk.list(folder + "/no"), std::vector<std::string>());
+    EXPECT_EQ(disk.list(folder + "/b.asc"), std::vector<std::string>());
+}
+
+TEST_F(Disk, SortsTheFilesOfAFolderWhicheverCameFirst)
+{
+    std::vector<std::string> sorted;
+    for (char name = 'a'; name <= 'z'; ++name)
+        sorted.emplace_back(1, name);
+    for (std::size_t file = 0; file < sorted.size(); ++file) // each of them once, to and fro
+        disk.write(folder + "/" + sorted[file * 7 % sorted.size()], "x");
+    EXPECT_EQ(disk.list(folder), sorted);
+}
+
+TEST_F(Disk, RemovesAFileAndMindsNoneThatIsGone)
+{
+    disk.write(folder + "/a", "x");
+    disk.remove(folder + "/a");
+    EXPECT_FALSE(disk.exists(folder + "/a"));
+    EXPECT_NO_THROW(disk.remove(folder + "/a"));
+}
+
+TEST_F(Disk, AFailureTellsFileAndReason)
+{
+    const auto failureOf = [](auto act) {
+        try {
+            act();
+        } catch (const StoreError& error) {
+            return std::pair(error.path(), error.reason());
+        }
+        return std::pair<std::string, std::string>();
+    };
+    EXPECT_EQ(failureOf([&] { disk.write(folder + "/no/a", "x"); }),
+              std::pair(folder + "/no/a", std::string("No such file or directory")));
+    EXPECT_EQ(failureOf([&] { disk.write(folder, "x"); }), std::pair(folder, std::string("Is a directory")));
+    EXPECT_EQ(failureOf([&] { disk.makeFolder(folder + "/no/a"); }),
+              std::pair(folder + "/no/a", std::string("No such file or directory")));
+    EXPECT_EQ(failureOf([&] { disk.remove(folder); }), std::pair(folder, std::string("Is a directory")));
+}
+
+TEST_F(Disk, ACommitCarriesOutAllOfItsChanges)
+{
+    disk.write(folder + "/gone", "x");
+    disk.write(folder + "/old", "x");
+    using Kind = StoreChange::Kind;
+    disk.commit({{Kind::MakeFolder, folder + "/a"},
+                 {Kind::Write, folder + "/a/b", "b"},
+                 {Kind::Write, folder + "/old", "new"},
+                 {Kind::Remove, folder + "/gone"}});
+    EXPECT_EQ(place.files(), (std::map<std::string, std::string>{{"a/b", "b"}, {"old", "new"}}));
+}
+
+TEST_F(Disk, ACommitWithOneBadChangeCarriesOutNone)
+{
+    disk.write(folder + "/old", "x");
+    using Kind = StoreChange::Kind;
+    EXPECT_THROW(disk.commit({{Kind::MakeFolder, folder + "/a"},
+                              {Kind::Write, folder + "/a/b", "b"},
+                              {Kind::Write, folder + "/old", "new"},
+                              {Kind::Write, folder + "/no/c", "c"}}),
+                 StoreError);
+    EXPECT_EQ(place.files(), (std::map<std::string, std::string>{{"old", "x"}}));
+    EXPECT_FALSE(disk.exists(folder + "/a"));
+}
+
+TEST_F(Disk, ListsTheFoldersOfAFolderInOrder)
+{
+    for (const char* name : {"/b", "/a", "/a/inner"})
+        disk.makeFolder(folder + name);
+    disk.write(folder + "/file", "x");
+    EXPECT_EQ(disk.listFolders(folder), (std::vector<std::string>{"a", "b"}));
+    EXPECT_EQ(disk.listFolders(folder + "/no"), std::vector<std::string>());
+}
+
+TEST_F(Disk, ReplacesAFileWhoseNameIsAsLongAsNamesMayBe)
+{
+    const std::string name = folder + '/' + std::string(255, 'n');
+    disk.write(name, "old");
+    disk.write(name, "new");
+    EXPECT_EQ(disk.read(name), "new");
+}
+
+TEST_F(Disk, SweepsUpItsOwnAsideFilesAndNothingElse)
+{
+    disk.makeFolder(folder + "/a");
+    const std::vector<std::string> owners = {".quillfen-1", "quillfen-1.aside", ".hidden", "a/notes.aside"};
+    for (const std::string& name : owners)
+        disk.write(folder + '/' + name, "x");
+    for (const char* name : {"/.quillfen-1-2.aside", "/a/.quillfen-3-4.aside"})
+        std::ofstream(folder + name) << "left";
+    disk.sweep(folder);
+    std::vector<std::string> names;
+    for (const auto& [name, bytes] : place.files())
+        names.push_back(name);
+    EXPECT_EQ(names,
+              (std::vector<std::string>{".hidden", ".quillfen-1", "a/notes.aside", "quillfen-1.aside"}));
+}
+
+#ifndef _WIN32
+TEST_F(Disk, SweepsWhereLinksLeadAndComesBackFromARing)
+{
+    for (const char* name : {"/tree", "/beside", "/beside/linked"})
+        disk.makeFolder(folder + name);
+    disk.write(folder + "/beside/file", "x");
+    std::filesystem::create_symlink(folder + "/beside/file", folder + "/tree/file");
+    std::filesystem::create_symlink(folder + "/beside/linked", folder + "/tree/linked");
+    std::filesystem::create_symlink(folder + "/tree", folder + "/tree/ring");
+    std::filesystem::create_symlink(folder + "/nowhere", folder + "/tree/broken");
+    for (const char* name : {"/beside/.quillfen-1-2.aside", "/beside/linked/.quillfen-3-4.aside"})
+        std::ofstream(folder + name) << "left";
+    disk.sweep(folder + "/tree");
+    EXPECT_EQ(place.files(), (std::map<std::string, std::string>{{"beside/file", "x"}, {"tree/file", "x"}}));
+}
+
+TEST_F(Disk, AFileKeepsItsModeAndOwner)
+{
+    const std::string file = folder + "/a";
+    disk.write(file, "x");
+    ASSERT_EQ(chmod(file.c_str(), 0640), 0);
+    const bool isRoot = geteuid() == 0;
+    if (isRoot) {
+        ASSERT_EQ(chown(file.c_str(), 1234, 4321), 0);
+    }
+    disk.write(file, "y");
+    struct stat status = {};
+    ASSERT_EQ(stat(file.c_str(), &status), 0);
+    EXPECT_EQ(status.st_mode & 07777U, 0640U);
+    EXPECT_EQ(status.st_uid, isRoot ? 1234U : geteuid());
+    EXPECT_EQ(status.st_gid, isRoot ? 4321U : getegid());
+}
+
+TEST_F(Disk, ANewFileHasTheUsualRightsAndAPrivateOneItsOwnersAlone)
+{
+    const mode_t before = umask(022);
+    disk.write(folder + "/usual", "x");
+    DiskStore own(Access::OwnerOnly);
+    own.makeFolder(folder + "/private");
+    own.write(folder + "/private/file", "x");
+    umask(before);
+    const auto modeOf = [this](const char* name) {
+        struct stat status = {};
+        EXPECT_EQ(stat((folder + name).c_str(), &status), 0);
+        return status.st_mode & 07777U;
+    };
+    EXPECT_EQ(modeOf("/usual"), 0644U);
+    EXPECT_EQ(modeOf("/private"), 0700U);
+    EXPECT_EQ(modeOf("/private/file"), 0600U);
+}
+
+TEST_F(Disk, ALinkIsFollowedAndNotReplaced)
+{
+    disk.makeFolder(folder + "/far");
+    disk.write(folder + "/far/target", "old");
+    std::filesystem::create_symlink("far/target", folder + "/link");
+    std::filesystem::create_symlink("link", folder + "/linkToLink");
+    std::filesystem::create_symlink("far/none", folder + "/dangling");
+    disk.write(folder + "/linkToLink", "new");
+    disk.write(folder + "/dangling", "made");
+    EXPECT_TRUE(std::filesystem::is_symlink(folder + "/link"));
+    EXPECT_TRUE(std::filesystem::is_symlink(folder + "/linkToLink"));
+    EXPECT_EQ(disk.read(folder + "/far/target"), "new");
+    EXPECT_EQ(disk.read(folder + "/far/none"), "made");
+}
+
+TEST_F(Disk, ARingOfLinksIsAFailure)
+{
+    std::filesystem::create_symlink("b", folder + "/a");
+    std::filesystem::create_symlink("a", folder + "/b");
+    EXPECT_THROW(disk.write(folder + "/a", "x"), StoreError);
+}
+
+TEST_F(Disk, AFileThatIsClosedToWritersStaysAsItIs)
+{
+    if (geteuid() == 0)
+        GTEST_SKIP() << "nothing is closed to root";
+    disk.write(folder + "/a", "old");
+    ASSERT_EQ(chmod((folder + "/a").c_str(), 0444), 0);
+    EXPECT_THROW(disk.write(folder + "/a", "new"), StoreError);
+    EXPECT_EQ(disk.read(folder + "/a"), "old");
+}
+
+TEST_F(Disk, AFileInAFolderThatTakesNoNewOneIsWrittenInPlace)
+{
+    if (geteuid() == 0)
+        GTEST_SKIP() << "nothing is closed to root";
+    disk.makeFolder(folder + "/closed");
+    disk.write(folder + "/closed/a", "a longer old text");
+    ASSERT_EQ(chmod((folder + "/closed").c_str(), 0555), 0);
+    disk.write(folder + "/closed/a", "new");
+    EXPECT_EQ(disk.read(folder + "/closed/a"), "new");
+    EXPECT_THROW(disk.write(folder + "/closed/b", "new"), StoreError);
+    ASSERT_EQ(chmod((folder + "/closed").c_str(), 0755), 0);
+}
+#endif
+
+#ifdef __linux__
+TEST_F(Disk, AFullDiskIsAFailure)
+{
+    try {
+        disk.write("/dev/full", std::string(100000, 'x'));
+        FAIL() << "no error";
+    } catch (const StoreError& error) {
+        EXPECT_EQ(error.reason(), "No space left on device");
+    }
+    EXPECT_THROW(disk.write("/dev/full", "x"), StoreError); // shows only when the file is closed
+}
+#endif
+
+} // namespace
+} // namespace quillfen
