@@ -206,7 +206,7 @@ int main(int argc, char** argv)
     using namespace quillfen::bench;
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const QApplication application(argc, argv);
-    const QStringList keys = formKeys();
+    const QStringList keys = quillfen::formKeys();
     Desk few(5);
     Desk many(64);
     registerAll(5, few, keys);
