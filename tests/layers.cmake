@@ -1,6 +1,8 @@
 # Holds the includes of the sources against the floors of docs/architecture.md: each folder may use its own and those
 # that are listed. usage: cmake -DSOURCES=<folder of src> -P layers.cmake
+set(allowed_lua "lua")
 set(allowed_settings "settings")
+set(allowed_advice "lua|settings|functions|advice")
 set(allowed_functions "settings|functions|shell/kit")
 set(allowed_functions/forms.cpp "portal|news|functions|shell/kit") # the one list of all forms
 set(allowed_portal "settings|portal|shell/kit")
@@ -10,7 +12,7 @@ set(allowed_shell/kit "settings|shell/icons|shell/kit")
 set(allowed_shell/window "settings|shell/icons|shell/kit|shell/window")
 set(allowed_app "settings|functions|news|shell/kit|shell/window|app")
 
-foreach(floor settings functions portal news shell/icons shell/kit shell/window app)
+foreach(floor lua settings advice functions portal news shell/icons shell/kit shell/window app)
   file(GLOB_RECURSE sources RELATIVE ${SOURCES} ${SOURCES}/${floor}/*.h ${SOURCES}/${floor}/*.cpp)
   if(NOT sources)
     message(SEND_ERROR "no sources in ${floor}")

@@ -1,8 +1,8 @@
+#include "advice/notloading.h"
 #include "functions/catalogue.h"
 #include "settings/rebuild.h"
 #include "support/hub.h"
 #include "support/lua.h"
-#include "support/notloading.h"
 
 #include <algorithm>
 #include <gtest/gtest.h>
@@ -61,7 +61,7 @@ protected:
     {
         std::map<std::string, LuaValues> all;
         for (const auto& [path, bytes] : hub.store.files) {
-            if (path.ends_with(".tbl") && !test::notLoading().contains(path.substr(hub.root.size() + 1)))
+            if (path.ends_with(".tbl") && !notLoading().contains(path.substr(hub.root.size() + 1)))
                 all[path] = luaValues(bytes);
         }
         return all;
