@@ -65,7 +65,6 @@ private:
     Value negative();
     Value table();
     bool field();
-    void namedField();
     void keyedField();
     void endOfField(std::size_t openingLine);
     void refuseOperator() const;
