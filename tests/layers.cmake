@@ -10,7 +10,7 @@ set(allowed_news "settings|news|shell/kit")
 set(allowed_shell/icons "shell/icons")
 set(allowed_shell/kit "settings|shell/icons|shell/kit")
 set(allowed_shell/window "settings|shell/icons|shell/kit|shell/window")
-set(allowed_app "settings|functions|news|shell/kit|shell/window|app")
+set(allowed_app "advice|settings|functions|news|shell/kit|shell/window|app")
 
 foreach(floor lua settings advice functions portal news shell/icons shell/kit shell/window app)
   file(GLOB_RECURSE sources RELATIVE ${SOURCES} ${SOURCES}/${floor}/*.h ${SOURCES}/${floor}/*.cpp)

@@ -1,12 +1,18 @@
+#include "advice/checkcommand.h"
 #include "app/start.h"
 #include "settings/diskstore.h"
 
 #include <QApplication>
 
+#include <iostream>
+
 int main(int argc, char** argv)
 {
-    const QApplication application(argc, argv);
     quillfen::DiskStore disk;
+    if (argc > 1 && std::string_view(argv[1]) == "--check") // needs no display
+        return quillfen::runCheck(disk, quillfen::programFolderOf(argv[0]), {argv + 2, argv + argc},
+                                  std::cout, std::cerr);
+    const QApplication application(argc, argv);
     quillfen::ProgramInfo info{QUILLFEN_VERSION, QStringLiteral(QUILLFEN_WEB_BASE)};
     info.newsBase = QStringLiteral(QUILLFEN_NEWS_BASE);
     info.updatesBase = QStringLiteral(QUILLFEN_UPDATES_BASE);

@@ -3,6 +3,7 @@
 #include "functions/catalogue.h"
 #include "functions/forms.h"
 #include "news/newsclient.h"
+#include "settings/profiles.h"
 #include "settings/rebuild.h"
 #include "shell/kit/codepagetext.h"
 #include "shell/kit/contraststyle.h"
@@ -24,6 +25,24 @@ FailureWords wordsFor(const StoreError& error)
     return {"The settings couldn't be rebuilt.",
             "What was written by then stays, and the next start asks again: mend it and start the program "
             "again."};
+}
+
+/// Puts what is to be told of the hub's profiles behind the told panels, if there is anything.
+void showNotices(QStatusBar& statusBar, const std::vector<ProfileNotice>& notices)
+{
+    QStringList sentences;
+    QStringList details;
+    for (const ProfileNotice& notice : notices) {
+        sentences.append(fromBytes(notice.sentence));
+        details.append({fromBytes(notice.sentence), fromBytes(notice.details)});
+    }
+    if (sentences.isEmpty())
+        return;
+    auto* panel = new StatusPanel("PROFILES", {});
+    panel->setLine(sentences.join(". "));
+    panel->setToolTip(Qt::convertFromPlainText(details.join('\n')));
+    panel->setAccessibleDescription(details.join('\n'));
+    statusBar.addPermanentWidget(panel);
 }
 
 } // namespace
@@ -50,6 +69,7 @@ std::optional<int> Program::start()
         tellFailure(nullptr, m_info.product, wordsFor(error), error);
         return 1;
     }
+    showNotices(*m_window->statusBar(), profileNotices(m_files.store(), m_files.paths()));
     auto* news = new NewsClient(*m_window->statusBar(), m_files, m_info.version.toStdString(),
                                 {m_info.newsBase.toStdString(), m_info.updatesBase.toStdString()});
     news->runStart();

@@ -126,7 +126,7 @@ void buildTrivia(const SettingsFiles& files, const HubProfiles& profiles)
     files.WriteSettingsFile(questionFilesPath, table.closed());
     // Only together with its table: an owner who deleted the file but kept the table doesn't get it back.
     writeIfMissing(files, triviaQuestionFile("TriviaQuestions"),
-                   "Misc:Which short word is the title of a novel in Tavis Orlemon's series?*mort\r\n");
+                   std::string(firstTriviaQuestion).append(lineEnd));
 }
 
 } // namespace quillfen
