@@ -25,8 +25,9 @@ public:
     explicit Desk(int profiles) : hub(static_cast<std::size_t>(profiles))
     {
         hub.start();
-        window = std::make_unique<MainWindow>(ProgramInfo{QUILLFEN_VERSION},
-                                              FormContext{hub.files, hub.profiles}, formCatalogue());
+        window =
+            std::make_unique<MainWindow>(ProgramInfo{QUILLFEN_VERSION}, FormContext{hub.files, hub.profiles},
+                                         formCatalogue(), partMakers());
         window->show();
         QApplication::processEvents();
     }
@@ -205,7 +206,7 @@ int main(int argc, char** argv)
     using namespace quillfen::bench;
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const QApplication application(argc, argv);
-    const QStringList keys = builtKeys();
+    const QStringList keys = formKeys();
     Desk few(5);
     Desk many(64);
     registerAll(5, few, keys);

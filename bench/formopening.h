@@ -1,6 +1,6 @@
 #pragma once
 
-#include "functions/forms.h"
+#include "functions/ownparts.h"
 #include "shell/kit/editorform.h"
 #include "shell/window/mainwindow.h"
 #include "shell/window/navigatortable.h"
@@ -10,7 +10,6 @@
 #include <QMdiArea>
 #include <QMdiSubWindow>
 
-#include <set>
 #include <stdexcept>
 
 namespace quillfen::bench {
@@ -32,20 +31,6 @@ public:
 private:
     bool m_painted = false;
 };
-
-/// The keys whose forms are built; a drop-down may name one that is still to come.
-inline QStringList builtKeys()
-{
-    std::set<QString> names;
-    for (const FormDeclaration& form : formCatalogue())
-        names.insert(form.form.name);
-    QStringList keys;
-    for (const QString& key : formKeys()) {
-        if (names.count(formName(key)) > 0)
-            keys.append(key);
-    }
-    return keys;
-}
 
 /// Opens a form as a click in the tree does, up to its first paint.
 inline EditorForm& openForm(MainWindow& window, const QString& key)

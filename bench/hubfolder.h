@@ -1,10 +1,10 @@
 #pragma once
 
+#include "declarations/rebuild.h"
 #include "functions/catalogue.h"
 #include "settings/diskstore.h"
 #include "settings/paths.h"
 #include "settings/profiles.h"
-#include "settings/rebuild.h"
 #include "settings/tablefile.h"
 
 #include <cstddef>

@@ -2,17 +2,19 @@
 # that are listed. usage: cmake -DSOURCES=<folder of src> -P layers.cmake
 set(allowed_lua "lua")
 set(allowed_settings "settings")
-set(allowed_advice "lua|settings|functions|advice")
-set(allowed_functions "settings|functions|shell/kit")
-set(allowed_functions/forms.cpp "portal|news|functions|shell/kit") # the one list of all forms
-set(allowed_portal "settings|portal|shell/kit")
-set(allowed_news "settings|news|shell/kit")
+set(allowed_declarations "settings|declarations")
+set(allowed_functions "settings|declarations|functions|shell/kit")
+set(allowed_functions/catalogue.cpp "declarations|functions|news|portal") # the one list of all functions
+set(allowed_functions/ownparts.cpp "portal|news|functions|shell/kit") # and that of their own parts
+set(allowed_portal "settings|declarations|portal|shell/kit")
+set(allowed_news "settings|declarations|news|shell/kit")
 set(allowed_shell/icons "shell/icons")
-set(allowed_shell/kit "settings|shell/icons|shell/kit")
-set(allowed_shell/window "settings|shell/icons|shell/kit|shell/window")
-set(allowed_app "advice|settings|functions|news|shell/kit|shell/window|app")
+set(allowed_shell/kit "settings|declarations|shell/icons|shell/kit")
+set(allowed_shell/window "settings|declarations|functions|shell/icons|shell/kit|shell/window")
+set(allowed_advice "lua|settings|declarations|functions|advice")
+set(allowed_app "advice|settings|declarations|functions|news|shell/kit|shell/window|app")
 
-foreach(floor lua settings advice functions portal news shell/icons shell/kit shell/window app)
+foreach(floor lua settings declarations functions advice portal news shell/icons shell/kit shell/window app)
   file(GLOB_RECURSE sources RELATIVE ${SOURCES} ${SOURCES}/${floor}/*.h ${SOURCES}/${floor}/*.cpp)
   if(NOT sources)
     message(SEND_ERROR "no sources in ${floor}")
@@ -28,8 +30,8 @@ foreach(floor lua settings advice functions portal news shell/icons shell/kit sh
         message(SEND_ERROR "${source}: ${include}")
       endif()
       # Nothing of one function includes another function's files: what two share lives below, or in the group's own
-      # folder shared/. Only the group's list of forms names them all.
-      if(NOT source MATCHES "/forms\\.cpp$" AND source MATCHES "^functions/([a-z]+)/([a-z]+)\\.(h|cpp)$")
+      # folder shared/. Only the lists of all functions and parts name them.
+      if(source MATCHES "^functions/([a-z]+)/([a-z]+)\\.(h|cpp)$")
         set(group ${CMAKE_MATCH_1})
         string(REGEX REPLACE "form$" "" unit ${CMAKE_MATCH_2})
         if(include MATCHES "\"functions/([a-z]+)/([a-z]+)\\.h\"")

@@ -19,25 +19,31 @@ std::vector<Finding> findingsOf(const SettingsFiles& files, const std::string& f
     return bytes ? fileFindings(file, *bytes) : std::vector{Finding{file, 0, std::string(unreadableWords)}};
 }
 
+std::vector<std::string> treeFolders()
+{
+    std::vector<std::string> folders;
+    for (const FunctionDeclaration& function : folderCatalogue())
+        folders.insert(folders.end(), function.folders.begin(), function.folders.end());
+    return folders;
+}
+
 } // namespace
 
 bool hasTree(const SettingsFiles& files)
 {
-    const auto& catalogue = folderCatalogue();
-    return std::any_of(catalogue.begin(), catalogue.end(), [&files](const CatalogueRow& row) {
-        return files.store().exists(files.paths().inSettings(row.folders.front()));
+    const auto folders = treeFolders();
+    return std::any_of(folders.begin(), folders.end(), [&files](const std::string& folder) {
+        return files.store().exists(files.paths().inSettings(folder));
     });
 }
 
 std::vector<Finding> checkTree(const SettingsFiles& files)
 {
     std::vector<Finding> findings;
-    for (const CatalogueRow& row : folderCatalogue()) {
-        for (const auto folder : row.folders) {
-            for (const std::string& name : files.fileNames(folder)) {
-                auto found = findingsOf(files, std::string(folder) + '\\' + name);
-                std::move(found.begin(), found.end(), std::back_inserter(findings));
-            }
+    for (const std::string& folder : treeFolders()) {
+        for (const std::string& name : files.fileNames(folder)) {
+            auto found = findingsOf(files, folder + '\\' + name);
+            std::move(found.begin(), found.end(), std::back_inserter(findings));
         }
     }
     return findings;

@@ -1,10 +1,10 @@
 #include "app/start.h"
 
+#include "declarations/rebuild.h"
 #include "functions/catalogue.h"
-#include "functions/forms.h"
+#include "functions/ownparts.h"
 #include "news/newsclient.h"
 #include "settings/profiles.h"
-#include "settings/rebuild.h"
 #include "shell/kit/codepagetext.h"
 #include "shell/kit/contraststyle.h"
 #include "shell/kit/messages.h"
@@ -57,7 +57,8 @@ std::optional<int> Program::start()
 {
     ContrastStyle::install();
     // The navigator comes before the rebuild and shows the tree's switches as they stand now.
-    m_window = std::make_unique<MainWindow>(m_info, FormContext{m_files, m_profiles}, formCatalogue());
+    m_window =
+        std::make_unique<MainWindow>(m_info, FormContext{m_files, m_profiles}, formCatalogue(), partMakers());
     const auto ask = [](const RebuildQuestion& question) {
         return confirm(nullptr, fromBytes(question.title), fromBytes(question.text));
     };

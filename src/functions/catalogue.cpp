@@ -6,6 +6,7 @@
 #include "functions/communication/chatpermissions.h"
 #include "functions/communication/chatrooms.h"
 #include "functions/communication/clock.h"
+#include "functions/communication/hubemail.h"
 #include "functions/communication/massmessage.h"
 #include "functions/communication/motd.h"
 #include "functions/communication/rotatingmessages.h"
@@ -27,6 +28,7 @@
 #include "functions/games/threecardmonty.h"
 #include "functions/games/trivia.h"
 #include "functions/general/bots.h"
+#include "functions/general/languages.h"
 #include "functions/general/settings.h"
 #include "functions/general/switches.h"
 #include "functions/security/antiadvertise.h"
@@ -48,97 +50,118 @@
 #include "functions/useractions/calculator.h"
 #include "functions/useractions/collections.h"
 #include "functions/useractions/spells.h"
+#include "news/news.h"
+#include "portal/portalsettings.h"
+
+#include <algorithm>
+#include <initializer_list>
+#include <iterator>
+#include <string>
+#include <utility>
 
 namespace quillfen {
+namespace {
+
+using Declared = FunctionDeclaration (*)();
+
+void addNodes(std::vector<Node>& all, FunctionDeclaration function)
+{
+    std::move(function.nodes.begin(), function.nodes.end(), std::back_inserter(all));
+}
+
+std::vector<Node> allNodes()
+{
+    std::vector<Node> all;
+    const auto addGroup = [&all](const char* key, const char* caption,
+                                 std::initializer_list<Declared> group) {
+        all.push_back({key, caption});
+        for (const Declared declared : group)
+            addNodes(all, declared());
+    };
+    addGroup("General", "General",
+             {generalSettingsFunction, botsFunction, languagesFunction, newsFunction, switchesFunction});
+    addGroup("Communication", "Communication",
+             {autoCorrectFunction, chatRoomsFunction, clockFunction, hubEmailFunction, kickBarChangerFunction,
+              massMessageFunction, motdFunction, muteFunction, portalFunction, rotatingMainMessagesFunction,
+              rotatingPrivateMessagesFunction, talkFunction, topicChangerFunction, welcomeInfoFunction,
+              whisperFunction});
+    addGroup("CustomiseUser", "Customise User",
+             {customRightClickFunction, descriptionTagsFunction, hideShareFunction, introsOutrosFunction,
+              asciiIntrosFunction});
+    addGroup("Games", "Games",
+             {anagramsFunction, codeBreakerFunction, guessTheNumberFunction, hangmanFunction, numbersFunction,
+              russianRouletteFunction, scoreClearersFunction, slotMachineFunction, threeCardMontyFunction,
+              triviaFunction});
+    addGroup("Security", "Security",
+             {antiAdvertiseFunction, antiVirusFunction, badNickBlockerFunction, clientCheckerFunction,
+              cloneBlockerFunction, commandSpyFunction, floodFunction, kicksFunction, mainBlockFunction,
+              mainCleanerFunction, mainLockFunction, ptokaXSettingsFunction, privateHubFunction,
+              profileRulesFunction, registrationFunction, reportFunction, rulesFunction, searchSpyFunction,
+              userLogFunction});
+    addGroup("UserActions", "User Actions",
+             {asciiFunction, attacksFunction, calculatorFunction, doActionsFunction, insultsFunction,
+              jokesFunction, limericksFunction, proverbsFunction, quotationsFunction, spellsFunction,
+              nickSpellsFunction});
+    for (std::size_t member = 0; member < archiveMembers().size(); ++member)
+        addNodes(all, archiveFunction(member));
+    return all;
+}
+
+FolderCatalogue allFolders()
+{
+    FolderCatalogue all;
+    const auto addGroup = [&all](const char* folder, std::initializer_list<Declared> group) {
+        all.push_back({.folders = {folder}});
+        for (const Declared declared : group)
+            all.push_back(declared());
+    };
+    addGroup("CustomiseUser", {customRightClickFunction, descriptionTagsFunction, hideShareFunction,
+                               introsOutrosFunction, asciiIntrosFunction});
+    addGroup("Communication", {autoCorrectFunction, chatRoomsFunction, clockFunction, kickBarChangerFunction,
+                               massMessageFunction, motdFunction, muteFunction, rotatingMainMessagesFunction,
+                               rotatingPrivateMessagesFunction, talkFunction, topicChangerFunction,
+                               welcomeInfoFunction, whisperFunction});
+    addGroup("Games", {anagramsFunction, codeBreakerFunction, scoreClearersFunction, guessTheNumberFunction,
+                       hangmanFunction, numbersFunction, russianRouletteFunction, slotMachineFunction,
+                       threeCardMontyFunction, triviaFunction});
+    addGroup("General", {botsFunction, generalSettingsFunction, switchesFunction});
+    all.push_back({.folders = {R"(General\PtokaX)"}}); // holds the saved copy of the hub's profile file
+    all.push_back(languagesFunction());
+    addGroup("Security",
+             {antiAdvertiseFunction, antiVirusFunction, badNickBlockerFunction, clientCheckerFunction,
+              cloneBlockerFunction, commandSpyFunction, floodFunction, kicksFunction, mainBlockFunction,
+              mainCleanerFunction, mainLockFunction, privateHubFunction, profileRulesFunction,
+              ptokaXSettingsFunction, registrationFunction, reportFunction, rulesFunction, searchSpyFunction,
+              userLogFunction});
+    addGroup("UserActions", {asciiFunction, attacksFunction, calculatorFunction, doActionsFunction,
+                             insultsFunction, jokesFunction, limericksFunction, proverbsFunction,
+                             quotationsFunction, spellsFunction, nickSpellsFunction});
+    addGroup("TheArchive", {archiveFolders});
+    return all;
+}
+
+} // namespace
+
+const std::vector<Node>& functionNodes()
+{
+    static const std::vector<Node> all = allNodes();
+    return all;
+}
+
+FormCatalogue formCatalogue()
+{
+    FormCatalogue forms;
+    for (const Node& node : functionNodes()) {
+        if (node.form)
+            forms.push_back(*node.form);
+    }
+    return forms;
+}
 
 const FolderCatalogue& folderCatalogue()
 {
-    static const FolderCatalogue catalogue = {
-        {{"CustomiseUser"}},
-        {{R"(CustomiseUser\CustomRightClick)"}, {buildCustomRightClicks}},
-        {{R"(CustomiseUser\DescriptionTags)"}, {buildDescriptionTags}},
-        {{R"(CustomiseUser\HideShare)"}, {buildHideShare}},
-        {{R"(CustomiseUser\IntroOutro)", R"(CustomiseUser\IntroOutro\Ascii)"},
-         {buildIntrosOutros, buildAsciiIntros}},
-
-        {{"Communication"}},
-        {{R"(Communication\AutoCorrect)"}, {buildAutoCorrect}},
-        {{R"(Communication\ChatRooms)"}, {buildChatRooms}},
-        {{R"(Communication\Clock)"}, {buildClock}},
-        {{R"(Communication\KickBarChanger)"}, {buildKickBarChanger}},
-        {{R"(Communication\MassMessage)"}, {buildMassMessage}},
-        {{R"(Communication\MOTD)", R"(Communication\MOTD\MOTDs)"}, {buildMotds}},
-        {{R"(Communication\Mute)"}, {buildMute}},
-        {{R"(Communication\RotatingMainMessage)", R"(Communication\RotatingMainMessage\Files)"},
-         {buildRotatingMainMessages}},
-        {{R"(Communication\RotatingPrivateMessage)", R"(Communication\RotatingPrivateMessage\Files)"},
-         {buildRotatingPrivateMessages}},
-        {{R"(Communication\Talk)"}, {buildTalk}},
-        {{R"(Communication\TopicChanger)"}, {buildTopicChanger}},
-        {{R"(Communication\WelcomeInfo)"}, {buildWelcomeInfo}},
-        {{R"(Communication\Whisper)"}, {buildWhisper}},
-
-        {{"Games"}},
-        {{R"(Games\Anagrams)", R"(Games\Anagrams\ScoresArchive)"}, {buildAnagrams}},
-        {{R"(Games\CodeBreaker)", R"(Games\CodeBreaker\ScoresArchive)"}, {buildCodeBreaker}},
-        {{R"(Games\Globals)"}, {buildScoreClearers}},
-        {{R"(Games\GuessTheNumber)", R"(Games\GuessTheNumber\ScoresArchive)"}, {buildGuessTheNumber}},
-        {{R"(Games\Hangman)", R"(Games\Hangman\ScoresArchive)", R"(Games\Hangman\Ascii)"}, {buildHangman}},
-        {{R"(Games\Numbers)", R"(Games\Numbers\ScoresArchive)"}, {buildNumbers}},
-        {{R"(Games\RussianRoulette)"}, {buildRussianRoulette}},
-        {{R"(Games\SlotMachine)"}, {buildSlotMachine}},
-        {{R"(Games\ThreeCardMonty)"}, {buildThreeCardMonty}},
-        {{R"(Games\Trivia)", R"(Games\Trivia\ScoresArchive)", R"(Games\Trivia\QuestionFiles)"},
-         {buildTrivia}},
-
-        {{"General"}},
-        {{R"(General\Bots)"}, {buildBots}},
-        {{R"(General\Globals)"}, {buildGeneralSettings, buildSwitches, buildEnabledRightClicks}},
-        {{R"(General\PtokaX)"}}, // holds the saved copy of the hub's profile file
-
-        {{"Language", R"(Language\Commands)", R"(Language\Commands\Files)", R"(Language\Messages)",
-          R"(Language\Messages\Files)", R"(Language\RightClick)", R"(Language\RightClick\Files)"}},
-
-        {{"Security"}},
-        {{R"(Security\AntiAdvertise)"}, {buildAntiAdvertise}},
-        {{R"(Security\AntiVirus)"}, {buildAntiVirus}},
-        {{R"(Security\BadNickBlocker)"}, {buildBadNickBlocker}},
-        {{R"(Security\ClientChecker)"}, {buildClientChecker}},
-        {{R"(Security\CloneBlocker)"}, {buildCloneBlocker}},
-        {{R"(Security\CommandSpy)"}, {buildCommandSpy}},
-        {{R"(Security\Flood)"}, {buildFlood}},
-        {{R"(Security\Kick)", R"(Security\Kick\Logs)"}, {buildKicks}},
-        {{R"(Security\MainBlock)"}, {buildMainBlock}},
-        {{R"(Security\MainCleaner)"}, {buildMainCleaner}},
-        {{R"(Security\MainLock)"}, {buildMainLock}},
-        {{R"(Security\PrivateHub)"}, {buildPrivateHub}},
-        {{R"(Security\ProfileRules)", R"(Security\ProfileRules\Logs)"}, {buildProfileRules}},
-        {{R"(Security\PtokaX)"}, {buildPtokaXSettings}},
-        {{R"(Security\Registration)", R"(Security\Registration\Logs)"}, {buildRegistration}},
-        {{R"(Security\Report)"}, {buildReport}},
-        {{R"(Security\Rules)", R"(Security\Rules\Ascii)"}, {buildRules}},
-        {{R"(Security\SearchSpy)"}, {buildSearchSpy}},
-        {{R"(Security\UserLog)", R"(Security\UserLog\Logs)"}, {buildUserLog}},
-
-        {{"UserActions"}},
-        {{R"(UserActions\Ascii)", R"(UserActions\Ascii\Ascii)"}, {buildAscii}},
-        {{R"(UserActions\Attacks)"}, {buildAttacks}},
-        {{R"(UserActions\Calculator)"}, {buildCalculator}},
-        {{R"(UserActions\DoAction)"}, {buildDoActions}},
-        {{R"(UserActions\Insults)"}, {buildInsults}},
-        {{R"(UserActions\Jokes)"}, {buildJokes}},
-        {{R"(UserActions\Limericks)"}, {buildLimericks}},
-        {{R"(UserActions\Proverbs)"}, {buildProverbs}},
-        {{R"(UserActions\Quotations)"}, {buildQuotations}},
-        {{R"(UserActions\Spells)", R"(UserActions\Spells\Spells)"}, {buildSpells}},
-        {{R"(UserActions\NickSpells)", R"(UserActions\NickSpells\NickSpells)"}, {buildNickSpells}},
-
-        {{"TheArchive"}},
-        {{R"(TheArchive\Bookshelf)", R"(TheArchive\DVDRack)", R"(TheArchive\Jukebox)",
-          R"(TheArchive\Songbook)", R"(TheArchive\Arcade)", R"(TheArchive\Hyperlink)"},
-         {buildHyperlink}},
-    };
-    return catalogue;
+    static const FolderCatalogue all = allFolders();
+    return all;
 }
 
 } // namespace quillfen

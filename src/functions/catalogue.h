@@ -1,11 +1,19 @@
 #pragma once
 
-#include "settings/rebuild.h"
+#include "declarations/function.h"
+
+#include <vector>
 
 namespace quillfen {
 
-/// Every folder of the settings tree, in the order of the build, with the routines of the functions that live
-/// there.
+/// The nodes of all functions: those of the tree in its order, with the forms that no node reaches among
+/// them.
+const std::vector<Node>& functionNodes();
+
+/// The forms of those nodes.
+FormCatalogue formCatalogue();
+
+/// The functions whose folders and files a build makes, in its order.
 const FolderCatalogue& folderCatalogue();
 
 } // namespace quillfen

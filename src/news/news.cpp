@@ -221,4 +221,13 @@ bool offersDownload(const SettingsFiles& files, std::string_view programVersion)
     return files.ReadTableValue(R"(General\Globals\Version.tbl)", "sVersion") != programVersion;
 }
 
+FunctionDeclaration newsFunction()
+{
+    return {.nodes = {
+                {.key = "General~News",
+                 .caption = "News Archive",
+                 .form = {{{"frmGeneralNews", "General ~ News", {6000, 4500}}, {OwnPart{OwnPartKind::News}}}},
+                 .dropDown = "News"}}};
+}
+
 } // namespace quillfen

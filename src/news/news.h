@@ -1,5 +1,7 @@
 #pragma once
 
+#include "declarations/function.h"
+
 #include <cstddef>
 #include <functional>
 #include <optional>
@@ -59,5 +61,7 @@ std::optional<std::string> readVersion(const FetchedText& fetched);
 /// Whether a click on the current version offers the download: when the program's version differs from that
 /// of the settings tree.
 bool offersDownload(const SettingsFiles& files, std::string_view programVersion);
+
+FunctionDeclaration newsFunction();
 
 } // namespace quillfen

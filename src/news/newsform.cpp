@@ -115,9 +115,9 @@ private:
 
 } // namespace
 
-OwnPart newsPart()
+std::unique_ptr<FormPart> makeNewsPart(const FormContext& context)
 {
-    return ownPart<NewsPart>();
+    return std::make_unique<NewsPart>(context);
 }
 
 } // namespace quillfen

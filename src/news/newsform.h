@@ -1,10 +1,12 @@
 #pragma once
 
-#include "shell/kit/declaredforms.h"
+#include "shell/kit/formpart.h"
+
+#include <memory>
 
 namespace quillfen {
 
 /// The archive of the news: articles are read and deleted here, and never changed.
-OwnPart newsPart();
+std::unique_ptr<FormPart> makeNewsPart(const FormContext& context);
 
 } // namespace quillfen

@@ -98,12 +98,18 @@ std::string composedPortalSettings(const PortalSettings& settings)
 
 void savePortalSettings(const SettingsFiles& files, const PortalSettings& settings)
 {
-    for (const auto folder : folders) {
-        const auto path = files.paths().inSettings(folder);
-        if (!files.store().exists(path))
-            files.store().makeFolder(path);
-    }
+    for (const auto folder : folders)
+        makeFolderIfMissing(files.store(), files.paths().inSettings(folder));
     files.WriteSettingsFile(file, composedPortalSettings(settings));
+}
+
+FunctionDeclaration portalFunction()
+{
+    const FormDescription form = {.name = "frmCommunicationPortal",
+                                  .caption = "Communication ~ Portal",
+                                  .minimumSize = {6000, 6600},
+                                  .hasRestore = false};
+    return {.nodes = {{"Communication~Portal", "Portal", {{form, {OwnPart{OwnPartKind::Portal}}}}}}};
 }
 
 } // namespace quillfen

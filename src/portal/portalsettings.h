@@ -1,5 +1,7 @@
 #pragma once
 
+#include "declarations/function.h"
+
 #include <array>
 #include <string>
 #include <vector>
@@ -37,6 +39,8 @@ std::vector<std::string> defaultIgnoreNicks(const SettingsFiles& files);
 /// The text of the whole file, without the writer's last line end. Its outer table is never closed: the hub
 /// script's authors wrote it so.
 std::string composedPortalSettings(const PortalSettings& settings);
+
+FunctionDeclaration portalFunction();
 
 /// Writes the file, and makes its folder if it is missing: the rebuild knows nothing of it. Throws
 /// StoreError.

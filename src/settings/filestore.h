@@ -56,4 +56,11 @@ public:
     virtual void remove(const std::string& path) = 0;
 };
 
+/// Throws StoreError.
+inline void makeFolderIfMissing(FileStore& store, const std::string& folder)
+{
+    if (!store.exists(folder))
+        store.makeFolder(folder);
+}
+
 } // namespace quillfen

@@ -1,4 +1,5 @@
 #include "advice/treecheck.h"
+#include "declarations/rebuild.h"
 #include "functions/catalogue.h"
 #include "support/hub.h"
 

@@ -1,5 +1,6 @@
 // What the hub script sees: every file of the tree, loaded by Lua 5.1.
 #include "advice/notloading.h"
+#include "declarations/rebuild.h"
 #include "functions/catalogue.h"
 #include "functions/general/settings.h"
 #include "functions/general/switches.h"

@@ -1,3 +1,4 @@
+#include "declarations/listdeclaration.h"
 #include "functions/archive/archive.h"
 #include "functions/communication/autocorrect.h"
 #include "functions/communication/welcomeinfo.h"
@@ -14,7 +15,6 @@
 #include "functions/useractions/actiontexts.h"
 #include "functions/useractions/ascii.h"
 #include "functions/useractions/spells.h"
-#include "settings/listdeclaration.h"
 #include "settings/profiles.h"
 
 #include <gtest/gtest.h>

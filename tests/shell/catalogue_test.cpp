@@ -62,7 +62,7 @@ TEST_F(Declarations, OfAllFormsAreRight)
 TEST_F(Declarations, AFormDeclaredTwiceIsFound)
 {
     forms.push_back(forms.front());
-    EXPECT_EQ(faults(), Found{"frmGeneralNews: declared twice"});
+    EXPECT_EQ(faults(), Found{"frmGeneralGeneral: declared twice"});
 }
 
 TEST_F(Declarations, AFormWithoutCaptionOrPartsIsFound)
@@ -170,7 +170,7 @@ TEST_F(Declarations, AGroupAGridTicksAndATextThatMissAPartOfThemselvesAreFound)
 {
     form("frmUserActionsInsultsModern").parts = {DeclaredLists{[] { return RowListGroup{}; }}};
     form("frmSecurityFlood").parts = {DeclaredGrid{[] { return GridSource{}; }, {.columns = {"Command"}}}};
-    form("frmGeneralSwitches").parts = {DeclaredTicks{[] { return TickListDescription{}; }}};
+    form("frmGeneralSwitches").parts = {DeclaredTicks{[] { return TickList{}; }}};
     form("frmSecurityMainLock").parts = {DeclaredText{}};
     Found found = faults();
     std::ranges::sort(found);

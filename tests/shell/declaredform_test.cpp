@@ -1,4 +1,4 @@
-#include "settings/declaration.h"
+#include "declarations/declaration.h"
 #include "shell/kit/numberbox.h"
 #include "shell/kit/rowlist.h"
 #include "shell/kit/tablefilepart.h"

@@ -1,4 +1,4 @@
-#include "settings/declaration.h"
+#include "declarations/declaration.h"
 #include "shell/kit/editdialog.h"
 #include "shell/kit/inputbox.h"
 #include "shell/kit/permissiongridpart.h"
@@ -288,10 +288,10 @@ TEST_F(FormOf, AGridMayNameEachTargetAndCarryTheProfilesKeys)
 TEST_F(FormOf, ATickListMayHaveALabelNoHelpAndTicksThatARestoreLeaves)
 {
     hub.file("A.tbl") = "tA = {\r\n\tbMute = 1,\r\n\tbTalk = 0,\r\n}\r\n";
-    TickListDescription description{"lvwFilters", "Filters", {"A.tbl", "tA", ListFile::Form::Flags}};
-    description.label = "Filtered";
-    description.restoreTicks = false;
-    TickListPart part(description, {hub.files, hub.profiles});
+    TickList ticks{"lvwFilters", "Filters", {"A.tbl", "tA", ListFile::Form::Flags}};
+    ticks.label = "Filtered";
+    ticks.restoreTicks = false;
+    TickListPart part(ticks, {hub.files, hub.profiles});
     const std::unique_ptr<QWidget> widget(part.widget());
     part.load();
     auto& list = find<RowList>(*widget, "lvwFilters");

@@ -1,3 +1,4 @@
+#include "shell/kit/codepagetext.h"
 #include "shell/kit/listview.h"
 #include "shell/window/navigatortable.h"
 #include "support/formtest.h"
@@ -23,8 +24,9 @@ std::vector<std::string> builtKeys()
     std::vector<std::string> keys;
     const FormCatalogue forms = formCatalogue();
     for (const QString& key : formKeys()) {
-        if (std::any_of(forms.begin(), forms.end(),
-                        [&key](const FormDeclaration& form) { return form.form.name == formName(key); }))
+        if (std::any_of(forms.begin(), forms.end(), [&key](const FormDeclaration& form) {
+                return fromBytes(form.form.name) == formName(key);
+            }))
             keys.push_back(key.toStdString());
     }
     return keys;

@@ -85,7 +85,7 @@ TEST_F(OneSidedGrid, MayHaveNamedTargetsBehindTheProfiles)
     grid.named = {"All", "Ops"};
     cells = {{0, 0, 0, false}, {0, 0, 1, true}, {0, 0, 2, false}};
     GridWords words;
-    words.columns += {"iProfileBy", "iProfileOn"};
+    words.columns.insert(words.columns.end(), {"iProfileBy", "iProfileOn"});
     PermissionGridPart part(grid, words, {hub.files, hub.profiles});
     const std::unique_ptr<QWidget> widget(part.widget());
     part.load();

@@ -1,3 +1,4 @@
+#include "shell/kit/codepagetext.h"
 #include "shell/window/popupmenus.h"
 #include "support/formtest.h"
 
@@ -49,7 +50,7 @@ protected:
     void fillWithForms()
     {
         for (const StandIn& each : standIns)
-            forms.push_back({{each.name, each.caption}, {}});
+            forms.push_back({{toBytes(each.name), toBytes(each.caption)}, {}});
     }
 
     QMdiArea& area() { return find<QMdiArea>(window(), QString()); }
@@ -559,7 +560,10 @@ class BorrowedMenus : public MainWindowTest
 protected:
     BorrowedMenus()
     {
-        standIn(OwnPart{[this](const FormContext&) { return new ServingPart(called, edit); }});
+        standIn(OwnPart{OwnPartKind::News});
+        makers.own = [this](const OwnPart&, const FormContext&) {
+            return std::make_unique<ServingPart>(called, edit);
+        };
     }
 
     void choose(const char* item) { find<QAction>(window(), item).trigger(); }

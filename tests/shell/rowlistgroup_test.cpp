@@ -102,7 +102,10 @@ protected:
         list.load = [](const SettingsFiles&, const HubProfiles&) {
             return std::vector<CellRow>{{{"good"}}, {{"other"}}};
         };
-        standIn(listPartOf<PickyPart>([list] { return list; }));
+        standIn(listPart([list] { return list; }, ListPartKind::Words));
+        makers.list = [](ListPartKind, const RowListDeclaration& each, const FormContext& context) {
+            return std::make_unique<PickyPart>(each, context);
+        };
     }
 
     QStringList after(EditorForm& form, int row, const char* key, const QString& text)

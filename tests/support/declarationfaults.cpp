@@ -1,7 +1,6 @@
 #include "support/declarationfaults.h"
 
 #include "settings/lines.h"
-#include "shell/kit/codepagetext.h"
 #include "shell/kit/editdialog.h"
 
 #include <algorithm>
@@ -15,10 +14,10 @@ class FormWalk
 {
 public:
     FormWalk(const FormDeclaration& form, const HubProfiles& profiles)
-        : m_form(toBytes(form.form.name)),
+        : m_form(form.form.name),
           m_profiles(profiles)
     {
-        expect(!form.form.caption.isEmpty(), "no caption");
+        expect(!form.form.caption.empty(), "no caption");
         expect(!form.parts.empty(), "no parts");
         for (const PartDeclaration& part : form.parts)
             std::visit([this](const auto& each) { walk(each); }, part);
@@ -55,29 +54,35 @@ private:
             walkList(list, false);
     }
 
+    void walk(const DeclaredTexts& texts)
+    {
+        expect(!texts.folder.empty(), "texts without a folder");
+        walkList(texts.list(), true);
+    }
+
     void walk(const DeclaredGrid& declared)
     {
         const GridSource grid = declared.grid();
         expect(!grid.commands.empty(), "a grid of no commands");
         expect(grid.load && grid.save, "a grid without load or save");
-        const qsizetype columns = declared.words.targets ? 4 : 3;
+        const std::size_t columns = declared.words.targets ? 4 : 3;
         expect(declared.words.columns.size() >= columns, "a grid of too few columns");
-        addControl(toBytes(declared.words.list), "a grid");
-        addControl(toBytes(declared.words.toolbar), "a grid's toolbar");
+        addControl(declared.words.list, "a grid");
+        addControl(declared.words.toolbar, "a grid's toolbar");
     }
 
     void walk(const DeclaredTicks& declared)
     {
-        const TickListDescription ticks = declared.ticks();
-        addControl(toBytes(ticks.control), "ticks");
+        const TickList ticks = declared.ticks();
+        addControl(ticks.control, "ticks");
         expect(!ticks.file.path.empty() && !ticks.file.table.empty(), "ticks without a file");
         expect(ticks.file.form == ListFile::Form::Flags, "ticks of a file without flags");
-        expect(!ticks.caption.isEmpty() || !ticks.label.isEmpty(), "ticks without a name");
+        expect(!ticks.caption.empty() || !ticks.label.empty(), "ticks without a name");
     }
 
     void walk(const DeclaredText& text)
     {
-        addControl(toBytes(text.toolbar), "a text");
+        addControl(text.toolbar, "a text");
         expect(!text.path.empty(), "a text without a file");
     }
 
@@ -190,7 +195,7 @@ std::vector<std::string> faults(const FormCatalogue& forms, const HubProfiles& p
     std::vector<std::string> found;
     std::multiset<std::string> names;
     for (const FormDeclaration& form : forms) {
-        names.insert(toBytes(form.form.name));
+        names.insert(form.form.name);
         const FormWalk walk(form, profiles);
         found.insert(found.end(), walk.found().begin(), walk.found().end());
     }

@@ -1,7 +1,6 @@
 #pragma once
 
-#include "settings/declaration.h"
-#include "shell/kit/declaredforms.h"
+#include "declarations/formdeclaration.h"
 
 #include <string>
 #include <vector>

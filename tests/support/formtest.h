@@ -1,8 +1,8 @@
 #pragma once
 
+#include "declarations/rebuild.h"
 #include "functions/catalogue.h"
-#include "functions/forms.h"
-#include "settings/rebuild.h"
+#include "functions/ownparts.h"
 #include "shell/window/mainwindow.h"
 #include "support/boxes.h"
 #include "support/hub.h"
@@ -45,7 +45,8 @@ protected:
     MainWindow& window()
     {
         if (!m_window) {
-            m_window = std::make_unique<MainWindow>(program, FormContext{hub.files, hub.profiles}, forms);
+            m_window =
+                std::make_unique<MainWindow>(program, FormContext{hub.files, hub.profiles}, forms, makers);
             m_window->show();
             m_window->activateWindow();
             EXPECT_TRUE(QTest::qWaitForWindowActive(m_window.get()));
@@ -150,6 +151,7 @@ protected:
     Hub hub;
     ProgramInfo program{"5.2.0", "quillfentest:///"};
     FormCatalogue forms = formCatalogue();
+    PartMakers makers = partMakers();
 
 private:
     std::unique_ptr<MainWindow> m_window;

@@ -1,7 +1,7 @@
 // Takes pictures of the program in a hub's scripts folder: of a walk through it as the screen shows it, or of
 // every form and every dialog by itself, in a light or a dark palette.
 #include "app/start.h"
-#include "functions/forms.h"
+#include "functions/catalogue.h"
 #include "settings/diskstore.h"
 #include "shell/kit/editdialog.h"
 #include "shell/kit/textedit.h"
@@ -134,19 +134,14 @@ void closeForms(QMdiArea& area)
 void showForms(quillfen::MainWindow& window, Tour& tour)
 {
     auto* area = window.findChild<QMdiArea*>();
-    QStringList shown;
     for (const QString& key : quillfen::formKeys()) {
         closeForms(*area);
         window.OpenFunctionForm(key);
         auto* form = area->currentSubWindow();
-        if (!form || form->widget()->objectName() != quillfen::formName(key))
-            continue; // not built yet
-        shown.append(form->widget()->objectName());
-        tour.portrait(*form, "form-" + QString(key).replace('~', '-'));
-    }
-    for (const quillfen::FormDeclaration& form : quillfen::formCatalogue()) {
-        if (!shown.contains(form.form.name))
-            tour.miss(form.form.name);
+        if (form && form->widget()->objectName() == quillfen::formName(key))
+            tour.portrait(*form, "form-" + QString(key).replace('~', '-'));
+        else
+            tour.miss(key);
     }
 }
 

@@ -1,7 +1,6 @@
 #include "functions/archive/archive.h"
 
 #include "settings/lines.h"
-#include "settings/listfile.h"
 #include "settings/tablewriter.h"
 
 #include <algorithm>
@@ -78,6 +77,12 @@ std::vector<std::string> fieldsOf(const CellRow& row)
             row.cells.at(Location) == "PM" ? "Private Message" : "Main Chat"};
 }
 
+/// The one member that a rebuild makes files for, and the last of them.
+const ArchiveMember& hyperlink()
+{
+    return archiveMembers().back();
+}
+
 /// The file and the table of a command, and of Hyperlink's right clicks the two of the form.
 GridCommand commandOf(const ArchiveMember& member, const std::string& command)
 {
@@ -86,10 +91,9 @@ GridCommand commandOf(const ArchiveMember& member, const std::string& command)
 
 GridCommand rightClickOf(const std::string& word)
 {
-    const ArchiveMember& hyperlink = archiveMembers().back();
     // The form's tables lack the "RC" that their files have: the form finds each value by its profile's key
     // alone.
-    return {word, pathOf(hyperlink, "RCEnable" + word), tableOf(hyperlink, "Enable" + word)};
+    return {word, pathOf(hyperlink(), "RCEnable" + word), tableOf(hyperlink(), "Enable" + word)};
 }
 
 std::vector<PermissionCell> loadCells(const std::vector<GridCommand>& commands, const SettingsFiles& files,
@@ -136,10 +140,10 @@ GridSource gridOf(const std::vector<GridCommand>& commands)
     return source;
 }
 
-void buildLinkOfTheWeek(const ArchiveMember& member, const SettingsFiles& files)
+void rebuildLinkOfTheWeek(const SettingsFiles& files, const HubProfiles& /*profiles*/)
 {
-    const std::string table = tableOf(member, itemOfTheWeek);
-    const auto index = files.index(pathOf(member, itemOfTheWeek));
+    const std::string table = tableOf(hyperlink(), itemOfTheWeek);
+    const auto index = files.index(pathOf(hyperlink(), itemOfTheWeek));
     const auto kept = [&](const std::string& key, const std::string& nested, const std::string& standard) {
         const auto value = index.value(key, nested);
         return value.empty() ? standard : value;
@@ -156,27 +160,55 @@ void buildLinkOfTheWeek(const ArchiveMember& member, const SettingsFiles& files)
             break;
         writeAnnouncement(lines, number, time, kept("bInMain", nested, "0"));
     }
-    files.WriteSettingsFile(pathOf(member, itemOfTheWeek), lines.closed());
+    files.WriteSettingsFile(pathOf(hyperlink(), itemOfTheWeek), lines.closed());
 }
 
 /// Each table's text goes to the file of the next table in the ring. So a table finds its own file
 /// overwritten by the one before when its turn comes, and starts with no permission; only the first keeps its
 /// values, which then stand in the second's file: there the form finds them by their profiles' keys alone.
-void buildPermissionRing(const ArchiveMember& member, const SettingsFiles& files, const HubProfiles& profiles)
+void rebuildPermissionRing(const SettingsFiles& files, const HubProfiles& profiles)
 {
     static const std::vector<std::string> ring = {"EnableClear",    "EnableDelete",    "EnableModify",
                                                   "EnableNewItems", "EnableSubmit",    "RCEnableCategory",
                                                   "RCEnableItem",   "RCEnablePending", "RCEnableVoting"};
     for (std::size_t place = 0; place < ring.size(); ++place) {
-        const std::string table = tableOf(member, ring[place]);
-        const auto index = files.index(pathOf(member, ring[place]));
+        const std::string table = tableOf(hyperlink(), ring[place]);
+        const auto index = files.index(pathOf(hyperlink(), ring[place]));
         TableWriter lines(table);
         for (const std::string& key : profiles.keys()) {
             const auto value = index.value(key, table);
             lines.text(bracketed(key), value.empty() ? "0" : value);
         }
-        files.WriteSettingsFile(pathOf(member, ring[(place + 1) % ring.size()]), lines.closed());
+        files.WriteSettingsFile(pathOf(hyperlink(), ring[(place + 1) % ring.size()]), lines.closed());
     }
+}
+
+constexpr Twips gridSize = {7500, 6000};
+
+/// One value for each command and profile, which a click turns.
+GridWords permissionWords()
+{
+    GridWords words;
+    words.columns = {"Command", "Profile", "Setting"};
+    words.targets = false;
+    words.clickToggles = true;
+    return words;
+}
+
+GridWords rightClickWords()
+{
+    GridWords words = permissionWords();
+    // A press of this button doesn't take its filter off: only a button of the key COMMAND does so.
+    words.commandFilter = "RIGHTCLICK";
+    words.commandFilterTip = "View By Right Click";
+    return words;
+}
+
+/// Who voted is forgotten by each rebuild.
+void forgetVoters(const SettingsFiles& files, const HubProfiles& /*profiles*/)
+{
+    const std::string table = tableOf(hyperlink(), "VoteNick");
+    files.WriteSettingsFile(pathOf(hyperlink(), "VoteNick"), TableWriter(table).closed());
 }
 
 } // namespace
@@ -312,17 +344,47 @@ GridSource hyperlinkRightClicks()
     return gridOf(words);
 }
 
-void buildHyperlink(const SettingsFiles& files, const HubProfiles& profiles)
+FunctionDeclaration archiveFunction(std::size_t member)
 {
-    const ArchiveMember& hyperlink = archiveMembers().back();
-    buildLinkOfTheWeek(hyperlink, files);
-    rebuildTableFile(newItems(hyperlink), files, profiles);
-    buildPermissionRing(hyperlink, files, profiles);
+    const ArchiveMember& each = archiveMembers()[member];
+    const auto node = [&each](const std::string& function, const std::string& caption,
+                              std::optional<FormDeclaration> form) {
+        return Node{each.word + '~' + function, caption, std::move(form)};
+    };
+    const auto form = [&each](const std::string& name, const std::string& caption, Twips size = gridSize) {
+        return FormDescription{"frm" + each.word + name, each.word + " ~ " + caption, size};
+    };
+    const OwnPart week = {
+        OwnPartKind::LinkOfTheWeek, member, {}, [] { return std::vector{announcements()}; }};
+    return {
+        .nodes = {
+            {each.word, each.word},
+            node("LinkOfTheWeek", "Link Of The Week", {{form("Week", "Link Of The Week"), {week}}}),
+            node("NewLinks", "New Links",
+                 settingsForm(form("NewItems", "New " + each.items, {}), [&each] { return newItems(each); })),
+            node("Permissions", "Permissions",
+                 gridForm(
+                     form("Permissions", "Permissions"), [&each] { return archivePermissions(each); },
+                     permissionWords())),
+            // Of the six, only Hyperlink's right clicks have a form.
+            node("RightClicks", "RightClicks",
+                 &each == &hyperlink() ? std::optional(gridForm(form("RightClicks", "Right Clicks"),
+                                                                hyperlinkRightClicks, rightClickWords()))
+                                       : std::nullopt),
+        }};
+}
+
+FunctionDeclaration archiveFolders()
+{
+    FunctionDeclaration function = {
+        .folders = {R"(TheArchive\Bookshelf)", R"(TheArchive\DVDRack)", R"(TheArchive\Jukebox)",
+                    R"(TheArchive\Songbook)", R"(TheArchive\Arcade)", R"(TheArchive\Hyperlink)"},
+        .build = {rebuildLinkOfTheWeek, RebuiltSettings{[] { return newItems(hyperlink()); }},
+                  rebuildPermissionRing}};
     for (const char* name : {"CategoryIndex", "Index", "Items", "PendingIndex", "PendingItems", "VoteIP"})
-        writeEmptyTableIfMissing(files, pathOf(hyperlink, name), tableOf(hyperlink, name));
-    // Who voted is forgotten by each rebuild.
-    files.WriteSettingsFile(pathOf(hyperlink, "VoteNick"),
-                            TableWriter(tableOf(hyperlink, "VoteNick")).closed());
+        function.build.push_back(EmptyTable{pathOf(hyperlink(), name), tableOf(hyperlink(), name)});
+    function.build.push_back(forgetVoters);
+    return function;
 }
 
 } // namespace quillfen

@@ -1,8 +1,6 @@
 #pragma once
 
-#include "settings/declaration.h"
-#include "settings/listdeclaration.h"
-#include "settings/permissiongrid.h"
+#include "declarations/function.h"
 
 #include <string>
 #include <vector>
@@ -50,6 +48,9 @@ GridSource archivePermissions(const ArchiveMember& member);
 /// Which profile has which of Hyperlink's right clicks.
 GridSource hyperlinkRightClicks();
 
-void buildHyperlink(const SettingsFiles& files, const HubProfiles& profiles);
+/// The nodes and forms of a member, by its place.
+FunctionDeclaration archiveFunction(std::size_t member);
+/// The folders of all members, and the files of the one that a rebuild fills.
+FunctionDeclaration archiveFolders();
 
 } // namespace quillfen

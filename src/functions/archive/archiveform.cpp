@@ -124,11 +124,9 @@ void WeekPart::editChangeTime()
 
 } // namespace
 
-OwnPart weekPart(const ArchiveMember& member)
+std::unique_ptr<FormPart> makeLinkOfTheWeekPart(const ArchiveMember& member, const FormContext& context)
 {
-    return {[&member](const FormContext& context) { return new WeekPart(member, context); },
-            {},
-            [] { return std::vector{announcements()}; }};
+    return std::make_unique<WeekPart>(member, context);
 }
 
 } // namespace quillfen

@@ -1,12 +1,14 @@
 #pragma once
 
-#include "shell/kit/declaredforms.h"
+#include "shell/kit/formpart.h"
+
+#include <memory>
 
 namespace quillfen {
 
 struct ArchiveMember;
 
 /// A member's link of the week.
-OwnPart weekPart(const ArchiveMember& member);
+std::unique_ptr<FormPart> makeLinkOfTheWeekPart(const ArchiveMember& member, const FormContext& context);
 
 } // namespace quillfen

@@ -28,6 +28,15 @@ RowListDeclaration declaredWords()
     return words;
 }
 
+TickList filteredActions()
+{
+    return {.control = "lvwFilters",
+            .caption = "Filtered Actions",
+            .file = filtersFile,
+            .label = "Filtered Actions",
+            .restoreTicks = false};
+}
+
 } // namespace
 
 const TableFile& autoCorrectSettings()
@@ -54,11 +63,15 @@ const ListFile& autoCorrectFilters()
     return filtersFile;
 }
 
-void buildAutoCorrect(const SettingsFiles& files, const HubProfiles& profiles)
+FunctionDeclaration autoCorrectFunction()
 {
-    rebuildTableFile(autoCorrectSettings(), files, profiles);
-    for (const ListFile& list : {wordsFile, filtersFile})
-        writeEmptyTableIfMissing(files, list.path, list.table);
+    return {.nodes = {{"Communication~AutoCorrect",
+                       "AutoCorrect",
+                       {{{"frmCommunicationAutoCorrect", "Communication ~ AutoCorrect"},
+                         {DeclaredSettings{autoCorrectSettings}, listPart(autoCorrectWords),
+                          DeclaredTicks{filteredActions}}}}}},
+            .folders = {R"(Communication\AutoCorrect)"},
+            .build = {RebuiltSettings{autoCorrectSettings}, emptyTable(wordsFile), emptyTable(filtersFile)}};
 }
 
 } // namespace quillfen

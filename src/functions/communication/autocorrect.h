@@ -1,8 +1,6 @@
 #pragma once
 
-#include "settings/declaration.h"
-#include "settings/listdeclaration.h"
-#include "settings/listfile.h"
+#include "declarations/function.h"
 
 namespace quillfen {
 
@@ -16,6 +14,6 @@ const RowListDeclaration& autoCorrectWords();
 /// ticks them.
 const ListFile& autoCorrectFilters();
 
-void buildAutoCorrect(const SettingsFiles& files, const HubProfiles& profiles);
+FunctionDeclaration autoCorrectFunction();
 
 } // namespace quillfen

@@ -1,6 +1,5 @@
 #include "functions/communication/changers.h"
 
-#include "settings/listfile.h"
 #include "settings/tablewriter.h"
 
 namespace quillfen {
@@ -53,6 +52,22 @@ Changer changer(const ChangerWords& words)
             texts};
 }
 
+FormDeclaration changerForm(const FormDescription& form, const Changer& (*changer)())
+{
+    return settingsAndListForm(
+        form, [changer] { return changer().settings; }, [changer] { return changer().texts; });
+}
+
+/// The build looks for the texts one folder too deep, finds none, and writes them empty each time: a rebuild
+/// loses the owner's topics. The kick bar's build looks in the right place and keeps its texts.
+void emptyTopics(const SettingsFiles& files, const HubProfiles& /*profiles*/)
+{
+    const ListFile texts = textsFile(topicWords);
+    if (!files.store().exists(
+            files.paths().inSettings(R"(Communication\TopicChanger\TopicChanger\TopicChangerTopics.tbl)")))
+        files.WriteSettingsFile(texts.path, TableWriter(texts.table).closed());
+}
+
 } // namespace
 
 const Changer& topicChanger()
@@ -67,22 +82,23 @@ const Changer& kickBarChanger()
     return kickBars;
 }
 
-void buildTopicChanger(const SettingsFiles& files, const HubProfiles& profiles)
+FunctionDeclaration topicChangerFunction()
 {
-    rebuildTableFile(topicChanger().settings, files, profiles);
-    // The build looks for the texts one folder too deep, finds none, and writes them empty each time: a
-    // rebuild loses the owner's topics. The kick bar's build looks in the right place and keeps its texts.
-    const ListFile texts = textsFile(topicWords);
-    if (!files.store().exists(
-            files.paths().inSettings(R"(Communication\TopicChanger\TopicChanger\TopicChangerTopics.tbl)")))
-        files.WriteSettingsFile(texts.path, TableWriter(texts.table).closed());
+    return {.nodes = {{"Communication~TopicChanger", "Topic Changer",
+                       changerForm({"frmCommunicationTopicChanger", "Communication ~ TopicChanger"},
+                                   topicChanger)}},
+            .folders = {R"(Communication\TopicChanger)"},
+            .build = {RebuiltSettings{[] { return topicChanger().settings; }}, emptyTopics}};
 }
 
-void buildKickBarChanger(const SettingsFiles& files, const HubProfiles& profiles)
+FunctionDeclaration kickBarChangerFunction()
 {
-    rebuildTableFile(kickBarChanger().settings, files, profiles);
-    const ListFile texts = textsFile(kickBarWords);
-    writeEmptyTableIfMissing(files, texts.path, texts.table);
+    return {.nodes = {{"Communication~KickBarChanger", "KickBar Changer",
+                       changerForm({"frmCommunicationKickBarChanger", "Communication ~ KickBarChanger"},
+                                   kickBarChanger)}},
+            .folders = {R"(Communication\KickBarChanger)"},
+            .build = {RebuiltSettings{[] { return kickBarChanger().settings; }},
+                      emptyTable(textsFile(kickBarWords))}};
 }
 
 } // namespace quillfen

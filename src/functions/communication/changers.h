@@ -1,7 +1,6 @@
 #pragma once
 
-#include "settings/declaration.h"
-#include "settings/listdeclaration.h"
+#include "declarations/function.h"
 
 #include <string>
 #include <vector>
@@ -18,7 +17,7 @@ struct Changer
 const Changer& topicChanger();
 const Changer& kickBarChanger();
 
-void buildTopicChanger(const SettingsFiles& files, const HubProfiles& profiles);
-void buildKickBarChanger(const SettingsFiles& files, const HubProfiles& profiles);
+FunctionDeclaration topicChangerFunction();
+FunctionDeclaration kickBarChangerFunction();
 
 } // namespace quillfen

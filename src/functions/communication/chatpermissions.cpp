@@ -1,6 +1,16 @@
 #include "functions/communication/chatpermissions.h"
 
 namespace quillfen {
+namespace {
+
+FormDeclaration blockForm(const char* name, const char* caption, const PermissionGrid& (*grid)())
+{
+    return gridForm(
+        {.name = name, .caption = caption, .hasRestore = false}, [grid] { return sourceOf(grid()); },
+        blockGrid());
+}
+
+} // namespace
 
 const PermissionGrid& mutePermissions()
 {
@@ -14,14 +24,20 @@ const PermissionGrid& talkPermissions()
     return grid;
 }
 
-void buildMute(const SettingsFiles& files, const HubProfiles& profiles)
+FunctionDeclaration muteFunction()
 {
-    rebuildGridFile(mutePermissions().commands.front(), 0, files, profiles);
+    return {.nodes = {{"Communication~Mute", "Mute",
+                       blockForm("frmCommunicationMute", "Communication ~ Mute", mutePermissions)}},
+            .folders = {R"(Communication\Mute)"},
+            .build = {RebuiltGrid{mutePermissions().commands.front()}}};
 }
 
-void buildTalk(const SettingsFiles& files, const HubProfiles& profiles)
+FunctionDeclaration talkFunction()
 {
-    rebuildGridFile(talkPermissions().commands.front(), 0, files, profiles);
+    return {.nodes = {{"Communication~Talk", "Talk",
+                       blockForm("frmCommunicationTalk", "Communication ~ Talk", talkPermissions)}},
+            .folders = {R"(Communication\Talk)"},
+            .build = {RebuiltGrid{talkPermissions().commands.front()}}};
 }
 
 } // namespace quillfen

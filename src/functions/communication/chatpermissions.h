@@ -1,6 +1,6 @@
 #pragma once
 
-#include "settings/permissiongrid.h"
+#include "declarations/function.h"
 
 namespace quillfen {
 
@@ -8,7 +8,7 @@ namespace quillfen {
 const PermissionGrid& mutePermissions();
 const PermissionGrid& talkPermissions();
 
-void buildMute(const SettingsFiles& files, const HubProfiles& profiles);
-void buildTalk(const SettingsFiles& files, const HubProfiles& profiles);
+FunctionDeclaration muteFunction();
+FunctionDeclaration talkFunction();
 
 } // namespace quillfen

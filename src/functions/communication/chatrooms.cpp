@@ -1,7 +1,5 @@
 #include "functions/communication/chatrooms.h"
 
-#include "settings/listfile.h"
-
 namespace quillfen {
 namespace {
 
@@ -46,11 +44,15 @@ const TableFile& chatRoomSettings()
     return file;
 }
 
-void buildChatRooms(const SettingsFiles& files, const HubProfiles& profiles)
+FunctionDeclaration chatRoomsFunction()
 {
-    rebuildTableFile(chatRoomSettings(), files, profiles);
-    // The rooms are the hub script's own: no form reads them, and a rebuild leaves them.
-    writeEmptyTableIfMissing(files, R"(Communication\ChatRooms\ChatRooms.tbl)", "tChatRooms");
+    return {.nodes = {{"Communication~ChatRooms", "ChatRooms",
+                       settingsForm({"frmCommunicationChatRooms", "Communication ~ ChatRooms"},
+                                    chatRoomSettings)}},
+            .folders = {R"(Communication\ChatRooms)"},
+            // The rooms are the hub script's own: no form reads them, and a rebuild leaves them.
+            .build = {RebuiltSettings{chatRoomSettings},
+                      EmptyTable{R"(Communication\ChatRooms\ChatRooms.tbl)", "tChatRooms"}}};
 }
 
 } // namespace quillfen

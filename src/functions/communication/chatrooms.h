@@ -1,12 +1,12 @@
 #pragma once
 
-#include "settings/declaration.h"
+#include "declarations/function.h"
 
 namespace quillfen {
 
 /// Who may do what with chat rooms, and what operators are told of. "Unregistered" takes no part.
 const TableFile& chatRoomSettings();
 
-void buildChatRooms(const SettingsFiles& files, const HubProfiles& profiles);
+FunctionDeclaration chatRoomsFunction();
 
 } // namespace quillfen

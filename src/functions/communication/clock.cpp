@@ -18,9 +18,12 @@ const TableFile& clockSettings()
     return file;
 }
 
-void buildClock(const SettingsFiles& files, const HubProfiles& profiles)
+FunctionDeclaration clockFunction()
 {
-    rebuildTableFile(clockSettings(), files, profiles);
+    return {.nodes = {{"Communication~Clock", "Clock",
+                       settingsForm({"frmCommunicationClock", "Communication ~ Clock"}, clockSettings)}},
+            .folders = {R"(Communication\Clock)"},
+            .build = {RebuiltSettings{clockSettings}}};
 }
 
 } // namespace quillfen

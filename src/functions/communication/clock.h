@@ -1,12 +1,12 @@
 #pragma once
 
-#include "settings/declaration.h"
+#include "declarations/function.h"
 
 namespace quillfen {
 
 /// How often the hub's time is shown, to whom, and what its zone is called in summer and in winter.
 const TableFile& clockSettings();
 
-void buildClock(const SettingsFiles& files, const HubProfiles& profiles);
+FunctionDeclaration clockFunction();
 
 } // namespace quillfen

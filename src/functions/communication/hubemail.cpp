@@ -24,4 +24,13 @@ const TableFile& hubEmailSettings()
     return file;
 }
 
+FunctionDeclaration hubEmailFunction()
+{
+    return {.nodes = {{.key = "Communication~HubEmail",
+                       .caption = "HubEmail",
+                       .form = settingsForm({"frmCommunicationHubEmail", "Communication ~ HubEmail"},
+                                            hubEmailSettings),
+                       .inTree = false}}};
+}
+
 } // namespace quillfen

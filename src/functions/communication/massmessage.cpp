@@ -1,7 +1,6 @@
 #include "functions/communication/massmessage.h"
 
 #include "settings/lines.h"
-#include "settings/listfile.h"
 #include "settings/tablewriter.h"
 
 namespace quillfen {
@@ -14,6 +13,28 @@ std::string targetKey(std::size_t target, const HubProfiles& profiles)
 {
     return target < profiles.count() ? HubProfiles::key(target)
                                      : massMessageTargets().at(target - profiles.count());
+}
+
+void rebuildMassMessage(const SettingsFiles& files, const HubProfiles& profiles)
+{
+    const auto index = files.index(massMessageSettings().path);
+    auto keys = profiles.keys();
+    keys.insert(keys.end(), std::begin(rebuiltTargets), std::end(rebuiltTargets));
+    TableCells cells(index, keys);
+    TableWriter table(massMessageSettings().table);
+    writeRows(table, massMessageSettings(), rebuilt(massMessageSettings(), index, profiles),
+              RowOrder::Rebuild, profiles);
+    for (std::size_t by = 0; by < profiles.count(); ++by) {
+        table.open(bracketed(keys[by]));
+        cells.enter(keys[by]);
+        for (std::size_t on = 0; on < keys.size(); ++on) {
+            const auto stored = cells.at(on);
+            const auto kept = stored.empty() ? std::string_view("0") : stored;
+            table.row(on < profiles.count() ? bracketed(keys[on]) : keys[on], kept);
+        }
+        table.close();
+    }
+    files.WriteSettingsFile(massMessageSettings().path, table.closed());
 }
 
 } // namespace
@@ -67,28 +88,19 @@ void saveMassMessage(const MassMessage& message, const SettingsFiles& files, con
     files.WriteSettingsFile(massMessageSettings().path, table.closed());
 }
 
-void buildMassMessage(const SettingsFiles& files, const HubProfiles& profiles)
+FunctionDeclaration massMessageFunction()
 {
-    const auto index = files.index(massMessageSettings().path);
-    auto keys = profiles.keys();
-    keys.insert(keys.end(), std::begin(rebuiltTargets), std::end(rebuiltTargets));
-    TableCells cells(index, keys);
-    TableWriter table(massMessageSettings().table);
-    writeRows(table, massMessageSettings(), rebuilt(massMessageSettings(), index, profiles),
-              RowOrder::Rebuild, profiles);
-    for (std::size_t by = 0; by < profiles.count(); ++by) {
-        table.open(bracketed(keys[by]));
-        cells.enter(keys[by]);
-        for (std::size_t on = 0; on < keys.size(); ++on) {
-            const auto stored = cells.at(on);
-            const auto kept = stored.empty() ? std::string_view("0") : stored;
-            table.row(on < profiles.count() ? bracketed(keys[on]) : keys[on], kept);
-        }
-        table.close();
-    }
-    files.WriteSettingsFile(massMessageSettings().path, table.closed());
-    writeEmptyTableIfMissing(files, R"(Communication\MassMessage\MassMessagePassiveImmune.tbl)",
-                             "tMassMessagePassiveImmune");
+    const FormDescription form = {.name = "frmCommunicationMassMessage",
+                                  .caption = "Communication ~ MassMessage",
+                                  .hasRestore = false,
+                                  .reloadsAfterSave = true};
+    return {
+        .nodes = {{"Communication~MassMessage",
+                   "Mass Message",
+                   {{form, {OwnPart{OwnPartKind::MassMessage}}}}}},
+        .folders = {R"(Communication\MassMessage)"},
+        .build = {rebuildMassMessage, EmptyTable{R"(Communication\MassMessage\MassMessagePassiveImmune.tbl)",
+                                                 "tMassMessagePassiveImmune"}}};
 }
 
 } // namespace quillfen

@@ -1,7 +1,6 @@
 #pragma once
 
-#include "settings/declaration.h"
-#include "settings/permissiongrid.h"
+#include "declarations/function.h"
 
 #include <string_view>
 
@@ -29,6 +28,6 @@ MassMessage loadMassMessage(const SettingsFiles& files, const HubProfiles& profi
 /// Throws StoreError.
 void saveMassMessage(const MassMessage& message, const SettingsFiles& files, const HubProfiles& profiles);
 
-void buildMassMessage(const SettingsFiles& files, const HubProfiles& profiles);
+FunctionDeclaration massMessageFunction();
 
 } // namespace quillfen

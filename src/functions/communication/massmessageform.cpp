@@ -90,9 +90,9 @@ void MassMessagePart::addPassiveButton()
 
 } // namespace
 
-OwnPart massMessagePart()
+std::unique_ptr<FormPart> makeMassMessagePart(const FormContext& context)
 {
-    return ownPart<MassMessagePart>();
+    return std::make_unique<MassMessagePart>(context);
 }
 
 } // namespace quillfen

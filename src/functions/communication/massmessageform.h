@@ -1,10 +1,12 @@
 #pragma once
 
-#include "shell/kit/declaredforms.h"
+#include "shell/kit/formpart.h"
+
+#include <memory>
 
 namespace quillfen {
 
 /// Who may send whom mass messages, and who is immune.
-OwnPart massMessagePart();
+std::unique_ptr<FormPart> makeMassMessagePart(const FormContext& context);
 
 } // namespace quillfen

@@ -1,7 +1,6 @@
 #include "functions/communication/motd.h"
 
 #include "settings/lines.h"
-#include "settings/listfile.h"
 #include "settings/profiles.h"
 #include "settings/tablewriter.h"
 
@@ -18,6 +17,25 @@ void writeFlags(TableWriter& table, std::string_view key, std::string_view bUse,
 std::string orZero(const std::string& value)
 {
     return value.empty() ? "0" : value;
+}
+
+void rebuildMotds(const SettingsFiles& files, const HubProfiles& profiles)
+{
+    // The flags for everybody are looked up in the mass message's file, which this folder doesn't hold: they
+    // go back to 0 at every rebuild, while each profile's stay.
+    const auto allIndex = files.subIndex(R"(Communication\MOTD\MassMessageSettings.tbl)");
+    const auto index = files.subIndex(motdFile);
+    TableWriter table("tMOTDSettings");
+    writeFlags(table, "tAll", orZero(allIndex.value("tAll", "bUse")),
+               orZero(allIndex.value("tAll", "bInMain")));
+    table.open("tByProfile");
+    for (const std::string& key : profiles.keys())
+        writeFlags(table, bracketed(key), orZero(index.value(key, "bUse")),
+                   orZero(index.value(key, "bInMain")));
+    table.close();
+    files.WriteSettingsFile(motdFile, table.closed());
+    for (std::size_t row = 0; row <= profiles.count(); ++row)
+        writeIfMissing(files, motdTextFile(row, profiles), "");
 }
 
 } // namespace
@@ -56,23 +74,15 @@ std::string motdTextFile(std::size_t row, const HubProfiles& profiles)
     return R"(Communication\MOTD\MOTDs\)" + (row < profiles.count() ? HubProfiles::key(row) : "all") + ".asc";
 }
 
-void buildMotds(const SettingsFiles& files, const HubProfiles& profiles)
+FunctionDeclaration motdFunction()
 {
-    // The flags for everybody are looked up in the mass message's file, which this folder doesn't hold: they
-    // go back to 0 at every rebuild, while each profile's stay.
-    const auto allIndex = files.subIndex(R"(Communication\MOTD\MassMessageSettings.tbl)");
-    const auto index = files.subIndex(motdFile);
-    TableWriter table("tMOTDSettings");
-    writeFlags(table, "tAll", orZero(allIndex.value("tAll", "bUse")),
-               orZero(allIndex.value("tAll", "bInMain")));
-    table.open("tByProfile");
-    for (const std::string& key : profiles.keys())
-        writeFlags(table, bracketed(key), orZero(index.value(key, "bUse")),
-                   orZero(index.value(key, "bInMain")));
-    table.close();
-    files.WriteSettingsFile(motdFile, table.closed());
-    for (std::size_t row = 0; row <= profiles.count(); ++row)
-        writeIfMissing(files, motdTextFile(row, profiles), "");
+    const FormDescription form = {
+        .name = "frmCommunicationMOTD", .caption = "Communication ~ MOTD", .hasRestore = false};
+    return {.nodes = {{"Communication~MOTD",
+                       "Message Of The Day",
+                       {{form, {OwnPart{OwnPartKind::MessageOfTheDay}}}}}},
+            .folders = {R"(Communication\MOTD)", R"(Communication\MOTD\MOTDs)"},
+            .build = {rebuildMotds}};
 }
 
 } // namespace quillfen

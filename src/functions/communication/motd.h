@@ -1,6 +1,6 @@
 #pragma once
 
-#include "settings/listdeclaration.h"
+#include "declarations/function.h"
 
 #include <string>
 #include <vector>
@@ -21,6 +21,6 @@ void saveMotds(const SettingsFiles& files, const std::vector<CellRow>& rows);
 /// The text that belongs to a row.
 std::string motdTextFile(std::size_t row, const HubProfiles& profiles);
 
-void buildMotds(const SettingsFiles& files, const HubProfiles& profiles);
+FunctionDeclaration motdFunction();
 
 } // namespace quillfen

@@ -69,9 +69,9 @@ void MotdPart::amend()
 
 } // namespace
 
-OwnPart motdPart()
+std::unique_ptr<FormPart> makeMotdPart(const FormContext& context)
 {
-    return ownPart<MotdPart>();
+    return std::make_unique<MotdPart>(context);
 }
 
 } // namespace quillfen

@@ -1,10 +1,12 @@
 #pragma once
 
-#include "shell/kit/declaredforms.h"
+#include "shell/kit/formpart.h"
+
+#include <memory>
 
 namespace quillfen {
 
 /// The profiles with the message that each gets.
-OwnPart motdPart();
+std::unique_ptr<FormPart> makeMotdPart(const FormContext& context);
 
 } // namespace quillfen

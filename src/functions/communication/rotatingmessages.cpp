@@ -25,10 +25,19 @@ RotatingMessages declared(const std::string& name, std::vector<Setting> profileT
     return {settings, {folder + name + "Files.tbl", "t" + name + "Files"}, folder + "Files"};
 }
 
-void build(const RotatingMessages& messages, const SettingsFiles& files, const HubProfiles& profiles)
+FormDeclaration rotatingForm(const FormDescription& form, const RotatingMessages& (*messages)())
 {
-    rebuildTableFile(messages.settings, files, profiles);
-    writeEmptyTableIfMissing(files, messages.names.path, messages.names.table);
+    return {form,
+            {DeclaredSettings{[messages] { return messages().settings; }},
+             DeclaredTexts{[messages] { return rotatingFiles(messages()); }, messages().folder}}};
+}
+
+/// The folders and the build of messages of a name.
+FunctionDeclaration rotatingFunction(const std::string& name, const RotatingMessages& (*messages)())
+{
+    return {
+        .folders = {"Communication\\" + name, messages().folder},
+        .build = {RebuiltSettings{[messages] { return messages().settings; }}, emptyTable(messages().names)}};
 }
 
 } // namespace
@@ -105,17 +114,27 @@ void saveRotatingNames(const RotatingMessages& messages, const std::vector<CellR
     saveList(files, messages.names, ticked);
 }
 
-void buildRotatingMainMessages(const SettingsFiles& files, const HubProfiles& profiles)
+FunctionDeclaration rotatingMainMessagesFunction()
 {
-    build(rotatingMainMessages(), files, profiles);
+    FunctionDeclaration function = rotatingFunction("RotatingMainMessage", rotatingMainMessages);
+    function.nodes = {
+        {"Communication~RotatingMainMessage", "Rotating Main Message",
+         rotatingForm({"frmCommunicationRotatingMainMessage", "Communication ~ RotatingMainMessage"},
+                      rotatingMainMessages)}};
+    return function;
 }
 
-void buildRotatingPrivateMessages(const SettingsFiles& files, const HubProfiles& profiles)
+FunctionDeclaration rotatingPrivateMessagesFunction()
 {
-    build(rotatingPrivateMessages(), files, profiles);
-    writeEmptyTableIfMissing(files,
-                             R"(Communication\RotatingPrivateMessage\RotatingPrivateMessageImmuneUsers.tbl)",
-                             "tRotatingPrivateMessageImmuneUsers");
+    FunctionDeclaration function = rotatingFunction("RotatingPrivateMessage", rotatingPrivateMessages);
+    function.nodes = {
+        {"Communication~RotatingPrivateMessage", "Rotating Private Message",
+         rotatingForm({"frmCommunicationRotatingPrivateMessage", "Communication ~ RotatingPrivateMessage"},
+                      rotatingPrivateMessages)}};
+    function.build.push_back(
+        EmptyTable{R"(Communication\RotatingPrivateMessage\RotatingPrivateMessageImmuneUsers.tbl)",
+                   "tRotatingPrivateMessageImmuneUsers"});
+    return function;
 }
 
 } // namespace quillfen

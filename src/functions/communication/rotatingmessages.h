@@ -1,8 +1,6 @@
 #pragma once
 
-#include "settings/declaration.h"
-#include "settings/listdeclaration.h"
-#include "settings/listfile.h"
+#include "declarations/function.h"
 
 #include <string>
 #include <vector>
@@ -30,7 +28,7 @@ std::vector<CellRow> loadRotatingNames(const RotatingMessages& messages, const S
 void saveRotatingNames(const RotatingMessages& messages, const std::vector<CellRow>& rows,
                        const SettingsFiles& files);
 
-void buildRotatingMainMessages(const SettingsFiles& files, const HubProfiles& profiles);
-void buildRotatingPrivateMessages(const SettingsFiles& files, const HubProfiles& profiles);
+FunctionDeclaration rotatingMainMessagesFunction();
+FunctionDeclaration rotatingPrivateMessagesFunction();
 
 } // namespace quillfen

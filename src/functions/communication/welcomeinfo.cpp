@@ -1,7 +1,5 @@
 #include "functions/communication/welcomeinfo.h"
 
-#include "settings/listfile.h"
-
 namespace quillfen {
 namespace {
 
@@ -59,10 +57,21 @@ const RowListDeclaration& networkHubs()
     return hubs;
 }
 
-void buildWelcomeInfo(const SettingsFiles& files, const HubProfiles& profiles)
+FunctionDeclaration welcomeInfoFunction()
 {
-    rebuildTableFile(welcomeInfoSettings(), files, profiles);
-    writeEmptyTableIfMissing(files, hubsFile.path, hubsFile.table);
+    return {.nodes = {{"Communication~WelcomeInfo", "WelcomeInfo"},
+                      {"Communication~WelcomeInfo~Settings", "Settings",
+                       settingsForm(
+                           {"frmCommunicationWelcomeInfoSettings", "Communication ~ WelcomeInfo ~ Settings"},
+                           welcomeInfoSettings),
+                       "WelcomeInfo ~ Settings"},
+                      {"Communication~WelcomeInfo~NetworkHubs", "Network Hubs",
+                       listForm({"frmCommunicationWelcomeInfoNetworkHubs",
+                                 "Communication ~ WelcomeInfo ~ NetworkHubs"},
+                                networkHubs),
+                       "Welcome Info ~ Network Hubs"}},
+            .folders = {R"(Communication\WelcomeInfo)"},
+            .build = {RebuiltSettings{welcomeInfoSettings}, emptyTable(hubsFile)}};
 }
 
 } // namespace quillfen

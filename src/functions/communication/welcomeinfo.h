@@ -1,7 +1,6 @@
 #pragma once
 
-#include "settings/declaration.h"
-#include "settings/listdeclaration.h"
+#include "declarations/function.h"
 
 namespace quillfen {
 
@@ -11,6 +10,6 @@ const TableFile& welcomeInfoSettings();
 /// The hubs of the network.
 const RowListDeclaration& networkHubs();
 
-void buildWelcomeInfo(const SettingsFiles& files, const HubProfiles& profiles);
+FunctionDeclaration welcomeInfoFunction();
 
 } // namespace quillfen

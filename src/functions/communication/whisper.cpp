@@ -15,9 +15,15 @@ const TableFile& whisperSettings()
     return file;
 }
 
-void buildWhisper(const SettingsFiles& files, const HubProfiles& profiles)
+FunctionDeclaration whisperFunction()
 {
-    rebuildTableFile(whisperSettings(), files, profiles);
+    return {.nodes = {{.key = "Communication~Whisper",
+                       .caption = "Whisper",
+                       .form = settingsForm({"frmCommunicationWhisper", "Communication ~ Whisper"},
+                                            whisperSettings),
+                       .inTree = false}},
+            .folders = {R"(Communication\Whisper)"},
+            .build = {RebuiltSettings{whisperSettings}}};
 }
 
 } // namespace quillfen

@@ -1,12 +1,12 @@
 #pragma once
 
-#include "settings/declaration.h"
+#include "declarations/function.h"
 
 namespace quillfen {
 
 /// Whether a whisper is confirmed to its sender.
 const TableFile& whisperSettings();
 
-void buildWhisper(const SettingsFiles& files, const HubProfiles& profiles);
+FunctionDeclaration whisperFunction();
 
 } // namespace quillfen

@@ -1,7 +1,6 @@
 #include "functions/customise/asciiintros.h"
 
 #include "functions/customise/shared/enabledprofiles.h"
-#include "settings/listfile.h"
 #include "settings/textfolder.h"
 
 namespace quillfen {
@@ -79,11 +78,16 @@ const RowListDeclaration& asciiIntroFiles()
     return list;
 }
 
-void buildAsciiIntros(const SettingsFiles& files, const HubProfiles& profiles)
+FunctionDeclaration asciiIntrosFunction()
 {
-    rebuildTableFile(asciiIntroSettings(), files, profiles);
-    for (const ListFile& file : {usersFile, indexFile})
-        writeEmptyTableIfMissing(files, file.path, file.table);
+    const auto lists = [] { return std::vector{asciiIntroUsers(), asciiIntroFiles()}; };
+    return {.nodes = {{"CustomiseUser~IntroOutro~Ascii",
+                       "Ascii",
+                       {{{"frmCustomiseUserAsciiIntro", "Customise User ~ Intros & Outros ~ Ascii"},
+                         {DeclaredSettings{asciiIntroSettings},
+                          OwnPart{.kind = OwnPartKind::AsciiIntros, .lists = lists}}}},
+                       "IntroOutro ~ Ascii"}},
+            .build = {RebuiltSettings{asciiIntroSettings}, emptyTable(usersFile), emptyTable(indexFile)}};
 }
 
 } // namespace quillfen

@@ -1,7 +1,6 @@
 #pragma once
 
-#include "settings/declaration.h"
-#include "settings/listdeclaration.h"
+#include "declarations/function.h"
 
 #include <string_view>
 
@@ -19,6 +18,6 @@ const RowListDeclaration& asciiIntroFiles();
 /// The told path of the pictures' folder.
 inline constexpr std::string_view asciiIntroFolder = R"(CustomiseUser\IntroOutro\Ascii)";
 
-void buildAsciiIntros(const SettingsFiles& files, const HubProfiles& profiles);
+FunctionDeclaration asciiIntrosFunction();
 
 } // namespace quillfen

@@ -4,6 +4,7 @@
 #include "shell/kit/folderfilespart.h"
 
 #include <QHBoxLayout>
+#include <QWidget>
 
 #include <algorithm>
 
@@ -107,11 +108,9 @@ private:
 
 } // namespace
 
-OwnPart asciiIntrosPart()
+std::unique_ptr<FormPart> makeAsciiIntrosPart(const FormContext& context)
 {
-    OwnPart part = ownPart<AsciiIntrosPart>();
-    part.lists = [] { return std::vector{asciiIntroUsers(), asciiIntroFiles()}; };
-    return part;
+    return std::make_unique<AsciiIntrosPart>(context);
 }
 
 } // namespace quillfen

@@ -1,10 +1,12 @@
 #pragma once
 
-#include "shell/kit/declaredforms.h"
+#include "shell/kit/formpart.h"
+
+#include <memory>
 
 namespace quillfen {
 
 /// The users, and the pictures that they may have.
-OwnPart asciiIntrosPart();
+std::unique_ptr<FormPart> makeAsciiIntrosPart(const FormContext& context);
 
 } // namespace quillfen

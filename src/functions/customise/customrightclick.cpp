@@ -1,7 +1,6 @@
 #include "functions/customise/customrightclick.h"
 
 #include "settings/lines.h"
-#include "settings/listfile.h"
 #include "settings/profiles.h"
 #include "settings/tablewriter.h"
 
@@ -152,9 +151,17 @@ RowListDeclaration customRightClicks(const HubProfiles& profiles)
     return list;
 }
 
-void buildCustomRightClicks(const SettingsFiles& files, const HubProfiles& /*profiles*/)
+FunctionDeclaration customRightClickFunction()
 {
-    writeEmptyTableIfMissing(files, path, table); // without a count, which reads as none
+    const FormDescription form = {.name = "frmCustomiseUserCustomRightClick",
+                                  .caption = "CustomiseUser ~ Custom Right Click",
+                                  .hasRestore = false};
+    return {
+        .nodes = {{"CustomiseUser~CustomRightClick",
+                   "Custom Right Click",
+                   {{form, {DeclaredList{customRightClicks}}}}}},
+        .folders = {R"(CustomiseUser\CustomRightClick)"},
+        .build = {EmptyTable{std::string(path), std::string(table)}}}; // without a count, which reads as none
 }
 
 } // namespace quillfen

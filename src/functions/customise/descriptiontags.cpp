@@ -1,7 +1,6 @@
 #include "functions/customise/descriptiontags.h"
 
 #include "settings/lines.h"
-#include "settings/listfile.h"
 #include "settings/profiles.h"
 #include "settings/tablewriter.h"
 
@@ -98,6 +97,19 @@ void writeTags(TableWriter& lines, const std::vector<CellRow>& tags)
     lines.close();
 }
 
+void rebuildDescriptionTags(const SettingsFiles& files, const HubProfiles& profiles)
+{
+    const auto index = files.index(path);
+    TableWriter lines(table);
+    const auto writeKept = [&](const TableFile& file) {
+        writeRows(lines, file, rebuilt(file, index, profiles), RowOrder::Rebuild, profiles);
+    };
+    writeKept(rebuiltOnly());
+    writeTags(lines, rebuiltTags(files, profiles));
+    writeKept(taggedProfiles());
+    files.WriteSettingsFile(path, lines.closed());
+}
+
 } // namespace
 
 const TableFile& taggedProfiles()
@@ -132,19 +144,18 @@ void saveDescriptionTags(const SettingValues& tagged, const std::vector<CellRow>
     files.WriteSettingsFile(path, lines.closed());
 }
 
-void buildDescriptionTags(const SettingsFiles& files, const HubProfiles& profiles)
+FunctionDeclaration descriptionTagsFunction()
 {
-    const auto index = files.index(path);
-    TableWriter lines(table);
-    const auto writeKept = [&](const TableFile& file) {
-        writeRows(lines, file, rebuilt(file, index, profiles), RowOrder::Rebuild, profiles);
-    };
-    writeKept(rebuiltOnly());
-    writeTags(lines, rebuiltTags(files, profiles));
-    writeKept(taggedProfiles());
-    files.WriteSettingsFile(path, lines.closed());
-    writeEmptyTableIfMissing(files, R"(CustomiseUser\DescriptionTags\DescriptionTags.tbl)",
-                             "tDescriptionTags");
+    const OwnPart part = {.kind = OwnPartKind::DescriptionTags,
+                          .files = [] { return std::vector{taggedProfiles()}; },
+                          .lists = [] { return std::vector{descriptionTags()}; }};
+    return {
+        .nodes = {{"CustomiseUser~DescriptionTags",
+                   "Description Tags",
+                   {{{"frmCustomiseUserDescriptionTags", "CustomiseUser ~ DescriptionTags"}, {part}}}}},
+        .folders = {R"(CustomiseUser\DescriptionTags)"},
+        .build = {rebuildDescriptionTags,
+                  EmptyTable{R"(CustomiseUser\DescriptionTags\DescriptionTags.tbl)", "tDescriptionTags"}}};
 }
 
 } // namespace quillfen

@@ -1,7 +1,6 @@
 #pragma once
 
-#include "settings/declaration.h"
-#include "settings/listdeclaration.h"
+#include "declarations/function.h"
 
 namespace quillfen {
 
@@ -15,6 +14,6 @@ RowListDeclaration descriptionTags();
 void saveDescriptionTags(const SettingValues& tagged, const std::vector<CellRow>& tags,
                          const SettingsFiles& files, const HubProfiles& profiles);
 
-void buildDescriptionTags(const SettingsFiles& files, const HubProfiles& profiles);
+FunctionDeclaration descriptionTagsFunction();
 
 } // namespace quillfen

@@ -72,12 +72,9 @@ void DescriptionTagsPart::restore()
 
 } // namespace
 
-OwnPart descriptionTagsPart()
+std::unique_ptr<FormPart> makeDescriptionTagsPart(const FormContext& context)
 {
-    OwnPart part = ownPart<DescriptionTagsPart>();
-    part.files = [] { return std::vector{taggedProfiles()}; };
-    part.lists = [] { return std::vector{descriptionTags()}; };
-    return part;
+    return std::make_unique<DescriptionTagsPart>(context);
 }
 
 } // namespace quillfen

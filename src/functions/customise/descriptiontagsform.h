@@ -1,10 +1,12 @@
 #pragma once
 
-#include "shell/kit/declaredforms.h"
+#include "shell/kit/formpart.h"
+
+#include <memory>
 
 namespace quillfen {
 
 /// The profiles that bear a tag, and the tags.
-OwnPart descriptionTagsPart();
+std::unique_ptr<FormPart> makeDescriptionTagsPart(const FormContext& context);
 
 } // namespace quillfen

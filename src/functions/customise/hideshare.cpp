@@ -1,7 +1,6 @@
 #include "functions/customise/hideshare.h"
 
 #include "functions/customise/shared/enabledprofiles.h"
-#include "settings/listfile.h"
 
 namespace quillfen {
 
@@ -13,10 +12,14 @@ const TableFile& hideShareSettings()
     return file;
 }
 
-void buildHideShare(const SettingsFiles& files, const HubProfiles& profiles)
+FunctionDeclaration hideShareFunction()
 {
-    rebuildTableFile(hideShareSettings(), files, profiles);
-    writeEmptyTableIfMissing(files, R"(CustomiseUser\HideShare\HideShareUsers.tbl)", "tHideShareUsers");
+    return {.nodes = {{"CustomiseUser~HideShare", "Hide Share",
+                       settingsForm({"frmCustomiseUserHideShare", "CustomiseUser ~ HideShare"},
+                                    hideShareSettings)}},
+            .folders = {R"(CustomiseUser\HideShare)"},
+            .build = {RebuiltSettings{hideShareSettings},
+                      EmptyTable{R"(CustomiseUser\HideShare\HideShareUsers.tbl)", "tHideShareUsers"}}};
 }
 
 } // namespace quillfen

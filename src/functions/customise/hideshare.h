@@ -1,12 +1,12 @@
 #pragma once
 
-#include "settings/declaration.h"
+#include "declarations/function.h"
 
 namespace quillfen {
 
 /// The profiles whose share is hidden.
 const TableFile& hideShareSettings();
 
-void buildHideShare(const SettingsFiles& files, const HubProfiles& profiles);
+FunctionDeclaration hideShareFunction();
 
 } // namespace quillfen

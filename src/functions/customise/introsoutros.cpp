@@ -1,7 +1,6 @@
 #include "functions/customise/introsoutros.h"
 
 #include "functions/customise/shared/enabledprofiles.h"
-#include "settings/listfile.h"
 #include "settings/profiles.h"
 
 namespace quillfen {
@@ -133,14 +132,18 @@ std::vector<Setting> unregisteredIntro()
     return {flag("bRegIntroEnabled", "chkEnableUnregIntro", "Enable Unregistered User Intro", "1"), line};
 }
 
-void build(const Family& family, const TableFile& settings, const SettingsFiles& files,
-           const HubProfiles& profiles)
+FormDeclaration introsOutrosForm(const char* name, const std::string& word, const IntrosOutros& (*all)())
 {
-    rebuildTableFile(settings, files, profiles);
-    for (const char* noun : {"Intro", "Outro"}) {
-        const ListFile lines = linesFile(family, noun);
-        writeEmptyTableIfMissing(files, lines.path, lines.table);
-    }
+    return {
+        {name, "Customise User ~ Intros & Outros ~ " + word, {12000, 6900}},
+        {DeclaredSettings{[all] { return all().settings; }}, DeclaredLists{[all] { return all().lines; }}}};
+}
+
+void addSteps(FunctionDeclaration& function, const Family& family, const IntrosOutros& (*all)())
+{
+    function.build.push_back(RebuiltSettings{[all] { return all().settings; }});
+    for (const char* noun : {"Intro", "Outro"})
+        function.build.push_back(emptyTable(linesFile(family, noun)));
 }
 
 } // namespace
@@ -160,10 +163,21 @@ const IntrosOutros& customIntrosOutros()
     return all;
 }
 
-void buildIntrosOutros(const SettingsFiles& files, const HubProfiles& profiles)
+FunctionDeclaration introsOutrosFunction()
 {
-    build(standard, standardIntrosOutros().settings, files, profiles);
-    build(custom, customIntrosOutros().settings, files, profiles);
+    FunctionDeclaration function;
+    function.nodes = {{"CustomiseUser~IntroOutro", "Intros & Outros"},
+                      {"CustomiseUser~IntroOutro~Standard", "Standard",
+                       introsOutrosForm("frmCustomiseUserIntroOutro", "Standard", standardIntrosOutros),
+                       "IntroOutro ~ Standard"},
+                      {"CustomiseUser~IntroOutro~Custom", "Custom",
+                       introsOutrosForm("frmCustomiseUserCustomIntroOutro", "Custom", customIntrosOutros),
+                       "IntroOutro ~ Custom"}};
+    // The folder of the ascii intros is made with this one, before any file of the two.
+    function.folders = {R"(CustomiseUser\IntroOutro)", R"(CustomiseUser\IntroOutro\Ascii)"};
+    addSteps(function, standard, standardIntrosOutros);
+    addSteps(function, custom, customIntrosOutros);
+    return function;
 }
 
 } // namespace quillfen

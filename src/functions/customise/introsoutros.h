@@ -1,7 +1,6 @@
 #pragma once
 
-#include "settings/declaration.h"
-#include "settings/listdeclaration.h"
+#include "declarations/function.h"
 
 namespace quillfen {
 
@@ -15,6 +14,6 @@ struct IntrosOutros
 const IntrosOutros& standardIntrosOutros();
 const IntrosOutros& customIntrosOutros();
 
-void buildIntrosOutros(const SettingsFiles& files, const HubProfiles& profiles);
+FunctionDeclaration introsOutrosFunction();
 
 } // namespace quillfen

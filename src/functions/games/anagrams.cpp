@@ -2,7 +2,6 @@
 
 #include "functions/games/shared/quizpattern.h"
 #include "functions/games/shared/wordlist.h"
-#include "settings/listfile.h"
 
 namespace quillfen {
 namespace {
@@ -45,11 +44,20 @@ const RowListDeclaration& anagramWords()
     return declared;
 }
 
-void buildAnagrams(const SettingsFiles& files, const HubProfiles& profiles)
+FunctionDeclaration anagramsFunction()
 {
-    rebuildTableFile(anagramSettings(), files, profiles);
-    makeScoreFiles(files, "Anagrams", "Anagram");
-    writeIfMissing(files, wordsPath, firstWord);
+    // This form alone asks with the program's name before it restores.
+    const FormDescription form = {.name = "frmGamesAnagrams",
+                                  .caption = "Games ~ Anagrams",
+                                  .restoreTitle = "Restore Defaults?",
+                                  .restoreText = "Restore Quillfen defaults?"};
+    FunctionDeclaration function = quizFunction("Anagrams", "Anagram", anagramSettings);
+    function.nodes = {
+        {"Games~Anagrams",
+         "Anagrams",
+         {{form, {DeclaredSettings{anagramSettings}, listPart(anagramWords, ListPartKind::Words)}}}}};
+    function.build.push_back(FirstText{wordsPath, firstWord});
+    return function;
 }
 
 } // namespace quillfen

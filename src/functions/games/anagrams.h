@@ -1,7 +1,6 @@
 #pragma once
 
-#include "settings/declaration.h"
-#include "settings/listdeclaration.h"
+#include "declarations/function.h"
 
 namespace quillfen {
 
@@ -10,6 +9,6 @@ const TableFile& anagramSettings();
 /// The list of words to find.
 const RowListDeclaration& anagramWords();
 
-void buildAnagrams(const SettingsFiles& files, const HubProfiles& profiles);
+FunctionDeclaration anagramsFunction();
 
 } // namespace quillfen

@@ -39,10 +39,12 @@ const TableFile& codeBreakerSettings()
     return file;
 }
 
-void buildCodeBreaker(const SettingsFiles& files, const HubProfiles& profiles)
+FunctionDeclaration codeBreakerFunction()
 {
-    rebuildTableFile(codeBreakerSettings(), files, profiles);
-    makeScoreFiles(files, "CodeBreaker", "CodeBreaker");
+    FunctionDeclaration function = quizFunction("CodeBreaker", "CodeBreaker", codeBreakerSettings);
+    function.nodes = {{"Games~CodeBreaker", "CodeBreaker",
+                       settingsForm({"frmGamesCodeBreaker", "Games ~ CodeBreaker"}, codeBreakerSettings)}};
+    return function;
 }
 
 } // namespace quillfen

@@ -1,11 +1,11 @@
 #pragma once
 
-#include "settings/declaration.h"
+#include "declarations/function.h"
 
 namespace quillfen {
 
 const TableFile& codeBreakerSettings();
 
-void buildCodeBreaker(const SettingsFiles& files, const HubProfiles& profiles);
+FunctionDeclaration codeBreakerFunction();
 
 } // namespace quillfen

@@ -45,10 +45,13 @@ const TableFile& guessTheNumberSettings()
     return file;
 }
 
-void buildGuessTheNumber(const SettingsFiles& files, const HubProfiles& profiles)
+FunctionDeclaration guessTheNumberFunction()
 {
-    rebuildTableFile(guessTheNumberSettings(), files, profiles);
-    makeScoreFiles(files, "GuessTheNumber", "GuessTheNumber");
+    FunctionDeclaration function = quizFunction("GuessTheNumber", "GuessTheNumber", guessTheNumberSettings);
+    function.nodes = {
+        {"Games~GuessTheNumber", "Guess The Number",
+         settingsForm({"frmGamesGuessTheNumber", "Games ~ GuessTheNumber"}, guessTheNumberSettings)}};
+    return function;
 }
 
 } // namespace quillfen

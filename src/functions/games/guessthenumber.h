@@ -1,11 +1,11 @@
 #pragma once
 
-#include "settings/declaration.h"
+#include "declarations/function.h"
 
 namespace quillfen {
 
 const TableFile& guessTheNumberSettings();
 
-void buildGuessTheNumber(const SettingsFiles& files, const HubProfiles& profiles);
+FunctionDeclaration guessTheNumberFunction();
 
 } // namespace quillfen

@@ -2,7 +2,6 @@
 
 #include "functions/games/shared/quizpattern.h"
 #include "functions/games/shared/wordlist.h"
-#include "settings/listfile.h"
 
 namespace quillfen {
 namespace {
@@ -61,13 +60,19 @@ std::string gallowsFile(int stage)
     return R"(Games\Hangman\Ascii\)" + std::to_string(lastGallowsStage - stage) + ".asc";
 }
 
-void buildHangman(const SettingsFiles& files, const HubProfiles& profiles)
+FunctionDeclaration hangmanFunction()
 {
-    rebuildTableFile(hangmanSettings(), files, profiles);
-    makeScoreFiles(files, "Hangman", "Hangman");
-    writeIfMissing(files, wordsPath, firstWord);
+    FunctionDeclaration function = quizFunction("Hangman", "Hangman", hangmanSettings);
+    function.nodes = {{"Games~Hangman",
+                       "Hangman",
+                       {{{"frmGamesHangman", "Games ~ Hangman"},
+                         {DeclaredSettings{hangmanSettings, SettingsPartKind::Hangman},
+                          listPart(hangmanWords, ListPartKind::Words), OwnPart{OwnPartKind::Gallows}}}}}};
+    function.folders.push_back(R"(Games\Hangman\Ascii)");
+    function.build.push_back(FirstText{wordsPath, firstWord});
     for (int stage = 0; stage <= lastGallowsStage; ++stage)
-        writeIfMissing(files, gallowsFile(stage), "");
+        function.build.push_back(FirstText{gallowsFile(stage), ""});
+    return function;
 }
 
 } // namespace quillfen

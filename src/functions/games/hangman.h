@@ -1,7 +1,6 @@
 #pragma once
 
-#include "settings/declaration.h"
-#include "settings/listdeclaration.h"
+#include "declarations/function.h"
 
 #include <string>
 
@@ -18,6 +17,6 @@ inline constexpr int lastGallowsStage = 13;
 /// The told path of the picture at a place of the slider: its number counts from the other end.
 std::string gallowsFile(int stage);
 
-void buildHangman(const SettingsFiles& files, const HubProfiles& profiles);
+FunctionDeclaration hangmanFunction();
 
 } // namespace quillfen

@@ -113,15 +113,14 @@ void GallowsPart::edit()
 
 } // namespace
 
-DeclaredSettings hangmanSettingsPart()
+std::unique_ptr<FormPart> makeHangmanSettingsPart(const TableFile& file, const FormContext& context)
 {
-    return {hangmanSettings,
-            [](const TableFile& file, const FormContext& context) { return new HangmanPart(file, context); }};
+    return std::make_unique<HangmanPart>(file, context);
 }
 
-OwnPart gallowsPart()
+std::unique_ptr<FormPart> makeGallowsPart(const FormContext& context)
 {
-    return ownPart<GallowsPart>();
+    return std::make_unique<GallowsPart>(context);
 }
 
 } // namespace quillfen

@@ -3,7 +3,6 @@
 #include "functions/games/shared/questions.h"
 #include "functions/games/shared/quizpattern.h"
 #include "functions/games/shared/wordlist.h"
-#include "settings/listfile.h"
 
 #include <algorithm>
 
@@ -139,11 +138,16 @@ const RowListDeclaration& numbersQuestions()
     return declared;
 }
 
-void buildNumbers(const SettingsFiles& files, const HubProfiles& profiles)
+FunctionDeclaration numbersFunction()
 {
-    rebuildTableFile(numbersSettings(), files, profiles);
-    makeScoreFiles(files, "Numbers", "Numbers");
-    writeIfMissing(files, questionsPath, "Mathematics: What is 2 Plus 2 = ??*4\r\n");
+    FunctionDeclaration function = quizFunction("Numbers", "Numbers", numbersSettings);
+    function.nodes = {{"Games~Numbers",
+                       "Numbers",
+                       {{{"frmGamesNumbers", "Games ~ Numbers"},
+                         {DeclaredSettings{numbersSettings, SettingsPartKind::Numbers},
+                          listPart(numbersQuestions, ListPartKind::FixedQuestions)}}}}};
+    function.build.push_back(FirstText{questionsPath, "Mathematics: What is 2 Plus 2 = ??*4\r\n"});
+    return function;
 }
 
 } // namespace quillfen

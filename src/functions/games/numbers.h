@@ -1,7 +1,6 @@
 #pragma once
 
-#include "settings/declaration.h"
-#include "settings/listdeclaration.h"
+#include "declarations/function.h"
 
 #include <string>
 
@@ -25,6 +24,6 @@ extern const std::vector<std::string> calculationOperators;
 /// The list of fixed questions.
 const RowListDeclaration& numbersQuestions();
 
-void buildNumbers(const SettingsFiles& files, const HubProfiles& profiles);
+FunctionDeclaration numbersFunction();
 
 } // namespace quillfen

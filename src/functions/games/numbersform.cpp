@@ -102,16 +102,14 @@ private:
 
 } // namespace
 
-DeclaredSettings numbersSettingsPart()
+std::unique_ptr<FormPart> makeNumbersSettingsPart(const TableFile& file, const FormContext& context)
 {
-    return {numbersSettings, [](const TableFile& file, const FormContext& context) {
-                return new NumbersPart(file, new CalculationsPart(context), context);
-            }};
+    return std::make_unique<NumbersPart>(file, new CalculationsPart(context), context);
 }
 
-DeclaredList numbersQuestionsPart()
+std::unique_ptr<FormPart> makeFixedQuestionsPart(const RowListDeclaration& list, const FormContext& context)
 {
-    return listPartOf<FixedQuestionsPart>(numbersQuestions);
+    return std::make_unique<FixedQuestionsPart>(list, context);
 }
 
 } // namespace quillfen

@@ -52,11 +52,17 @@ const RowListDeclaration& russianRouletteDie()
     return declared;
 }
 
-void buildRussianRoulette(const SettingsFiles& files, const HubProfiles& profiles)
+FunctionDeclaration russianRouletteFunction()
 {
-    rebuildTableFile(russianRouletteSettings(), files, profiles);
-    makeComments(files, live, "You have survived... for now");
-    makeComments(files, die, "You're dead, now whose gonna clean up this mess?");
+    return {.nodes = {{"Games~RussianRoulette",
+                       "Russian Roulette",
+                       {{{"frmGamesRussianRoulette", "Games ~ RussianRoulette"},
+                         {DeclaredSettings{russianRouletteSettings}, listPart(russianRouletteLive),
+                          listPart(russianRouletteDie)}}}}},
+            .folders = {R"(Games\RussianRoulette)"},
+            .build = {RebuiltSettings{russianRouletteSettings},
+                      firstRows(live.file, {{"You have survived... for now"}}),
+                      firstRows(die.file, {{"You're dead, now whose gonna clean up this mess?"}})}};
 }
 
 } // namespace quillfen

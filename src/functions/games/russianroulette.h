@@ -1,7 +1,6 @@
 #pragma once
 
-#include "settings/declaration.h"
-#include "settings/listdeclaration.h"
+#include "declarations/function.h"
 
 namespace quillfen {
 
@@ -11,6 +10,6 @@ const TableFile& russianRouletteSettings();
 const RowListDeclaration& russianRouletteLive();
 const RowListDeclaration& russianRouletteDie();
 
-void buildRussianRoulette(const SettingsFiles& files, const HubProfiles& profiles);
+FunctionDeclaration russianRouletteFunction();
 
 } // namespace quillfen

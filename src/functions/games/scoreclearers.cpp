@@ -1,7 +1,6 @@
 #include "functions/games/scoreclearers.h"
 
 #include "settings/codepage.h"
-#include "settings/listfile.h"
 
 #include <algorithm>
 
@@ -39,9 +38,14 @@ bool isClearer(const std::vector<CellRow>& rows, std::string_view nick)
     });
 }
 
-void buildScoreClearers(const SettingsFiles& files, const HubProfiles& /*profiles*/)
+FunctionDeclaration scoreClearersFunction()
 {
-    writeEmptyTableIfMissing(files, clearers.path, clearers.table);
+    return {.nodes = {{"Games~ScoreClearers",
+                       "Score Clearers",
+                       {{{"frmGamesGlobalsScoreClearers", "Games ~ Score Clearers"},
+                         {listPart(scoreClearers, ListPartKind::ScoreClearers)}}}}},
+            .folders = {R"(Games\Globals)"},
+            .build = {emptyTable(clearers)}};
 }
 
 } // namespace quillfen

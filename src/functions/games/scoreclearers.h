@@ -1,6 +1,6 @@
 #pragma once
 
-#include "settings/listdeclaration.h"
+#include "declarations/function.h"
 
 #include <string_view>
 
@@ -12,6 +12,6 @@ const RowListDeclaration& scoreClearers();
 /// Whether a nick is in the list already, in letters of any case.
 bool isClearer(const std::vector<CellRow>& rows, std::string_view nick);
 
-void buildScoreClearers(const SettingsFiles& files, const HubProfiles& profiles);
+FunctionDeclaration scoreClearersFunction();
 
 } // namespace quillfen

@@ -26,9 +26,9 @@ protected:
 
 } // namespace
 
-DeclaredList scoreClearersPart()
+std::unique_ptr<FormPart> makeScoreClearersPart(const RowListDeclaration& list, const FormContext& context)
 {
-    return listPartOf<ClearersPart>(scoreClearers);
+    return std::make_unique<ClearersPart>(list, context);
 }
 
 } // namespace quillfen

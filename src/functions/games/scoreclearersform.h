@@ -1,10 +1,14 @@
 #pragma once
 
-#include "shell/kit/declaredforms.h"
+#include "shell/kit/formpart.h"
+
+#include <memory>
 
 namespace quillfen {
 
+struct RowListDeclaration;
+
 /// The users, each of them once.
-DeclaredList scoreClearersPart();
+std::unique_ptr<FormPart> makeScoreClearersPart(const RowListDeclaration& list, const FormContext& context);
 
 } // namespace quillfen

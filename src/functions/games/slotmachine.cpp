@@ -1,7 +1,5 @@
 #include "functions/games/slotmachine.h"
 
-#include "settings/listfile.h"
-
 namespace quillfen {
 namespace {
 
@@ -33,10 +31,13 @@ const TableFile& slotMachineSettings()
     return file;
 }
 
-void buildSlotMachine(const SettingsFiles& files, const HubProfiles& profiles)
+FunctionDeclaration slotMachineFunction()
 {
-    rebuildTableFile(slotMachineSettings(), files, profiles);
-    writeEmptyTableIfMissing(files, R"(Games\SlotMachine\SlotMachinePlayers.tbl)", "tSlotMachinePlayers");
+    return {.nodes = {{"Games~SlotMachine", "Slot Machine",
+                       settingsForm({"frmGamesSlotMachine", "Games ~ SlotMachine"}, slotMachineSettings)}},
+            .folders = {R"(Games\SlotMachine)"},
+            .build = {RebuiltSettings{slotMachineSettings},
+                      EmptyTable{R"(Games\SlotMachine\SlotMachinePlayers.tbl)", "tSlotMachinePlayers"}}};
 }
 
 } // namespace quillfen

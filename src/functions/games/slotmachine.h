@@ -1,11 +1,11 @@
 #pragma once
 
-#include "settings/declaration.h"
+#include "declarations/function.h"
 
 namespace quillfen {
 
 const TableFile& slotMachineSettings();
 
-void buildSlotMachine(const SettingsFiles& files, const HubProfiles& profiles);
+FunctionDeclaration slotMachineFunction();
 
 } // namespace quillfen

@@ -53,11 +53,17 @@ const RowListDeclaration& threeCardMontyLose()
     return declared;
 }
 
-void buildThreeCardMonty(const SettingsFiles& files, const HubProfiles& profiles)
+FunctionDeclaration threeCardMontyFunction()
 {
-    rebuildTableFile(threeCardMontySettings(), files, profiles);
-    makeComments(files, win, "The Gods smile upon you, this day");
-    makeComments(files, lose, "You lost. Play again, what else have you got going?");
+    return {.nodes = {{"Games~ThreeCardMonty",
+                       "Three Card Monty",
+                       {{{"frmGamesThreeCardMonty", "Games ~ Three Card Monty"},
+                         {DeclaredSettings{threeCardMontySettings}, listPart(threeCardMontyWin),
+                          listPart(threeCardMontyLose)}}}}},
+            .folders = {R"(Games\ThreeCardMonty)"},
+            .build = {RebuiltSettings{threeCardMontySettings},
+                      firstRows(win.file, {{"The Gods smile upon you, this day"}}),
+                      firstRows(lose.file, {{"You lost. Play again, what else have you got going?"}})}};
 }
 
 } // namespace quillfen

@@ -1,7 +1,6 @@
 #pragma once
 
-#include "settings/declaration.h"
-#include "settings/listdeclaration.h"
+#include "declarations/function.h"
 
 namespace quillfen {
 
@@ -11,6 +10,6 @@ const TableFile& threeCardMontySettings();
 const RowListDeclaration& threeCardMontyWin();
 const RowListDeclaration& threeCardMontyLose();
 
-void buildThreeCardMonty(const SettingsFiles& files, const HubProfiles& profiles);
+FunctionDeclaration threeCardMontyFunction();
 
 } // namespace quillfen

@@ -3,7 +3,6 @@
 #include "functions/games/shared/quizpattern.h"
 #include "functions/games/shared/wordlist.h"
 #include "settings/codepage.h"
-#include "settings/listfile.h"
 #include "settings/tablewriter.h"
 
 #include <algorithm>
@@ -23,6 +22,18 @@ Setting quiz(const std::string& key, const std::string& control)
 bool comesBefore(const std::string& one, const std::string& other)
 {
     return codepage::lowered(one) < codepage::lowered(other);
+}
+
+/// Only together with its table: an owner who deleted the file but kept the table doesn't get it back.
+void makeFirstQuestions(const SettingsFiles& files, const HubProfiles& /*profiles*/)
+{
+    if (files.store().exists(files.paths().inSettings(questionFilesPath)))
+        return;
+    TableWriter table(questionFilesTable);
+    table.indent(0).text(bracketed(quoted(defaultKey)), "TriviaQuestions");
+    files.WriteSettingsFile(questionFilesPath, table.closed());
+    writeIfMissing(files, triviaQuestionFile("TriviaQuestions"),
+                   std::string(firstTriviaQuestion).append(lineEnd));
 }
 
 } // namespace
@@ -115,18 +126,24 @@ void createTriviaQuestions(const SettingsFiles& files, std::string_view name)
         "novels?*binkie");
 }
 
-void buildTrivia(const SettingsFiles& files, const HubProfiles& profiles)
+FunctionDeclaration triviaFunction()
 {
-    rebuildTableFile(triviaSettings(), files, profiles);
-    makeScoreFiles(files, "Trivia", "Trivia");
-    if (files.store().exists(files.paths().inSettings(questionFilesPath)))
-        return;
-    TableWriter table(questionFilesTable);
-    table.indent(0).text(bracketed(quoted(defaultKey)), "TriviaQuestions");
-    files.WriteSettingsFile(questionFilesPath, table.closed());
-    // Only together with its table: an owner who deleted the file but kept the table doesn't get it back.
-    writeIfMissing(files, triviaQuestionFile("TriviaQuestions"),
-                   std::string(firstTriviaQuestion).append(lineEnd));
+    const FormDescription questions = {.name = "frmGamesTriviaQuestions",
+                                       .caption = "Games ~ Trivia ~ Questions",
+                                       .minimumSize = {12000, 7500},
+                                       .hasRestore = false};
+    FunctionDeclaration function = quizFunction("Trivia", "Trivia", triviaSettings);
+    function.nodes = {{"Games~Trivia", "Trivia"},
+                      {"Games~Trivia~Settings", "Settings",
+                       settingsForm({"frmGamesTrivia", "Games ~ Trivia ~ Settings"}, triviaSettings),
+                       "Trivia ~ Settings"},
+                      {"Games~Trivia~Questions",
+                       "Questions",
+                       {{questions, {OwnPart{OwnPartKind::TriviaQuestions}}}},
+                       "Trivia ~ Questions"}};
+    function.folders.push_back(R"(Games\Trivia\QuestionFiles)");
+    function.build.push_back(makeFirstQuestions);
+    return function;
 }
 
 } // namespace quillfen

@@ -1,7 +1,6 @@
 #pragma once
 
-#include "settings/declaration.h"
-#include "settings/listdeclaration.h"
+#include "declarations/function.h"
 
 #include <string>
 #include <string_view>
@@ -41,6 +40,6 @@ void createTriviaQuestions(const SettingsFiles& files, std::string_view name);
 inline constexpr std::string_view firstTriviaQuestion =
     "Misc:Which short word is the title of a novel in Tavis Orlemon's series?*mort";
 
-void buildTrivia(const SettingsFiles& files, const HubProfiles& profiles);
+FunctionDeclaration triviaFunction();
 
 } // namespace quillfen

@@ -355,9 +355,9 @@ void QuestionsPart::closeFile()
 
 } // namespace
 
-OwnPart triviaQuestionsPart()
+std::unique_ptr<FormPart> makeTriviaQuestionsPart(const FormContext& context)
 {
-    return ownPart<QuestionsPart>();
+    return std::make_unique<QuestionsPart>(context);
 }
 
 } // namespace quillfen

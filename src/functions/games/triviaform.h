@@ -1,10 +1,12 @@
 #pragma once
 
-#include "shell/kit/declaredforms.h"
+#include "shell/kit/formpart.h"
+
+#include <memory>
 
 namespace quillfen {
 
 /// The question files, and the questions of the one that is open.
-OwnPart triviaQuestionsPart();
+std::unique_ptr<FormPart> makeTriviaQuestionsPart(const FormContext& context);
 
 } // namespace quillfen

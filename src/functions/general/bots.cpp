@@ -1,7 +1,6 @@
 #include "functions/general/bots.h"
 
 #include "settings/bottables.h"
-#include "settings/listfile.h"
 #include "settings/tablewriter.h"
 
 namespace quillfen {
@@ -122,6 +121,12 @@ RowListDeclaration declaredBots()
     return list;
 }
 
+void makeFirstBots(const SettingsFiles& files, const HubProfiles& profiles)
+{
+    if (!files.store().exists(files.paths().inSettings(botFile)))
+        saveBots(files, profiles, defaultRows(profiles));
+}
+
 } // namespace
 
 const TableFile& botSettings()
@@ -143,11 +148,12 @@ const RowListDeclaration& bots()
     return list;
 }
 
-void buildBots(const SettingsFiles& files, const HubProfiles& profiles)
+FunctionDeclaration botsFunction()
 {
-    rebuildTableFile(botSettings(), files, profiles);
-    if (!files.store().exists(files.paths().inSettings(botFile)))
-        saveBots(files, profiles, defaultRows(profiles));
+    return {.nodes = {{"General~Bots", "Bots",
+                       settingsAndListForm({"frmGeneralBots", "General ~ Bots"}, botSettings, bots)}},
+            .folders = {R"(General\Bots)"},
+            .build = {RebuiltSettings{botSettings}, makeFirstBots}};
 }
 
 } // namespace quillfen

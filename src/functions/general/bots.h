@@ -1,7 +1,6 @@
 #pragma once
 
-#include "settings/declaration.h"
-#include "settings/listdeclaration.h"
+#include "declarations/function.h"
 
 namespace quillfen {
 
@@ -12,6 +11,6 @@ const TableFile& botSettings();
 /// hides.
 const RowListDeclaration& bots();
 
-void buildBots(const SettingsFiles& files, const HubProfiles& profiles);
+FunctionDeclaration botsFunction();
 
 } // namespace quillfen

@@ -1,6 +1,5 @@
 #include "functions/general/languages.h"
 
-#include "settings/listfile.h"
 #include "settings/tablewriter.h"
 
 namespace quillfen {
@@ -71,6 +70,16 @@ std::vector<ListRow> referenceList(const SettingsFiles& files, const LanguageSet
     return list;
 }
 
+Node languageNode(const std::string& key, const std::string& caption, std::size_t set)
+{
+    const FormDescription form = {std::string(sets[set].form), std::string(sets[set].caption), {10500, 6000}};
+    return {.key = key,
+            .caption = caption,
+            .form = {{form, {OwnPart{OwnPartKind::Languages, set}}}},
+            .dropDown = "Language~" + caption,
+            .above = "General~Language"}; // the keys came before their heading
+}
+
 } // namespace
 
 std::span<const LanguageSet> languageSets()
@@ -119,6 +128,17 @@ void saveLanguageTexts(const SettingsFiles& files, const LanguageSet& set, std::
     for (const CellRow& row : rows)
         table.text(row.cells.at(0), row.cells.at(1));
     files.WriteSettingsFile(pathOf(set, name), table.closed());
+}
+
+FunctionDeclaration languagesFunction()
+{
+    return {.nodes = {{"General~Language", "Language"},
+                      languageNode("General~Commands", "Commands", 0),
+                      languageNode("General~Messages", "Messages", 2),
+                      languageNode("General~RightClicks", "RightClicks", 1)},
+            .folders = {"Language", R"(Language\Commands)", R"(Language\Commands\Files)",
+                        R"(Language\Messages)", R"(Language\Messages\Files)", R"(Language\RightClick)",
+                        R"(Language\RightClick\Files)"}};
 }
 
 } // namespace quillfen

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "settings/listdeclaration.h"
+#include "declarations/function.h"
 
 #include <span>
 #include <string>
@@ -52,5 +52,7 @@ std::vector<CellRow> loadLanguageTexts(const SettingsFiles& files, const Languag
 /// Throws StoreError.
 void saveLanguageTexts(const SettingsFiles& files, const LanguageSet& set, std::string_view name,
                        const std::vector<CellRow>& rows);
+
+FunctionDeclaration languagesFunction();
 
 } // namespace quillfen

@@ -323,9 +323,9 @@ void LanguagesPart::leaveTexts()
 
 } // namespace
 
-OwnPart languagesPart(const LanguageSet& set)
+std::unique_ptr<FormPart> makeLanguagesPart(const LanguageSet& set, const FormContext& context)
 {
-    return {[&set](const FormContext& context) { return new LanguagesPart(set, context); }};
+    return std::make_unique<LanguagesPart>(set, context);
 }
 
 } // namespace quillfen

@@ -1,12 +1,14 @@
 #pragma once
 
-#include "shell/kit/declaredforms.h"
+#include "shell/kit/formpart.h"
+
+#include <memory>
 
 namespace quillfen {
 
 struct LanguageSet;
 
 /// The languages of a set, and the texts of the one that is open.
-OwnPart languagesPart(const LanguageSet& set);
+std::unique_ptr<FormPart> makeLanguagesPart(const LanguageSet& set, const FormContext& context);
 
 } // namespace quillfen

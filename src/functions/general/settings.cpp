@@ -21,9 +21,14 @@ const TableFile& generalSettings()
     return file;
 }
 
-void buildGeneralSettings(const SettingsFiles& files, const HubProfiles& profiles)
+FunctionDeclaration generalSettingsFunction()
 {
-    rebuildTableFile(generalSettings(), files, profiles);
+    // This form was never set clean by a discard: its "SAVE" stays lit until the next save.
+    const FormDescription form = {
+        "frmGeneralGeneral", "General ~ Settings", {3165, 3450}, FormDescription::AfterDiscard::AsItStood};
+    return {.nodes = {{"General~Settings", "Settings", settingsForm(form, generalSettings)}},
+            .folders = {R"(General\Globals)"},
+            .build = {RebuiltSettings{generalSettings}}};
 }
 
 } // namespace quillfen

@@ -1,7 +1,5 @@
 #include "functions/general/switches.h"
 
-#include "settings/listfile.h"
-
 #include <algorithm>
 #include <array>
 
@@ -78,6 +76,24 @@ void writeBuiltRows(const SettingsFiles& files, const ListFile& file)
     saveList(files, file, rows);
 }
 
+void resetSwitches(const SettingsFiles& files, const HubProfiles& /*profiles*/)
+{
+    writeBuiltRows(files, switchesFile());
+}
+
+void resetEnabledRightClicks(const SettingsFiles& files, const HubProfiles& /*profiles*/)
+{
+    writeBuiltRows(files, enabledRightClicksFile());
+}
+
+/// The script's functions with a tick each. A click on one shows its help.
+FormDeclaration switchesForm(const FormDescription& form, const ListFile& (*file)())
+{
+    return {form, {DeclaredTicks{[file] {
+                return TickList{"lvwSwitches", "Functions", file(), switchHelp};
+            }}}};
+}
+
 } // namespace
 
 std::span<const SwitchedFunction> switchedFunctions()
@@ -106,14 +122,15 @@ const ListFile& enabledRightClicksFile()
     return file;
 }
 
-void buildSwitches(const SettingsFiles& files, const HubProfiles& /*profiles*/)
+FunctionDeclaration switchesFunction()
 {
-    writeBuiltRows(files, switchesFile());
-}
-
-void buildEnabledRightClicks(const SettingsFiles& files, const HubProfiles& /*profiles*/)
-{
-    writeBuiltRows(files, enabledRightClicksFile());
+    return {
+        .nodes = {{"General~Switches", "Switches",
+                   switchesForm({"frmGeneralSwitches", "General ~ Switches", {3165, 3450}}, switchesFile)},
+                  {"General~EnabledRightClicks", "Enabled Right Clicks",
+                   switchesForm({"frmGeneralRightClicks", "General ~ Right Clicks", {3165, 3450}},
+                                enabledRightClicksFile)}},
+        .build = {resetSwitches, resetEnabledRightClicks}};
 }
 
 } // namespace quillfen

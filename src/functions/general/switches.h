@@ -1,5 +1,7 @@
 #pragma once
 
+#include "declarations/function.h"
+
 #include <span>
 #include <string_view>
 
@@ -27,7 +29,6 @@ std::string_view switchHelp(std::string_view name);
 const ListFile& switchesFile();
 const ListFile& enabledRightClicksFile();
 
-void buildSwitches(const SettingsFiles& files, const HubProfiles& profiles);
-void buildEnabledRightClicks(const SettingsFiles& files, const HubProfiles& profiles);
+FunctionDeclaration switchesFunction();
 
 } // namespace quillfen

@@ -62,6 +62,15 @@ TableFile declaredSettings()
     };
 }
 
+TickList actionTicks()
+{
+    return {.control = "lvwBlockedActions",
+            .caption = {},
+            .file = blockedActionsFile(),
+            .label = "Blocked Actions",
+            .restoreTicks = false};
+}
+
 } // namespace
 
 const TableFile& antiAdvertiseSettings()
@@ -97,16 +106,30 @@ const RowListDeclaration& allowedAddresses()
     return list;
 }
 
-void buildAntiAdvertise(const SettingsFiles& files, const HubProfiles& profiles)
+FunctionDeclaration antiAdvertiseFunction()
 {
-    rebuildTableFile(antiAdvertiseSettings(), files, profiles);
-    rebuildTableFile(declaredActions(), files, profiles);
+    const FormDescription settings = {.name = "frmSecurityAntiAdvertiseSettings",
+                                      .caption = "Security ~ AntiAdvertise ~  Settings",
+                                      .parts = FormDescription::Parts::Beside};
+    const FormDescription addresses = {.name = "frmSecurityAntiAdvertiseAddresses",
+                                       .caption = "Security ~ AntiAdvertise",
+                                       .parts = FormDescription::Parts::Beside};
     // Each new file opens with the other's table. Both are empty, so that the form shows nothing wrong, and
     // its first save gives each its own.
     const ListFile blocked = addressFile("Blocked");
     const ListFile allowed = addressFile("Allowed");
-    writeEmptyTableIfMissing(files, allowed.path, blocked.table);
-    writeEmptyTableIfMissing(files, blocked.path, allowed.table);
+    return {.nodes = {{"Security~AntiAdvertise", "AntiAdvertise"},
+                      {"Security~AntiAdvertise~Settings",
+                       "Settings",
+                       {{settings, {DeclaredSettings{antiAdvertiseSettings}, DeclaredTicks{actionTicks}}}},
+                       "AntiAdvertise ~ Settings"},
+                      {"Security~AntiAdvertise~Addresses",
+                       "Addresses",
+                       {{addresses, {listPart(blockedAddresses), listPart(allowedAddresses)}}},
+                       "AntiAdvertise ~ Addresses"}},
+            .folders = {R"(Security\AntiAdvertise)"},
+            .build = {RebuiltSettings{antiAdvertiseSettings}, RebuiltSettings{declaredActions},
+                      EmptyTable{allowed.path, blocked.table}, EmptyTable{blocked.path, allowed.table}}};
 }
 
 } // namespace quillfen

@@ -1,7 +1,6 @@
 #include "functions/security/blockers.h"
 
 #include "functions/security/shared/actions.h"
-#include "settings/listfile.h"
 
 namespace quillfen {
 namespace {
@@ -105,21 +104,30 @@ const TableFile& antiVirusSettings()
     return file;
 }
 
-void buildBadNickBlocker(const SettingsFiles& files, const HubProfiles& profiles)
+FunctionDeclaration badNickBlockerFunction()
 {
-    rebuildTableFile(badNickSettings(), files, profiles);
-    writeEmptyTableIfMissing(files, badNickFile.path, badNickFile.table);
+    return {.nodes = {{"Security~BadNickBlocker", "Bad Nick Blocker",
+                       settingsAndListForm({"frmSecurityBadNickBlocker", "Security ~ BadNickBlocker"},
+                                           badNickSettings, badNicks)}},
+            .folders = {R"(Security\BadNickBlocker)"},
+            .build = {RebuiltSettings{badNickSettings}, emptyTable(badNickFile)}};
 }
 
-void buildCloneBlocker(const SettingsFiles& files, const HubProfiles& profiles)
+FunctionDeclaration cloneBlockerFunction()
 {
-    rebuildTableFile(cloneSettings(), files, profiles);
-    writeEmptyTableIfMissing(files, exemptUserFile.path, exemptUserFile.table);
+    return {.nodes = {{"Security~CloneBlocker", "CloneBlocker",
+                       settingsAndListForm({"frmSecurityCloneBlocker", "Security ~ CloneBlocker"},
+                                           cloneSettings, cloneExemptUsers)}},
+            .folders = {R"(Security\CloneBlocker)"},
+            .build = {RebuiltSettings{cloneSettings}, emptyTable(exemptUserFile)}};
 }
 
-void buildAntiVirus(const SettingsFiles& files, const HubProfiles& profiles)
+FunctionDeclaration antiVirusFunction()
 {
-    rebuildTableFile(antiVirusSettings(), files, profiles);
+    return {.nodes = {{"Security~AntiVirus", "Anti-Virus",
+                       settingsForm({"frmSecurityAntiVirus", "Security ~ AntiVirus"}, antiVirusSettings)}},
+            .folders = {R"(Security\AntiVirus)"},
+            .build = {RebuiltSettings{antiVirusSettings}}};
 }
 
 } // namespace quillfen

@@ -1,7 +1,6 @@
 #pragma once
 
-#include "settings/declaration.h"
-#include "settings/listdeclaration.h"
+#include "declarations/function.h"
 
 namespace quillfen {
 
@@ -20,8 +19,8 @@ const RowListDeclaration& cloneExemptUsers();
 /// What is done to users who spread a virus.
 const TableFile& antiVirusSettings();
 
-void buildBadNickBlocker(const SettingsFiles& files, const HubProfiles& profiles);
-void buildCloneBlocker(const SettingsFiles& files, const HubProfiles& profiles);
-void buildAntiVirus(const SettingsFiles& files, const HubProfiles& profiles);
+FunctionDeclaration badNickBlockerFunction();
+FunctionDeclaration cloneBlockerFunction();
+FunctionDeclaration antiVirusFunction();
 
 } // namespace quillfen

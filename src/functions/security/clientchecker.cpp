@@ -2,7 +2,6 @@
 
 #include "functions/security/shared/actions.h"
 #include "settings/lines.h"
-#include "settings/listfile.h"
 
 namespace quillfen {
 namespace {
@@ -111,10 +110,13 @@ const RowListDeclaration& clientVersions()
     return list;
 }
 
-void buildClientChecker(const SettingsFiles& files, const HubProfiles& profiles)
+FunctionDeclaration clientCheckerFunction()
 {
-    rebuildTableFile(clientCheckerSettings(), files, profiles);
-    writeEmptyTableIfMissing(files, versionsFile.path, versionsFile.table);
+    return {.nodes = {{"Security~ClientChecker", "Client Checker",
+                       settingsAndListForm({"frmSecurityClientCheckerSettings", "Security ~ ClientChecker"},
+                                           clientCheckerSettings, clientVersions)}},
+            .folders = {R"(Security\ClientChecker)"},
+            .build = {RebuiltSettings{clientCheckerSettings}, emptyTable(versionsFile)}};
 }
 
 } // namespace quillfen

@@ -1,7 +1,6 @@
 #pragma once
 
-#include "settings/declaration.h"
-#include "settings/listdeclaration.h"
+#include "declarations/function.h"
 
 namespace quillfen {
 
@@ -11,6 +10,6 @@ const TableFile& clientCheckerSettings();
 /// The clients that may come in or not, each from a version on.
 const RowListDeclaration& clientVersions();
 
-void buildClientChecker(const SettingsFiles& files, const HubProfiles& profiles);
+FunctionDeclaration clientCheckerFunction();
 
 } // namespace quillfen

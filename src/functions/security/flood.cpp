@@ -8,10 +8,16 @@ const PermissionGrid& floodPermissions()
     return grid;
 }
 
-void buildFlood(const SettingsFiles& files, const HubProfiles& profiles)
+FunctionDeclaration floodFunction()
 {
+    const FormDescription form = {
+        .name = "frmSecurityFlood", .caption = "Security ~ Flood", .hasRestore = false};
     const PermissionGrid& grid = floodPermissions();
-    rebuildGridFile(grid.commands.front(), grid.firstProfile, files, profiles);
+    return {.nodes = {{"Security~Flooder", "Flooder",
+                       gridForm(
+                           form, [] { return sourceOf(floodPermissions()); }, unfilteredGrid())}},
+            .folders = {R"(Security\Flood)"},
+            .build = {RebuiltGrid{grid.commands.front(), grid.firstProfile}}};
 }
 
 } // namespace quillfen

@@ -1,12 +1,12 @@
 #pragma once
 
-#include "settings/permissiongrid.h"
+#include "declarations/function.h"
 
 namespace quillfen {
 
 /// Who may flood whom.
 const PermissionGrid& floodPermissions();
 
-void buildFlood(const SettingsFiles& files, const HubProfiles& profiles);
+FunctionDeclaration floodFunction();
 
 } // namespace quillfen

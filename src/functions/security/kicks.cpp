@@ -1,9 +1,10 @@
 #include "functions/security/kicks.h"
 
-#include "settings/listfile.h"
-
 namespace quillfen {
 namespace {
+
+/// The text that goes with a kick.
+constexpr const char* kickAsciiFile = R"(Security\Kick\KickAscii.asc)";
 
 GridCommand command(const std::string& word)
 {
@@ -45,14 +46,28 @@ const PermissionGrid& kickPermissions()
     return grid;
 }
 
-void buildKicks(const SettingsFiles& files, const HubProfiles& profiles)
+FunctionDeclaration kicksFunction()
 {
-    rebuildTableFile(kickSettings(), files, profiles);
-    writeIfMissing(files, kickAsciiFile, "!victim!: !reason!");
-    writeEmptyTableIfMissing(files, R"(Security\Kick\Logs\KickerLog.tbl)", "tKickerLog");
-    writeEmptyTableIfMissing(files, R"(Security\Kick\Logs\KickLog.tbl)", "tKickLog");
+    const FormDescription permissions = {.name = "frmSecurityKickPermissions",
+                                         .caption = "Security ~ Kicks ~ Permissions",
+                                         .hasRestore = false};
+    FunctionDeclaration function = {
+        .nodes =
+            {{"Security~Kicks", "Kicks"},
+             {"Security~Kicks~Settings",
+              "Settings",
+              {{{"frmSecurityKickSettings", "Security ~ Kicks ~ Settings"},
+                {DeclaredSettings{kickSettings}, DeclaredText{"tlbCheckBox", "Ascii Kick", kickAsciiFile}}}},
+              "Kicks ~ Settings"},
+             {"Security~Kicks~Permissions", "Permissions",
+              gridForm(permissions, [] { return sourceOf(kickPermissions()); }, {}), "Kicks ~ Permissions"}},
+        .folders = {R"(Security\Kick)", R"(Security\Kick\Logs)"},
+        .build = {RebuiltSettings{kickSettings}, FirstText{kickAsciiFile, "!victim!: !reason!"},
+                  EmptyTable{R"(Security\Kick\Logs\KickerLog.tbl)", "tKickerLog"},
+                  EmptyTable{R"(Security\Kick\Logs\KickLog.tbl)", "tKickLog"}}};
     for (const char* word : {"Ban", "Drop", "Kick", "TempBan", "Unban", "Warn"})
-        rebuildGridFile(command(word), 0, files, profiles);
+        function.build.push_back(RebuiltGrid{command(word)});
+    return function;
 }
 
 } // namespace quillfen

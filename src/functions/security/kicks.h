@@ -1,7 +1,6 @@
 #pragma once
 
-#include "settings/declaration.h"
-#include "settings/permissiongrid.h"
+#include "declarations/function.h"
 
 #include <string_view>
 
@@ -10,12 +9,9 @@ namespace quillfen {
 /// How warnings, kicks and bans count up to the next, and how the log is cleaned.
 const TableFile& kickSettings();
 
-/// The text that goes with a kick.
-inline constexpr std::string_view kickAsciiFile = R"(Security\Kick\KickAscii.asc)";
-
 /// Who may punish whom, as the form edits it.
 const PermissionGrid& kickPermissions();
 
-void buildKicks(const SettingsFiles& files, const HubProfiles& profiles);
+FunctionDeclaration kicksFunction();
 
 } // namespace quillfen

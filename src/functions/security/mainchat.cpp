@@ -1,9 +1,10 @@
 #include "functions/security/mainchat.h"
 
-#include "settings/listfile.h"
-
 namespace quillfen {
 namespace {
+
+/// The text that is shown after a cleaning.
+constexpr const char* mainCleanerText = R"(Security\MainCleaner\MainCleaner.asc)";
 
 Setting enabledProfiles()
 {
@@ -44,20 +45,31 @@ const TableFile& mainCleanerSettings()
     return file;
 }
 
-void buildMainBlock(const SettingsFiles& files, const HubProfiles& profiles)
+FunctionDeclaration mainBlockFunction()
 {
-    rebuildTableFile(mainBlockSettings(), files, profiles);
+    return {.nodes = {{"Security~MainBlock", "Main Block",
+                       settingsForm({"frmSecurityMainBlock", "Security ~ MainBlock"}, mainBlockSettings)}},
+            .folders = {R"(Security\MainBlock)"},
+            .build = {RebuiltSettings{mainBlockSettings}}};
 }
 
-void buildMainLock(const SettingsFiles& files, const HubProfiles& profiles)
+FunctionDeclaration mainCleanerFunction()
 {
-    rebuildTableFile(mainLockSettings(), files, profiles);
+    return {.nodes = {{"Security~MainCleaner",
+                       "Main Cleaner",
+                       {{{"frmSecurityMainCleaner", "Security ~ MainCleaner"},
+                         {DeclaredSettings{mainCleanerSettings},
+                          DeclaredText{"tlbListview", "Cleaner Text", mainCleanerText}}}}}},
+            .folders = {R"(Security\MainCleaner)"},
+            .build = {RebuiltSettings{mainCleanerSettings}, FirstText{mainCleanerText, "Cleaned"}}};
 }
 
-void buildMainCleaner(const SettingsFiles& files, const HubProfiles& profiles)
+FunctionDeclaration mainLockFunction()
 {
-    rebuildTableFile(mainCleanerSettings(), files, profiles);
-    writeIfMissing(files, mainCleanerText, "Cleaned");
+    return {.nodes = {{"Security~MainLock", "Main Lock",
+                       settingsForm({"frmSecurityMainLock", "Security ~ MainLock"}, mainLockSettings)}},
+            .folders = {R"(Security\MainLock)"},
+            .build = {RebuiltSettings{mainLockSettings}}};
 }
 
 } // namespace quillfen

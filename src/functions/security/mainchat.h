@@ -1,6 +1,6 @@
 #pragma once
 
-#include "settings/declaration.h"
+#include "declarations/function.h"
 
 #include <string_view>
 
@@ -15,11 +15,8 @@ const TableFile& mainLockSettings();
 /// Who may clean the main chat.
 const TableFile& mainCleanerSettings();
 
-/// The text that is shown after a cleaning.
-inline constexpr std::string_view mainCleanerText = R"(Security\MainCleaner\MainCleaner.asc)";
-
-void buildMainBlock(const SettingsFiles& files, const HubProfiles& profiles);
-void buildMainLock(const SettingsFiles& files, const HubProfiles& profiles);
-void buildMainCleaner(const SettingsFiles& files, const HubProfiles& profiles);
+FunctionDeclaration mainBlockFunction();
+FunctionDeclaration mainCleanerFunction();
+FunctionDeclaration mainLockFunction();
 
 } // namespace quillfen

@@ -64,9 +64,12 @@ const TableFile& privateHubSettings()
     return file;
 }
 
-void buildPrivateHub(const SettingsFiles& files, const HubProfiles& profiles)
+FunctionDeclaration privateHubFunction()
 {
-    rebuildTableFile(privateHubSettings(), files, profiles);
+    return {.nodes = {{"Security~PrivateHub", "Private Hub",
+                       settingsForm({"frmSecurityPrivateHub", "Security~ PrivateHub"}, privateHubSettings)}},
+            .folders = {R"(Security\PrivateHub)"},
+            .build = {RebuiltSettings{privateHubSettings}}};
 }
 
 } // namespace quillfen

@@ -1,12 +1,12 @@
 #pragma once
 
-#include "settings/declaration.h"
+#include "declarations/function.h"
 
 namespace quillfen {
 
 /// Which profiles are refused, where they are sent, what others may not do, and how new users are held back.
 const TableFile& privateHubSettings();
 
-void buildPrivateHub(const SettingsFiles& files, const HubProfiles& profiles);
+FunctionDeclaration privateHubFunction();
 
 } // namespace quillfen

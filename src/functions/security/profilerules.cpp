@@ -1,7 +1,6 @@
 #include "functions/security/profilerules.h"
 
 #include "settings/lines.h"
-#include "settings/listfile.h"
 #include "settings/profiles.h"
 #include "settings/tablewriter.h"
 
@@ -271,7 +270,7 @@ void rebuildRules(const SettingsFiles& files, const HubProfiles& profiles)
 }
 
 /// Each rebuild starts the counters anew, and the ratio's key has another letter here than in the rules.
-void resetCounters(const SettingsFiles& files)
+void resetCounters(const SettingsFiles& files, const HubProfiles& /*profiles*/)
 {
     TableWriter table("tProfileRulesRedirectCounter");
     for (const Rule& rule : rules())
@@ -318,13 +317,24 @@ std::string storedShare(std::string_view shown)
     return numberText(std::abs(bytes - whole) <= whole * 1e-14 ? whole : bytes);
 }
 
-void buildProfileRules(const SettingsFiles& files, const HubProfiles& profiles)
+FunctionDeclaration profileRulesFunction()
 {
-    rebuildTableFile(profileRuleSettings(), files, profiles);
-    rebuildRules(files, profiles);
-    writeEmptyTableIfMissing(files, R"(Security\ProfileRules\ProfileRulesExemptUsers.tbl)",
-                             "tProfileRulesExemptUsers");
-    resetCounters(files);
+    const FormDescription rules = {.name = "frmSecurityProfileRuleRules",
+                                   .caption = "Security ~ ProfileRules ~ Rules",
+                                   .hasRestore = false,
+                                   .reloadsAfterSave = true};
+    return {.nodes = {{"Security~ProfileRules", "Profile Rules"},
+                      {"Security~ProfileRules~Settings", "Settings",
+                       settingsForm({"frmSecurityProfileRuleSettings", "Security ~ ProfileRules ~ Settings"},
+                                    profileRuleSettings),
+                       "Profile Rules ~ Settings"},
+                      {"Security~ProfileRules~Rules", "Rules", listsForm(rules, profileRules),
+                       "Profile Rules ~ Rules"}},
+            .folders = {R"(Security\ProfileRules)", R"(Security\ProfileRules\Logs)"},
+            .build = {RebuiltSettings{profileRuleSettings}, rebuildRules,
+                      EmptyTable{R"(Security\ProfileRules\ProfileRulesExemptUsers.tbl)",
+                                 "tProfileRulesExemptUsers"},
+                      resetCounters}};
 }
 
 } // namespace quillfen

@@ -1,7 +1,6 @@
 #pragma once
 
-#include "settings/declaration.h"
-#include "settings/listdeclaration.h"
+#include "declarations/function.h"
 
 #include <string>
 #include <string_view>
@@ -22,6 +21,6 @@ std::string shownShare(std::string_view bytes);
 /// The count of bytes of a shown share.
 std::string storedShare(std::string_view shown);
 
-void buildProfileRules(const SettingsFiles& files, const HubProfiles& profiles);
+FunctionDeclaration profileRulesFunction();
 
 } // namespace quillfen

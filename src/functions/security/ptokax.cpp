@@ -12,9 +12,13 @@ const TableFile& ptokaXSettings()
     return file;
 }
 
-void buildPtokaXSettings(const SettingsFiles& files, const HubProfiles& profiles)
+FunctionDeclaration ptokaXSettingsFunction()
 {
-    rebuildTableFile(ptokaXSettings(), files, profiles);
+    return {
+        .nodes = {{"Security~PtokaXSettings", "PtokaX Settings",
+                   settingsForm({"frmSecurityPtokaXSettings", "Security~ PtokaXSettings"}, ptokaXSettings)}},
+        .folders = {R"(Security\PtokaX)"},
+        .build = {RebuiltSettings{ptokaXSettings}}};
 }
 
 } // namespace quillfen

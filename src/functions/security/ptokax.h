@@ -1,12 +1,12 @@
 #pragma once
 
-#include "settings/declaration.h"
+#include "declarations/function.h"
 
 namespace quillfen {
 
 /// Who may read and who may set the hub's own settings.
 const TableFile& ptokaXSettings();
 
-void buildPtokaXSettings(const SettingsFiles& files, const HubProfiles& profiles);
+FunctionDeclaration ptokaXSettingsFunction();
 
 } // namespace quillfen

@@ -13,12 +13,22 @@ GridCommand command(const std::string& word, const std::string& name)
 /// A rebuild looks for each setting under swapped names, finds none, and writes the defaults whatever the
 /// file holds. Its last key has an `s` too many, so that the form shows the hub's first profile after it and
 /// writes the key that it reads with its next save.
-void resetSettings(const SettingsFiles& files)
+void resetSettings(const SettingsFiles& files, const HubProfiles& /*profiles*/)
 {
     const TableFile& file = registrationSettings();
     TableWriter table(file.table);
     table.row("bAllowRegme", "1").row("bKeepLog", "1").text("sPrefix", "").row("iRegProfiles", "3");
     files.WriteSettingsFile(file.path, table.closed());
+}
+
+GridWords gridWords()
+{
+    GridWords words = unfilteredGrid();
+    words.list = "lvwRegistrations";
+    words.columns[3] = "Allow";
+    words.yes = "True";
+    words.no = "False";
+    return words;
 }
 
 } // namespace
@@ -47,11 +57,21 @@ const PermissionGrid& registrationPermissions()
     return grid;
 }
 
-void buildRegistration(const SettingsFiles& files, const HubProfiles& profiles)
+FunctionDeclaration registrationFunction()
 {
+    const FormDescription form = {
+        .name = "frmSecurityRegistration", .caption = "Security ~ Registration", .reloadsAfterSave = true};
+    FunctionDeclaration function = {
+        .nodes = {{"Security~Registration",
+                   "Registration",
+                   {{form,
+                     {DeclaredSettings{registrationSettings},
+                      DeclaredGrid{[] { return sourceOf(registrationPermissions()); }, gridWords()}}}}}},
+        .folders = {R"(Security\Registration)", R"(Security\Registration\Logs)"}};
     for (const char* name : {"Add", "ChangePassword", "Delete", "GetPassword"})
-        rebuildGridFile(command({}, name), registrationPermissions().firstProfile, files, profiles);
-    resetSettings(files);
+        function.build.push_back(RebuiltGrid{command({}, name), registrationPermissions().firstProfile});
+    function.build.push_back(resetSettings);
+    return function;
 }
 
 } // namespace quillfen

@@ -1,7 +1,6 @@
 #pragma once
 
-#include "settings/declaration.h"
-#include "settings/permissiongrid.h"
+#include "declarations/function.h"
 
 namespace quillfen {
 
@@ -11,6 +10,6 @@ const TableFile& registrationSettings();
 /// Who may register, delete and look after whom. "Unregistered" takes no part.
 const PermissionGrid& registrationPermissions();
 
-void buildRegistration(const SettingsFiles& files, const HubProfiles& profiles);
+FunctionDeclaration registrationFunction();
 
 } // namespace quillfen

@@ -11,9 +11,12 @@ const TableFile& reportSettings()
     return file;
 }
 
-void buildReport(const SettingsFiles& files, const HubProfiles& profiles)
+FunctionDeclaration reportFunction()
 {
-    rebuildTableFile(reportSettings(), files, profiles);
+    return {.nodes = {{"Security~Report", "Report",
+                       settingsForm({"frmSecurityReport", "Security ~ Report"}, reportSettings)}},
+            .folders = {R"(Security\Report)"},
+            .build = {RebuiltSettings{reportSettings}}};
 }
 
 } // namespace quillfen

@@ -1,12 +1,12 @@
 #pragma once
 
-#include "settings/declaration.h"
+#include "declarations/function.h"
 
 namespace quillfen {
 
 /// Who may report users.
 const TableFile& reportSettings();
 
-void buildReport(const SettingsFiles& files, const HubProfiles& profiles);
+FunctionDeclaration reportFunction();
 
 } // namespace quillfen

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "declarations/function.h"
+
 #include <cstddef>
 #include <string>
 
@@ -11,6 +13,6 @@ class SettingsFiles;
 /// The rules that a profile is shown; its row is counted from 0, "Unregistered" first.
 std::string rulesFile(std::size_t row);
 
-void buildRules(const SettingsFiles& files, const HubProfiles& profiles);
+FunctionDeclaration rulesFunction();
 
 } // namespace quillfen

@@ -63,9 +63,9 @@ private:
 
 } // namespace
 
-OwnPart rulesPart()
+std::unique_ptr<FormPart> makeRulesPart(const FormContext& context)
 {
-    return ownPart<RulesPart>();
+    return std::make_unique<RulesPart>(context);
 }
 
 } // namespace quillfen

@@ -1,10 +1,12 @@
 #pragma once
 
-#include "shell/kit/declaredforms.h"
+#include "shell/kit/formpart.h"
+
+#include <memory>
 
 namespace quillfen {
 
 /// The rules' texts.
-OwnPart rulesPart();
+std::unique_ptr<FormPart> makeRulesPart(const FormContext& context);
 
 } // namespace quillfen

@@ -1,7 +1,6 @@
 #include "functions/security/spies.h"
 
 #include "functions/security/shared/actions.h"
-#include "settings/listfile.h"
 
 namespace quillfen {
 namespace {
@@ -94,16 +93,24 @@ const RowListDeclaration& forbiddenFiles()
     return list;
 }
 
-void buildCommandSpy(const SettingsFiles& files, const HubProfiles& profiles)
+FunctionDeclaration commandSpyFunction()
 {
-    rebuildTableFile(commandSpySettings(), files, profiles);
-    writeEmptyTableIfMissing(files, R"(Security\CommandSpy\CommandSpyUsers.tbl)", "tCommandSpyUsers");
+    return {.nodes = {{"Security~CommandSpy", "Command Spy",
+                       settingsForm({"frmSecurityCommandSpy", "Security ~ CommandSpy"}, commandSpySettings)}},
+            .folders = {R"(Security\CommandSpy)"},
+            .build = {RebuiltSettings{commandSpySettings},
+                      EmptyTable{R"(Security\CommandSpy\CommandSpyUsers.tbl)", "tCommandSpyUsers"}}};
 }
 
-void buildSearchSpy(const SettingsFiles& files, const HubProfiles& profiles)
+FunctionDeclaration searchSpyFunction()
 {
-    rebuildTableFile(searchSpySettings(), files, profiles);
-    writeEmptyTableIfMissing(files, termsFile.path, termsFile.table);
+    const FormDescription form = {.name = "frmSecuritySearchSpy",
+                                  .caption = "Security ~ SearchSpy",
+                                  .parts = FormDescription::Parts::Beside};
+    return {.nodes = {{"Security~SearchSpy", "Search Spy",
+                       settingsAndListForm(form, searchSpySettings, forbiddenFiles)}},
+            .folders = {R"(Security\SearchSpy)"},
+            .build = {RebuiltSettings{searchSpySettings}, emptyTable(termsFile)}};
 }
 
 } // namespace quillfen

@@ -1,7 +1,6 @@
 #pragma once
 
-#include "settings/declaration.h"
-#include "settings/listdeclaration.h"
+#include "declarations/function.h"
 
 namespace quillfen {
 
@@ -14,7 +13,7 @@ const TableFile& searchSpySettings();
 /// The search terms that are forbidden, each with what is done about it.
 const RowListDeclaration& forbiddenFiles();
 
-void buildCommandSpy(const SettingsFiles& files, const HubProfiles& profiles);
-void buildSearchSpy(const SettingsFiles& files, const HubProfiles& profiles);
+FunctionDeclaration commandSpyFunction();
+FunctionDeclaration searchSpyFunction();
 
 } // namespace quillfen

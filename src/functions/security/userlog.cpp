@@ -1,7 +1,5 @@
 #include "functions/security/userlog.h"
 
-#include "settings/listfile.h"
-
 namespace quillfen {
 namespace {
 
@@ -37,11 +35,14 @@ const TableFile& userLogSettings()
     return file;
 }
 
-void buildUserLog(const SettingsFiles& files, const HubProfiles& profiles)
+FunctionDeclaration userLogFunction()
 {
-    rebuildTableFile(userLogSettings(), files, profiles);
-    writeEmptyTableIfMissing(files, R"(Security\UserLog\UserLog.tbl)", "tUserLog");
-    writeEmptyTableIfMissing(files, R"(Security\UserLog\UserLogImmuneList.tbl)", "tUserLogImmuneList");
+    return {.nodes = {{"Security~UserLog", "UserLog",
+                       settingsForm({"frmSecurityUserLogSettings", "Security ~ UserLog"}, userLogSettings)}},
+            .folders = {R"(Security\UserLog)", R"(Security\UserLog\Logs)"},
+            .build = {RebuiltSettings{userLogSettings},
+                      EmptyTable{R"(Security\UserLog\UserLog.tbl)", "tUserLog"},
+                      EmptyTable{R"(Security\UserLog\UserLogImmuneList.tbl)", "tUserLogImmuneList"}}};
 }
 
 } // namespace quillfen

@@ -1,7 +1,5 @@
 #include "functions/useractions/actiontexts.h"
 
-#include "settings/listfile.h"
-
 namespace quillfen {
 namespace {
 
@@ -98,6 +96,8 @@ std::string oneWordEach(const NestedListsFile& file, const std::vector<std::stri
     return composedNestedLists(file, lists);
 }
 
+constexpr Twips formSize = {9000, 5400};
+
 } // namespace
 
 const RowListDeclaration& insults()
@@ -149,25 +149,46 @@ const RowListGroup& modernInsults()
     return group;
 }
 
-void buildInsults(const SettingsFiles& files, const HubProfiles& /*profiles*/)
+FunctionDeclaration insultsFunction()
 {
-    writeIfMissing(files, insultsFile.path, composedList(insultsFile, firstInsults));
     // The build misspells the third table, which no form reads: the list stays empty until a first save
     // writes the table by its name.
     NestedListsFile fresh = medievalFile;
     fresh.tables.back() = "tThreee";
-    writeIfMissing(files, medievalFile.path, oneWordEach(fresh, firstMedievalWords));
-    writeIfMissing(files, modernFile.path, oneWordEach(modernFile, firstModernWords));
+    return {
+        .nodes = {{"UserActions~Insults", "Insults"},
+                  {"UserActions~Insults~Standard", "Standard",
+                   listForm({"frmUserActionsInsultsStandard", "UserActions ~ Insults ~ Standard", formSize},
+                            insults),
+                   "Insults ~ Standard"},
+                  {"UserActions~Insults~Medieval", "Medieval",
+                   listsForm({"frmUserActionsInsultsMedieval", "UserActions ~ Insults ~ Medieval", formSize},
+                             medievalInsults),
+                   "Insults ~ Medieval"},
+                  {"UserActions~Insults~Modern", "Modern",
+                   listsForm({"frmUserActionsInsultsModern", "UserActions ~ Insults ~ Modern", formSize},
+                             modernInsults),
+                   "Insults ~ Modern"}},
+        .folders = {R"(UserActions\Insults)"},
+        .build = {firstRows(insultsFile, firstInsults),
+                  FirstText{medievalFile.path, oneWordEach(fresh, firstMedievalWords)},
+                  FirstText{modernFile.path, oneWordEach(modernFile, firstModernWords)}}};
 }
 
-void buildAttacks(const SettingsFiles& files, const HubProfiles& /*profiles*/)
+FunctionDeclaration attacksFunction()
 {
-    writeIfMissing(files, attacksFile.path, composedList(attacksFile, firstAttacks));
+    return {.nodes = {{"UserActions~Attacks", "Attacks",
+                       listForm({"frmUserActionsAttacks", "UserActions ~ Attacks", formSize}, attacks)}},
+            .folders = {R"(UserActions\Attacks)"},
+            .build = {firstRows(attacksFile, firstAttacks)}};
 }
 
-void buildDoActions(const SettingsFiles& files, const HubProfiles& /*profiles*/)
+FunctionDeclaration doActionsFunction()
 {
-    writeIfMissing(files, doActionsFile.path, composedList(doActionsFile, firstDoActions));
+    return {.nodes = {{"UserActions~DoAction", "DoAction",
+                       listForm({"frmUserActionsDoAction", "UserActions ~ DoAction", formSize}, doActions)}},
+            .folders = {R"(UserActions\DoAction)"},
+            .build = {firstRows(doActionsFile, firstDoActions)}};
 }
 
 } // namespace quillfen

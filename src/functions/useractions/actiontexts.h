@@ -1,6 +1,6 @@
 #pragma once
 
-#include "settings/listdeclaration.h"
+#include "declarations/function.h"
 
 namespace quillfen {
 
@@ -13,8 +13,8 @@ const RowListDeclaration& doActions();
 const RowListGroup& medievalInsults();
 const RowListGroup& modernInsults();
 
-void buildInsults(const SettingsFiles& files, const HubProfiles& profiles);
-void buildAttacks(const SettingsFiles& files, const HubProfiles& profiles);
-void buildDoActions(const SettingsFiles& files, const HubProfiles& profiles);
+FunctionDeclaration insultsFunction();
+FunctionDeclaration attacksFunction();
+FunctionDeclaration doActionsFunction();
 
 } // namespace quillfen

@@ -1,6 +1,5 @@
 #include "functions/useractions/ascii.h"
 
-#include "settings/listfile.h"
 #include "settings/tablewriter.h"
 
 namespace quillfen {
@@ -80,10 +79,16 @@ const RowListDeclaration& asciiPictures()
     return declared;
 }
 
-void buildAscii(const SettingsFiles& files, const HubProfiles& profiles)
+FunctionDeclaration asciiFunction()
 {
-    rebuildTableFile(asciiSettings(), files, profiles);
-    writeEmptyTableIfMissing(files, indexPath, indexTable);
+    return {.nodes = {{"UserActions~Ascii",
+                       "Ascii",
+                       {{{"frmUserActionsAscii", "User Actions ~ Ascii", {9000, 7500}},
+                         {DeclaredSettings{asciiSettings},
+                          listPart(asciiPictures, ListPartKind::AsciiPictures)}}}}},
+            .folders = {R"(UserActions\Ascii)", std::string(asciiFolder)},
+            .build = {RebuiltSettings{asciiSettings},
+                      EmptyTable{std::string(indexPath), std::string(indexTable)}}};
 }
 
 } // namespace quillfen

@@ -1,7 +1,6 @@
 #pragma once
 
-#include "settings/declaration.h"
-#include "settings/listdeclaration.h"
+#include "declarations/function.h"
 
 #include <string_view>
 
@@ -16,6 +15,6 @@ const RowListDeclaration& asciiPictures();
 /// The told folder of the pictures' files.
 inline constexpr std::string_view asciiFolder = R"(UserActions\Ascii\Ascii)";
 
-void buildAscii(const SettingsFiles& files, const HubProfiles& profiles);
+FunctionDeclaration asciiFunction();
 
 } // namespace quillfen

@@ -50,9 +50,9 @@ private:
 
 } // namespace
 
-DeclaredList asciiPicturesPart()
+std::unique_ptr<FormPart> makeAsciiPicturesPart(const RowListDeclaration& list, const FormContext& context)
 {
-    return listPartOf<PicturesPart>(asciiPictures);
+    return std::make_unique<PicturesPart>(list, context);
 }
 
 } // namespace quillfen

@@ -1,10 +1,14 @@
 #pragma once
 
-#include "shell/kit/declaredforms.h"
+#include "shell/kit/formpart.h"
+
+#include <memory>
 
 namespace quillfen {
 
+struct RowListDeclaration;
+
 /// The pictures, each with its file.
-DeclaredList asciiPicturesPart();
+std::unique_ptr<FormPart> makeAsciiPicturesPart(const RowListDeclaration& list, const FormContext& context);
 
 } // namespace quillfen

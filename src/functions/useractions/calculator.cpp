@@ -11,9 +11,13 @@ const TableFile& calculatorSettings()
     return file;
 }
 
-void buildCalculator(const SettingsFiles& files, const HubProfiles& profiles)
+FunctionDeclaration calculatorFunction()
 {
-    rebuildTableFile(calculatorSettings(), files, profiles);
+    return {.nodes = {{"UserActions~Calculator", "Calculator",
+                       settingsForm({"frmUserActionsCalculator", "UserActions ~ Calculator"},
+                                    calculatorSettings)}},
+            .folders = {R"(UserActions\Calculator)"},
+            .build = {RebuiltSettings{calculatorSettings}}};
 }
 
 } // namespace quillfen

@@ -1,12 +1,12 @@
 #pragma once
 
-#include "settings/declaration.h"
+#include "declarations/function.h"
 
 namespace quillfen {
 
 /// Who may calculate.
 const TableFile& calculatorSettings();
 
-void buildCalculator(const SettingsFiles& files, const HubProfiles& profiles);
+FunctionDeclaration calculatorFunction();
 
 } // namespace quillfen

@@ -1,7 +1,5 @@
 #include "functions/useractions/collections.h"
 
-#include "settings/listfile.h"
-
 namespace quillfen {
 namespace {
 
@@ -41,11 +39,16 @@ Collection collection(const std::string& word, const std::string& delay)
 }
 
 /// `firstText` is the row of a list that is missing.
-void build(const std::string& word, const Collection& built, const std::string& firstText,
-           const SettingsFiles& files, const HubProfiles& profiles)
+FunctionDeclaration collectionFunction(const std::string& word, const Collection& (*all)(),
+                                       const std::string& firstText)
 {
-    rebuildTableFile(built.settings, files, profiles);
-    writeIfMissing(files, textsFile(word).path, composedList(textsFile(word), {{firstText}}));
+    const std::string name = word + "s";
+    const auto settings = [all] { return all().settings; };
+    return {.nodes = {{"UserActions~" + name, name,
+                       settingsAndListForm({"frmUserActions" + name, "User Actions ~ " + name, {9000, 6000}},
+                                           settings, [all] { return all().texts; })}},
+            .folders = {"UserActions\\" + name},
+            .build = {RebuiltSettings{settings}, firstRows(textsFile(word), {{firstText}})}};
 }
 
 } // namespace
@@ -74,32 +77,31 @@ const Collection& quotations()
     return declared;
 }
 
-void buildJokes(const SettingsFiles& files, const HubProfiles& profiles)
+FunctionDeclaration jokesFunction()
 {
-    build("Joke", jokes(), "Cannot find REALITY.SYS. Universe halted", files, profiles);
+    return collectionFunction("Joke", jokes, "Cannot find REALITY.SYS. Universe halted");
 }
 
-void buildLimericks(const SettingsFiles& files, const HubProfiles& profiles)
+FunctionDeclaration limericksFunction()
 {
-    build("Limerick", limericks(),
-          "There once was an old man of Esser,|Whose knowledge grew lesser and lesser,|"
-          "It at last grew so small|He knew nothing at all,|And now he's a college professor.",
-          files, profiles);
+    return collectionFunction(
+        "Limerick", limericks,
+        "There once was an old man of Esser,|Whose knowledge grew lesser and lesser,|"
+        "It at last grew so small|He knew nothing at all,|And now he's a college professor.");
 }
 
-void buildProverbs(const SettingsFiles& files, const HubProfiles& profiles)
+FunctionDeclaration proverbsFunction()
 {
-    build("Proverb", proverbs(), "A lie can be halfway around the world before the truth gets its boots on",
-          files, profiles);
+    return collectionFunction("Proverb", proverbs,
+                              "A lie can be halfway around the world before the truth gets its boots on");
 }
 
-void buildQuotations(const SettingsFiles& files, const HubProfiles& profiles)
+FunctionDeclaration quotationsFunction()
 {
-    build("Quotation", quotations(),
-          "Experience has taught me that you feel better on a flight "
-          "if you avoid chicken fat in plastic sauce.|"
-          "Tavis Orlemon on the joys of travelling the world by plane",
-          files, profiles);
+    return collectionFunction("Quotation", quotations,
+                              "Experience has taught me that you feel better on a flight "
+                              "if you avoid chicken fat in plastic sauce.|"
+                              "Tavis Orlemon on the joys of travelling the world by plane");
 }
 
 } // namespace quillfen

@@ -1,7 +1,6 @@
 #pragma once
 
-#include "settings/declaration.h"
-#include "settings/listdeclaration.h"
+#include "declarations/function.h"
 
 namespace quillfen {
 
@@ -18,9 +17,9 @@ const Collection& limericks();
 const Collection& proverbs();
 const Collection& quotations();
 
-void buildJokes(const SettingsFiles& files, const HubProfiles& profiles);
-void buildLimericks(const SettingsFiles& files, const HubProfiles& profiles);
-void buildProverbs(const SettingsFiles& files, const HubProfiles& profiles);
-void buildQuotations(const SettingsFiles& files, const HubProfiles& profiles);
+FunctionDeclaration jokesFunction();
+FunctionDeclaration limericksFunction();
+FunctionDeclaration proverbsFunction();
+FunctionDeclaration quotationsFunction();
 
 } // namespace quillfen

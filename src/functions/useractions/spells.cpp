@@ -1,7 +1,6 @@
 #include "functions/useractions/spells.h"
 
 #include "settings/codepage.h"
-#include "settings/listfile.h"
 #include "settings/profiles.h"
 
 #include <algorithm>
@@ -57,11 +56,10 @@ std::vector<ListRow> phrasesToWrite(const CellRow& spell)
     return rows;
 }
 
-void buildBook(const SpellBook& book, const TableFile& settings, const SettingsFiles& files,
-               const HubProfiles& profiles)
+FormDeclaration bookForm(const char* name, const char* caption, OwnPartKind kind, const SpellBook& (*book)())
 {
-    rebuildTableFile(settings, files, profiles);
-    writeEmptyTableIfMissing(files, book.path, book.table);
+    const auto lists = [book] { return std::vector{spellList(book()), phraseList()}; };
+    return {{name, caption, {10500, 6000}}, {OwnPart{.kind = kind, .lists = lists}}};
 }
 
 } // namespace
@@ -191,15 +189,37 @@ void saveSpellBook(const SpellBook& book, const std::vector<CellRow>& spells, co
     saveList(files, bookFile(book), rows);
 }
 
-void buildSpells(const SettingsFiles& files, const HubProfiles& profiles)
+FunctionDeclaration spellsFunction()
 {
-    buildBook(spellBook(), spellSettings(), files, profiles);
-    writeEmptyTableIfMissing(files, wardsFile.path, wardsFile.table);
+    return {
+        .nodes = {{"UserActions~Spells", "Spells"},
+                  {"UserActions~Spells~Settings",
+                   "Settings",
+                   {{{"frmUserActionsSpellSettings", "UserActions ~ Spells ~ Settings", {7500, 7500}},
+                     {DeclaredSettings{spellSettings}, listPart(spellWards, ListPartKind::SpellWards)}}},
+                   "Spells ~ Settings"},
+                  {"UserActions~Spells~SpellBook", "Spell Book",
+                   bookForm("frmUserActionsSpellsSpellBook", "UserActions ~ Spells ~ SpellBook",
+                            OwnPartKind::SpellBook, spellBook),
+                   "Spells ~ Spell Book"}},
+        .folders = {R"(UserActions\Spells)", R"(UserActions\Spells\Spells)"},
+        .build = {RebuiltSettings{spellSettings}, emptyTable(bookFile(spellBook())), emptyTable(wardsFile)}};
 }
 
-void buildNickSpells(const SettingsFiles& files, const HubProfiles& profiles)
+FunctionDeclaration nickSpellsFunction()
 {
-    buildBook(nickSpellBook(), nickSpellSettings(), files, profiles);
+    return {
+        .nodes = {{"UserActions~NickSpells", "NickSpells"},
+                  {"UserActions~NickSpells~Settings", "Settings",
+                   settingsForm({"frmUserActionsNickSpellSettings", "UserActions ~ NickSpells ~ Settings"},
+                                nickSpellSettings),
+                   "Nick Spells ~ Settings"},
+                  {"UserActions~NickSpells~SpellBook", "Nick Spell Book",
+                   bookForm("frmUserActionsNickSpellsSpellBook", "UserActions ~ Nick Spells ~ SpellBook",
+                            OwnPartKind::NickSpellBook, nickSpellBook),
+                   "Nick Spells ~ Spell Book"}},
+        .folders = {R"(UserActions\NickSpells)", R"(UserActions\NickSpells\NickSpells)"},
+        .build = {RebuiltSettings{nickSpellSettings}, emptyTable(bookFile(nickSpellBook()))}};
 }
 
 } // namespace quillfen

@@ -1,7 +1,6 @@
 #pragma once
 
-#include "settings/declaration.h"
-#include "settings/listdeclaration.h"
+#include "declarations/function.h"
 
 #include <string>
 #include <vector>
@@ -48,7 +47,7 @@ void gatherPhrases(std::vector<CellRow>& spells, const std::string& spell,
 /// Writes the phrase files of the amended spells, then the book. Throws StoreError.
 void saveSpellBook(const SpellBook& book, const std::vector<CellRow>& spells, const SettingsFiles& files);
 
-void buildSpells(const SettingsFiles& files, const HubProfiles& profiles);
-void buildNickSpells(const SettingsFiles& files, const HubProfiles& profiles);
+FunctionDeclaration spellsFunction();
+FunctionDeclaration nickSpellsFunction();
 
 } // namespace quillfen

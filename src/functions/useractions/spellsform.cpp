@@ -215,18 +215,14 @@ void SpellBookPart::gather()
 
 } // namespace
 
-DeclaredList wardsPart()
+std::unique_ptr<FormPart> makeWardsPart(const RowListDeclaration& list, const FormContext& context)
 {
-    return listPartOf<WardsPart>(spellWards);
+    return std::make_unique<WardsPart>(list, context);
 }
 
-OwnPart spellBookPart(const SpellBook& book)
+std::unique_ptr<FormPart> makeSpellBookPart(const SpellBook& book, const FormContext& context)
 {
-    return {[&book](const FormContext& context) { return new SpellBookPart(book, context); },
-            {},
-            [&book] {
-                return std::vector{spellList(book), phraseList()};
-            }};
+    return std::make_unique<SpellBookPart>(book, context);
 }
 
 } // namespace quillfen

@@ -1,15 +1,18 @@
 #pragma once
 
-#include "shell/kit/declaredforms.h"
+#include "shell/kit/formpart.h"
+
+#include <memory>
 
 namespace quillfen {
 
+struct RowListDeclaration;
 struct SpellBook;
 
 /// The warded users.
-DeclaredList wardsPart();
+std::unique_ptr<FormPart> makeWardsPart(const RowListDeclaration& list, const FormContext& context);
 
 /// The spells of a book, and the phrases of the one that is being amended.
-OwnPart spellBookPart(const SpellBook& book);
+std::unique_ptr<FormPart> makeSpellBookPart(const SpellBook& book, const FormContext& context);
 
 } // namespace quillfen

@@ -47,14 +47,15 @@ EditorForm::EditorForm(const FormDescription& description)
       m_frame(new QFrame),
       m_statusBar(new QStatusBar)
 {
-    setObjectName(description.name);
-    setWindowTitle(description.caption);
+    setObjectName(fromBytes(description.name));
+    setWindowTitle(fromBytes(description.caption));
     setMinimumSize(leastSize().boundedTo(leastRoom));
     m_toolbar->setObjectName("tlbFormToolbar");
     m_frame->setObjectName("fraFrame(0)");
     m_statusBar->setObjectName("stsStatusBar");
     m_statusBar->setSizeGripEnabled(false);
-    new QBoxLayout(description.parts == Qt::Vertical ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight,
+    new QBoxLayout(description.parts == FormDescription::Parts::Below ? QBoxLayout::TopToBottom
+                                                                      : QBoxLayout::LeftToRight,
                    m_frame);
 
     int index = 0;
@@ -75,8 +76,9 @@ EditorForm::EditorForm(const FormDescription& description)
     layout->addWidget(m_statusBar);
 }
 
-void EditorForm::add(FormPart* part)
+void EditorForm::add(std::unique_ptr<FormPart> owned)
 {
+    FormPart* part = owned.release();
     part->setParent(this);
     m_parts.push_back(part);
     m_routines.insert(part->routines());
@@ -108,7 +110,7 @@ void EditorForm::open()
 
 QSize EditorForm::leastSize() const
 {
-    return twips(m_description.minimumTwips.width(), m_description.minimumTwips.height());
+    return twips(m_description.minimumSize.width, m_description.minimumSize.height);
 }
 
 QSize EditorForm::sizeHint() const
@@ -142,7 +144,7 @@ void EditorForm::load()
             part->load();
     } catch (const LoadError& error) {
         m_notLoaded = fromBytes(error.what());
-        notify(this, m_description.caption, m_notLoaded, QMessageBox::Critical);
+        notify(this, caption(), m_notLoaded, QMessageBox::Critical);
     }
 }
 
@@ -150,7 +152,7 @@ bool EditorForm::maySave()
 {
     if (m_notLoaded.isEmpty())
         return std::all_of(m_parts.begin(), m_parts.end(), [](FormPart* part) { return part->maySave(); });
-    notify(this, m_description.caption,
+    notify(this, caption(),
            "Nothing is saved, as the form shows only a part of its settings: " + m_notLoaded +
                ".\n\nMend the file and discard the changes, or restore the defaults.",
            QMessageBox::Warning);
@@ -162,7 +164,7 @@ void EditorForm::save()
     if (!maySave())
         return;
     // After a failure the form stays dirty and complete, so that nothing typed is lost.
-    const bool saved = attempt(this, saving(m_description.caption), [this] {
+    const bool saved = attempt(this, saving(caption()), [this] {
         for (FormPart* part : m_parts)
             part->save();
     });
@@ -189,7 +191,7 @@ void EditorForm::discard()
 
 void EditorForm::restore()
 {
-    if (!confirm(this, m_description.restoreTitle, m_description.restoreText))
+    if (!confirm(this, fromBytes(m_description.restoreTitle), fromBytes(m_description.restoreText)))
         return;
     for (FormPart* part : m_parts)
         part->restore();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "declarations/formdeclaration.h"
 #include "shell/kit/formpart.h"
 
 #include <QSize>
@@ -7,6 +8,7 @@
 #include <QWidget>
 
 #include <functional>
+#include <memory>
 #include <vector>
 
 class QFrame;
@@ -14,27 +16,6 @@ class QStatusBar;
 class QToolBar;
 
 namespace quillfen {
-
-/// What a form is called, and how it differs from the cycle that all editors share.
-struct FormDescription
-{
-    /// What becomes of the dirty state when the user discards the changes.
-    enum class AfterDiscard
-    {
-        Clean,
-        AsItStood
-    };
-
-    QString name; ///< frm...
-    QString caption;
-    QSize minimumTwips{}; ///< as far as the smallest main window has room for it
-    AfterDiscard afterDiscard = AfterDiscard::Clean;
-    bool hasRestore = true;
-    bool reloadsAfterSave = false;        ///< all is loaded again, as its files may hold other than it showed
-    Qt::Orientation parts = Qt::Vertical; ///< how the parts stand to each other
-    QString restoreTitle = "Restore defaults?";
-    QString restoreText = "Restore to defaults?";
-};
 
 /// An editor form: its toolbar, its parts in a frame that scrolls where there is too little room for them,
 /// its status bar, and the cycle of load, change, save, discard, restore and close. It alone knows whether
@@ -46,8 +27,8 @@ class EditorForm : public QWidget
 public:
     explicit EditorForm(const FormDescription& description);
 
-    /// Takes the part over and places it behind the ones before.
-    void add(FormPart* part);
+    /// Places the part behind the ones before.
+    void add(std::unique_ptr<FormPart> part);
 
     /// Loads every part; the form is clean.
     void open();
@@ -62,7 +43,7 @@ public:
     bool isLit(const QString& name) const;
 
     bool isDirty() const { return bDirty; }
-    QString caption() const { return m_description.caption; }
+    QString caption() const { return windowTitle(); }
 
     /// The caption under which the open-window registry knows the form, where it isn't the form's own.
     QString tag() const { return m_tag; }

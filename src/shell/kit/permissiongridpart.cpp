@@ -22,6 +22,8 @@ public:
                     QObject* parent)
         : QAbstractTableModel(parent),
           m_words(words),
+          m_yes(fromBytes(words.yes)),
+          m_no(fromBytes(words.no)),
           m_profiles(profiles)
     {
         for (const std::string& command : source.commands)
@@ -78,7 +80,7 @@ public:
     {
         if (orientation != Qt::Horizontal || role != Qt::DisplayRole)
             return {};
-        return m_words.columns.value(section);
+        return fromBytes(m_words.columns.at(static_cast<std::size_t>(section)));
     }
 
     Qt::ItemFlags flags(const QModelIndex& /*index*/) const override
@@ -104,14 +106,16 @@ private:
             return newProfile ? profile(cell.by) : QString();
         case 2:
             if (!m_words.targets)
-                return cell.allowed ? m_words.yes : m_words.no;
+                return answer(cell);
             return m_words.namesTarget || !above || above->on != cell.on ? target(cell.on) : QString();
         case 3:
-            return cell.allowed ? m_words.yes : m_words.no;
+            return answer(cell);
         default:
             return column == 4 ? keyOf(cell.by) : keyOf(cell.on);
         }
     }
+
+    const QString& answer(const PermissionCell& cell) const { return cell.allowed ? m_yes : m_no; }
 
     QString profile(std::size_t row) const { return fromBytes(m_profiles.names()[row]); }
 
@@ -138,6 +142,8 @@ private:
     }
 
     GridWords m_words;
+    QString m_yes;
+    QString m_no;
     const HubProfiles& m_profiles;
     std::vector<QString> m_commands;
     std::vector<QString> m_named;
@@ -165,14 +171,14 @@ PermissionGridPart::PermissionGridPart(GridSource source, GridWords words, const
       m_words(std::move(words)),
       m_context(context),
       m_model(new PermissionModel(m_source, m_words, context.profiles, this)),
-      m_list(new ListView(m_words.list)),
+      m_list(new ListView(fromBytes(m_words.list))),
       m_toolbar(new QToolBar),
       m_widget(listWithToolbar(QString(), m_toolbar, m_list))
 {
     m_list->setModel(m_model);
     m_list->setAccessibleName("Permissions");
     fitColumns();
-    for (int column = 4; column < m_words.columns.size(); ++column)
+    for (int column = 4; column < m_model->columnCount(); ++column)
         m_list->setColumnHidden(column, true);
     buildToolbar();
     m_list->setDoubleClickEdits(!m_words.clickToggles);
@@ -206,14 +212,15 @@ void PermissionGridPart::fitColumns()
 
 void PermissionGridPart::buildToolbar()
 {
-    m_toolbar->setObjectName(m_words.toolbar);
+    m_toolbar->setObjectName(fromBytes(m_words.toolbar));
     m_toolbar->setIconSize({16, 16});
     int index = 0;
     AddEditButton(*m_toolbar, index);
     connectButton(*m_toolbar, "EDIT", this, &PermissionGridPart::toggle);
     if (!m_words.filters)
         return;
-    auto* commands = addFilter(index, m_words.commandFilter, m_words.commandFilterTip, "command");
+    auto* commands =
+        addFilter(index, fromBytes(m_words.commandFilter), fromBytes(m_words.commandFilterTip), "command");
     for (const std::string& command : m_source.commands) {
         const QString word = fromBytes(command);
         commands->menu()->addAction(word)->setObjectName(commandMark + word);
@@ -297,22 +304,6 @@ void PermissionGridPart::showMenu(const QPoint& at, bool onRow)
     actions.at(0)->setEnabled(!m_model->isAllowed(row));
     actions.at(1)->setEnabled(m_model->isAllowed(row));
     menu->popup(at);
-}
-
-GridWords unfilteredGrid()
-{
-    GridWords words;
-    words.columns += {"iProfileBy", "iProfileOn"};
-    words.filters = false;
-    words.namesTarget = true;
-    return words;
-}
-
-GridWords blockGrid()
-{
-    GridWords words = unfilteredGrid();
-    words.namesCommandByProfile = true;
-    return words;
 }
 
 } // namespace quillfen

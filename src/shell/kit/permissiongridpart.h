@@ -1,5 +1,6 @@
 #pragma once
 
+#include "declarations/griddeclaration.h"
 #include "settings/permissiongrid.h"
 #include "shell/kit/formpart.h"
 
@@ -10,33 +11,6 @@ namespace quillfen {
 
 class ListView;
 class PermissionModel;
-
-/// The words and names of a grid's list. Columns behind the fourth are hidden: the keys of the acting and the
-/// target profile.
-struct GridWords
-{
-    QString list = "lvwPermissions";
-    QString toolbar = "tlbListview";
-    QStringList columns = {"Command", "By Profile", "On Profile", "Allow To"};
-    QString yes = "Yes";
-    QString no = "No";
-    bool filters = true;      ///< the buttons that show one command or one acting profile
-    bool namesTarget = false; ///< each row names its target profile, also where the row above has the same
-    bool namesCommandByProfile = false; ///< each acting profile's first row names the command
-    bool targets = true;                ///< false: one value per command and profile, and three columns
-    bool clickToggles = false;          ///< a click on a row toggles it
-
-    /// The button that shows one command. A press of it takes the filter off if its key is COMMAND.
-    QString commandFilter = "COMMAND";
-    QString commandFilterTip = "View By Command";
-};
-
-/// The words of a grid without filters: each row names its target, and hidden columns hold the profiles'
-/// keys.
-GridWords unfilteredGrid();
-
-/// The same with the command in the first row of each acting profile.
-GridWords blockGrid();
 
 /// A permission grid: one row per command, acting profile and target profile, toggled between yes and no, and
 /// filtered by command and by acting profile. What a filter hides is saved all the same.

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "settings/listdeclaration.h"
+#include "declarations/listdeclaration.h"
 #include "shell/kit/listview.h"
 
 #include <QStringList>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "settings/declaration.h"
+#include "declarations/declaration.h"
 #include "shell/kit/controls.h"
 #include "shell/kit/editorform.h"
 

@@ -1,23 +1,23 @@
 #include "shell/kit/textfilepart.h"
 
+#include "shell/kit/codepagetext.h"
 #include "shell/kit/textedit.h"
 #include "shell/kit/toolbars.h"
 
 namespace quillfen {
 
-TextFilePart::TextFilePart(const QString& toolbar, const QString& caption, std::string path,
-                           const FormContext& context)
-    : m_path(std::move(path)),
+TextFilePart::TextFilePart(const DeclaredText& text, const FormContext& context)
+    : m_path(text.path),
       m_context(context),
       m_toolbar(new QToolBar)
 {
-    m_toolbar->setObjectName(toolbar);
+    m_toolbar->setObjectName(fromBytes(text.toolbar));
     m_toolbar->setIconSize({16, 16});
     m_toolbar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     int index = 0;
     AddEditButton(*m_toolbar, index);
     auto* action = button(*m_toolbar, "EDIT");
-    action->setText(caption);
+    action->setText(fromBytes(text.caption));
     action->setToolTip("Edit"); // the text beside the icon tells what is edited
     connect(action, &QAction::triggered, this, &TextFilePart::edit);
 }

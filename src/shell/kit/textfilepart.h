@@ -1,5 +1,6 @@
 #pragma once
 
+#include "declarations/formdeclaration.h"
 #include "shell/kit/formpart.h"
 
 #include <string>
@@ -15,9 +16,7 @@ class TextFilePart : public FormPart
     Q_OBJECT
 
 public:
-    /// `path` is a told path; `caption` stands beside the button.
-    TextFilePart(const QString& toolbar, const QString& caption, std::string path,
-                 const FormContext& context);
+    TextFilePart(const DeclaredText& text, const FormContext& context);
 
     QWidget* widget() override;
     void load() override {}

@@ -1,25 +1,12 @@
 #pragma once
 
-#include "settings/listfile.h"
+#include "declarations/formdeclaration.h"
 #include "shell/kit/formpart.h"
 #include "shell/kit/tooltip.h"
-
-#include <functional>
 
 namespace quillfen {
 
 class RowList;
-
-/// What differs between the lists of ticks that are one whole file.
-struct TickListDescription
-{
-    QString control;
-    QString caption;
-    ListFile file;                                     ///< of the form Flags
-    std::function<QString(const QString& row)> help{}; ///< empty for none
-    QString label{};                                   ///< above the list, in place of the column's caption
-    bool restoreTicks = true;                          ///< RESTORE ticks every row; else it leaves them
-};
 
 /// A list of ticks that is one whole file. A click on a row shows its help in a balloon.
 class TickListPart : public FormPart
@@ -27,7 +14,7 @@ class TickListPart : public FormPart
     Q_OBJECT
 
 public:
-    TickListPart(TickListDescription description, const FormContext& context);
+    TickListPart(TickList ticks, const FormContext& context);
 
     QWidget* widget() override { return m_widget; }
     void load() override;
@@ -37,7 +24,7 @@ public:
 private:
     void showHelp(int row);
 
-    TickListDescription m_description;
+    TickList m_ticks;
     FormContext m_context;
     RowList* m_list;
     QWidget* m_widget;

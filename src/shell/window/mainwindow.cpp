@@ -3,6 +3,7 @@
 #include "settings/lines.h"
 #include "settings/tablefile.h"
 #include "shell/icons/icons.h"
+#include "shell/kit/codepagetext.h"
 #include "shell/kit/hourglass.h"
 #include "shell/kit/messages.h"
 #include "shell/kit/toolbars.h"
@@ -28,6 +29,7 @@
 #include <QUrl>
 
 #include <algorithm>
+#include <utility>
 
 namespace quillfen {
 namespace {
@@ -96,15 +98,17 @@ QWidget* entryOf(QWidget& pane)
 
 } // namespace
 
-MainWindow::MainWindow(const ProgramInfo& program, const FormContext& context, const FormCatalogue& forms)
+MainWindow::MainWindow(const ProgramInfo& program, const FormContext& context, const FormCatalogue& forms,
+                       PartMakers makers)
     : m_program(program),
       m_context(context),
+      m_makers(std::move(makers)),
       m_area(new QMdiArea),
       m_windowMenu(new WindowMenu(this)),
       m_popUpMenus(new PopUpMenus([this] { return activeForm(); }, this))
 {
     for (const FormDeclaration& form : forms)
-        m_forms.insert(form.form.name, form);
+        m_forms.insert(fromBytes(form.form.name), form);
     m_context.popUpMenu = [this](const QString& name) { return popUpMenu(name); };
     setObjectName("frmContainer");
     setWindowTitle(program.product + ' ' + program.version);
@@ -205,7 +209,7 @@ EditorForm* MainWindow::formOf(const QString& key)
     const auto declared = m_forms.constFind(name);
     if (declared == m_forms.constEnd())
         return nullptr;
-    EditorForm* form = makeForm(*declared, m_context);
+    EditorForm* form = makeForm(*declared, m_makers, m_context).release(); // its window will own it
     if (!sameCaption(form->caption(), captionOfKey(key)))
         form->setTag(captionOfKey(key)); // the registry could not find the form by its own caption
     showForm(form);

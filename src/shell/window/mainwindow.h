@@ -27,7 +27,8 @@ class MainWindow : public QMainWindow
 public:
     /// Builds toolbars and navigator from the settings tree as it stands now; the profiles may be filled
     /// later, but before the first form opens.
-    MainWindow(const ProgramInfo& program, const FormContext& context, const FormCatalogue& forms);
+    MainWindow(const ProgramInfo& program, const FormContext& context, const FormCatalogue& forms,
+               PartMakers makers);
     ~MainWindow() override;
 
     /// Opens or brings forward the form of a navigator key; an empty key means the tree's selected node. A
@@ -64,6 +65,7 @@ private:
     ProgramInfo m_program;
     FormContext m_context;
     QHash<QString, FormDeclaration> m_forms;
+    PartMakers m_makers;
     COpenWindows m_openWindows;
     Navigator* m_navigator;
     QMdiArea* m_area;

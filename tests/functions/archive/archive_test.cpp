@@ -1,3 +1,4 @@
+#include "declarations/rebuild.h"
 #include "functions/archive/archive.h"
 #include "functions/catalogue.h"
 #include "support/golden.h"
@@ -32,11 +33,12 @@ protected:
         return hub.file("TheArchive/Hyperlink/Hyperlink" + name + ".tbl");
     }
 
-    void build() { buildHyperlink(hub.files, hub.profiles); }
+    void build() { buildFunction(archiveFolders(), hub.files, hub.profiles); }
 
     static const ArchiveMember& arcade() { return archiveMembers()[4]; }
 
-    test::Hub hub{"TheArchive", "TheArchive/Hyperlink", "TheArchive/Arcade"};
+    test::Hub hub{"TheArchive",          "TheArchive/Bookshelf", "TheArchive/DVDRack",  "TheArchive/Jukebox",
+                  "TheArchive/Songbook", "TheArchive/Arcade",    "TheArchive/Hyperlink"};
     std::string& week = hub.file("TheArchive/Arcade/ArcadeItemOfTheWeek.tbl");
 };
 

@@ -28,7 +28,7 @@ protected:
 
 TEST_F(AutoCorrect, AFreshBuildHasTheDefaultsAndTwoEmptyLists)
 {
-    buildAutoCorrect(hub.files, hub.profiles);
+    buildFunction(autoCorrectFunction(), hub.files, hub.profiles);
     EXPECT_TRUE(
         sameBytes(hub.file(folder + "Settings.tbl"), golden("communication/AutoCorrectSettings.build.tbl")));
     EXPECT_TRUE(sameBytes(hub.file(folder + "Words.tbl"), "tAutoCorrectWords = {\r\n}\r\n"));
@@ -47,7 +47,7 @@ TEST_F(AutoCorrect, ARebuildKeepsValuesAndLeavesTheListsAlone)
         "\tbNotifyOps = 0,\r\n}\r\n";
     hub.file(folder + "Words.tbl") = "mine";
     hub.file(folder + "Filters.tbl") = "also mine";
-    buildAutoCorrect(hub.files, hub.profiles);
+    buildFunction(autoCorrectFunction(), hub.files, hub.profiles);
     EXPECT_TRUE(
         sameBytes(hub.file(folder + "Settings.tbl"), golden("communication/AutoCorrectSettings.save.tbl")));
     EXPECT_EQ(hub.file(folder + "Words.tbl"), "mine");

@@ -21,8 +21,8 @@ protected:
 
 TEST_F(Changers, AFreshBuildWritesTheDelayAndNoTexts)
 {
-    buildTopicChanger(hub.files, hub.profiles);
-    buildKickBarChanger(hub.files, hub.profiles);
+    buildFunction(topicChangerFunction(), hub.files, hub.profiles);
+    buildFunction(kickBarChangerFunction(), hub.files, hub.profiles);
     EXPECT_TRUE(sameBytes(topicSettings, "tTopicChangerSettings = {\r\n\tiDelay = 10,\r\n}\r\n"));
     EXPECT_TRUE(sameBytes(topics, "tTopicChangerTopics = {\r\n}\r\n"));
     EXPECT_TRUE(sameBytes(kickBarSettings, "tKickBarChangerSettings = {\r\n\tiDelay = 10,\r\n}\r\n"));
@@ -34,8 +34,8 @@ TEST_F(Changers, ARebuildKeepsTheDelays)
 {
     topicSettings = "tTopicChangerSettings = {\r\n\tiDelay = 721,\r\n}\r\n";
     kickBarSettings = "tKickBarChangerSettings = {\r\n\tiDelay = 7,\r\n}\r\n";
-    buildTopicChanger(hub.files, hub.profiles);
-    buildKickBarChanger(hub.files, hub.profiles);
+    buildFunction(topicChangerFunction(), hub.files, hub.profiles);
+    buildFunction(kickBarChangerFunction(), hub.files, hub.profiles);
     EXPECT_TRUE(sameBytes(topicSettings, "tTopicChangerSettings = {\r\n\tiDelay = 721,\r\n}\r\n"));
     EXPECT_TRUE(sameBytes(kickBarSettings, "tKickBarChangerSettings = {\r\n\tiDelay = 7,\r\n}\r\n"));
 }
@@ -45,8 +45,8 @@ TEST_F(Changers, ARebuildLosesTheTopicsAndKeepsTheKickBars)
     const std::string kickBars = "tKickBarChangerTopics = {\r\n\t\"Out!\",\r\n}\r\n";
     hub.file("Communication/KickBarChanger/KickBarChangerTopics.tbl") = kickBars;
     topics = "tTopicChangerTopics = {\r\n\t\"Welcome\",\r\n}\r\n";
-    buildTopicChanger(hub.files, hub.profiles);
-    buildKickBarChanger(hub.files, hub.profiles);
+    buildFunction(topicChangerFunction(), hub.files, hub.profiles);
+    buildFunction(kickBarChangerFunction(), hub.files, hub.profiles);
     EXPECT_TRUE(sameBytes(topics, "tTopicChangerTopics = {\r\n}\r\n"));
     EXPECT_TRUE(sameBytes(hub.file("Communication/KickBarChanger/KickBarChangerTopics.tbl"), kickBars));
 }
@@ -55,7 +55,7 @@ TEST_F(Changers, TheTopicsSurviveWhereAFileStandsOneFolderTooDeep)
 {
     hub.file("Communication/TopicChanger/TopicChanger/TopicChangerTopics.tbl") = "";
     topics = "tTopicChangerTopics = {\r\n\t\"Welcome\",\r\n}\r\n";
-    buildTopicChanger(hub.files, hub.profiles);
+    buildFunction(topicChangerFunction(), hub.files, hub.profiles);
     EXPECT_TRUE(sameBytes(topics, "tTopicChangerTopics = {\r\n\t\"Welcome\",\r\n}\r\n"));
 }
 
@@ -64,7 +64,7 @@ TEST_F(Changers, TheHubScriptSeesDelayAndTexts)
     topicChanger().texts.save(hub.files, hub.profiles, {{{"one"}}, {{"two"}}});
     EXPECT_EQ(test::luaValues(topics),
               (test::LuaValues{{"tTopicChangerTopics.1", "one"}, {"tTopicChangerTopics.2", "two"}}));
-    buildKickBarChanger(hub.files, hub.profiles);
+    buildFunction(kickBarChangerFunction(), hub.files, hub.profiles);
     EXPECT_EQ(test::luaValues(kickBarSettings), (test::LuaValues{{"tKickBarChangerSettings.iDelay", "10"}}));
 }
 

@@ -35,8 +35,8 @@ protected:
 
 TEST_F(ChatPermissions, AFreshBuildAllowsNothing)
 {
-    buildMute(hub.files, hub.profiles);
-    buildTalk(hub.files, hub.profiles);
+    buildFunction(muteFunction(), hub.files, hub.profiles);
+    buildFunction(talkFunction(), hub.files, hub.profiles);
     EXPECT_TRUE(sameBytes(mute, expected("Mute.build.tbl", "tMute")));
     EXPECT_TRUE(sameBytes(talk, expected("Mute.build.tbl", "tTalk")));
     const auto values = luaValues(talk);
@@ -53,8 +53,8 @@ TEST_F(ChatPermissions, ANewProfileJoinsARebuildWithZerosAndTheOtherCellsAreKept
                              "\t[1] = {\r\n\t\t[-1] = 1,\r\n\t\t[0] = 0,\r\n\t\t[1] = 0,\r\n\t},\r\n}\r\n";
     mute = "tMute = {\r\n" + rows;
     talk = "tTalk = {\r\n" + rows;
-    buildMute(hub.files, hub.profiles);
-    buildTalk(hub.files, hub.profiles);
+    buildFunction(muteFunction(), hub.files, hub.profiles);
+    buildFunction(talkFunction(), hub.files, hub.profiles);
     EXPECT_TRUE(sameBytes(mute, expected("Mute.rebuild.tbl", "tMute")));
     EXPECT_TRUE(sameBytes(talk, expected("Mute.rebuild.tbl", "tTalk")));
     EXPECT_EQ(luaValues(mute).at("tMute.0.1"), "1");
@@ -64,7 +64,7 @@ TEST_F(ChatPermissions, ANewProfileJoinsARebuildWithZerosAndTheOtherCellsAreKept
 TEST_F(ChatPermissions, AHubWithoutProfilesHasOneCell)
 {
     hub.profiles = {};
-    buildMute(hub.files, hub.profiles);
+    buildFunction(muteFunction(), hub.files, hub.profiles);
     EXPECT_TRUE(sameBytes(mute, "tMute = {\r\n\t[-1] = {\r\n\t\t[-1] = 0,\r\n\t},\r\n}\r\n"));
 }
 
@@ -73,7 +73,7 @@ TEST_F(ChatPermissions, AHubOf64ProfilesHasItsWholeSquare)
     hub.profiles = {};
     for (int number = 1; number < 64; ++number)
         hub.profiles.add("P" + std::to_string(number));
-    buildTalk(hub.files, hub.profiles);
+    buildFunction(talkFunction(), hub.files, hub.profiles);
     EXPECT_EQ(luaValues(talk).size(), 64U * 64U);
     EXPECT_EQ(hub.store.readings[hub.root + "/Communication/Talk/Talk.tbl"], 1);
 }

@@ -28,7 +28,7 @@ protected:
 
 TEST_F(ChatRooms, AFreshBuildWritesTheDefaultsAndNoRoom)
 {
-    buildChatRooms(hub.files, hub.profiles);
+    buildFunction(chatRoomsFunction(), hub.files, hub.profiles);
     EXPECT_TRUE(sameBytes(hub.file(settings), golden("communication/ChatRoomSettings.build.tbl")));
     EXPECT_TRUE(sameBytes(hub.file(rooms), "tChatRooms = {\r\n}\r\n"));
     const auto values = luaValues(hub.file(settings));
@@ -41,7 +41,7 @@ TEST_F(ChatRooms, ARebuildKeepsTheSettingsAndTheRoomsAndANewProfileJoinsWithZero
     hub.profiles.add("Newcomer");
     hub.file(settings) = golden("communication/ChatRoomSettings.save.tbl");
     hub.file(rooms) = "tChatRooms = {\r\n\tmine\r\n}\r\n";
-    buildChatRooms(hub.files, hub.profiles);
+    buildFunction(chatRoomsFunction(), hub.files, hub.profiles);
     EXPECT_TRUE(sameBytes(hub.file(settings), golden("communication/ChatRoomSettings.rebuild.tbl")));
     EXPECT_EQ(hub.file(rooms), "tChatRooms = {\r\n\tmine\r\n}\r\n");
     EXPECT_EQ(luaValues(hub.file(settings)).at("tChatRoomSettings.tEnabledProfilesMembers.2"), "1");
@@ -50,7 +50,7 @@ TEST_F(ChatRooms, ARebuildKeepsTheSettingsAndTheRoomsAndANewProfileJoinsWithZero
 TEST_F(ChatRooms, LeaveTheUnregisteredOutOfEveryTable)
 {
     hub.profiles.add("Fourth");
-    buildChatRooms(hub.files, hub.profiles);
+    buildFunction(chatRoomsFunction(), hub.files, hub.profiles);
     const auto values = luaValues(hub.file(settings));
     for (const char* table : {"", "Create", "Delete", "Suspend", "Members"}) {
         const std::string prefix = std::string("tChatRoomSettings.tEnabledProfiles") + table + ".";

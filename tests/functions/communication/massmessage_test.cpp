@@ -28,7 +28,7 @@ protected:
 
 TEST_F(MassMessages, AFreshBuildAllowsNothingAndHasAnEmptyImmuneListAndNoPassiveText)
 {
-    buildMassMessage(hub.files, hub.profiles);
+    buildFunction(massMessageFunction(), hub.files, hub.profiles);
     EXPECT_TRUE(sameBytes(hub.file(settings), golden("communication/MassMessageSettings.build.tbl")));
     EXPECT_TRUE(sameBytes(hub.file(folder + "MassMessagePassiveImmune.tbl"),
                           "tMassMessagePassiveImmune = {\r\n}\r\n"));
@@ -42,7 +42,7 @@ TEST_F(MassMessages, ARebuildAfterASaveDropsTheQuotesAndPutsTheOperatorBackWithZ
 {
     hub.file(settings) = golden("communication/MassMessageSettings.save.tbl");
     hub.file(folder + "MassMessagePassiveImmune.tbl") = "mine";
-    buildMassMessage(hub.files, hub.profiles);
+    buildFunction(massMessageFunction(), hub.files, hub.profiles);
     EXPECT_TRUE(sameBytes(hub.file(settings), golden("communication/MassMessageSettings.rebuild.tbl")));
     EXPECT_EQ(hub.file(folder + "MassMessagePassiveImmune.tbl"), "mine");
     const auto values = luaValues(hub.file(settings));
@@ -56,7 +56,7 @@ TEST_F(MassMessages, ARebuildKeepsAnOperatorThatIsThere)
     hub.file(settings) =
         "tMassMessageSettings = {\r\n\ttEnabledPassiveProfiles = {\r\n\t\t[-1] = 0,\r\n\t},\r\n"
         "\t[-1] = {\r\n\t\t[-1] = 1,\r\n\t\tOperator = 1,\r\n\t},\r\n}\r\n";
-    buildMassMessage(hub.files, hub.profiles);
+    buildFunction(massMessageFunction(), hub.files, hub.profiles);
     EXPECT_TRUE(sameBytes(
         hub.file(settings),
         "tMassMessageSettings = {\r\n\ttEnabledPassiveProfiles = {\r\n\t\t[-1] = 0,\r\n\t},\r\n\t[-1] = {\r\n"
@@ -69,7 +69,7 @@ TEST_F(MassMessages, ANewProfileJoinsWithZerosAndTheOthersKeepTheirCells)
 {
     hub.file(settings) = golden("communication/MassMessageSettings.save.tbl");
     hub.profiles.add("Newcomer");
-    buildMassMessage(hub.files, hub.profiles);
+    buildFunction(massMessageFunction(), hub.files, hub.profiles);
     const auto values = luaValues(hub.file(settings));
     EXPECT_EQ(values.at("tMassMessageSettings.-1.0"), "1");
     EXPECT_EQ(values.at("tMassMessageSettings.1.2"), "1");

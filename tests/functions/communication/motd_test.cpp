@@ -30,7 +30,7 @@ protected:
 
 TEST_F(Motd, AFreshBuildSendsNothingAndMakesAnEmptyTextForEach)
 {
-    buildMotds(hub.files, hub.profiles);
+    buildFunction(motdFunction(), hub.files, hub.profiles);
     EXPECT_TRUE(sameBytes(settings, golden("communication/MOTDSettings.build.tbl")));
     for (const char* name : {"-1", "0", "1", "2", "all"}) {
         ASSERT_TRUE(hub.has(texts + name + ".asc")) << name;
@@ -47,7 +47,7 @@ TEST_F(Motd, ARebuildKeepsTheProfilesAndSwitchesTheMessageForAllOff)
 {
     settings = golden("communication/MOTDSettings.save.tbl");
     hub.file(texts + "0.asc") = "hello\r\n";
-    buildMotds(hub.files, hub.profiles);
+    buildFunction(motdFunction(), hub.files, hub.profiles);
     EXPECT_TRUE(sameBytes(settings, golden("communication/MOTDSettings.rebuild.tbl")));
     EXPECT_EQ(hub.file(texts + "0.asc"), "hello\r\n");
     EXPECT_EQ(luaValues(settings).at("tMOTDSettings.tByProfile.1.bInMain"), "1");
@@ -59,16 +59,16 @@ TEST_F(Motd, ARebuildTakesTheMessageForAllFromAFileOfAnotherNameWhereThereIsOne)
     hub.file("Communication/MOTD/MassMessageSettings.tbl") =
         "tX = {\r\n\ttAll = {\r\n\t\tbUse = 1,\r\n\t\tbInMain = 0,\r\n\t},\r\n}\r\n";
     settings = golden("communication/MOTDSettings.save.tbl");
-    buildMotds(hub.files, hub.profiles);
+    buildFunction(motdFunction(), hub.files, hub.profiles);
     EXPECT_EQ(luaValues(settings).at("tMOTDSettings.tAll.bUse"), "1");
     EXPECT_EQ(luaValues(settings).at("tMOTDSettings.tAll.bInMain"), "0");
 }
 
 TEST_F(Motd, ANewProfileJoinsWithZerosAndATextOfItsOwn)
 {
-    buildMotds(hub.files, hub.profiles);
+    buildFunction(motdFunction(), hub.files, hub.profiles);
     hub.profiles.add("Newcomer");
-    buildMotds(hub.files, hub.profiles);
+    buildFunction(motdFunction(), hub.files, hub.profiles);
     EXPECT_EQ(luaValues(settings).at("tMOTDSettings.tByProfile.3.bUse"), "0");
     EXPECT_TRUE(hub.has(texts + "3.asc"));
 }

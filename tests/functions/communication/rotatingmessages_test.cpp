@@ -40,8 +40,8 @@ protected:
 
 TEST_F(Rotating, AFreshBuildWritesDefaultsAndEmptyLists)
 {
-    buildRotatingMainMessages(hub.files, hub.profiles);
-    buildRotatingPrivateMessages(hub.files, hub.profiles);
+    buildFunction(rotatingMainMessagesFunction(), hub.files, hub.profiles);
+    buildFunction(rotatingPrivateMessagesFunction(), hub.files, hub.profiles);
     EXPECT_TRUE(sameBytes(hub.file(path(main, "Settings.tbl")),
                           golden("communication/RotatingMainMessageSettings.build.tbl")));
     EXPECT_TRUE(sameBytes(hub.file(path(priv, "Settings.tbl")),
@@ -62,8 +62,8 @@ TEST_F(Rotating, ARebuildHasTheTablesInAnotherOrderThanASaveAndLeavesTheLists)
     hub.file(path(priv, "Settings.tbl")) = golden("communication/RotatingPrivateMessageSettings.save.tbl");
     for (const char* file : {"Files.tbl", "ImmuneUsers.tbl"})
         hub.file(path(priv, file)) = "mine";
-    buildRotatingMainMessages(hub.files, hub.profiles);
-    buildRotatingPrivateMessages(hub.files, hub.profiles);
+    buildFunction(rotatingMainMessagesFunction(), hub.files, hub.profiles);
+    buildFunction(rotatingPrivateMessagesFunction(), hub.files, hub.profiles);
     EXPECT_TRUE(sameBytes(hub.file(path(main, "Settings.tbl")),
                           golden("communication/RotatingMainMessageSettings.save.tbl")));
     EXPECT_TRUE(sameBytes(hub.file(path(priv, "Settings.tbl")),
@@ -76,7 +76,7 @@ TEST_F(Rotating, ANewProfileJoinsWithZero)
 {
     hub.file(path(priv, "Settings.tbl")) = golden("communication/RotatingPrivateMessageSettings.save.tbl");
     hub.profiles.add("Newcomer");
-    buildRotatingPrivateMessages(hub.files, hub.profiles);
+    buildFunction(rotatingPrivateMessagesFunction(), hub.files, hub.profiles);
     const auto values = luaValues(hub.file(path(priv, "Settings.tbl")));
     EXPECT_EQ(values.at("tRotatingPrivateMessageSettings.tEnabledAdProfiles.3"), "0");
     EXPECT_EQ(values.at("tRotatingPrivateMessageSettings.tEnabledMaintainProfiles.2"), "1");

@@ -32,7 +32,7 @@ protected:
 TEST_F(WelcomeInfo, AFreshBuildWritesTheDefaultsAndNoHub)
 {
     hub.store.files.erase(hub.root + "/Communication/WelcomeInfo/WelcomeInfoNetworkHubs.tbl");
-    buildWelcomeInfo(hub.files, hub.profiles);
+    buildFunction(welcomeInfoFunction(), hub.files, hub.profiles);
     EXPECT_TRUE(sameBytes(settings, golden("communication/WelcomeInfoSettings.build.tbl")));
     EXPECT_TRUE(sameBytes(hub.file("Communication/WelcomeInfo/WelcomeInfoNetworkHubs.tbl"),
                           "tWelcomeInfoNetworkHubs = {\r\n}\r\n"));
@@ -46,7 +46,7 @@ TEST_F(WelcomeInfo, ARebuildAfterASaveHasTheMinimumShareAgainEmpty)
 {
     settings = golden("communication/WelcomeInfoSettings.save.tbl");
     hubs = "mine";
-    buildWelcomeInfo(hub.files, hub.profiles);
+    buildFunction(welcomeInfoFunction(), hub.files, hub.profiles);
     EXPECT_TRUE(sameBytes(settings, golden("communication/WelcomeInfoSettings.rebuild.tbl")));
     EXPECT_EQ(luaValues(settings).at("tWelcomeInfoSettings.sWebSite"), "www.example.com");
     EXPECT_EQ(hubs, "mine");
@@ -55,14 +55,14 @@ TEST_F(WelcomeInfo, ARebuildAfterASaveHasTheMinimumShareAgainEmpty)
 TEST_F(WelcomeInfo, ARebuildKeepsAMinimumShareThatIsThere)
 {
     settings = "tWelcomeInfoSettings = {\r\n\tsMinShare = \"1\",\r\n}\r\n";
-    buildWelcomeInfo(hub.files, hub.profiles);
+    buildFunction(welcomeInfoFunction(), hub.files, hub.profiles);
     EXPECT_NE(settings.find("\tsWebSite = \"\",\r\n\tsMinShare = \"1\",\r\n\tbShowOps = 1,\r\n"),
               std::string::npos);
 }
 
 TEST_F(WelcomeInfo, AFreshClockShows60BstAndGmt)
 {
-    buildClock(hub.files, hub.profiles);
+    buildFunction(clockFunction(), hub.files, hub.profiles);
     EXPECT_TRUE(sameBytes(clock, golden("communication/ClockSettings.build.tbl")));
     const auto values = luaValues(clock);
     EXPECT_EQ(values.at("tClockSettings.iDelay"), "60");
@@ -76,7 +76,7 @@ TEST_F(WelcomeInfo, ARebuiltClockKeepsItsValuesInTheSameOrder)
     clock = "tClockSettings = {\r\n\tsStandardTime = \"CET\",\r\n\tsDaylightSaving = \"CEST\",\r\n"
             "\tiDelay = 300,\r\n\tbManualControl = 1,\r\n"
             "\ttEnabledProfiles = {\r\n\t\t[2] = 1,\r\n\t},\r\n}\r\n";
-    buildClock(hub.files, hub.profiles);
+    buildFunction(clockFunction(), hub.files, hub.profiles);
     EXPECT_TRUE(sameBytes(clock, golden("communication/ClockSettings.save.tbl")));
 }
 

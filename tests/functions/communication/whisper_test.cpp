@@ -1,3 +1,4 @@
+#include "declarations/rebuild.h"
 #include "functions/catalogue.h"
 #include "functions/communication/hubemail.h"
 #include "functions/communication/whisper.h"
@@ -23,7 +24,7 @@ protected:
 
 TEST_F(Whisper, AFreshBuildConfirms)
 {
-    buildWhisper(hub.files, hub.profiles);
+    buildFunction(whisperFunction(), hub.files, hub.profiles);
     EXPECT_TRUE(sameBytes(file, "tWhisperSettings = {\r\n\tbSendConfirmation = 1,\r\n}\r\n"));
     EXPECT_EQ(luaValues(file), (LuaValues{{"tWhisperSettings.bSendConfirmation", "1"}}));
 }
@@ -31,7 +32,7 @@ TEST_F(Whisper, AFreshBuildConfirms)
 TEST_F(Whisper, ARebuildKeepsTheValue)
 {
     file = "tWhisperSettings = {\r\n\tiOld = 3,\r\n\tbSendConfirmation = 0,\r\n}\r\n";
-    buildWhisper(hub.files, hub.profiles);
+    buildFunction(whisperFunction(), hub.files, hub.profiles);
     EXPECT_TRUE(sameBytes(file, "tWhisperSettings = {\r\n\tbSendConfirmation = 0,\r\n}\r\n"));
 }
 

@@ -16,7 +16,7 @@ protected:
 
 TEST_F(AsciiIntros, AFreshBuildWritesDefaultsNoUsersAndAnEmptyIndex)
 {
-    buildAsciiIntros(hub.files, hub.profiles);
+    buildFunction(asciiIntrosFunction(), hub.files, hub.profiles);
     EXPECT_TRUE(sameBytes(settings, golden("AsciiIntroSettings.build.tbl")));
     EXPECT_TRUE(sameBytes(file("IntroOutro/AsciiIntro.tbl"), "tAsciiIntro = {\r\n}\r\n"));
     EXPECT_TRUE(sameBytes(file("IntroOutro/AsciiIntroIndex.tbl"), "tAsciiIntroIndex = {\r\n}\r\n"));
@@ -28,7 +28,7 @@ TEST_F(AsciiIntros, ARebuildKeepsValuesGivesANewProfileZeroAndLeavesUsersAndInde
     file("IntroOutro/AsciiIntro.tbl") = "the owner's";
     file("IntroOutro/AsciiIntroIndex.tbl") = "the owner's";
     hub.profiles.add("Reg");
-    buildAsciiIntros(hub.files, hub.profiles);
+    buildFunction(asciiIntrosFunction(), hub.files, hub.profiles);
     EXPECT_TRUE(sameBytes(settings, "tAsciiIntroSettings = {\r\n\tbNotifyOps = 0,\r\n"
                                     "\ttEnabledProfiles = {\r\n\t\t[-1] = 0,\r\n\t\t[0] = 0,\r\n"
                                     "\t\t[1] = 1,\r\n\t\t[2] = 0,\r\n\t\t[3] = 0,\r\n\t},\r\n}\r\n"));

@@ -44,7 +44,7 @@ protected:
 
 TEST_F(CustomRightClicks, AFreshBuildWritesAnEmptyTableWithoutACountWhichReadsAsNoRows)
 {
-    buildCustomRightClicks(hub.files, hub.profiles);
+    buildFunction(customRightClickFunction(), hub.files, hub.profiles);
     EXPECT_TRUE(sameBytes(file(name), "tCustomRightClick = {\r\n}\r\n"));
     EXPECT_EQ(luaValues(file(name)), (LuaValues{{"tCustomRightClick", "{}"}}));
     EXPECT_TRUE(load().empty());
@@ -53,7 +53,7 @@ TEST_F(CustomRightClicks, AFreshBuildWritesAnEmptyTableWithoutACountWhichReadsAs
 TEST_F(CustomRightClicks, ARebuildLeavesTheFile)
 {
     file(name) = golden("CustomRightClick.save.tbl");
-    buildCustomRightClicks(hub.files, hub.profiles);
+    buildFunction(customRightClickFunction(), hub.files, hub.profiles);
     EXPECT_TRUE(sameBytes(file(name), golden("CustomRightClick.save.tbl")));
 }
 

@@ -13,7 +13,7 @@ class DescriptionTags : public test::CustomiseFiles
 protected:
     std::string& settings = file("DescriptionTags/DescriptionTagSettings.tbl");
 
-    void build() { buildDescriptionTags(hub.files, hub.profiles); }
+    void build() { buildFunction(descriptionTagsFunction(), hub.files, hub.profiles); }
 
     std::vector<std::string> tags()
     {

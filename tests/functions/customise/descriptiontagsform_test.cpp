@@ -1,3 +1,4 @@
+#include "declarations/rebuild.h"
 #include "functions/customise/customiseformtest.h"
 
 namespace quillfen {

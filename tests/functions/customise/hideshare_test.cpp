@@ -16,7 +16,7 @@ protected:
 
 TEST_F(HideShare, AFreshBuildHidesNobodysShare)
 {
-    buildHideShare(hub.files, hub.profiles);
+    buildFunction(hideShareFunction(), hub.files, hub.profiles);
     EXPECT_TRUE(sameBytes(settings, golden("HideShareSettings.build.tbl")));
     EXPECT_TRUE(sameBytes(file("HideShare/HideShareUsers.tbl"), "tHideShareUsers = {\r\n}\r\n"));
 }
@@ -26,7 +26,7 @@ TEST_F(HideShare, ARebuildKeepsValuesGivesANewProfileZeroAndLeavesTheUsers)
     settings = golden("HideShareSettings.save.tbl");
     file("HideShare/HideShareUsers.tbl") = "the script's";
     hub.profiles.add("Reg");
-    buildHideShare(hub.files, hub.profiles);
+    buildFunction(hideShareFunction(), hub.files, hub.profiles);
     EXPECT_TRUE(sameBytes(settings, "tHideShareSettings = {\r\n\ttEnabledProfiles = {\r\n\t\t[-1] = 1,\r\n"
                                     "\t\t[0] = 0,\r\n\t\t[1] = 0,\r\n\t\t[2] = 1,\r\n\t\t[3] = 0,\r\n"
                                     "\t},\r\n}\r\n"));

@@ -17,7 +17,7 @@ protected:
     std::string& settings = file("IntroOutro/IntroOutroSettings.tbl");
     std::string& customSettings = file("IntroOutro/CustomIntroOutroSettings.tbl");
 
-    void build() { buildIntrosOutros(hub.files, hub.profiles); }
+    void build() { buildFunction(introsOutrosFunction(), hub.files, hub.profiles); }
 };
 
 TEST_F(IntrosOutrosFiles, AFreshBuildWritesDefaultsAndEmptyLists)

@@ -29,14 +29,14 @@ protected:
 
 TEST_F(ChanceGames, AFreshBuildOfRouletteWritesTheChambersBare)
 {
-    buildRussianRoulette(hub.files, hub.profiles);
+    buildFunction(russianRouletteFunction(), hub.files, hub.profiles);
     EXPECT_TRUE(sameBytes(roulette, golden("games/RussianRouletteSettings.build.tbl")));
 }
 
 TEST_F(ChanceGames, ARebuildWritesTheChambersBareAgainAndKeepsTheRest)
 {
     roulette = golden("games/RussianRouletteSettings.save.tbl");
-    buildRussianRoulette(hub.files, hub.profiles);
+    buildFunction(russianRouletteFunction(), hub.files, hub.profiles);
     std::string expected = golden("games/RussianRouletteSettings.build.tbl");
     expected.replace(expected.find("bInMain = 1"), 11, "bInMain = 0");
     EXPECT_TRUE(sameBytes(roulette, expected));
@@ -61,8 +61,8 @@ TEST_F(ChanceGames, TheHubScriptSeesQuotedChambersOnly)
 TEST_F(ChanceGames, AFreshBuildSeedsEachListOfCommentsWithOne)
 {
     hub.store.files.clear();
-    buildRussianRoulette(hub.files, hub.profiles);
-    buildThreeCardMonty(hub.files, hub.profiles);
+    buildFunction(russianRouletteFunction(), hub.files, hub.profiles);
+    buildFunction(threeCardMontyFunction(), hub.files, hub.profiles);
     EXPECT_EQ(hub.file("Games/RussianRoulette/RussianRouletteLive.tbl"),
               "tRussianRouletteLive = {\r\n\t\"You have survived... for now\",\r\n}\r\n");
     EXPECT_EQ(hub.file("Games/RussianRoulette/RussianRouletteDie.tbl"),
@@ -82,18 +82,18 @@ TEST_F(ChanceGames, ARebuildLeavesTheCommentsAlone)
                                  "ThreeCardMonty/ThreeCardMontyWin", "ThreeCardMonty/ThreeCardMontyLose"};
     for (const char* list : lists)
         hub.file(std::string("Games/") + list + ".tbl") = "mine";
-    buildRussianRoulette(hub.files, hub.profiles);
-    buildThreeCardMonty(hub.files, hub.profiles);
+    buildFunction(russianRouletteFunction(), hub.files, hub.profiles);
+    buildFunction(threeCardMontyFunction(), hub.files, hub.profiles);
     for (const char* list : lists)
         EXPECT_EQ(hub.file(std::string("Games/") + list + ".tbl"), "mine");
 }
 
 TEST_F(ChanceGames, ARebuildSpellsTheCardsWithACapitalO)
 {
-    buildThreeCardMonty(hub.files, hub.profiles);
+    buildFunction(threeCardMontyFunction(), hub.files, hub.profiles);
     EXPECT_TRUE(sameBytes(monty, golden("games/ThreeCardMontySettings.build.tbl")));
     monty = golden("games/ThreeCardMontySettings.save.tbl");
-    buildThreeCardMonty(hub.files, hub.profiles);
+    buildFunction(threeCardMontyFunction(), hub.files, hub.profiles);
     const auto values = luaValues(monty);
     EXPECT_EQ(values.at("tThreeCardMontySettings.tDeal.1"), "Ace Of Spades");
     EXPECT_EQ(values.at("tThreeCardMontySettings.iWager"), "2");
@@ -104,7 +104,7 @@ TEST_F(ChanceGames, ARebuildSpellsTheCardsWithACapitalO)
 TEST_F(ChanceGames, AFreshSlotMachineHasItsConstantTables)
 {
     hub.store.files.clear();
-    buildSlotMachine(hub.files, hub.profiles);
+    buildFunction(slotMachineFunction(), hub.files, hub.profiles);
     EXPECT_TRUE(sameBytes(hub.file("Games/SlotMachine/SlotMachineSettings.tbl"),
                           golden("games/SlotMachineSettings.build.tbl")));
     EXPECT_EQ(hub.file("Games/SlotMachine/SlotMachinePlayers.tbl"), "tSlotMachinePlayers = {\r\n}\r\n");
@@ -114,7 +114,7 @@ TEST_F(ChanceGames, ARebuildOfTheSlotMachineKeepsTheCreditsAndThePlayers)
 {
     slots = golden("games/SlotMachineSettings.save.tbl");
     hub.file("Games/SlotMachine/SlotMachinePlayers.tbl") = "mine";
-    buildSlotMachine(hub.files, hub.profiles);
+    buildFunction(slotMachineFunction(), hub.files, hub.profiles);
     EXPECT_TRUE(sameBytes(slots, golden("games/SlotMachineSettings.save.tbl")));
     EXPECT_EQ(hub.file("Games/SlotMachine/SlotMachinePlayers.tbl"), "mine");
 }
@@ -133,10 +133,10 @@ TEST_F(ChanceGames, TheHubScriptSeesTheResultsOfTheSlotMachine)
 TEST_F(ChanceGames, AFreshTreeHasNoScoreClearers)
 {
     hub.store.files.clear();
-    buildScoreClearers(hub.files, hub.profiles);
+    buildFunction(scoreClearersFunction(), hub.files, hub.profiles);
     EXPECT_EQ(hub.file(clearers), "tScoreClearers = {\r\n}\r\n");
     hub.file(clearers) = "mine";
-    buildScoreClearers(hub.files, hub.profiles);
+    buildFunction(scoreClearersFunction(), hub.files, hub.profiles);
     EXPECT_EQ(hub.file(clearers), "mine");
 }
 

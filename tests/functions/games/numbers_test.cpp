@@ -30,14 +30,14 @@ TEST_F(Numbers, AreDeclaredWithoutFault)
 
 TEST_F(Numbers, AFreshBuildWritesTheSettingsInItsOwnOrderWithOneBlankEach)
 {
-    buildNumbers(hub.files, hub.profiles);
+    buildFunction(numbersFunction(), hub.files, hub.profiles);
     EXPECT_TRUE(sameBytes(hub.file(settings), golden("games/NumbersSettings.build.tbl")));
 }
 
 TEST_F(Numbers, AFreshBuildMakesTheScoreFilesAndOneQuestion)
 {
     hub.store.files.clear();
-    buildNumbers(hub.files, hub.profiles);
+    buildFunction(numbersFunction(), hub.files, hub.profiles);
     EXPECT_EQ(hub.file("Games/Numbers/NumbersPlayers.tbl"), "tNumbersPlayers = {\r\n}\r\n");
     EXPECT_EQ(hub.file("Games/Numbers/NumbersScoresArchiveIndex.tbl"),
               "tNumbersScoresArchiveIndex = {\r\n}\r\n");
@@ -53,7 +53,7 @@ TEST_F(Numbers, ARebuildKeepsTheValuesTheCalculationsAndTheOtherFiles)
                                       "Games/Numbers/NumbersScoresArchiveIndex.tbl"};
     for (const auto& name : scoreFiles)
         hub.file(name) = "mine";
-    buildNumbers(hub.files, hub.profiles);
+    buildFunction(numbersFunction(), hub.files, hub.profiles);
     for (const auto& name : scoreFiles)
         EXPECT_EQ(hub.file(name), "mine") << name;
     const auto before = test::luaValues(golden("games/NumbersSettings.save.tbl"));
@@ -67,7 +67,7 @@ TEST_F(Numbers, ARebuildFillsInAMissingCalculation)
 {
     hub.file(settings) =
         "tNumbersSettings = {\r\n\ttCalculation = {\r\n\t\tsDivision = \"2,4,2,4\",\r\n\t},\r\n}\r\n";
-    buildNumbers(hub.files, hub.profiles);
+    buildFunction(numbersFunction(), hub.files, hub.profiles);
     const auto values = test::luaValues(hub.file(settings));
     EXPECT_EQ(values.at("tNumbersSettings.tCalculation.sDivision"), "2,4,2,4");
     EXPECT_EQ(values.at("tNumbersSettings.tCalculation.sMultiplication"), "0,20,0,100");

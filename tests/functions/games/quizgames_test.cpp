@@ -20,7 +20,7 @@ struct QuizGameCase
     const char* folder;
     const char* name; ///< of files and tables
     const TableFile& (*settings)();
-    void (*build)(const SettingsFiles&, const HubProfiles&);
+    FunctionDeclaration (*function)();
     std::size_t keys;
 };
 
@@ -40,18 +40,18 @@ protected:
 
 INSTANTIATE_TEST_SUITE_P(
     All, QuizGames,
-    testing::Values(QuizGameCase{"Hangman", "Hangman", hangmanSettings, buildHangman, 18},
-                    QuizGameCase{"Anagrams", "Anagram", anagramSettings, buildAnagrams, 17},
-                    QuizGameCase{"CodeBreaker", "CodeBreaker", codeBreakerSettings, buildCodeBreaker, 18},
+    testing::Values(QuizGameCase{"Hangman", "Hangman", hangmanSettings, hangmanFunction, 18},
+                    QuizGameCase{"Anagrams", "Anagram", anagramSettings, anagramsFunction, 17},
+                    QuizGameCase{"CodeBreaker", "CodeBreaker", codeBreakerSettings, codeBreakerFunction, 18},
                     QuizGameCase{"GuessTheNumber", "GuessTheNumber", guessTheNumberSettings,
-                                 buildGuessTheNumber, 18}),
+                                 guessTheNumberFunction, 18}),
     [](const auto& each) { return std::string(each.param.name); });
 
 TEST_P(QuizGames, AFreshBuildWritesTheSettingsInTheFormsOrder)
 {
     hub.store.folders.insert(hub.root + "/Games/" + game.folder);
     hub.store.folders.insert(hub.root + "/Games/Hangman/Ascii");
-    game.build(hub.files, hub.profiles);
+    buildFunction(game.function(), hub.files, hub.profiles);
     EXPECT_TRUE(sameBytes(hub.file(base + "Settings.tbl"),
                           golden(std::string("games/") + game.name + "Settings.build.tbl")));
     EXPECT_EQ(hub.file(base + "Players.tbl"), table + "Players = {\r\n}\r\n");
@@ -67,7 +67,7 @@ TEST_P(QuizGames, ARebuildKeepsEveryValueAndTheOtherFiles)
     hub.file(base + "Settings.tbl") = edited;
     for (const char* other : {"Players.tbl", "ScoresArchiveIndex.tbl", "Scores.tbl"})
         hub.file(base + other) = "mine";
-    game.build(hub.files, hub.profiles);
+    buildFunction(game.function(), hub.files, hub.profiles);
     EXPECT_TRUE(sameBytes(hub.file(base + "Settings.tbl"), edited));
     for (const char* other : {"Players.tbl", "ScoresArchiveIndex.tbl", "Scores.tbl"})
         EXPECT_EQ(hub.file(base + other), "mine");
@@ -92,8 +92,8 @@ protected:
 
 TEST_F(QuizWords, AFreshBuildSeedsOneWord)
 {
-    buildHangman(hub.files, hub.profiles);
-    buildAnagrams(hub.files, hub.profiles);
+    buildFunction(hangmanFunction(), hub.files, hub.profiles);
+    buildFunction(anagramsFunction(), hub.files, hub.profiles);
     EXPECT_EQ(hub.file("Games/Hangman/HangmanWords.lst"), "quillfen\r\n\r\n");
     EXPECT_EQ(hub.file("Games/Anagrams/AnagramWords.lst"), "quillfen\r\n\r\n");
     EXPECT_EQ(hangmanWords().load(hub.files, hub.profiles), (std::vector<CellRow>{{{"quillfen", ""}}}));
@@ -103,8 +103,8 @@ TEST_F(QuizWords, ARebuildLeavesTheWordsAlone)
 {
     hub.file("Games/Hangman/HangmanWords.lst") = "mine";
     hub.file("Games/Anagrams/AnagramWords.lst") = "mine";
-    buildHangman(hub.files, hub.profiles);
-    buildAnagrams(hub.files, hub.profiles);
+    buildFunction(hangmanFunction(), hub.files, hub.profiles);
+    buildFunction(anagramsFunction(), hub.files, hub.profiles);
     EXPECT_EQ(hub.file("Games/Hangman/HangmanWords.lst"), "mine");
     EXPECT_EQ(hub.file("Games/Anagrams/AnagramWords.lst"), "mine");
 }
@@ -125,7 +125,7 @@ TEST_F(QuizWords, AreSavedOneALineTheLastWithoutALineEndOfItsOwn)
 TEST_F(QuizWords, AFreshBuildMakesTheFourteenGallowsEmptyAndKeepsThoseThatAreThere)
 {
     hub.file("Games/Hangman/Ascii/7.asc") = "mine";
-    buildHangman(hub.files, hub.profiles);
+    buildFunction(hangmanFunction(), hub.files, hub.profiles);
     for (int picture = 0; picture <= 13; ++picture) {
         const std::string path = "Games/Hangman/Ascii/" + std::to_string(picture) + ".asc";
         ASSERT_TRUE(hub.has(path)) << picture;

@@ -30,7 +30,7 @@ TEST_F(Trivia, SettingsAreDeclaredWithoutFault)
 TEST_F(Trivia, AFreshBuildWritesTheSettingsInItsOwnOrder)
 {
     hub.store.files.clear();
-    buildTrivia(hub.files, hub.profiles);
+    buildFunction(triviaFunction(), hub.files, hub.profiles);
     EXPECT_TRUE(
         sameBytes(hub.file("Games/Trivia/TriviaSettings.tbl"), golden("games/TriviaSettings.build.tbl")));
 }
@@ -38,7 +38,7 @@ TEST_F(Trivia, AFreshBuildWritesTheSettingsInItsOwnOrder)
 TEST_F(Trivia, ARebuildKeepsValuesAndReordersTheKeys)
 {
     settings = golden("games/TriviaSettings.save.tbl");
-    buildTrivia(hub.files, hub.profiles);
+    buildFunction(triviaFunction(), hub.files, hub.profiles);
     EXPECT_TRUE(sameBytes(
         settings, "tTriviaSettings = {\r\n\tsHintChar = \"*\",\r\n\tbManualStart = 1,\r\n"
                   "\tbOpOnlyStart = 0,\r\n\tbOpOnlyStop = 0,\r\n\tiFormat = 2,\r\n\tiHintTime = 30,\r\n"
@@ -52,7 +52,7 @@ TEST_F(Trivia, ARebuildKeepsValuesAndReordersTheKeys)
 TEST_F(Trivia, AFreshBuildMakesTheOtherFiles)
 {
     hub.store.files.clear();
-    buildTrivia(hub.files, hub.profiles);
+    buildFunction(triviaFunction(), hub.files, hub.profiles);
     EXPECT_EQ(hub.file("Games/Trivia/TriviaPlayers.tbl"), "tTriviaPlayers = {\r\n}\r\n");
     EXPECT_EQ(hub.file("Games/Trivia/TriviaScoresArchiveIndex.tbl"),
               "tTriviaScoresArchiveIndex = {\r\n}\r\n");
@@ -71,7 +71,7 @@ TEST_F(Trivia, ARebuildLeavesTheOtherFilesAlone)
     for (const char* name :
          {"TriviaPlayers.tbl", "TriviaScoresArchiveIndex.tbl", "TriviaScores.tbl", "TriviaQuestionFiles.tbl"})
         hub.file(std::string("Games/Trivia/") + name) = "mine";
-    buildTrivia(hub.files, hub.profiles);
+    buildFunction(triviaFunction(), hub.files, hub.profiles);
     for (const char* name :
          {"TriviaPlayers.tbl", "TriviaScoresArchiveIndex.tbl", "TriviaScores.tbl", "TriviaQuestionFiles.tbl"})
         EXPECT_EQ(hub.file(std::string("Games/Trivia/") + name), "mine");
@@ -80,7 +80,7 @@ TEST_F(Trivia, ARebuildLeavesTheOtherFilesAlone)
 TEST_F(Trivia, TheSeededQuestionsComeOnlyTogetherWithTheTableOfFiles)
 {
     questionFiles = "tTriviaQuestionFiles = {\r\n}\r\n";
-    buildTrivia(hub.files, hub.profiles);
+    buildFunction(triviaFunction(), hub.files, hub.profiles);
     EXPECT_FALSE(hub.has("Games/Trivia/QuestionFiles/TriviaQuestions.lst"));
 }
 
@@ -88,7 +88,7 @@ TEST_F(Trivia, ABuildOfTheTableKeepsAQuestionFileThatIsThere)
 {
     hub.store.files.clear();
     hub.file("Games/Trivia/QuestionFiles/TriviaQuestions.lst") = "mine";
-    buildTrivia(hub.files, hub.profiles);
+    buildFunction(triviaFunction(), hub.files, hub.profiles);
     EXPECT_TRUE(hub.has("Games/Trivia/TriviaQuestionFiles.tbl"));
     EXPECT_EQ(hub.file("Games/Trivia/QuestionFiles/TriviaQuestions.lst"), "mine");
 }

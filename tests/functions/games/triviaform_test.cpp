@@ -545,8 +545,9 @@ TEST_F(TriviaQuestions, OpenStartsInTheGamesFolderAndACancelAddsNothing)
     const QString folder = scripts.path() + "/Morvaleth's Quillfen/Settings/Games/Trivia";
     ASSERT_TRUE(QDir().mkpath(folder));
     const SettingsFiles onDisk{hub.store, SettingsPaths(scripts.path().toStdString())};
-    const std::unique_ptr<EditorForm> form(makeForm(
-        {{"frmGamesTriviaQuestions", "Questions"}, {triviaQuestionsPart()}}, {onDisk, hub.profiles}));
+    const std::unique_ptr<EditorForm> form =
+        makeForm({{"frmGamesTriviaQuestions", "Questions"}, {OwnPart{OwnPartKind::TriviaQuestions}}}, makers,
+                 {onDisk, hub.profiles});
     form->open();
     const auto offered = test::offeredFiles([&form] { fileTool(*form, "OPEN").trigger(); });
     EXPECT_EQ(offered.folder, folder);

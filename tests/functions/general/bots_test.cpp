@@ -23,7 +23,7 @@ protected:
 
 TEST_F(Bots, AFreshBuildGivesEachGroupItsBot)
 {
-    buildBots(hub.files, hub.profiles);
+    buildFunction(botsFunction(), hub.files, hub.profiles);
     EXPECT_TRUE(sameBytes(
         settings, "tBotSettings = {\r\n\tbNotifyOps = 0,\r\n\ttEnabledProfiles = {\r\n\t\t[-1] = 0,\r\n"
                   "\t\t[0] = 0,\r\n\t},\r\n}\r\n"));
@@ -35,7 +35,7 @@ TEST_F(Bots, ARebuildKeepsSettingsAndLeavesTheBotsAlone)
     settings =
         "tBotSettings = {\r\n\tbNotifyOps = 1,\r\n\ttEnabledProfiles = {\r\n\t\t[-1] = 1,\r\n\t},\r\n}\r\n";
     hub.file("General/Bots/Bots.tbl") = "mine";
-    buildBots(hub.files, hub.profiles);
+    buildFunction(botsFunction(), hub.files, hub.profiles);
     EXPECT_TRUE(sameBytes(
         settings, "tBotSettings = {\r\n\tbNotifyOps = 1,\r\n\ttEnabledProfiles = {\r\n\t\t[-1] = 1,\r\n"
                   "\t\t[0] = 0,\r\n\t},\r\n}\r\n"));

@@ -469,8 +469,9 @@ TEST_P(LanguageForms, OpenStartsInTheSetsFolderAndACancelAddsNothing)
     const auto sets = languageSets();
     const auto set = std::find_if(sets.begin(), sets.end(),
                                   [this](const LanguageSet& each) { return each.form == words.form; });
-    const std::unique_ptr<EditorForm> form(
-        makeForm({{"frmLanguage", "Languages"}, {languagesPart(*set)}}, {onDisk, hub.profiles}));
+    const OwnPart part = {OwnPartKind::Languages, static_cast<std::size_t>(set - sets.begin())};
+    const std::unique_ptr<EditorForm> form =
+        makeForm({{"frmLanguage", "Languages"}, {part}}, makers, {onDisk, hub.profiles});
     form->open();
     const auto offered = test::offeredFiles([&form] { fileTool(*form, "OPEN").trigger(); });
     EXPECT_EQ(offered.folder, folder);

@@ -24,7 +24,7 @@ protected:
 
 TEST_F(General, AFreshBuildWritesTheDefaultsInItsOwnOrder)
 {
-    buildGeneralSettings(hub.files, hub.profiles);
+    buildFunction(generalSettingsFunction(), hub.files, hub.profiles);
     EXPECT_TRUE(sameBytes(settings, golden("general/GeneralSettings.build.tbl")));
 }
 
@@ -33,7 +33,7 @@ TEST_F(General, ARebuildKeepsWhatTheFormSavedButForAnEmptiedBorder)
     settings =
         "tGeneralSettings = {\r\n\tbAllowAllPrefixes = 0,\r\n\tbFlatRC = 1,\r\n\tbUnregRCEnable = 0,\r\n"
         "\tsBorder = \"\",\r\n\tsRightClickName = \"My menu\",\r\n\tsPrefix = \"%\",\r\n}\r\n";
-    buildGeneralSettings(hub.files, hub.profiles);
+    buildFunction(generalSettingsFunction(), hub.files, hub.profiles);
     EXPECT_TRUE(sameBytes(settings,
                           "tGeneralSettings = {\r\n\tbAllowAllPrefixes = 0,\r\n\tsPrefix = \"%\",\r\n"
                           "\tsRightClickName = \"My menu\",\r\n\tsBorder = \"\xBB\xAB\",\r\n"
@@ -42,8 +42,7 @@ TEST_F(General, ARebuildKeepsWhatTheFormSavedButForAnEmptiedBorder)
 
 TEST_F(General, AFreshBuildOfTheSwitchesHasAllOnButTwo)
 {
-    buildSwitches(hub.files, hub.profiles);
-    buildEnabledRightClicks(hub.files, hub.profiles);
+    buildFunction(switchesFunction(), hub.files, hub.profiles);
     EXPECT_TRUE(sameBytes(switches, golden("general/Switches.build.tbl")));
     EXPECT_TRUE(sameBytes(rightClicks, golden("general/EnabledRightClicks.build.tbl")));
 }
@@ -52,8 +51,7 @@ TEST_F(General, ARebuildResetsEverySwitchAndRemovesThePortals)
 {
     switches = "tSwitches = {\r\n\tbPortal = 1,\r\n\tbTopicChanger = 1,\r\n\tbMute = 0,\r\n}\r\n";
     rightClicks = "tEnabledRightClicks = {\r\n\tbTopicChanger = 1,\r\n}\r\n";
-    buildSwitches(hub.files, hub.profiles);
-    buildEnabledRightClicks(hub.files, hub.profiles);
+    buildFunction(switchesFunction(), hub.files, hub.profiles);
     EXPECT_TRUE(sameBytes(switches, golden("general/Switches.build.tbl")));
     EXPECT_TRUE(sameBytes(rightClicks, golden("general/EnabledRightClicks.build.tbl")));
 }

@@ -13,7 +13,7 @@ class AntiAdvertise : public test::SecurityFiles
 protected:
     std::string path(const char* name) { return std::string("AntiAdvertise/AntiAdvertise") + name + ".tbl"; }
     std::string& named(const char* name) { return file(path(name)); }
-    void build() { buildAntiAdvertise(hub.files, hub.profiles); }
+    void build() { buildFunction(antiAdvertiseFunction(), hub.files, hub.profiles); }
 };
 
 TEST_F(AntiAdvertise, AFreshBuildWritesTheDefaults)

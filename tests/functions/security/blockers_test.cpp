@@ -34,9 +34,9 @@ protected:
 
     void build()
     {
-        buildBadNickBlocker(hub.files, hub.profiles);
-        buildCloneBlocker(hub.files, hub.profiles);
-        buildAntiVirus(hub.files, hub.profiles);
+        buildFunction(badNickBlockerFunction(), hub.files, hub.profiles);
+        buildFunction(cloneBlockerFunction(), hub.files, hub.profiles);
+        buildFunction(antiVirusFunction(), hub.files, hub.profiles);
     }
 };
 

@@ -18,7 +18,7 @@ protected:
 TEST_F(ClientChecker, AFreshBuildWritesTheDefaults)
 {
     hub.store.files.clear();
-    buildClientChecker(hub.files, hub.profiles);
+    buildFunction(clientCheckerFunction(), hub.files, hub.profiles);
     EXPECT_TRUE(
         sameBytes(file("ClientChecker/ClientCheckerSettings.tbl"), golden("ClientChecker.build.tbl")));
     EXPECT_EQ(file("ClientChecker/ClientVersions.tbl"), "tClientVersions = {\r\n}\r\n");
@@ -28,7 +28,7 @@ TEST_F(ClientChecker, ARebuildKeepsAllButTheConnectionTypesWhichItResets)
 {
     settings = golden("ClientChecker.save.tbl");
     versions = golden("ClientVersions.save.tbl");
-    buildClientChecker(hub.files, hub.profiles);
+    buildFunction(clientCheckerFunction(), hub.files, hub.profiles);
     EXPECT_TRUE(sameBytes(settings, golden("ClientChecker.rebuild.tbl")));
     EXPECT_TRUE(sameBytes(versions, golden("ClientVersions.save.tbl")));
 }

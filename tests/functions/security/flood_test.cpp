@@ -15,17 +15,17 @@ protected:
 
 TEST_F(Flood, AFreshBuildAllowsNothing)
 {
-    buildFlood(hub.files, hub.profiles);
+    buildFunction(floodFunction(), hub.files, hub.profiles);
     EXPECT_TRUE(sameBytes(settings, golden("Flood.build.tbl")));
 }
 
 TEST_F(Flood, ARebuildKeepsEachValueAndGivesANewProfileNone)
 {
     settings = golden("Flood.save.tbl");
-    buildFlood(hub.files, hub.profiles);
+    buildFunction(floodFunction(), hub.files, hub.profiles);
     EXPECT_TRUE(sameBytes(settings, golden("Flood.save.tbl")));
     hub.profiles.add("Reg");
-    buildFlood(hub.files, hub.profiles);
+    buildFunction(floodFunction(), hub.files, hub.profiles);
     const auto values = luaValues(settings);
     EXPECT_EQ(values.size(), 25U);
     EXPECT_EQ(values.at("tFloodSettings.0.2"), "1");

@@ -21,7 +21,7 @@ protected:
 
 TEST_F(Kicks, AFreshBuildWritesTheSettingsInItsOwnOrder)
 {
-    buildKicks(hub.files, hub.profiles);
+    buildFunction(kicksFunction(), hub.files, hub.profiles);
     EXPECT_TRUE(
         sameBytes(hub.file("Security/Kick/KickSettings.tbl"), golden("security/KickSettings.build.tbl")));
 }
@@ -29,7 +29,7 @@ TEST_F(Kicks, AFreshBuildWritesTheSettingsInItsOwnOrder)
 TEST_F(Kicks, ARebuildKeepsWhatTheFormSaved)
 {
     hub.file("Security/Kick/KickSettings.tbl") = golden("security/KickSettings.save.tbl");
-    buildKicks(hub.files, hub.profiles);
+    buildFunction(kicksFunction(), hub.files, hub.profiles);
     EXPECT_TRUE(sameBytes(hub.file("Security/Kick/KickSettings.tbl"),
                           "tKickSettings = {\r\n\tiWarnsMakeKick = 6,\r\n\tiKicksMakeBan = 5,\r\n"
                           "\tiTimeBansMakeBan = 5,\r\n\tiKickBanTime = 10,\r\n\tbAnnounceNextArrival = 0,\r\n"
@@ -39,7 +39,7 @@ TEST_F(Kicks, ARebuildKeepsWhatTheFormSaved)
 
 TEST_F(Kicks, ABuildWritesItsFilesInOrder)
 {
-    buildKicks(hub.files, hub.profiles);
+    buildFunction(kicksFunction(), hub.files, hub.profiles);
     const std::string folder = "write " + hub.root + "/Security/Kick/";
     std::vector<std::string> expected;
     for (const char* name :
@@ -51,20 +51,20 @@ TEST_F(Kicks, ABuildWritesItsFilesInOrder)
 
 TEST_F(Kicks, ContentIsMadeOnlyWhereItIsMissing)
 {
-    buildKicks(hub.files, hub.profiles);
+    buildFunction(kicksFunction(), hub.files, hub.profiles);
     EXPECT_EQ(hub.file("Security/Kick/KickAscii.asc"), "!victim!: !reason!\r\n");
     EXPECT_EQ(hub.file("Security/Kick/Logs/KickerLog.tbl"), "tKickerLog = {\r\n}\r\n");
     EXPECT_EQ(hub.file("Security/Kick/Logs/KickLog.tbl"), "tKickLog = {\r\n}\r\n");
     for (const char* name : {"KickAscii.asc", "Logs/KickerLog.tbl", "Logs/KickLog.tbl"})
         hub.file(std::string("Security/Kick/") + name) = "mine";
-    buildKicks(hub.files, hub.profiles);
+    buildFunction(kicksFunction(), hub.files, hub.profiles);
     for (const char* name : {"KickAscii.asc", "Logs/KickerLog.tbl", "Logs/KickLog.tbl"})
         EXPECT_EQ(hub.file(std::string("Security/Kick/") + name), "mine");
 }
 
 TEST_F(Kicks, ABuiltGridIsAFullSquareOfZeroes)
 {
-    buildKicks(hub.files, hub.profiles);
+    buildFunction(kicksFunction(), hub.files, hub.profiles);
     EXPECT_TRUE(sameBytes(hub.file("Security/Kick/KickCanTempBan.tbl"),
                           "tKickCanTempBan = {\r\n\t[-1] = {\r\n\t\t[-1] = 0,\r\n\t\t[0] = 0,\r\n\t},\r\n"
                           "\t[0] = {\r\n\t\t[-1] = 0,\r\n\t\t[0] = 0,\r\n\t},\r\n}\r\n"));
@@ -75,7 +75,7 @@ TEST_F(Kicks, ARebuildWithANewProfileKeepsOldCellsAndLeavesTheFormsTimeBansAlone
     hub.file("Security/Kick/KickCanDrop.tbl") =
         "tKickCanDrop = {\r\n\t[-1] = {\r\n\t\t[-1] = 1,\r\n\t},\r\n}\r\n";
     hub.file("Security/Kick/KickCanTimeBan.tbl") = "the form's own square";
-    buildKicks(hub.files, hub.profiles);
+    buildFunction(kicksFunction(), hub.files, hub.profiles);
     EXPECT_TRUE(sameBytes(hub.file("Security/Kick/KickCanDrop.tbl"),
                           "tKickCanDrop = {\r\n\t[-1] = {\r\n\t\t[-1] = 1,\r\n\t\t[0] = 0,\r\n\t},\r\n"
                           "\t[0] = {\r\n\t\t[-1] = 0,\r\n\t\t[0] = 0,\r\n\t},\r\n}\r\n"));
@@ -100,7 +100,7 @@ TEST_F(Kicks, TheFormsTimeBansAreAnotherFileThanTheBuildsTempBans)
 
 TEST_F(Kicks, TheHubScriptSeesSettingsAndGrid)
 {
-    buildKicks(hub.files, hub.profiles);
+    buildFunction(kicksFunction(), hub.files, hub.profiles);
     const auto settings = test::luaValues(hub.file("Security/Kick/KickSettings.tbl"));
     EXPECT_EQ(settings.size(), 10U);
     EXPECT_EQ(settings.at("tKickSettings.iCleanerTime"), "2355");

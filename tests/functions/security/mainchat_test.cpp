@@ -17,9 +17,9 @@ protected:
 
     void build()
     {
-        buildMainBlock(hub.files, hub.profiles);
-        buildMainLock(hub.files, hub.profiles);
-        buildMainCleaner(hub.files, hub.profiles);
+        buildFunction(mainBlockFunction(), hub.files, hub.profiles);
+        buildFunction(mainLockFunction(), hub.files, hub.profiles);
+        buildFunction(mainCleanerFunction(), hub.files, hub.profiles);
     }
 };
 

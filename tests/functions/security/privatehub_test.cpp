@@ -15,14 +15,14 @@ protected:
 
 TEST_F(PrivateHub, AFreshBuildWritesTheDefaults)
 {
-    buildPrivateHub(hub.files, hub.profiles);
+    buildFunction(privateHubFunction(), hub.files, hub.profiles);
     EXPECT_TRUE(sameBytes(settings, golden("PrivateHub.build.tbl")));
 }
 
 TEST_F(PrivateHub, ARebuildLosesTheAddressAndTheRestrictionsAndKeepsTheLists)
 {
     settings = golden("PrivateHub.save.tbl");
-    buildPrivateHub(hub.files, hub.profiles);
+    buildFunction(privateHubFunction(), hub.files, hub.profiles);
     EXPECT_TRUE(sameBytes(settings, golden("PrivateHub.rebuild.tbl")));
 }
 
@@ -30,7 +30,7 @@ TEST_F(PrivateHub, AHubWritesFiveLinesForEachProfile)
 {
     for (int more = 0; more < 60; ++more)
         hub.profiles.add("Profile " + std::to_string(more));
-    buildPrivateHub(hub.files, hub.profiles);
+    buildFunction(privateHubFunction(), hub.files, hub.profiles);
     EXPECT_EQ(luaValues(settings).size(), 5U * 64 + 3);
 }
 

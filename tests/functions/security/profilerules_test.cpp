@@ -14,7 +14,7 @@ class ProfileRules : public test::SecurityFiles
 {
 protected:
     std::string& named(const std::string& name) { return file("ProfileRules/ProfileRule" + name + ".tbl"); }
-    void build() { buildProfileRules(hub.files, hub.profiles); }
+    void build() { buildFunction(profileRulesFunction(), hub.files, hub.profiles); }
 };
 
 TEST_F(ProfileRules, AFreshBuildLeavesTheDelayWithoutValueAndTheTextsEmpty)

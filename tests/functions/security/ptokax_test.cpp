@@ -15,14 +15,14 @@ protected:
 
 TEST_F(PtokaX, AFreshBuildTicksNoProfile)
 {
-    buildPtokaXSettings(hub.files, hub.profiles);
+    buildFunction(ptokaXSettingsFunction(), hub.files, hub.profiles);
     EXPECT_TRUE(sameBytes(settings, golden("PtokaX.build.tbl")));
 }
 
 TEST_F(PtokaX, ARebuildKeepsWhatTheFormSaved)
 {
     settings = golden("PtokaX.save.tbl");
-    buildPtokaXSettings(hub.files, hub.profiles);
+    buildFunction(ptokaXSettingsFunction(), hub.files, hub.profiles);
     EXPECT_TRUE(sameBytes(settings, golden("PtokaX.save.tbl")));
 }
 

@@ -12,7 +12,7 @@ class Registration : public test::SecurityFiles
 {
 protected:
     std::string& named(const std::string& name) { return file("Registration/Registration" + name + ".tbl"); }
-    void build() { buildRegistration(hub.files, hub.profiles); }
+    void build() { buildFunction(registrationFunction(), hub.files, hub.profiles); }
 
     const std::vector<std::string> tables = {"Add", "ChangePassword", "Delete", "GetPassword"};
 };

@@ -15,14 +15,14 @@ protected:
 
 TEST_F(Report, AFreshBuildTicksNoProfile)
 {
-    buildReport(hub.files, hub.profiles);
+    buildFunction(reportFunction(), hub.files, hub.profiles);
     EXPECT_TRUE(sameBytes(settings, golden("Report.build.tbl")));
 }
 
 TEST_F(Report, ARebuildKeepsWhatTheFormSaved)
 {
     settings = golden("Report.save.tbl");
-    buildReport(hub.files, hub.profiles);
+    buildFunction(reportFunction(), hub.files, hub.profiles);
     EXPECT_TRUE(sameBytes(settings, golden("Report.save.tbl")));
 }
 

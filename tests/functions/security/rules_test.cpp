@@ -10,7 +10,7 @@ class Rules : public test::SecurityFiles
 
 TEST_F(Rules, ABuildMakesAnEmptyTextForEachProfile)
 {
-    buildRules(hub.files, hub.profiles);
+    buildFunction(rulesFunction(), hub.files, hub.profiles);
     EXPECT_EQ(hub.store.files.size(), 4U);
     for (const char* key : {"-1", "0", "1", "2"})
         EXPECT_EQ(file(std::string("Rules/Ascii/") + key + ".asc"), "\r\n")
@@ -20,7 +20,7 @@ TEST_F(Rules, ABuildMakesAnEmptyTextForEachProfile)
 TEST_F(Rules, ABuildLeavesWhatIsThere)
 {
     file("Rules/Ascii/0.asc") = "Be kind";
-    buildRules(hub.files, hub.profiles);
+    buildFunction(rulesFunction(), hub.files, hub.profiles);
     EXPECT_EQ(file("Rules/Ascii/0.asc"), "Be kind");
     EXPECT_EQ(hub.store.log.size(), 3U);
 }

@@ -16,8 +16,8 @@ protected:
 
     void build()
     {
-        buildCommandSpy(hub.files, hub.profiles);
-        buildSearchSpy(hub.files, hub.profiles);
+        buildFunction(commandSpyFunction(), hub.files, hub.profiles);
+        buildFunction(searchSpyFunction(), hub.files, hub.profiles);
     }
 };
 

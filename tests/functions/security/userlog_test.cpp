@@ -11,7 +11,7 @@ class UserLog : public test::SecurityFiles
 {
 protected:
     std::string& settings = file("UserLog/UserLogSettings.tbl");
-    void build() { buildUserLog(hub.files, hub.profiles); }
+    void build() { buildFunction(userLogFunction(), hub.files, hub.profiles); }
 };
 
 TEST_F(UserLog, AFreshBuildWritesTheDefaultsAndTheScriptsEmptyTables)

@@ -1,3 +1,4 @@
+#include "declarations/rebuild.h"
 #include "functions/catalogue.h"
 #include "functions/useractions/actiontexts.h"
 #include "support/golden.h"
@@ -19,9 +20,9 @@ class ActionTexts : public testing::Test
 protected:
     void build()
     {
-        buildInsults(hub.files, hub.profiles);
-        buildAttacks(hub.files, hub.profiles);
-        buildDoActions(hub.files, hub.profiles);
+        buildFunction(insultsFunction(), hub.files, hub.profiles);
+        buildFunction(attacksFunction(), hub.files, hub.profiles);
+        buildFunction(doActionsFunction(), hub.files, hub.profiles);
     }
 
     test::Hub hub{"UserActions/Insults", "UserActions/Attacks", "UserActions/DoAction"};

@@ -30,7 +30,7 @@ protected:
 
 TEST_F(Ascii, AFreshBuildWritesTheRightClicksBeforeTheProfilesAndAnEmptyIndex)
 {
-    buildAscii(hub.files, hub.profiles);
+    buildFunction(asciiFunction(), hub.files, hub.profiles);
     EXPECT_TRUE(sameBytes(settings, golden("useractions/AsciiSettings.build.tbl")));
     EXPECT_TRUE(
         sameBytes(hub.file("UserActions/Ascii/AsciiIndex.tbl"), golden("useractions/AsciiIndex.build.tbl")));
@@ -40,7 +40,7 @@ TEST_F(Ascii, ARebuildKeepsValuesAndTheIndexAndPutsTheRightClicksFirst)
 {
     settings = golden("useractions/AsciiSettings.save.tbl");
     hub.file("UserActions/Ascii/AsciiIndex.tbl") = "the owner's";
-    buildAscii(hub.files, hub.profiles);
+    buildFunction(asciiFunction(), hub.files, hub.profiles);
     EXPECT_TRUE(sameBytes(settings,
                           "tAsciiSettings = {\r\n\tbInMain = 0,\r\n\tbInMainGlobal = 1,\r\n"
                           "\tbEnableNoCommand = 0,\r\n\ttEnabledRC = {\r\n\t\t[-1] = 1,\r\n\t\t[0] = 0,\r\n"
@@ -65,11 +65,11 @@ TEST_F(Ascii, AnEmptyIndexIsItsOpeningLineAndItsBrace)
 
 TEST_F(Ascii, TheCalculatorIsBuiltWithNobodyAndKeepsWhoMayCalculate)
 {
-    buildCalculator(hub.files, hub.profiles);
+    buildFunction(calculatorFunction(), hub.files, hub.profiles);
     EXPECT_TRUE(sameBytes(calculator, golden("useractions/CalculatorSettings.build.tbl")));
     calculator = golden("useractions/CalculatorSettings.save.tbl");
     hub.profiles.add("Reg");
-    buildCalculator(hub.files, hub.profiles);
+    buildFunction(calculatorFunction(), hub.files, hub.profiles);
     EXPECT_TRUE(sameBytes(calculator, "tCalculatorSettings = {\r\n\ttEnabledProfiles = {\r\n\t\t[-1] = 0,\r\n"
                                       "\t\t[0] = 1,\r\n\t\t[1] = 0,\r\n\t\t[2] = 1,\r\n\t\t[3] = 0,\r\n"
                                       "\t},\r\n}\r\n"));

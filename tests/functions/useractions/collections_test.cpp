@@ -16,7 +16,7 @@ using test::sameBytes;
 struct Member
 {
     const Collection& collection;
-    void (*build)(const SettingsFiles&, const HubProfiles&);
+    FunctionDeclaration (*function)();
     std::string word;
     std::string delay;
     std::string firstText;
@@ -25,13 +25,13 @@ struct Member
 const std::vector<Member>& members()
 {
     static const std::vector<Member> all = {
-        {jokes(), buildJokes, "Joke", "103", "Cannot find REALITY.SYS. Universe halted"},
-        {limericks(), buildLimericks, "Limerick", "93",
+        {jokes(), jokesFunction, "Joke", "103", "Cannot find REALITY.SYS. Universe halted"},
+        {limericks(), limericksFunction, "Limerick", "93",
          "There once was an old man of Esser,|Whose knowledge grew lesser and lesser,|It at last grew so "
          "small|He knew nothing at all,|And now he's a college professor."},
-        {proverbs(), buildProverbs, "Proverb", "73",
+        {proverbs(), proverbsFunction, "Proverb", "73",
          "A lie can be halfway around the world before the truth gets its boots on"},
-        {quotations(), buildQuotations, "Quotation", "89",
+        {quotations(), quotationsFunction, "Quotation", "89",
          "Experience has taught me that you feel better on a flight if you avoid chicken fat in plastic "
          "sauce.|Tavis Orlemon on the joys of travelling the world by plane"},
     };
@@ -58,7 +58,7 @@ protected:
 TEST_F(Collections, AFreshBuildWritesTheDefaultsAndOneText)
 {
     for (const Member& member : members()) {
-        member.build(hub.files, hub.profiles);
+        buildFunction(member.function(), hub.files, hub.profiles);
         EXPECT_TRUE(sameBytes(file(member, "Settings.tbl"), goldenOf(member, "Settings.build.tbl")));
         EXPECT_TRUE(sameBytes(file(member, "s.tbl"), goldenOf(member, "s.build.tbl")));
     }
@@ -71,7 +71,7 @@ TEST_F(Collections, ARebuildKeepsValuesAndTextsAndFillsWhatIsMissing)
         file(member, "Settings.tbl") =
             table + "Settings = {\r\n\tbSendToAll = 0,\r\n\tiDelay = 5,\r\n\tiGone = 1,\r\n}\r\n";
         file(member, "s.tbl") = "the owner's";
-        member.build(hub.files, hub.profiles);
+        buildFunction(member.function(), hub.files, hub.profiles);
         EXPECT_TRUE(sameBytes(file(member, "Settings.tbl"),
                               table + "Settings = {\r\n\tbManualControl = 0,\r\n\tiDelay = 5,\r\n"
                                       "\tbSendToAll = 0,\r\n}\r\n"));

@@ -24,8 +24,8 @@ protected:
 
     void build()
     {
-        buildSpells(hub.files, hub.profiles);
-        buildNickSpells(hub.files, hub.profiles);
+        buildFunction(spellsFunction(), hub.files, hub.profiles);
+        buildFunction(nickSpellsFunction(), hub.files, hub.profiles);
     }
 
     test::Hub hub{"UserActions/Spells", "UserActions/Spells/Spells", "UserActions/NickSpells",

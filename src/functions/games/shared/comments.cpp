@@ -21,9 +21,4 @@ RowListDeclaration commentList(const CommentList& comments)
     return list;
 }
 
-void makeComments(const SettingsFiles& files, const CommentList& comments, const std::string& row)
-{
-    writeIfMissing(files, comments.file.path, composedList(comments.file, {{row}}));
-}
-
 } // namespace quillfen

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "settings/listdeclaration.h"
+#include "declarations/listdeclaration.h"
 #include "settings/listfile.h"
 
 #include <string>
@@ -19,8 +19,5 @@ struct CommentList
 };
 
 RowListDeclaration commentList(const CommentList& comments);
-
-/// The rebuild's way: a list that is missing is made with one row. Throws StoreError.
-void makeComments(const SettingsFiles& files, const CommentList& comments, const std::string& row);
 
 } // namespace quillfen

@@ -119,12 +119,17 @@ Setting oneCharacter(const std::string& key, const std::string& label, const std
     return setting;
 }
 
-void makeScoreFiles(const SettingsFiles& files, const std::string& folder, const std::string& game)
+FunctionDeclaration quizFunction(const std::string& folder, const std::string& game,
+                                 std::function<TableFile()> settings)
 {
-    const std::string path = "Games\\" + folder + "\\" + game;
-    writeEmptyTableIfMissing(files, path + "Players.tbl", "t" + game + "Players");
-    writeEmptyTableIfMissing(files, path + "ScoresArchiveIndex.tbl", "t" + game + "ScoresArchiveIndex");
-    writeIfMissing(files, path + "Scores.tbl", TableWriter("t" + game + "Scores").line("n=0").closed());
+    const std::string path = "Games\\" + folder;
+    const std::string file = path + "\\" + game;
+    return {
+        .folders = {path, path + "\\ScoresArchive"},
+        .build = {RebuiltSettings{std::move(settings)},
+                  EmptyTable{file + "Players.tbl", "t" + game + "Players"},
+                  EmptyTable{file + "ScoresArchiveIndex.tbl", "t" + game + "ScoresArchiveIndex"},
+                  FirstText{file + "Scores.tbl", TableWriter("t" + game + "Scores").line("n=0").closed()}}};
 }
 
 } // namespace quillfen

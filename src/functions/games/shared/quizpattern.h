@@ -1,8 +1,8 @@
 #pragma once
 
-#include "settings/declaration.h"
-#include "settings/tablefile.h"
+#include "declarations/function.h"
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -37,8 +37,9 @@ inline constexpr const char* hintBullet = "\x95";
 /// A box of one character, txtTextBox(0) in every game.
 Setting oneCharacter(const std::string& key, const std::string& label, const std::string& standard);
 
-/// The rebuild's way with a game's players, scores and archive of scores: each that is missing is made, with
-/// nothing in it. Throws StoreError.
-void makeScoreFiles(const SettingsFiles& files, const std::string& folder, const std::string& game);
+/// A game's folders and its build: the settings, and its players, scores and archive of scores, with nothing
+/// in them.
+FunctionDeclaration quizFunction(const std::string& folder, const std::string& game,
+                                 std::function<TableFile()> settings);
 
 } // namespace quillfen

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "settings/listdeclaration.h"
+#include "declarations/listdeclaration.h"
 #include "settings/tablefile.h"
 
 #include <string>

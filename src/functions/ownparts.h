@@ -4,7 +4,7 @@
 
 namespace quillfen {
 
-/// The forms of this group, by name.
-FormCatalogue generalForms();
+/// The makers of all parts that differ from the kit's.
+PartMakers partMakers();
 
 } // namespace quillfen

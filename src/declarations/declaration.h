@@ -1,6 +1,6 @@
 #pragma once
 
-#include "settings/setting.h"
+#include "declarations/setting.h"
 
 #include <string>
 #include <unordered_map>

@@ -1,4 +1,4 @@
-#include "settings/declaration.h"
+#include "declarations/declaration.h"
 #include "settings/tablewriter.h"
 #include "support/hub.h"
 

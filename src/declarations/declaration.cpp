@@ -1,4 +1,4 @@
-#include "settings/declaration.h"
+#include "declarations/declaration.h"
 
 #include "settings/profiles.h"
 #include "settings/tablefile.h"
@@ -252,8 +252,8 @@ void saveTableFile(const TableFile& file, const SettingValues& values, const Set
                    const HubProfiles& profiles)
 {
     const std::string folder = files.paths().resolve(file.path.substr(0, file.path.find_last_of('\\')));
-    if (file.makesFolder && !files.store().exists(folder))
-        files.store().makeFolder(folder);
+    if (file.makesFolder)
+        makeFolderIfMissing(files.store(), folder);
     files.WriteSettingsFile(file.path, composed(file, values, RowOrder::Save, profiles));
 }
 

@@ -1,29 +1,16 @@
 #pragma once
 
+#include "declarations/function.h"
 #include "settings/filestore.h"
 
 #include <functional>
 #include <string>
 #include <string_view>
-#include <vector>
 
 namespace quillfen {
 
 class HubProfiles;
 class SettingsFiles;
-
-/// Writes the files of one function. Throws StoreError.
-using BuildRoutine = void (*)(const SettingsFiles& files, const HubProfiles& profiles);
-
-/// A step of the build: folders below the settings root, each made if it is missing, and behind them the
-/// routines that fill them.
-struct CatalogueRow
-{
-    std::vector<std::string_view> folders;
-    std::vector<BuildRoutine> routines{};
-};
-
-using FolderCatalogue = std::vector<CatalogueRow>;
 
 /// The question that comes before a rebuild.
 struct RebuildQuestion

@@ -1,4 +1,4 @@
-#include "settings/setting.h"
+#include "declarations/setting.h"
 
 #include <utility>
 

@@ -1,4 +1,4 @@
-#include "settings/rebuild.h"
+#include "declarations/rebuild.h"
 
 #include "settings/profiles.h"
 #include "settings/tablefile.h"
@@ -10,30 +10,19 @@ namespace {
 constexpr std::string_view versionFile = R"(General\Globals\Version.tbl)";
 constexpr std::string_view savedProfileFile = R"(General\PtokaX\Profiles.xml)";
 
-void makeIfMissing(FileStore& store, const std::string& folder)
-{
-    if (!store.exists(folder))
-        store.makeFolder(folder);
-}
-
 void makeNewsFolders(const SettingsFiles& files)
 try {
     for (const auto* folder : {"Morvaleth's Scripts", R"(Morvaleth's Scripts\News)"})
-        makeIfMissing(files.store(), files.paths().inProgramFolder(folder));
+        makeFolderIfMissing(files.store(), files.paths().inProgramFolder(folder));
 } catch (const StoreError& error) {
     throw NoNewsFolder(error.path(), error.reason());
 }
 
-void build(const Reconciliation& start, const HubProfiles& profiles)
+void buildTree(const Reconciliation& start, const HubProfiles& profiles)
 {
-    const auto& paths = start.files.paths();
-    makeIfMissing(start.files.store(), paths.settingsRoot());
-    for (const CatalogueRow& row : start.catalogue) {
-        for (const auto folder : row.folders)
-            makeIfMissing(start.files.store(), paths.inSettings(folder));
-        for (const BuildRoutine routine : row.routines)
-            routine(start.files, profiles);
-    }
+    makeFolderIfMissing(start.files.store(), start.files.paths().settingsRoot());
+    for (const FunctionDeclaration& function : start.catalogue)
+        buildFunction(function, start.files, profiles);
     start.files.WriteSettingsFile(versionFile,
                                   TableWriter("tVersion").text("sVersion", start.version).closed());
 }
@@ -56,7 +45,7 @@ StartResult CheckSettingsRebuild(const Reconciliation& start, char rebuildCase, 
         return StartResult::Current;
     if (!start.confirm(forVersion ? versionQuestion : profileQuestion))
         return StartResult::Refused;
-    build(start, profiles);
+    buildTree(start, profiles);
     return StartResult::Rebuilt;
 }
 

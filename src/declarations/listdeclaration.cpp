@@ -1,4 +1,4 @@
-#include "settings/listdeclaration.h"
+#include "declarations/listdeclaration.h"
 
 #include "settings/listfile.h"
 

@@ -1,0 +1,53 @@
+#include "declarations/function.h"
+
+namespace quillfen {
+namespace {
+
+/// Runs each kind of step.
+struct StepRunner
+{
+    const SettingsFiles& files;
+    const HubProfiles& profiles;
+
+    void operator()(const RebuiltSettings& settings) const
+    {
+        rebuildTableFile(settings.file(), files, profiles);
+    }
+
+    void operator()(const RebuiltGrid& grid) const
+    {
+        rebuildGridFile(grid.command, grid.firstProfile, files, profiles);
+    }
+
+    void operator()(const EmptyTable& empty) const
+    {
+        writeEmptyTableIfMissing(files, empty.path, empty.table);
+    }
+
+    void operator()(const FirstText& first) const { writeIfMissing(files, first.path, first.text); }
+
+    void operator()(BuildRoutine routine) const { routine(files, profiles); }
+};
+
+} // namespace
+
+EmptyTable emptyTable(const ListFile& file)
+{
+    return {file.path, file.table};
+}
+
+FirstText firstRows(const ListFile& file, const std::vector<ListRow>& rows)
+{
+    return {file.path, composedList(file, rows)};
+}
+
+void buildFunction(const FunctionDeclaration& function, const SettingsFiles& files,
+                   const HubProfiles& profiles)
+{
+    for (const std::string& folder : function.folders)
+        makeFolderIfMissing(files.store(), files.paths().inSettings(folder));
+    for (const BuildStep& step : function.build)
+        std::visit(StepRunner{files, profiles}, step);
+}
+
+} // namespace quillfen
