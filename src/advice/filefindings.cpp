@@ -2,6 +2,7 @@
 
 #include "advice/notloading.h"
 #include "functions/games/trivia.h"
+#include "functions/security/clientchecker.h"
 #include "lua/tablereader.h"
 #include "settings/lines.h"
 #include "settings/tablefile.h"
@@ -22,6 +23,10 @@ constexpr std::string_view endsWords = "the text begins or ends with a blank, a 
                                        "out.";
 constexpr std::string_view bracketWords =
     "the text begins with [ or ends with ], which the next load takes away. Use other brackets.";
+constexpr std::string_view equalsWords = "the text holds a =, and the editor shows only what stands before "
+                                         "it. Take it out, or the next save does.";
+constexpr std::string_view caretWords = "the version holds a ^, and the editor shows only what stands before "
+                                        "it. Take it out, or the next save does.";
 constexpr std::string_view tooLongWords =
     "the text has more than 5,000 lines, so that the editor shows nothing of it. Take lines out.";
 constexpr std::string_view starWords =
@@ -48,6 +53,7 @@ private:
     bool isKnown(lua::Fault fault) const;
     void takeTexts();
     void takeTextsOf(std::string_view line, std::size_t number);
+    bool isCutAtEquals(std::string_view line) const;
     void takeRows();
     void takeLength();
 
@@ -140,6 +146,19 @@ void FileFindings::takeTextsOf(std::string_view line, std::size_t number)
         add(number, endsWords);
     else if (row && trimmedTableKey(*text) != *text)
         add(number, bracketWords);
+    else if (!row && isCutAtEquals(line) && text->find('=') != std::string_view::npos)
+        add(number, equalsWords);
+    else if (m_file == clientVersionsFile && std::count(text->begin(), text->end(), '^') > 1)
+        add(number, caretWords);
+}
+
+/// Keys in brackets and quotes are rows of lists, whose reader splits a line at each `=`, as it does in the
+/// language files.
+bool FileFindings::isCutAtEquals(std::string_view line) const
+{
+    while (line.starts_with('\t') || line.starts_with(' '))
+        line.remove_prefix(1);
+    return line.starts_with("[\"") || m_file.starts_with("Language\\");
 }
 
 void FileFindings::takeRows()

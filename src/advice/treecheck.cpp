@@ -10,43 +10,91 @@
 namespace quillfen {
 namespace {
 
-constexpr std::string_view unreadableWords =
-    "the file can't be read, and the editor shows defaults for it. See to who may read it.";
+constexpr const char* unreadableWords =
+    "the file can't be read, and the editor shows zeros and empty texts for it. See to who may read it.";
+constexpr const char* missingWords =
+    "the file is missing, and the editor shows zeros and empty texts for it. Restore it and save its form.";
 
-std::vector<Finding> findingsOf(const SettingsFiles& files, const std::string& file)
+/// The file that a step of the build makes; empty for a routine, which may make several or none.
+struct PathOf
 {
-    const auto bytes = files.store().read(files.paths().inSettings(file));
-    return bytes ? fileFindings(file, *bytes) : std::vector{Finding{file, 0, std::string(unreadableWords)}};
+    std::string operator()(const RebuiltSettings& step) const { return step.file().path; }
+    std::string operator()(const RebuiltGrid& step) const { return step.command.path; }
+    std::string operator()(const EmptyTable& step) const { return step.path; }
+    std::string operator()(const FirstText& step) const { return step.path; }
+    std::string operator()(BuildRoutine /*step*/) const { return {}; }
+};
+
+/// Looks at one settings tree.
+class TreeCheck
+{
+public:
+    explicit TreeCheck(const SettingsFiles& files) : m_files(files) {}
+
+    std::vector<Finding> take();
+
+private:
+    bool exists(const std::string& file) const
+    {
+        return m_files.store().exists(m_files.paths().inSettings(file));
+    }
+
+    void takeFolder(const std::string& folder);
+    void takeFile(const std::string& file);
+    void takeMissing(const FunctionDeclaration& function);
+
+    const SettingsFiles& m_files;
+    std::vector<Finding> m_findings{};
+};
+
+std::vector<Finding> TreeCheck::take()
+{
+    for (const FunctionDeclaration& function : folderCatalogue()) {
+        for (const std::string& folder : function.folders)
+            takeFolder(folder);
+        takeMissing(function);
+    }
+    return std::move(m_findings);
 }
 
-std::vector<std::string> treeFolders()
+void TreeCheck::takeFolder(const std::string& folder)
 {
-    std::vector<std::string> folders;
-    for (const FunctionDeclaration& function : folderCatalogue())
-        folders.insert(folders.end(), function.folders.begin(), function.folders.end());
-    return folders;
+    for (const std::string& name : m_files.fileNames(folder))
+        takeFile(folder + '\\' + name);
+}
+
+void TreeCheck::takeFile(const std::string& file)
+{
+    const auto bytes = m_files.store().read(m_files.paths().inSettings(file));
+    auto found = bytes ? fileFindings(file, *bytes) : std::vector<Finding>{{file, 0, unreadableWords}};
+    std::move(found.begin(), found.end(), std::back_inserter(m_findings));
+}
+
+void TreeCheck::takeMissing(const FunctionDeclaration& function)
+{
+    for (const BuildStep& step : function.build) {
+        std::string file = std::visit(PathOf(), step);
+        if (!file.empty() && !exists(file))
+            m_findings.push_back({std::move(file), 0, missingWords});
+    }
 }
 
 } // namespace
 
 bool hasTree(const SettingsFiles& files)
 {
-    const auto folders = treeFolders();
-    return std::any_of(folders.begin(), folders.end(), [&files](const std::string& folder) {
-        return files.store().exists(files.paths().inSettings(folder));
+    const auto& catalogue = folderCatalogue();
+    return std::any_of(catalogue.begin(), catalogue.end(), [&files](const FunctionDeclaration& function) {
+        return std::any_of(function.folders.begin(), function.folders.end(),
+                           [&files](const std::string& folder) {
+                               return files.store().exists(files.paths().inSettings(folder));
+                           });
     });
 }
 
 std::vector<Finding> checkTree(const SettingsFiles& files)
 {
-    std::vector<Finding> findings;
-    for (const std::string& folder : treeFolders()) {
-        for (const std::string& name : files.fileNames(folder)) {
-            auto found = findingsOf(files, folder + '\\' + name);
-            std::move(found.begin(), found.end(), std::back_inserter(findings));
-        }
-    }
-    return findings;
+    return TreeCheck(files).take();
 }
 
 } // namespace quillfen
