@@ -2,7 +2,9 @@
 
 #include "settings/binaryprofiles.h"
 #include "settings/lines.h"
-#include "settings/tablefile.h"
+#include "settings/filestore.h"
+#include "settings/paths.h"
+#include "settings/tabletrim.h"
 
 #include <algorithm>
 #include <optional>

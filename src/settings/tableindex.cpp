@@ -1,6 +1,6 @@
 #include "settings/tableindex.h"
 
-#include "settings/tablefile.h"
+#include "settings/tabletrim.h"
 
 #include <algorithm>
 

@@ -1,5 +1,5 @@
 #include "settings/lines.h"
-#include "settings/tablefile.h"
+#include "settings/tabletrim.h"
 
 #include <gtest/gtest.h>
 
