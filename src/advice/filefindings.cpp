@@ -78,23 +78,25 @@ std::vector<Finding> FileFindings::take()
 void FileFindings::takeTable()
 {
     const auto in51 = lua::readTables(m_bytes, lua::Version::Lua51);
-    takeReading(in51, "the file won't load: ");
+    takeReading(in51, "the file ");
     if (in51.loads())
-        takeReading(lua::readTables(m_bytes, lua::Version::Lua53),
-                    "a hub with Lua 5.3 won't load the file: ");
-    const bool has53Fault = !m_findings.empty();
+        takeReading(lua::readTables(m_bytes, lua::Version::Lua53), "with Lua 5.3 the file ");
+    const std::size_t toldLine = m_findings.empty() ? 0 : m_findings.front().line;
     for (const lua::Note& note : in51.notes) {
-        if (has53Fault && note.line == m_findings.front().line)
-            continue; // told already
-        add(note.line, note.oddity == lua::Oddity::Backslash ? backslashWords : bareWordWords);
+        if (note.line != toldLine)
+            add(note.line, note.oddity == lua::Oddity::Backslash ? backslashWords : bareWordWords);
     }
     takeTexts();
 }
 
 void FileFindings::takeReading(const lua::Reading& reading, std::string_view what)
 {
-    if (!reading.loads() && !isKnown(reading.fault))
-        add(reading.line, std::string(what).append(lua::words(reading.fault)));
+    if (reading.loads() || isKnown(reading.fault))
+        return;
+    const bool fails = reading.verdict == lua::Verdict::Fails;
+    add(reading.line, std::string(what)
+                          .append(fails ? "won't load: " : "may not load: ")
+                          .append(lua::words(reading.fault)));
 }
 
 bool FileFindings::isKnown(lua::Fault fault) const

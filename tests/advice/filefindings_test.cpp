@@ -48,10 +48,16 @@ TEST(FileFindings, NameTheLineThatKeepsAFileFromLoading)
     EXPECT_EQ(found("t = {\r\n\tiNumber = ,\r\n}\r\n"), at(2, "the file won't load: there is no value"));
 }
 
+TEST(FileFindings, DoNotSayThatAFileFailsWhichOnlyAProgramCouldTell)
+{
+    EXPECT_EQ(found("t = {\r\n\tsText = \"a\"..\"b\",\r\n}\r\n"),
+              at(2, "the file may not load: a quote inside the text ends it there"));
+}
+
 TEST(FileFindings, TellWhatLua53AloneRefuses)
 {
     EXPECT_EQ(found("t = {\r\n\tsText = \"C:\\games\",\r\n}\r\n"),
-              at(2, "a hub with Lua 5.3 won't load the file: a backslash stands before a character that it "
+              at(2, "with Lua 5.3 the file won't load: a backslash stands before a character that it "
                     "doesn't go with"));
 }
 

@@ -113,7 +113,7 @@ TEST_F(TreeCheck, FindsEachOfTwelveFaultsWhereItStands)
             R"(Communication\Clock\ClockSettings.tbl:0: the file is missing, and the editor shows zeros and empty texts for it)",
             R"(Communication\MOTD\MOTDs\long.txt:5001: the text has more than 5,000 lines, so that the editor shows nothing of it)",
             R"(Games\RussianRoulette\RussianRouletteDie.tbl:2: the text begins or ends with a blank, a tab, a comma or a quote, which the next load takes away)",
-            R"(Games\RussianRoulette\RussianRouletteLive.tbl:2: a hub with Lua 5.3 won't load the file: a backslash stands before a character that it doesn't go with)",
+            R"(Games\RussianRoulette\RussianRouletteLive.tbl:2: with Lua 5.3 the file won't load: a backslash stands before a character that it doesn't go with)",
             R"(Games\SlotMachine\SlotMachineSettings.tbl:4: the file won't load: what begins with a digit here is no number)",
             R"(Games\ThreeCardMonty\ThreeCardMontySettings.tbl:3: a word without quotes is nothing to the hub script)",
             R"(Games\ThreeCardMonty\ThreeCardMontyWin.tbl:1: the file won't load: the table that opens here is never closed)",
