@@ -50,7 +50,7 @@ public:
     void rebuild() const { rebuild(files); }
     void rebuild(const SettingsFiles& through) const
     {
-        CheckSettingsRebuild(reconciliation(through), 'P', profiles);
+        CheckSettingsRebuild(reconciliation(through), RebuildCase::Profiles, profiles);
     }
 
 private:

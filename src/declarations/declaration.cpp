@@ -1,5 +1,7 @@
 #include "declarations/declaration.h"
 
+#include "settings/lines.h"
+#include "settings/overloaded.h"
 #include "settings/profiles.h"
 #include "settings/tablefile.h"
 #include "settings/tablewriter.h"
@@ -9,141 +11,220 @@
 namespace quillfen {
 namespace {
 
-/// A row of a nested table.
-struct NestedRow
+/// A value of a setting: its key as the readers know it, and its default.
+struct Row
 {
-    std::string key;           ///< as the readers know it
-    std::string_view standard; ///< what stands in for a missing or an empty one at a rebuild
+    std::string key;
+    std::string defaultText;
 };
 
-std::vector<NestedRow> profileRows(const Setting& setting, const HubProfiles& profiles)
+using Rows = std::vector<Row>;
+
+template <typename Kind>
+bool isA(const setting::FieldKind& kind)
 {
-    std::vector<NestedRow> rows;
-    rows.reserve(profiles.count());
-    for (std::size_t row = setting.firstProfile; row < profiles.count(); ++row)
-        rows.push_back({HubProfiles::key(row), "0"});
-    return rows;
+    return std::holds_alternative<Kind>(kind);
 }
 
-std::vector<NestedRow> nestedRows(const Setting& setting, const HubProfiles& profiles)
+const setting::Field* fieldOf(const Setting& setting)
 {
-    if (setting.kind == Setting::Kind::Profiles)
-        return profileRows(setting, profiles);
-    std::vector<NestedRow> rows;
-    if (setting.kind == Setting::Kind::Flags) {
-        for (const std::string& each : setting.entries)
-            rows.push_back({"b" + each, "0"});
-    } else if (setting.kind == Setting::Kind::Texts) {
-        for (std::size_t at = 0; at < setting.entries.size(); ++at)
-            rows.push_back({setting.entries[at], setting.standards.at(at)});
+    return std::get_if<setting::Field>(&setting);
+}
+
+bool isNested(const setting::FieldKind& kind)
+{
+    return isA<setting::ProfileFlags>(kind) || isA<setting::NamedFlags>(kind);
+}
+
+bool isQuoted(const setting::FieldKind& kind)
+{
+    return isA<setting::Text>(kind) || isA<setting::Entry>(kind) || isA<setting::Letter>(kind);
+}
+
+/// The rows of each kind of setting: one for each that isn't nested, and none for what is never read.
+struct RowsOf
+{
+    const HubProfiles& profiles;
+
+    Rows operator()(const setting::Field& field) const
+    {
+        const std::string byDefault = setting::defaultText(field.kind);
+        Rows rows;
+        if (const auto* profileFlags = std::get_if<setting::ProfileFlags>(&field.kind)) {
+            rows.reserve(profiles.count());
+            for (std::size_t row = profileFlags->firstProfile; row < profiles.count(); ++row)
+                rows.push_back({HubProfiles::key(row), byDefault});
+        } else if (const auto* namedFlags = std::get_if<setting::NamedFlags>(&field.kind)) {
+            for (const std::string& name : namedFlags->names)
+                rows.push_back({"b" + name, byDefault});
+        } else {
+            rows.push_back({field.key, byDefault});
+        }
+        return rows;
     }
-    return rows;
+
+    Rows operator()(const setting::NamedTexts& named) const
+    {
+        Rows rows;
+        for (const setting::NamedText& text : named.texts)
+            rows.push_back({text.name, text.defaultValue});
+        return rows;
+    }
+
+    Rows operator()(const setting::ConstantText& constant) const { return {{constant.key, {}}}; }
+    Rows operator()(const setting::RebuiltOnly& only) const { return {{only.key, only.defaultText}}; }
+    Rows operator()(const auto& /*is never read*/) const { return {}; }
+};
+
+/// The nested table of a setting's rows, which bears its key; empty for a setting without one.
+std::string_view tableOf(const Setting& setting)
+{
+    const auto* const field = fieldOf(setting);
+    const bool nested = field ? isNested(field->kind) : std::holds_alternative<setting::NamedTexts>(setting);
+    return nested ? std::string_view(keyOf(setting)) : std::string_view();
 }
 
-bool isNested(const Setting& setting)
+/// The nested table that a setting shares with its neighbours; empty for none.
+std::string_view nestOf(const Setting& setting)
 {
-    return setting.kind == Setting::Kind::Profiles || setting.kind == Setting::Kind::Flags ||
-           setting.kind == Setting::Kind::Texts;
+    const auto* const field = fieldOf(setting);
+    return field ? std::string_view(field->nest) : std::string_view();
+}
+
+/// The table in which a rebuild looks for a setting's rows.
+std::string_view homeOf(const Setting& setting, const TableFile& file)
+{
+    for (const std::string_view table : {tableOf(setting), nestOf(setting)}) {
+        if (!table.empty())
+            return table;
+    }
+    return file.table;
+}
+
+bool isKeptByRestore(const Setting& setting)
+{
+    const auto* const field = fieldOf(setting);
+    return field && field->keptByRestore;
+}
+
+const setting::RebuildRule& ruleOf(const Setting& setting)
+{
+    static const setting::RebuildRule usual;
+    const auto* const field = fieldOf(setting);
+    return field ? field->rebuild : usual;
 }
 
 /// Makes the name that a nested row has among the values, in a text that serves row after row: a rebuild has
 /// thousands of them.
-const std::string& nameRow(std::string& name, const Setting& setting, std::string_view key)
+const std::string& nameRow(std::string& name, std::string_view table, std::string_view row)
 {
-    return name.assign(setting.key).append("/").append(key);
+    return name.assign(table).append("/").append(row);
 }
 
-std::string rowName(const Setting& setting, std::string_view key)
+std::string rowName(std::string_view table, std::string_view row)
 {
     std::string name;
-    return nameRow(name, setting, key);
+    return nameRow(name, table, row);
 }
 
-TableWriter& writeTable(TableWriter& table, const Setting& setting, const SettingValues& values,
-                        const HubProfiles& profiles)
-{
-    table.open(setting.key);
-    std::string name;
-    for (const NestedRow& row : nestedRows(setting, profiles)) {
-        const std::string& value = values.at(nameRow(name, setting, row.key));
-        if (setting.kind == Setting::Kind::Profiles)
-            table.row(bracketed(row.key), value);
-        else if (setting.kind == Setting::Kind::Texts)
-            table.text(row.key, value);
-        else
-            table.row(row.key, value);
-    }
-    return table.close();
-}
-
-TableWriter& writeConstants(TableWriter& table, const Setting& setting, RowOrder order)
-{
-    const bool differs = order == RowOrder::Rebuild && !setting.rebuildEntries.empty();
-    table.open(setting.key);
-    for (const std::string& row : differs ? setting.rebuildEntries : setting.entries)
-        table.row(row);
-    return table.close();
-}
-
-TableWriter& writeSetting(TableWriter& table, const Setting& setting, const SettingValues& values,
-                          RowOrder order, const HubProfiles& profiles)
-{
-    const bool saves = order == RowOrder::Save;
-    const std::string& key = saves && !setting.keyInSave.empty() ? setting.keyInSave : setting.key;
-    switch (setting.kind) {
-    case Setting::Kind::Flag:
-    case Setting::Kind::Number:
-    case Setting::Kind::Options:
-    case Setting::Kind::Profile:
-        return table.row(key, values.at(setting.key));
-    case Setting::Kind::Text:
-    case Setting::Kind::Entry:
-    case Setting::Kind::Letter:
-        return table.text(key, saves && setting.constant ? *setting.constant : values.at(setting.key));
-    case Setting::Kind::Profiles:
-    case Setting::Kind::Flags:
-    case Setting::Kind::Texts:
-        return writeTable(table, setting, values, profiles);
-    case Setting::Kind::Rows:
-        return writeConstants(table, setting, order);
-    }
-    return table;
-}
-
-/// Takes each value from `valueOf(setting, key, table)`, the standard of a nested row standing in for one
-/// that is empty if `fills` says so for its setting.
+/// Takes each value from `valueOf(setting, row)`.
 template <typename ValueOf>
-SettingValues gathered(
-    const TableFile& file, const HubProfiles& profiles, const ValueOf& valueOf, bool (*fills)(const Setting&),
-    bool (*skips)(const Setting&) = [](const Setting&) { return false; })
+SettingValues gathered(const std::vector<Setting>& settings, const HubProfiles& profiles,
+                       const ValueOf& valueOf)
 {
     SettingValues values;
     std::string name;
-    for (const Setting& setting : file.settings) {
-        if (skips(setting))
-            continue;
-        if (!isNested(setting))
-            values[setting.key] = valueOf(setting, setting.key, std::string());
-        for (const NestedRow& row : nestedRows(setting, profiles)) {
-            auto value = valueOf(setting, row.key, setting.key);
-            if (value.empty() && fills(setting))
-                value = row.standard;
-            values.insert_or_assign(nameRow(name, setting, row.key), std::move(value));
-        }
+    for (const Setting& each : settings) {
+        const std::string_view table = tableOf(each);
+        for (const Row& row : std::visit(RowsOf{profiles}, each))
+            values.insert_or_assign(table.empty() ? row.key : nameRow(name, table, row.key),
+                                    valueOf(each, row));
     }
     return values;
 }
 
-/// A missing flag is off for every reader; a missing text is filled in by a rebuild only.
-bool isFlags(const Setting& setting)
+std::string filled(const std::string& value, const std::string& defaultText)
 {
-    return setting.kind != Setting::Kind::Texts;
+    return value.empty() ? defaultText : value;
 }
 
-bool isAny(const Setting& /*setting*/)
+/// What a form shows for a stored text. A missing flag of a list is off.
+std::string shown(const Setting& setting, const std::string& stored)
 {
-    return true;
+    const auto* const field = fieldOf(setting);
+    if (!field)
+        return stored;
+    const Overloaded texts = {
+        [&stored](const setting::Flag& flag) {
+            return flag.details.tickedAboveZero ? (leadingNumber(stored) > 0 ? "1" : "0") : stored;
+        },
+        [&stored](const setting::Letter& letter) {
+            return filled(stored, setting::letterOf(letter.wordWhereNone));
+        },
+        [&stored](const setting::ProfileFlags&) { return filled(stored, "0"); },
+        [&stored](const setting::NamedFlags&) { return filled(stored, "0"); },
+        [&stored](const auto&) { return stored; },
+    };
+    return std::visit(texts, field->kind);
 }
+
+/// Writes a setting of each kind.
+struct Writer
+{
+    TableWriter& table;
+    const SettingValues& values;
+    RowOrder order;
+    const HubProfiles& profiles;
+
+    void operator()(const setting::Field& field)
+    {
+        const bool isRenamed = order == RowOrder::Save && !field.keyInSave.empty();
+        if (isNested(field.kind))
+            writeTable(field.key, RowsOf{profiles}(field), isA<setting::ProfileFlags>(field.kind), false);
+        else
+            write(isRenamed ? field.keyInSave : field.key, values.at(field.key), isQuoted(field.kind));
+    }
+
+    void operator()(const setting::NamedTexts& texts)
+    {
+        writeTable(texts.key, RowsOf{profiles}(texts), false, true);
+    }
+
+    void operator()(const setting::ConstantRows& constant)
+    {
+        const bool differs = order == RowOrder::Rebuild && !constant.rebuiltRows.empty();
+        table.open(constant.key);
+        for (const std::string& row : differs ? constant.rebuiltRows : constant.rows)
+            table.row(row);
+        table.close();
+    }
+
+    void operator()(const setting::ConstantText& constant)
+    {
+        table.text(constant.key, order == RowOrder::Save ? constant.text : values.at(constant.key));
+    }
+
+    void operator()(const setting::RebuiltOnly& only) { write(only.key, values.at(only.key), only.quoted); }
+    void operator()(const setting::Idle& /*idle*/) {}
+
+    void write(const std::string& key, const std::string& value, bool quoted)
+    {
+        if (quoted)
+            table.text(key, value);
+        else
+            table.row(key, value);
+    }
+
+    void writeTable(const std::string& key, const Rows& rows, bool bracketsKeys, bool quoted)
+    {
+        table.open(key);
+        std::string name;
+        for (const Row& row : rows)
+            write(bracketsKeys ? bracketed(row.key) : row.key, values.at(nameRow(name, key, row.key)),
+                  quoted);
+        table.close();
+    }
+};
 
 /// Closes and opens the nested tables that end and begin between one setting and the next.
 void pass(TableWriter& table, std::string_view nestBefore, std::string_view nest)
@@ -156,80 +237,79 @@ void pass(TableWriter& table, std::string_view nestBefore, std::string_view nest
         table.open(nest);
 }
 
+bool isWritten(const Setting& setting, RowOrder order)
+{
+    if (std::holds_alternative<setting::RebuiltOnly>(setting))
+        return order == RowOrder::Rebuild;
+    return !std::holds_alternative<setting::Idle>(setting);
+}
+
 std::vector<const Setting*> inOrder(const TableFile& file, RowOrder order)
 {
     std::vector<const Setting*> settings;
     if (order == RowOrder::Save || file.rebuildOrder.empty()) {
-        for (const Setting& setting : file.settings) {
-            if (!setting.idle && (setting.saved || order == RowOrder::Rebuild))
-                settings.push_back(&setting);
+        for (const Setting& each : file.settings) {
+            if (isWritten(each, order))
+                settings.push_back(&each);
         }
         return settings;
     }
     for (const std::string& key : file.rebuildOrder) {
         settings.push_back(&*std::find_if(file.settings.begin(), file.settings.end(),
-                                          [&key](const Setting& setting) { return setting.key == key; }));
+                                          [&key](const Setting& each) { return keyOf(each) == key; }));
     }
     return settings;
 }
 
 } // namespace
 
-std::string flagRow(const Setting& setting, const std::string& entry)
+std::string flagRow(const std::string& key, const std::string& name)
 {
-    return rowName(setting, "b" + entry);
+    return rowName(key, "b" + name);
 }
 
-std::string textRow(const Setting& setting, const std::string& entry)
+std::string textRow(const std::string& key, const std::string& name)
 {
-    return rowName(setting, entry);
+    return rowName(key, name);
 }
 
-std::string profileRow(const Setting& setting, std::size_t row)
+std::string profileRow(const std::string& key, std::size_t row)
 {
-    return rowName(setting, HubProfiles::key(row));
+    return rowName(key, HubProfiles::key(row));
 }
 
 SettingValues loaded(const TableFile& file, const TableIndex& index, const HubProfiles& profiles)
 {
-    return gathered(
-        file, profiles,
-        [&index](const Setting& setting, const std::string& key, const std::string& table) {
-            const auto value = index.value(key, table);
-            return setting.shown ? setting.shown(value) : value;
-        },
-        isFlags);
+    return gathered(file.settings, profiles, [&index](const Setting& setting, const Row& row) {
+        return shown(setting, index.value(row.key, tableOf(setting)));
+    });
 }
 
 SettingValues restored(const TableFile& file, const HubProfiles& profiles)
 {
-    return gathered(
-        file, profiles,
-        [](const Setting& setting, const std::string&, const std::string&) { return setting.standard; },
-        isAny, [](const Setting& setting) { return setting.keptByRestore; });
+    std::vector<Setting> settings = file.settings;
+    std::erase_if(settings, isKeptByRestore);
+    return gathered(settings, profiles, [](const Setting&, const Row& row) { return row.defaultText; });
 }
 
 SettingValues rebuilt(const TableFile& file, const TableIndex& index, const HubProfiles& profiles)
 {
-    return gathered(
-        file, profiles,
-        [&](const Setting& setting, const std::string& key, const std::string& table) {
-            const std::string& home = setting.nest.empty() ? file.table : setting.nest;
-            const auto value = index.value(key, table.empty() ? home : table);
-            return value.empty() || setting.resets ? setting.rebuildStandard.value_or(setting.standard)
-                                                   : value;
-        },
-        isAny);
+    return gathered(file.settings, profiles, [&](const Setting& setting, const Row& row) {
+        const setting::RebuildRule& rule = ruleOf(setting);
+        const std::string stored = rule.resets ? "" : index.value(row.key, homeOf(setting, file));
+        return filled(stored, rule.defaultText.value_or(row.defaultText));
+    });
 }
 
 void writeRows(TableWriter& table, const TableFile& file, const SettingValues& values, RowOrder order,
                const HubProfiles& profiles)
 {
+    Writer writer{table, values, order, profiles};
     std::string_view nest;
-    for (const Setting* setting : inOrder(file, order)) {
-        pass(table, nest, setting->nest);
-        writeSetting(table, *setting, values, order, profiles);
-        nest = setting->nest;
+    for (const Setting* each : inOrder(file, order)) {
+        pass(table, nest, nestOf(*each));
+        std::visit(writer, *each);
+        nest = nestOf(*each);
     }
     pass(table, nest, {});
 }

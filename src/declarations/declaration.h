@@ -28,14 +28,14 @@ struct TableFile
 /// of a flag under flagRow(), that of a named text under textRow().
 using SettingValues = std::unordered_map<std::string, std::string>;
 
-/// The name of one entry's flag among the values.
-std::string flagRow(const Setting& setting, const std::string& entry);
+/// The name among the values of the flag that the setting with this key has for a name.
+std::string flagRow(const std::string& key, const std::string& name);
 
-/// The name of one entry's text among the values.
-std::string textRow(const Setting& setting, const std::string& entry);
+/// The name among the values of one of the setting's texts.
+std::string textRow(const std::string& key, const std::string& name);
 
-/// The name of one profile's flag among the values; the row is counted from 0, "Unregistered" first.
-std::string profileRow(const Setting& setting, std::size_t row);
+/// The name among the values of one profile's flag; the row is counted from 0, "Unregistered" first.
+std::string profileRow(const std::string& key, std::size_t row);
 
 /// What the form shows of a file: each key as it stands, wherever it is; a flag of a nested table
 /// is "0" when it is missing, a text of one empty.

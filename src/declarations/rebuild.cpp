@@ -38,9 +38,10 @@ void requireScriptFolder(const SettingsFiles& files)
 
 } // namespace
 
-StartResult CheckSettingsRebuild(const Reconciliation& start, char rebuildCase, const HubProfiles& profiles)
+StartResult CheckSettingsRebuild(const Reconciliation& start, RebuildCase rebuildCase,
+                                 const HubProfiles& profiles)
 {
-    const bool forVersion = rebuildCase == 'V';
+    const bool forVersion = rebuildCase == RebuildCase::Version;
     if (forVersion && start.files.ReadTableValue(versionFile, "sVersion") == start.version)
         return StartResult::Current;
     if (!start.confirm(forVersion ? versionQuestion : profileQuestion))
@@ -58,10 +59,10 @@ StartResult reconcileSettings(const Reconciliation& start, HubProfiles& profiles
     const HubProfiles oldProfiles = readSavedProfiles(files.store(), files.paths());
     makeNewsFolders(files);
 
-    auto result = CheckSettingsRebuild(start, 'V', profiles);
+    auto result = CheckSettingsRebuild(start, RebuildCase::Version, profiles);
     // Only a rise counts: a profile that went, or got another name, asks for nothing.
     if (result == StartResult::Current && profiles.count() > oldProfiles.count())
-        result = CheckSettingsRebuild(start, 'P', profiles);
+        result = CheckSettingsRebuild(start, RebuildCase::Profiles, profiles);
     if (result == StartResult::Rebuilt && !hub.text.empty())
         files.WriteSettingsFile(savedProfileFile, hub.text);
     return result;

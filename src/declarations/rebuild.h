@@ -56,9 +56,16 @@ enum class StartResult
     Refused
 };
 
-/// Case "V" rebuilds when the tree's version is another than the program's; case "P" always. Each asks first,
-/// and a refusal changes nothing. Throws StoreError.
-StartResult CheckSettingsRebuild(const Reconciliation& start, char rebuildCase, const HubProfiles& profiles);
+/// Why a start may have to rebuild.
+enum class RebuildCase : char
+{
+    Version = 'V', ///< the tree's version is another than the program's
+    Profiles = 'P' ///< the hub has more profiles than the tree was built for, as the caller found
+};
+
+/// Rebuilds if the case is given. It asks first, and a refusal changes nothing. Throws StoreError.
+StartResult CheckSettingsRebuild(const Reconciliation& start, RebuildCase rebuildCase,
+                                 const HubProfiles& profiles);
 
 /// The start in its whole order: hub profiles, saved profiles, news folders, rebuild for the version or for
 /// more profiles, saved copy of the hub's profile file. Fills `profiles`. Throws StoreError, and the two

@@ -1,127 +1,109 @@
 #include "declarations/setting.h"
 
+#include "settings/overloaded.h"
+
 #include <utility>
 
 namespace quillfen {
+namespace setting {
 
-Setting flag(std::string key, std::string control, std::string label, std::string standard)
+std::string defaultText(const FieldKind& kind)
 {
-    return {Setting::Kind::Flag, std::move(key), std::move(control), std::move(label), std::move(standard)};
+    const Overloaded texts = {
+        [](const Flag& flag) { return std::string(flag.defaultValue ? "1" : "0"); },
+        [](const Number& number) { return std::to_string(number.defaultValue); },
+        [](const Text& text) { return text.defaultValue; },
+        [](const Entry& entry) { return entry.defaultValue; },
+        [](const Options& options) { return std::to_string(options.defaultValue); },
+        [](const Letter& letter) { return letterOf(letter.defaultWord); },
+        [](const auto&) { return std::string("0"); }, // flags that are off, and the hub's first profile
+    };
+    return std::visit(texts, kind);
 }
 
-Setting number(std::string key, std::string control, std::string label, std::string standard, int minimum,
-               int maximum)
+Field flag(std::string key, std::string control, std::string label, bool defaultValue, FlagDetails details)
 {
-    return {Setting::Kind::Number,
-            std::move(key),
-            std::move(control),
-            std::move(label),
-            std::move(standard),
-            minimum,
-            maximum};
+    return {std::move(key), std::move(control), std::move(label), Flag{defaultValue, details}};
 }
 
-Setting text(std::string key, std::string control, std::string label, std::string standard)
+Field number(std::string key, std::string control, std::string label, int defaultValue, int minimum,
+             int maximum, NumberDetails details)
 {
-    return {Setting::Kind::Text, std::move(key), std::move(control), std::move(label), std::move(standard)};
+    return {std::move(key), std::move(control), std::move(label),
+            Number{defaultValue, minimum, maximum, details}};
 }
 
-Setting entry(std::string key, std::string control, std::string label, std::string standard,
-              std::vector<std::string> entries)
+Field text(std::string key, std::string control, std::string label, std::string defaultValue, int limit)
 {
-    return {
-        Setting::Kind::Entry, std::move(key), std::move(control), std::move(label), std::move(standard), 0, 0,
-        std::move(entries)};
+    return {std::move(key), std::move(control), std::move(label), Text{std::move(defaultValue), limit}};
 }
 
-Setting options(std::string key, std::string control, std::string label, std::string standard,
-                int firstOption, std::vector<std::string> entries)
+Field entry(std::string key, std::string control, std::string label, std::string defaultValue,
+            std::vector<std::string> entries)
 {
-    Setting setting =
-        entry(std::move(key), std::move(control), std::move(label), std::move(standard), std::move(entries));
-    setting.kind = Setting::Kind::Options;
-    setting.firstOption = firstOption;
-    return setting;
+    return {std::move(key), std::move(control), std::move(label),
+            Entry{std::move(defaultValue), std::move(entries)}};
 }
 
-Setting profileFlags(std::string key, std::string control, std::string label)
+Field options(std::string key, std::string control, std::string label, int defaultValue, int firstButton,
+              std::vector<std::string> captions)
 {
-    return {Setting::Kind::Profiles, std::move(key), std::move(control), std::move(label)};
+    return {std::move(key), std::move(control), std::move(label),
+            Options{defaultValue, firstButton, std::move(captions)}};
 }
 
-Setting namedFlags(std::string key, std::string control, std::string label, std::vector<std::string> entries)
+Field profileFlags(std::string key, std::string control, std::string label, std::string heading)
 {
-    Setting setting = profileFlags(std::move(key), std::move(control), std::move(label));
-    setting.kind = Setting::Kind::Flags;
-    setting.entries = std::move(entries);
-    return setting;
+    return {std::move(key), std::move(control), std::move(label), ProfileFlags{std::move(heading)}};
 }
 
-Setting profileKey(std::string key, std::string control, std::string label)
+Field hubProfileFlags(std::string key, std::string control, std::string label, std::string heading)
 {
-    return {Setting::Kind::Profile, std::move(key), std::move(control), std::move(label), "0"};
+    return {std::move(key), std::move(control), std::move(label), ProfileFlags{std::move(heading), 1}};
 }
 
-Setting letter(std::string key, std::string control, std::string label, std::string standard,
-               std::vector<std::string> entries)
+Field namedFlags(std::string key, std::string control, std::string label, std::vector<std::string> names)
 {
-    Setting setting =
-        entry(std::move(key), std::move(control), std::move(label), std::move(standard), std::move(entries));
-    setting.kind = Setting::Kind::Letter;
-    return setting;
+    return {std::move(key), std::move(control), std::move(label), NamedFlags{std::move(names)}};
 }
 
-Setting hubProfileFlags(std::string key, std::string control, std::string label)
+Field profileKey(std::string key, std::string control, std::string label)
 {
-    Setting setting = profileFlags(std::move(key), std::move(control), std::move(label));
-    setting.firstProfile = 1;
-    return setting;
+    return {std::move(key), std::move(control), std::move(label), ProfileKey{}};
 }
 
-Setting namedTexts(std::string key, std::string control, std::string label, std::vector<std::string> entries,
-                   std::vector<std::string> standards)
+Field letter(std::string key, std::string control, std::string label, std::string defaultWord,
+             std::vector<std::string> words, std::string wordWhereNone)
 {
-    Setting setting = namedFlags(std::move(key), std::move(control), std::move(label), std::move(entries));
-    setting.kind = Setting::Kind::Texts;
-    setting.standards = std::move(standards);
-    return setting;
+    return {std::move(key), std::move(control), std::move(label),
+            Letter{std::move(defaultWord), std::move(words), std::move(wordWhereNone)}};
 }
 
-Setting constantRows(std::string key, std::vector<std::string> rows)
+Field notRestored(Field field)
 {
-    Setting setting = namedFlags(std::move(key), {}, {}, std::move(rows));
-    setting.kind = Setting::Kind::Rows;
-    return setting;
+    field.keptByRestore = true;
+    return field;
 }
 
-Setting constantText(std::string key, std::string constant)
+RebuiltOnly rebuiltFlag(std::string key, bool defaultValue)
 {
-    Setting setting = text(std::move(key), {}, {}, {});
-    setting.constant = std::move(constant);
-    return setting;
+    return {std::move(key), defaultText(Flag{defaultValue}), false};
 }
 
-bool hasControl(const Setting& setting)
+RebuiltOnly rebuiltText(std::string key, std::string defaultValue)
 {
-    return setting.saved && !setting.constant && setting.kind != Setting::Kind::Rows;
+    return {std::move(key), std::move(defaultValue), true};
 }
 
-Setting notSaved(Setting setting)
-{
-    setting.saved = false;
-    return setting;
-}
+} // namespace setting
 
-Setting savedAsTyped(Setting setting)
+const std::string& keyOf(const Setting& setting)
 {
-    setting.savedAsTyped = true;
-    return setting;
-}
-
-Setting notRestored(Setting setting)
-{
-    setting.keptByRestore = true;
-    return setting;
+    const Overloaded keys = {
+        [](const setting::Idle& idle) -> const std::string& { return idle.field.key; },
+        [](const auto& each) -> const std::string& { return each.key; },
+    };
+    return std::visit(keys, setting);
 }
 
 } // namespace quillfen

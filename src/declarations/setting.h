@@ -1,111 +1,218 @@
 #pragma once
 
-#include <functional>
+#include <cstddef>
 #include <optional>
 #include <string>
+#include <string_view>
+#include <variant>
 #include <vector>
 
 namespace quillfen {
 
-/// One setting of a table file: its key there, its control on the form, its default and how it is written.
-struct Setting
-{
-    enum class Kind
-    {
-        Flag,     ///< 0 or 1, bare; a check box
-        Number,   ///< an integer, bare; a number box whose arrows keep the range
-        Text,     ///< quoted; a text box
-        Entry,    ///< quoted; a combo box with entries to pick, and any other text
-        Options,  ///< an integer, bare: which of the entries is chosen, counted from 0; an option group
-        Profiles, ///< a nested table of one flag per hub profile; a check list
-        Flags,    ///< a nested table of a flag per entry, its key a `b` and the entry; a check list
-        Profile,  ///< a profile key, bare; a combo box of the hub's profiles without "Unregistered"
-        Letter,   ///< quoted, the first letter of an entry; a combo box with the entries to pick
-        Texts,    ///< a nested table of one quoted text per entry, which is its key; a control of the form's
-        Rows,     ///< a nested table whose rows, the entries, nothing changes; no control
-    };
+/// What settings are made of, and the words that declare them.
+namespace setting {
 
-    Kind kind;
+/// What few flags have.
+struct FlagDetails
+{
+    const char* frame = "";       ///< the caption of a frame around it; neighbours of the same one share it
+    bool tickedAboveZero = false; ///< any number above 0 ticks it, and not only a 1
+};
+
+/// 0 or 1, bare; a check box.
+struct Flag
+{
+    bool defaultValue;
+    FlagDetails details{};
+};
+
+/// What few numbers have.
+struct NumberDetails
+{
+    int step = 1;              ///< by how much the arrows change it
+    const char* unit = "";     ///< behind the box, "Days"
+    bool onlyArrows = false;   ///< changed by its arrows and not typed
+    bool savedAsTyped = false; ///< an emptied box is saved as nothing, and not as the 0 that it loads as
+};
+
+inline constexpr NumberDetails asTyped = {.savedAsTyped = true}; ///< of a number that has only this one
+
+/// An integer, bare; a number box whose arrows keep the range.
+struct Number
+{
+    int defaultValue;
+    int minimum;
+    int maximum;
+    NumberDetails details{};
+};
+
+/// Quoted; a text box.
+struct Text
+{
+    std::string defaultValue;
+    int limit = 0; ///< the most characters that the box takes; 0 for no limit
+};
+
+/// Quoted; a combo box with entries to pick, and any other text.
+struct Entry
+{
+    std::string defaultValue;
+    std::vector<std::string> entries;
+};
+
+/// An integer, bare: which of the captions is chosen, counted from 0; an option group. The control is the
+/// array's name, "optOption".
+struct Options
+{
+    int defaultValue;
+    int firstButton; ///< the place of the group's first button in its control array
+    std::vector<std::string> captions;
+};
+
+/// A nested table of one flag per hub profile, all off by default; a check list.
+struct ProfileFlags
+{
+    std::string heading{};        ///< of the list; empty for none
+    std::size_t firstProfile = 0; ///< the first row of the profiles: 1 leaves "Unregistered" out
+};
+
+/// A nested table of a flag per name, its key a `b` and the name, all off by default; a check list.
+struct NamedFlags
+{
+    std::vector<std::string> names;
+};
+
+/// A profile key, bare; a combo box of the hub's profiles without "Unregistered". The default is the hub's
+/// first profile, which also shows where there is no key; one of no profile shows as no choice and is kept.
+struct ProfileKey
+{
+};
+
+/// Quoted, the first letter of a word; a combo box with the words to pick. A letter of no word shows as no
+/// choice.
+struct Letter
+{
+    std::string defaultWord;
+    std::vector<std::string> words;
+    std::string wordWhereNone{}; ///< what shows where the file holds no letter
+};
+
+/// The letter that a word is stored as; empty for no word.
+inline std::string letterOf(std::string_view word)
+{
+    return std::string(word.substr(0, 1));
+}
+
+/// The kinds of settings that the kit has a control for.
+using FieldKind =
+    std::variant<Flag, Number, Text, Entry, Options, ProfileFlags, NamedFlags, ProfileKey, Letter>;
+
+/// The default as the file holds it; that of each row for one with a nested table.
+std::string defaultText(const FieldKind& kind);
+
+/// Where a rebuild doesn't simply keep the file's value and fill a missing one with the default.
+struct RebuildRule
+{
+    std::optional<std::string> defaultText{}; ///< where the file has no value
+    bool resets = false;                      ///< the default, whatever the file holds
+};
+
+/// A setting with a control that the kit makes.
+struct Field
+{
+    std::string key;
+    std::string control; ///< its name
+    std::string label;
+    FieldKind kind;
+
+    std::string toolTip{};
+    std::string nest{};      ///< the nested table that it stands in; neighbours of the same one share it
+    std::string keyInSave{}; ///< the key as a save writes it, where it is another
+    RebuildRule rebuild{};
+    bool keptByRestore = false; ///< RESTORE leaves the control as it is
+};
+
+/// A text of a nested table; its key there is the name.
+struct NamedText
+{
+    std::string name;
+    std::string defaultValue;
+};
+
+/// A nested table of quoted texts, with a control that the form makes itself.
+struct NamedTexts
+{
     std::string key;
     std::string control;
     std::string label;
-    std::string standard{}; ///< the default, as text
-    int minimum = 0;
-    int maximum = 0;
-    std::vector<std::string> entries{};
-    int firstOption = 0;       ///< the place of an option group's first button in its control array
-    int limit = 0;             ///< the most characters that a text box takes; 0 for no limit
-    bool onlyArrows = false;   ///< a number that is changed by its arrows and not typed
-    int step = 1;              ///< by how much a number's arrows change it
-    bool savedAsTyped = false; ///< an emptied number is saved as nothing, and not as the 0 that it loads as
-
-    std::string unit{}; ///< behind a field, "Days"
-    std::string toolTip{};
-    std::string column{}; ///< a check list's heading; empty for none
-    std::string frame{};  ///< the caption of a frame around a flag; neighbours of the same one share it
-    std::string nest{};   ///< the nested table that it stands in; neighbours of the same one share it
-    std::optional<std::string> rebuildStandard{}; ///< the default that a rebuild writes, where it is another
-    bool resets = false;                          ///< a rebuild writes the default whatever the file holds
-    bool keptByRestore = false;                   ///< RESTORE leaves the control as it is
-
-    /// What a load shows for a stored text, where it isn't the text itself.
-    std::function<std::string(const std::string& stored)> shown{};
-
-    std::size_t firstProfile = 0; ///< the first row of the profiles: 1 leaves "Unregistered" out
-    bool saved = true;            ///< false: only the rebuild writes it; the form has no control for it
-    bool idle = false;            ///< a control that is shown and neither read nor written
-
-    std::optional<std::string> constant{};     ///< what each save writes; there is no control
-    std::string keyInSave{};                   ///< the key as a save writes it, where it is another
-    std::vector<std::string> standards{};      ///< the default of each of the entries' texts
-    std::vector<std::string> rebuildEntries{}; ///< the rows that a rebuild writes, where they are others
+    std::vector<NamedText> texts;
 };
 
-Setting flag(std::string key, std::string control, std::string label, std::string standard);
-Setting number(std::string key, std::string control, std::string label, std::string standard, int minimum,
-               int maximum);
-Setting text(std::string key, std::string control, std::string label, std::string standard);
-Setting entry(std::string key, std::string control, std::string label, std::string standard,
-              std::vector<std::string> entries);
+/// A nested table whose rows nothing changes. They are told as they stand in the file, without indent and
+/// comma.
+struct ConstantRows
+{
+    std::string key;
+    std::vector<std::string> rows;
+    std::vector<std::string> rebuiltRows{}; ///< those that a rebuild writes, where they are others
+};
 
-/// The control is the array's name, "optOption": its buttons are counted from firstOption on.
-Setting options(std::string key, std::string control, std::string label, std::string standard,
-                int firstOption, std::vector<std::string> entries);
+/// A quoted text that the form's user can't change: a rebuild keeps it, each save writes this one.
+struct ConstantText
+{
+    std::string key;
+    std::string text;
+};
 
-Setting profileFlags(std::string key, std::string control, std::string label);
+/// A setting that a rebuild keeps and each save of the form drops, which has no control for it.
+struct RebuiltOnly
+{
+    std::string key;
+    std::string defaultText;
+    bool quoted;
+};
 
-Setting namedFlags(std::string key, std::string control, std::string label, std::vector<std::string> entries);
+/// A control that is shown with its default and neither read nor written.
+struct Idle
+{
+    Field field;
+};
 
-/// A key of no profile shows as no choice and is kept; no key shows as the hub's first profile.
-Setting profileKey(std::string key, std::string control, std::string label);
+Field flag(std::string key, std::string control, std::string label, bool defaultValue,
+           FlagDetails details = {});
+Field flag(std::string key, std::string control, std::string label, const char* defaultValue,
+           FlagDetails details = {}) = delete; // any text would be true
+Field number(std::string key, std::string control, std::string label, int defaultValue, int minimum,
+             int maximum, NumberDetails details = {});
+Field text(std::string key, std::string control, std::string label, std::string defaultValue, int limit = 0);
+Field entry(std::string key, std::string control, std::string label, std::string defaultValue,
+            std::vector<std::string> entries);
+Field options(std::string key, std::string control, std::string label, int defaultValue, int firstButton,
+              std::vector<std::string> captions);
+Field profileFlags(std::string key, std::string control, std::string label, std::string heading = {});
 
-/// The default is the letter. A letter of no entry shows as no choice.
-Setting letter(std::string key, std::string control, std::string label, std::string standard,
-               std::vector<std::string> entries);
+/// Profile flags without "Unregistered".
+Field hubProfileFlags(std::string key, std::string control, std::string label, std::string heading = {});
 
-/// Profile flags without "Unregistered": the first row is the hub's first profile, 0.
-Setting hubProfileFlags(std::string key, std::string control, std::string label);
+Field namedFlags(std::string key, std::string control, std::string label, std::vector<std::string> names);
+Field profileKey(std::string key, std::string control, std::string label);
+Field letter(std::string key, std::string control, std::string label, std::string defaultWord,
+             std::vector<std::string> words, std::string wordWhereNone = {});
 
-/// The standards are the entries' own, in their order.
-Setting namedTexts(std::string key, std::string control, std::string label, std::vector<std::string> entries,
-                   std::vector<std::string> standards);
+/// The same field, left as it is by RESTORE.
+Field notRestored(Field field);
 
-/// Rows as they stand in the file, without indent and comma.
-Setting constantRows(std::string key, std::vector<std::string> rows);
+RebuiltOnly rebuiltFlag(std::string key, bool defaultValue);
+RebuiltOnly rebuiltText(std::string key, std::string defaultValue);
 
-/// A text that the form's user can't change: the rebuild keeps it, each save writes the constant.
-Setting constantText(std::string key, std::string constant);
+} // namespace setting
 
-/// Whether the kit or the form makes a control for it.
-bool hasControl(const Setting& setting);
+/// One setting of a table file. Its kind says how it is written and who makes its control: the kit that of a
+/// field and an idle one, the form that of named texts, and nobody any of the others.
+using Setting = std::variant<setting::Field, setting::NamedTexts, setting::ConstantRows,
+                             setting::ConstantText, setting::RebuiltOnly, setting::Idle>;
 
-/// The same setting without a control: the rebuild keeps it, each save of the form drops it.
-Setting notSaved(Setting setting);
-
-/// The same number, saved as it is typed also when nothing is.
-Setting savedAsTyped(Setting setting);
-
-/// The same setting, left as it is by RESTORE.
-Setting notRestored(Setting setting);
+/// The setting's key; that of an idle one stands in no file.
+const std::string& keyOf(const Setting& setting);
 
 } // namespace quillfen

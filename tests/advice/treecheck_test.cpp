@@ -93,7 +93,7 @@ TEST_P(TreeCheckOfProfiles, FindsNothingInAFreshTreeNorInARebuiltOne)
 TEST_F(TreeCheck, FindsEachOfTwelveFaultsWhereItStands)
 {
     build(3);
-    change("General/Globals/GeneralSettings.tbl", "sPrefix = \"+\"", "sPrefix = \"+\"-\"");
+    change("General/Globals/GeneralSettings.tbl", "sPrefix = \"+\"", "sPrefix = \"+\"b\"");
     change("Security/AntiVirus/AntiVirusSettings.tbl", "sAction = \"D\"", "sAction = \"D\\\"");
     change("Security/Kick/KickSettings.tbl", "iKicksMakeBan = 5", "iKicksMakeBan = ");
     change("Games/SlotMachine/SlotMachineSettings.tbl", "iCreditPlay = 2", "iCreditPlay = 2x");

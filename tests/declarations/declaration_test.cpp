@@ -11,11 +11,11 @@ TableFile sample()
 {
     return {"A.tbl",
             "tSample",
-            {flag("bFlag", "chkCheckBox(0)", "Flag", "1"),
-             number("iNumber", "txtUpDown(0)", "Number", "5", 1, 50),
-             text("sText", "txtTextBox(0)", "Text", "x"),
-             entry("sEntry", "cboComboBox", "Entry", "+", {"+", "-"}),
-             profileFlags("tEnabledProfiles", "lvwEnabledProfiles", "Enabled Profiles")},
+            {setting::flag("bFlag", "chkCheckBox(0)", "Flag", true),
+             setting::number("iNumber", "txtUpDown(0)", "Number", 5, 1, 50),
+             setting::text("sText", "txtTextBox(0)", "Text", "x"),
+             setting::entry("sEntry", "cboComboBox", "Entry", "+", {"+", "-"}),
+             setting::profileFlags("tEnabledProfiles", "lvwEnabledProfiles", "Enabled Profiles")},
             {"sEntry", "bFlag", "tEnabledProfiles", "iNumber", "sText"}};
 }
 
@@ -136,7 +136,7 @@ TEST_F(Declaration, AKeyThatIsNotSavedIsKeptByARebuildAndDroppedByASave)
     const TableFile file = {
         "A.tbl",
         "tSample",
-        {notSaved(text("sHidden", "", "", "x")), flag("bFlag", "chkCheckBox", "Flag", "1")}};
+        {setting::rebuiltText("sHidden", "x"), setting::flag("bFlag", "chkCheckBox", "Flag", true)}};
     const TableIndex index("tSample = {\r\n\tsHidden = \"t\",\r\n}");
     const auto values = rebuilt(file, index, hub.profiles);
     EXPECT_EQ(composed(file, values, RowOrder::Rebuild, hub.profiles),
@@ -147,7 +147,7 @@ TEST_F(Declaration, AKeyThatIsNotSavedIsKeptByARebuildAndDroppedByASave)
 TEST_F(Declaration, AProfileTableCanBeginWithTheHubsFirstProfile)
 {
     hub.profiles.add("VIP");
-    const TableFile file = {"A.tbl", "tSample", {hubProfileFlags("tCreate", "lvwCreate", "Create")}};
+    const TableFile file = {"A.tbl", "tSample", {setting::hubProfileFlags("tCreate", "lvwCreate", "Create")}};
     const TableIndex index("tSample = {\r\n\ttCreate = {\r\n\t\t[-1] = 1,\r\n\t\t[1] = 1,\r\n\t},\r\n}");
     const std::string expected = "tSample = {\r\n\ttCreate = {\r\n\t\t[0] = 0,\r\n\t\t[1] = 1,\r\n\t},\r\n}";
     EXPECT_EQ(composed(file, loaded(file, index, hub.profiles), RowOrder::Save, hub.profiles), expected);
@@ -156,7 +156,7 @@ TEST_F(Declaration, AProfileTableCanBeginWithTheHubsFirstProfile)
 
 TEST_F(Declaration, ASaveMakesItsFolderOnlyWhereThatIsDeclared)
 {
-    TableFile file = {"Own\\A.tbl", "tSample", {flag("bFlag", "chkCheckBox", "Flag", "1")}};
+    TableFile file = {"Own\\A.tbl", "tSample", {setting::flag("bFlag", "chkCheckBox", "Flag", true)}};
     EXPECT_THROW(saveTableFile(file, {{"bFlag", "0"}}, hub.files, hub.profiles), StoreError);
     file.makesFolder = true;
     for (const char* value : {"0", "1"}) // the second save finds the folder made
@@ -166,7 +166,7 @@ TEST_F(Declaration, ASaveMakesItsFolderOnlyWhereThatIsDeclared)
 
 TEST_F(Declaration, TheRowsAloneStandAmongOthersInATable)
 {
-    const TableFile file = {"A.tbl", "tSample", {flag("bFlag", "chkCheckBox", "Flag", "1")}};
+    const TableFile file = {"A.tbl", "tSample", {setting::flag("bFlag", "chkCheckBox", "Flag", true)}};
     TableWriter table("tOther");
     table.row("iFirst", "1");
     writeRows(table, file, {{"bFlag", "0"}}, RowOrder::Save, hub.profiles);
@@ -182,7 +182,8 @@ TableFile only(Setting setting)
 
 TEST_F(Declaration, ALetterStandsQuotedForItsEntry)
 {
-    const TableFile file = only(letter("sAction", "cboComboBox", "Action", "T", {"Kick", "TempBan"}));
+    const TableFile file =
+        only(setting::letter("sAction", "cboComboBox", "Action", "TempBan", {"Kick", "TempBan"}));
     rebuildTableFile(file, hub.files, hub.profiles);
     EXPECT_EQ(hub.file("A.tbl"), "tSample = {\r\n\tsAction = \"T\",\r\n}\r\n");
     hub.file("A.tbl") = "tSample = {\r\n\tsAction = \"K\",\r\n}\r\n";
@@ -190,23 +191,37 @@ TEST_F(Declaration, ALetterStandsQuotedForItsEntry)
     EXPECT_EQ(hub.file("A.tbl"), "tSample = {\r\n\tsAction = \"K\",\r\n}\r\n");
 }
 
-TEST_F(Declaration, ALoadShowsWhatASettingMakesOfItsText)
+TEST_F(Declaration, AFlagMayShowAsTickedByAnyNumberAboveZero)
 {
-    Setting setting = number("iNumber", "txtUpDown", "Number", "5", 1, 50);
-    setting.shown = [](const std::string& stored) { return stored + "!"; };
-    const TableFile file = only(setting);
-    EXPECT_EQ(loaded(file, TableIndex("tSample = {\r\n\tiNumber = 7,\r\n}"), hub.profiles).at("iNumber"),
-              "7!");
-    EXPECT_EQ(restored(file, hub.profiles).at("iNumber"), "5");
-    EXPECT_EQ(rebuilt(file, TableIndex("tSample = {\r\n\tiNumber = 7,\r\n}"), hub.profiles).at("iNumber"),
-              "7");
+    const TableFile file =
+        only(setting::flag("bFlag", "chkCheckBox", "Flag", true, {.tickedAboveZero = true}));
+    const TableIndex two("tSample = {\r\n\tbFlag = 2,\r\n}");
+    EXPECT_EQ(loaded(file, two, hub.profiles).at("bFlag"), "1");
+    EXPECT_EQ(rebuilt(file, two, hub.profiles).at("bFlag"), "2") << "a rebuild keeps what stands there";
+    EXPECT_EQ(loaded(file, TableIndex("tSample = {\r\n\tbFlag = -2,\r\n}"), hub.profiles).at("bFlag"), "0");
+    EXPECT_EQ(loaded(file, TableIndex(""), hub.profiles).at("bFlag"), "0");
+    EXPECT_EQ(
+        loaded(only(setting::flag("bFlag", "chkCheckBox", "Flag", true)), two, hub.profiles).at("bFlag"), "2")
+        << "which ticks no other flag";
+}
+
+TEST_F(Declaration, ALetterThatIsMissingMayShowAsAWord)
+{
+    const auto shown = [this](const std::string& wordWhereNone, const std::string& rows) {
+        const TableFile file =
+            only(setting::letter("sAction", "cboComboBox", "Action", "Ban", {"Kick", "Ban"}, wordWhereNone));
+        return loaded(file, TableIndex("tSample = {\r\n" + rows + "}"), hub.profiles).at("sAction");
+    };
+    EXPECT_EQ(shown("Kick", ""), "K");
+    EXPECT_EQ(shown("Kick", "\tsAction = \"B\",\r\n"), "B");
+    EXPECT_EQ(shown("", ""), "");
 }
 
 TEST_F(Declaration, ARebuildMayHaveADefaultOfItsOwn)
 {
-    Setting setting = number("iNumber", "txtUpDown", "Number", "5", 1, 50);
-    setting.rebuildStandard = "";
-    const TableFile file = only(setting);
+    auto number = setting::number("iNumber", "txtUpDown", "Number", 5, 1, 50);
+    number.rebuild.defaultText = "";
+    const TableFile file = only(number);
     EXPECT_EQ(restored(file, hub.profiles).at("iNumber"), "5");
     EXPECT_EQ(rebuilt(file, TableIndex(""), hub.profiles).at("iNumber"), "");
     EXPECT_EQ(rebuilt(file, TableIndex("tSample = {\r\n\tiNumber = 7,\r\n}"), hub.profiles).at("iNumber"),
@@ -215,31 +230,33 @@ TEST_F(Declaration, ARebuildMayHaveADefaultOfItsOwn)
 
 TEST_F(Declaration, ARebuildMayResetASetting)
 {
-    Setting setting = profileFlags("tEnabledProfiles", "lvwEnabledProfiles", "Enabled Profiles");
+    auto flags = setting::profileFlags("tEnabledProfiles", "lvwEnabledProfiles", "Enabled Profiles");
     const std::string bytes = "tSample = {\r\n\ttEnabledProfiles = {\r\n\t\t[0] = 1,\r\n\t},\r\n}";
-    EXPECT_EQ(rebuilt(only(setting), TableIndex(bytes), hub.profiles).at("tEnabledProfiles/0"), "1");
-    setting.resets = true;
-    EXPECT_EQ(rebuilt(only(setting), TableIndex(bytes), hub.profiles).at("tEnabledProfiles/0"), "0");
-    EXPECT_EQ(loaded(only(setting), TableIndex(bytes), hub.profiles).at("tEnabledProfiles/0"), "1");
+    EXPECT_EQ(rebuilt(only(flags), TableIndex(bytes), hub.profiles).at("tEnabledProfiles/0"), "1");
+    flags.rebuild.resets = true;
+    EXPECT_EQ(rebuilt(only(flags), TableIndex(bytes), hub.profiles).at("tEnabledProfiles/0"), "0");
+    EXPECT_EQ(loaded(only(flags), TableIndex(bytes), hub.profiles).at("tEnabledProfiles/0"), "1");
 }
 
 TEST_F(Declaration, WhatRestoreLeavesAloneIsNotAmongTheDefaults)
 {
-    Setting setting = profileFlags("tEnabledProfiles", "lvwEnabledProfiles", "Enabled Profiles");
-    setting.keptByRestore = true;
-    EXPECT_EQ(restored(only(setting), hub.profiles), SettingValues());
+    const auto flags = setting::profileFlags("tEnabledProfiles", "lvwEnabledProfiles", "Enabled Profiles");
+    EXPECT_EQ(restored(only(notRestored(flags)), hub.profiles), SettingValues());
 }
 
 TEST_F(Declaration, NeighboursOfOneNestedTableShareIt)
 {
-    TableFile file = {"A.tbl",
-                      "tSample",
-                      {text("sText", "txtTextBox", "Text", "x"),
-                       number("iNumber", "txtUpDown", "Number", "5", 1, 50),
-                       flag("bFlag", "chk", "Flag", "1"), profileFlags("tMain", "lvwMain", "Main")},
-                      {"iNumber", "bFlag", "sText", "tMain"}};
-    file.settings[1].nest = file.settings[2].nest = "tInner";
-    file.settings[3].nest = "tLists";
+    const auto nested = [](const char* nest, setting::Field field) {
+        field.nest = nest;
+        return field;
+    };
+    const TableFile file = {"A.tbl",
+                            "tSample",
+                            {setting::text("sText", "txtTextBox", "Text", "x"),
+                             nested("tInner", setting::number("iNumber", "txtUpDown", "Number", 5, 1, 50)),
+                             nested("tInner", setting::flag("bFlag", "chk", "Flag", true)),
+                             nested("tLists", setting::profileFlags("tMain", "lvwMain", "Main"))},
+                            {"iNumber", "bFlag", "sText", "tMain"}};
     const std::string save = "tSample = {\r\n\tsText = \"x\",\r\n\ttInner = {\r\n\t\tiNumber = 5,\r\n"
                              "\t\tbFlag = 1,\r\n\t},\r\n\ttLists = {\r\n\t\ttMain = {\r\n\t\t\t[-1] = 0,\r\n"
                              "\t\t\t[0] = 1,\r\n\t\t},\r\n\t},\r\n}";
@@ -259,7 +276,8 @@ TEST_F(Declaration, NeighboursOfOneNestedTableShareIt)
 
 TEST_F(Declaration, NamedFlagsStandInATableOfTheirOwn)
 {
-    const TableFile file = only(namedFlags("tBlock", "lvwBlocked", "Blocked", {"Active", "Passive"}));
+    const TableFile file =
+        only(setting::namedFlags("tBlock", "lvwBlocked", "Blocked", {"Active", "Passive"}));
     const std::string bytes =
         "tSample = {\r\n\ttBlock = {\r\n\t\tbActive = 0,\r\n\t\tbPassive = 1,\r\n\t},\r\n}";
     const auto values = loaded(file, TableIndex(bytes), hub.profiles);
@@ -272,7 +290,7 @@ TEST_F(Declaration, NamedFlagsStandInATableOfTheirOwn)
 
 TEST_F(Declaration, AProfileKeyStandsBareAndIsTheHubsFirstByDefault)
 {
-    const TableFile file = only(profileKey("iProfile", "cboComboBox", "Profile"));
+    const TableFile file = only(setting::profileKey("iProfile", "cboComboBox", "Profile"));
     EXPECT_EQ(composed(file, {{"iProfile", "2"}}, RowOrder::Save, hub.profiles),
               "tSample = {\r\n\tiProfile = 2,\r\n}");
     EXPECT_EQ(restored(file, hub.profiles).at("iProfile"), "0");
@@ -280,7 +298,8 @@ TEST_F(Declaration, AProfileKeyStandsBareAndIsTheHubsFirstByDefault)
 
 TEST_F(Declaration, NamedTextsStandInATableOfTheirOwnAndARebuildFillsThemIn)
 {
-    const TableFile file = only(namedTexts("tSum", "lvwSum", "Sums", {"sOne", "sTwo"}, {"1", "2"}));
+    const TableFile file =
+        only(setting::NamedTexts{"tSum", "lvwSum", "Sums", {{"sOne", "1"}, {"sTwo", "2"}}});
     const std::string bytes =
         "tSample = {\r\n\ttSum = {\r\n\t\tsOne = \"a\",\r\n\t\tsTwo = \"\",\r\n\t},\r\n}";
     const auto values = loaded(file, TableIndex(bytes), hub.profiles);
@@ -293,43 +312,40 @@ TEST_F(Declaration, NamedTextsStandInATableOfTheirOwnAndARebuildFillsThemIn)
 
 TEST_F(Declaration, ConstantRowsMayDifferBetweenSaveAndRebuild)
 {
-    TableFile file = only(constantRows("tBang", {"\"Die\"", "\"Live\""}));
-    EXPECT_EQ(built(file), "tSample = {\r\n\ttBang = {\r\n\t\t\"Die\",\r\n\t\t\"Live\",\r\n\t},\r\n}\r\n");
-    file.settings[0].rebuildEntries = {"Die", "Live"};
-    EXPECT_EQ(built(file), "tSample = {\r\n\ttBang = {\r\n\t\tDie,\r\n\t\tLive,\r\n\t},\r\n}\r\n");
-    EXPECT_EQ(composed(file, {}, RowOrder::Save, hub.profiles),
+    setting::ConstantRows rows = {"tBang", {"\"Die\"", "\"Live\""}};
+    EXPECT_EQ(built(only(rows)),
+              "tSample = {\r\n\ttBang = {\r\n\t\t\"Die\",\r\n\t\t\"Live\",\r\n\t},\r\n}\r\n");
+    rows.rebuiltRows = {"Die", "Live"};
+    EXPECT_EQ(built(only(rows)), "tSample = {\r\n\ttBang = {\r\n\t\tDie,\r\n\t\tLive,\r\n\t},\r\n}\r\n");
+    EXPECT_EQ(composed(only(rows), {}, RowOrder::Save, hub.profiles),
               "tSample = {\r\n\ttBang = {\r\n\t\t\"Die\",\r\n\t\t\"Live\",\r\n\t},\r\n}");
-    EXPECT_FALSE(hasControl(file.settings[0]));
 }
 
 TEST_F(Declaration, AConstantTextIsWrittenByASaveAndKeptByARebuild)
 {
-    const TableFile file = only(constantText("sLetters", "ABC"));
+    const TableFile file = only(setting::ConstantText{"sLetters", "ABC"});
     EXPECT_EQ(composed(file, {}, RowOrder::Save, hub.profiles), "tSample = {\r\n\tsLetters = \"ABC\",\r\n}");
     EXPECT_EQ(built(file), "tSample = {\r\n\tsLetters = \"\",\r\n}\r\n");
     hub.file("A.tbl") = "tSample = {\r\n\tsLetters = \"X\",\r\n}";
     rebuildTableFile(file, hub.files, hub.profiles);
     EXPECT_EQ(hub.file("A.tbl"), "tSample = {\r\n\tsLetters = \"X\",\r\n}\r\n");
-    EXPECT_FALSE(hasControl(file.settings[0]));
 }
 
 TEST_F(Declaration, AnIdleNumberIsNeverWritten)
 {
-    Setting setting = number("iIdle", "txtUpDown", "Idle", "5", 0, 9);
-    setting.idle = true;
-    EXPECT_EQ(composed(only(setting), {}, RowOrder::Save, hub.profiles), "tSample = {\r\n}");
-    EXPECT_EQ(built(only(setting)), "tSample = {\r\n}\r\n");
-    EXPECT_TRUE(hasControl(setting));
+    const TableFile file = only(setting::Idle{setting::number("iIdle", "txtUpDown", "Idle", 5, 0, 9)});
+    EXPECT_EQ(composed(file, {}, RowOrder::Save, hub.profiles), "tSample = {\r\n}");
+    EXPECT_EQ(built(file), "tSample = {\r\n}\r\n");
 }
 
 TEST_F(Declaration, ASaveMayWriteAKeyInItsOwnWay)
 {
-    Setting setting = number("iCount", "txtUpDown", "Count", "5", 0, 9);
-    setting.keyInSave = "iCount ";
-    const std::string saved = composed(only(setting), {{"iCount", "5"}}, RowOrder::Save, hub.profiles);
+    auto number = setting::number("iCount", "txtUpDown", "Count", 5, 0, 9);
+    number.keyInSave = "iCount ";
+    const std::string saved = composed(only(number), {{"iCount", "5"}}, RowOrder::Save, hub.profiles);
     EXPECT_EQ(saved, "tSample = {\r\n\tiCount  = 5,\r\n}");
-    EXPECT_EQ(loaded(only(setting), TableIndex(saved), hub.profiles).at("iCount"), "5");
-    EXPECT_EQ(built(only(setting)), "tSample = {\r\n\tiCount = 5,\r\n}\r\n");
+    EXPECT_EQ(loaded(only(number), TableIndex(saved), hub.profiles).at("iCount"), "5");
+    EXPECT_EQ(built(only(number)), "tSample = {\r\n\tiCount = 5,\r\n}\r\n");
 }
 
 } // namespace

@@ -33,8 +33,21 @@ protected:
     {
         breakFile(name, [key, change](TableFile& file) {
             change(*std::find_if(file.settings.begin(), file.settings.end(),
-                                 [&key](const Setting& setting) { return setting.key == key; }));
+                                 [&key](const Setting& each) { return keyOf(each) == key; }));
         });
+    }
+
+    void breakField(const char* name, const std::string& key,
+                    const std::function<void(setting::Field&)>& change)
+    {
+        breakSetting(name, key, [change](Setting& each) { change(std::get<setting::Field>(each)); });
+    }
+
+    /// Changes what only fields of this kind have.
+    template <typename Kind>
+    void breakKind(const char* name, const std::string& key, const std::function<void(Kind&)>& change)
+    {
+        breakField(name, key, [change](setting::Field& field) { change(std::get<Kind>(field.kind)); });
     }
 
     /// Changes the list of a form's first part.
@@ -74,8 +87,9 @@ TEST_F(Declarations, AFormWithoutCaptionOrPartsIsFound)
 
 TEST_F(Declarations, AControlNamedTwiceIsFoundAlsoAcrossParts)
 {
-    breakSetting("frmGeneralGeneral", "bFlatRC", [](Setting& each) { each.control = "chkCheckBox(0)"; });
-    breakSetting("frmGamesTrivia", "iScoring", [](Setting& each) { each.firstOption = 2; });
+    breakField("frmGeneralGeneral", "bFlatRC", [](setting::Field& each) { each.control = "chkCheckBox(0)"; });
+    breakKind<setting::Options>("frmGamesTrivia", "iScoring",
+                                [](setting::Options& each) { each.firstButton = 2; });
     form("frmSecurityKickSettings").parts.push_back(DeclaredText{"tlbCheckBox", "Twice", "a.asc"});
     const Found found = faults();
     EXPECT_TRUE(std::ranges::count(found, "frmGamesTrivia: control twice: optOption(2)"));
@@ -88,7 +102,7 @@ TEST_F(Declarations, AControlNamedTwiceIsFoundAlsoAcrossParts)
 
 TEST_F(Declarations, AControlOrALabelThatIsMissingIsFound)
 {
-    breakSetting("frmGamesTrivia", "iPoints", [](Setting& each) {
+    breakField("frmGamesTrivia", "iPoints", [](setting::Field& each) {
         each.control.clear();
         each.label.clear();
     });
@@ -97,41 +111,57 @@ TEST_F(Declarations, AControlOrALabelThatIsMissingIsFound)
 
 TEST_F(Declarations, ADefaultOutsideItsRangeOrItsEntriesIsFound)
 {
-    const auto setDefault = [](const char* text) { return [text](Setting& each) { each.standard = text; }; };
-    breakSetting("frmGamesTrivia", "iPoints", setDefault("101"));
-    breakSetting("frmGamesTrivia", "iScores", setDefault("many"));
-    breakSetting("frmGamesTrivia", "iScoring", setDefault("2"));
-    breakSetting("frmGamesTrivia", "bManualStart", setDefault("yes"));
-    breakSetting("frmGamesTrivia", "sHintChar", setDefault("**"));
-    breakSetting("frmSecurityClientCheckerSettings", "sAction", setDefault("X"));
-    breakSetting("frmGeneralGeneral", "sPrefix", setDefault("%"));
+    using namespace setting;
+    breakKind<Number>("frmGamesTrivia", "iPoints", [](Number& each) { each.defaultValue = 101; });
+    breakKind<Number>("frmGamesTrivia", "iAutoStartDelay", [](Number& each) { each.defaultValue = 0; });
+    breakKind<Options>("frmGamesTrivia", "iScoring", [](Options& each) { each.defaultValue = 2; });
+    breakKind<Text>("frmGamesTrivia", "sHintChar", [](Text& each) { each.defaultValue = "**"; });
+    breakKind<Letter>("frmSecurityClientCheckerSettings", "sAction", [](Letter& each) {
+        each.defaultWord = "Tease";
+        each.wordWhereNone = "Kiss";
+    });
+    breakKind<Entry>("frmGeneralGeneral", "sPrefix", [](Entry& each) { each.defaultValue = "%"; });
     Found found = faults();
     std::ranges::sort(found);
-    EXPECT_EQ(found, (Found{"frmGamesTrivia: default: bManualStart", "frmGamesTrivia: default: iPoints",
-                            "frmGamesTrivia: default: iScores", "frmGamesTrivia: default: iScoring",
-                            "frmGamesTrivia: default: sHintChar", "frmGeneralGeneral: default: sPrefix",
-                            "frmSecurityClientCheckerSettings: default: sAction"}));
+    EXPECT_EQ(found, (Found{"frmGamesTrivia: default: iAutoStartDelay", "frmGamesTrivia: default: iPoints",
+                            "frmGamesTrivia: default: iScoring", "frmGamesTrivia: default: sHintChar",
+                            "frmGeneralGeneral: default: sPrefix",
+                            "frmSecurityClientCheckerSettings: default: sAction",
+                            "frmSecurityClientCheckerSettings: where none: sAction"}));
 }
 
 TEST_F(Declarations, ARangeWithoutRoomIsFound)
 {
-    breakSetting("frmGamesTrivia", "iPoints", [](Setting& each) { each.maximum = each.minimum = 1; });
+    breakKind<setting::Number>("frmGamesTrivia", "iPoints",
+                               [](setting::Number& each) { each.maximum = each.minimum = 1; });
     EXPECT_EQ(faults(), Found{"frmGamesTrivia: no range: iPoints"});
 }
 
-TEST_F(Declarations, TextsWithoutTheirDefaultsAndRowsWithoutRowsAreFound)
+TEST_F(Declarations, ATableThatMissesWhatItIsMadeOfIsFound)
 {
-    breakSetting("frmGamesNumbers", "tCalculation", [](Setting& each) { each.standards.pop_back(); });
-    breakSetting("frmGamesSlotMachine", "tAux", [](Setting& each) { each.entries.clear(); });
-    EXPECT_EQ(faults(), (Found{"frmGamesNumbers: texts without their defaults: tCalculation",
-                               "frmGamesSlotMachine: no rows: tAux"}));
+    breakSetting("frmGamesNumbers", "tCalculation",
+                 [](Setting& each) { std::get<setting::NamedTexts>(each).texts.clear(); });
+    breakSetting("frmGamesSlotMachine", "tAux",
+                 [](Setting& each) { std::get<setting::ConstantRows>(each).rows.clear(); });
+    breakKind<setting::NamedFlags>("frmSecurityClientCheckerSettings", "tBlock",
+                                   [](setting::NamedFlags& each) { each.names.clear(); });
+    Found found = faults();
+    std::ranges::sort(found);
+    EXPECT_EQ(found, (Found{"frmGamesNumbers: no texts: tCalculation", "frmGamesSlotMachine: no rows: tAux",
+                            "frmSecurityClientCheckerSettings: no names: tBlock"}));
+}
+
+TEST_F(Declarations, NamedTextsForWhichNobodyMakesAControlAreFound)
+{
+    std::get<DeclaredSettings>(form("frmGamesNumbers").parts.front()).kind = SettingsPartKind::Plain;
+    EXPECT_EQ(faults(), Found{"frmGamesNumbers: nobody makes the control: tCalculation"});
 }
 
 TEST_F(Declarations, AKeyNamedTwiceAndAnOrderThatMissesOneAreFound)
 {
     breakFile("frmSecurityKickSettings", [](TableFile& file) { file.rebuildOrder.pop_back(); });
     breakFile("frmGamesSlotMachine", [](TableFile& file) {
-        file.settings.push_back(constantText(file.settings.front().key, "x"));
+        file.settings.push_back(setting::ConstantText{keyOf(file.settings.front()), "x"});
         file.rebuildOrder.clear();
     });
     Found found = faults();
@@ -186,7 +216,8 @@ TEST_F(Declarations, AGroupAGridTicksAndATextThatMissAPartOfThemselvesAreFound)
 
 TEST_F(Declarations, WhatIsMeantMustBeThere)
 {
-    breakSetting("frmGamesGuessTheNumber", "iMaxHints", [](Setting& each) { each.standard = "10"; });
+    breakKind<setting::Number>("frmGamesGuessTheNumber", "iMaxHints",
+                               [](setting::Number& each) { each.defaultValue = 10; });
     EXPECT_EQ(faults(), Found{"frmGamesGuessTheNumber: default: iMaxHints (meant, and not found)"});
 }
 

@@ -23,13 +23,14 @@ protected:
             "\ttEnabledProfiles = {\r\n\t\t[0] = 1,\r\n\t},\r\n}\r\n";
     }
 
-    const TableFile file = {"A.tbl",
-                            "tSample",
-                            {flag("bFlag", "chkCheckBox(0)", "Flag", "0"),
-                             number("iNumber", "txtUpDown(0)", "Number", "5", 1, 50),
-                             text("sText", "txtTextBox(0)", "Text", "x"),
-                             entry("sEntry", "cboComboBox", "Entry", "+", {"+", "-"}),
-                             profileFlags("tEnabledProfiles", "lvwEnabledProfiles", "Enabled Profiles")}};
+    const TableFile file = {
+        "A.tbl",
+        "tSample",
+        {setting::flag("bFlag", "chkCheckBox(0)", "Flag", false),
+         setting::number("iNumber", "txtUpDown(0)", "Number", 5, 1, 50),
+         setting::text("sText", "txtTextBox(0)", "Text", "x"),
+         setting::entry("sEntry", "cboComboBox", "Entry", "+", {"+", "-"}),
+         setting::profileFlags("tEnabledProfiles", "lvwEnabledProfiles", "Enabled Profiles")}};
 };
 
 TEST_F(DeclaredForm, LoadsEachControlFromOneReadingOfTheFile)

@@ -47,7 +47,7 @@ protected:
 
 TEST_F(FormOf, ALetterShowsAsItsEntryAndIsSavedAsTheLetter)
 {
-    auto& form = formOf({letter("sAction", "cboComboBox", "Action", "T", {"Kick", "TempBan"})},
+    auto& form = formOf({setting::letter("sAction", "cboComboBox", "Action", "TempBan", {"Kick", "TempBan"})},
                         "\tsAction = \"K\",\r\n");
     auto& combo = find<QComboBox>(form, "cboComboBox");
     EXPECT_EQ(combo.currentText(), "Kick");
@@ -63,7 +63,7 @@ TEST_F(FormOf, ALetterShowsAsItsEntryAndIsSavedAsTheLetter)
 
 TEST_F(FormOf, ALetterOfNoEntryShowsAsNoChoice)
 {
-    auto& form = formOf({letter("sAction", "cboComboBox", "Action", "T", {"Kick", "TempBan"})},
+    auto& form = formOf({setting::letter("sAction", "cboComboBox", "Action", "TempBan", {"Kick", "TempBan"})},
                         "\tsAction = \"k\",\r\n");
     EXPECT_EQ(find<QComboBox>(form, "cboComboBox").currentText(), "");
     EXPECT_EQ(saved(form), "tSample = {\r\n\tsAction = \"\",\r\n}\r\n");
@@ -71,15 +71,15 @@ TEST_F(FormOf, ALetterOfNoEntryShowsAsNoChoice)
 
 TEST_F(FormOf, AnOptionWithoutAKeyIsTheFirstAndNotTheDefault)
 {
-    auto& form = formOf({options("iFormat", "optOption", "Format", "1", 0, {"Plain", "Long"})}, "");
+    auto& form = formOf({setting::options("iFormat", "optOption", "Format", 1, 0, {"Plain", "Long"})}, "");
     EXPECT_TRUE(find<QRadioButton>(form, "optOption(0)").isChecked());
     EXPECT_FALSE(find<QRadioButton>(form, "optOption(1)").isChecked());
 }
 
 TEST_F(FormOf, ADiscardTakesAChoiceBackAlsoWhereNoneWasMade)
 {
-    auto& form =
-        formOf({options("iFormat", "optOption", "Format", "1", 0, {"Plain", "Long"})}, "\tiFormat = 7,\r\n");
+    auto& form = formOf({setting::options("iFormat", "optOption", "Format", 1, 0, {"Plain", "Long"})},
+                        "\tiFormat = 7,\r\n");
     auto& plain = find<QRadioButton>(form, "optOption(0)");
     auto& longer = find<QRadioButton>(form, "optOption(1)");
     longer.click();
@@ -95,8 +95,8 @@ TEST_F(FormOf, ADiscardTakesAChoiceBackAlsoWhereNoneWasMade)
 
 TEST_F(FormOf, AnEmptiedNumberIsSavedAsZero)
 {
-    auto& form = formOf({number("iDelay", "txtUpDown(0)", "Delay", "5", 1, 9),
-                         number("iTime", "txtUpDown(1)", "Time", "5", 1, 9)},
+    auto& form = formOf({setting::number("iDelay", "txtUpDown(0)", "Delay", 5, 1, 9),
+                         setting::number("iTime", "txtUpDown(1)", "Time", 5, 1, 9)},
                         "\tiDelay = 3,\r\n\tiTime = 4,\r\n");
     find<QLineEdit>(form, "txtUpDown(0)").clear();
     find<QLineEdit>(form, "txtUpDown(1)").setText("  "); // blanks load as nothing, too
@@ -105,8 +105,8 @@ TEST_F(FormOf, AnEmptiedNumberIsSavedAsZero)
 
 TEST_F(FormOf, ANumberThatIsSavedAsTypedMayBeSavedAsNothing)
 {
-    auto& form =
-        formOf({savedAsTyped(number("iDelay", "txtUpDown", "Delay", "5", 1, 9))}, "\tiDelay = 3,\r\n");
+    auto& form = formOf({setting::number("iDelay", "txtUpDown", "Delay", 5, 1, 9, setting::asTyped)},
+                        "\tiDelay = 3,\r\n");
     find<QLineEdit>(form, "txtUpDown").clear();
     EXPECT_EQ(saved(form), "tSample = {\r\n\tiDelay = ,\r\n}\r\n");
 }
@@ -142,10 +142,10 @@ void enter(QLineEdit& box, const QString& text, Entering how)
 
 TEST_F(FormOf, ALineEndNeverGetsIntoAValueOfOneLine)
 {
-    auto& form =
-        formOf({text("sText", "txtTextBox", "Text", ""), number("iDelay", "txtUpDown", "Delay", "5", 1, 9),
-                entry("sEntry", "cboComboBox", "Entry", "", {"a"})},
-               "");
+    auto& form = formOf({setting::text("sText", "txtTextBox", "Text", ""),
+                         setting::number("iDelay", "txtUpDown", "Delay", 5, 1, 9),
+                         setting::entry("sEntry", "cboComboBox", "Entry", "", {"a"})},
+                        "");
     for (const Entering how : {Entering::Paste, Entering::Drop, Entering::InputMethod}) {
         enter(find<QLineEdit>(form, "txtTextBox"), "one\r\ntwo\n", how);
         if (how != Entering::Drop) // which no number box takes
@@ -195,10 +195,10 @@ TEST_F(FormOf, ALineEndNeverGetsThroughAnInputBox)
 
 TEST_F(FormOf, TheWheelOverAComboBoxWithoutFocusChangesNothing)
 {
-    auto& form = formOf({text("sText", "txtTextBox", "Text", ""),
-                         entry("sEntry", "cboComboBox(0)", "Entry", "", {"a", "b"}),
-                         letter("sLetter", "cboComboBox(1)", "Letter", "K", {"Kick", "Ban"}),
-                         profileKey("iProfile", "cboComboBox(2)", "Profile")},
+    auto& form = formOf({setting::text("sText", "txtTextBox", "Text", ""),
+                         setting::entry("sEntry", "cboComboBox(0)", "Entry", "", {"a", "b"}),
+                         setting::letter("sLetter", "cboComboBox(1)", "Letter", "Kick", {"Kick", "Ban"}),
+                         setting::profileKey("iProfile", "cboComboBox(2)", "Profile")},
                         "\tsEntry = \"a\",\r\n\tsLetter = \"K\",\r\n\tiProfile = 0,\r\n");
     for (const char* name : {"cboComboBox(0)", "cboComboBox(1)", "cboComboBox(2)"}) {
         auto& combo = find<QComboBox>(form, name);
@@ -213,9 +213,7 @@ TEST_F(FormOf, TheWheelOverAComboBoxWithoutFocusChangesNothing)
 
 TEST_F(FormOf, ATextBoxWithALimitKeepsTheFirstOfWhatItHolds)
 {
-    Setting hint = text("sHint", "txtTextBox", "Hint", "*");
-    hint.limit = 1;
-    auto& form = formOf({hint}, "\tsHint = \"a\",\r\n");
+    auto& form = formOf({setting::text("sHint", "txtTextBox", "Hint", "*", 1)}, "\tsHint = \"a\",\r\n");
     auto& box = find<QLineEdit>(form, "txtTextBox");
     box.setCursorPosition(0);
     QTest::keyClick(&box, 'b');
@@ -227,9 +225,8 @@ TEST_F(FormOf, ATextBoxWithALimitKeepsTheFirstOfWhatItHolds)
 
 TEST_F(FormOf, ARestoreLeavesAloneWhatIsKept)
 {
-    Setting kept = text("sText", "txtTextBox", "Text", "x");
-    kept.keptByRestore = true;
-    auto& form = formOf({kept, number("iNumber", "txtUpDown", "Number", "5", 1, 50)},
+    auto& form = formOf({notRestored(setting::text("sText", "txtTextBox", "Text", "x")),
+                         setting::number("iNumber", "txtUpDown", "Number", 5, 1, 50)},
                         "\tsText = \"mine\",\r\n\tiNumber = 7,\r\n");
     test::answering(QMessageBox::Ok, [&form] { button(form, "RESTORE").trigger(); });
     EXPECT_EQ(find<QLineEdit>(form, "txtTextBox").text(), "mine");
@@ -239,7 +236,7 @@ TEST_F(FormOf, ARestoreLeavesAloneWhatIsKept)
 
 TEST_F(FormOf, NamedFlagsAreACheckListWithoutTheirLetter)
 {
-    auto& form = formOf({namedFlags("tBlock", "lvwBlocked", "Blocked", {"Active", "Passive"})},
+    auto& form = formOf({setting::namedFlags("tBlock", "lvwBlocked", "Blocked", {"Active", "Passive"})},
                         "\ttBlock = {\r\n\t\tbPassive = 1,\r\n\t},\r\n");
     auto& list = find<RowList>(form, "lvwBlocked");
     EXPECT_EQ(list.rows(), (std::vector<CellRow>{{{"Active"}}, {{"Passive"}, true}}));
@@ -251,13 +248,11 @@ TEST_F(FormOf, NamedFlagsAreACheckListWithoutTheirLetter)
 
 TEST_F(FormOf, UnitsToolTipsAndHeadingsAreShown)
 {
-    Setting number = quillfen::number("iNumber", "txtUpDown", "Number", "5", 1, 50);
-    number.unit = "Days";
-    Setting flag = quillfen::flag("bFlag", "chkCheckBox", "Flag", "1");
+    auto flag = setting::flag("bFlag", "chkCheckBox", "Flag", true);
     flag.toolTip = "a < b";
-    Setting list = profileFlags("tMain", "lvwMain", "Main");
-    list.column = "Enabled Main";
-    auto& form = formOf({number, flag, list}, "");
+    auto& form = formOf({setting::number("iNumber", "txtUpDown", "Number", 5, 1, 50, {.unit = "Days"}), flag,
+                         setting::profileFlags("tMain", "lvwMain", "Main", "Enabled Main")},
+                        "");
     const auto labels = form.findChildren<QLabel*>();
     EXPECT_TRUE(
         std::any_of(labels.begin(), labels.end(), [](auto* label) { return label->text() == "Days"; }));
@@ -306,13 +301,12 @@ TEST_F(FormOf, ATickListMayHaveALabelNoHelpAndTicksThatARestoreLeaves)
 
 TEST_F(FormOf, FlagsOfOneFrameStandInItTogether)
 {
-    std::vector<Setting> settings = {
-        number("iNumber", "txtUpDown", "Number", "5", 1, 50), flag("bA", "chkCheckBox(0)", "A", "0"),
-        flag("bB", "chkCheckBox(1)", "B", "0"), flag("bC", "chkCheckBox(2)", "C", "0"),
-        flag("bD", "chkCheckBox(3)", "D", "0")};
-    settings[1].frame = settings[2].frame = "Tell";
-    settings[3].frame = "Ask";
-    auto& form = formOf(settings, "");
+    auto& form = formOf({setting::number("iNumber", "txtUpDown", "Number", 5, 1, 50),
+                         setting::flag("bA", "chkCheckBox(0)", "A", false, {.frame = "Tell"}),
+                         setting::flag("bB", "chkCheckBox(1)", "B", false, {.frame = "Tell"}),
+                         setting::flag("bC", "chkCheckBox(2)", "C", false, {.frame = "Ask"}),
+                         setting::flag("bD", "chkCheckBox(3)", "D", false)},
+                        "");
     QStringList captions;
     for (int at = 0; at < 4; ++at) {
         auto* frame = qobject_cast<QGroupBox*>(
@@ -333,8 +327,8 @@ TEST(RowLists, ABoldRowStandsApart)
 
 TEST_F(FormOf, AProfileKeyIsChosenAmongTheHubsOwnProfiles)
 {
-    const Setting setting = profileKey("iProfile", "cboComboBox", "Profile");
-    auto& form = formOf({setting}, "\tiProfile = 1,\r\n");
+    const auto profile = setting::profileKey("iProfile", "cboComboBox", "Profile");
+    auto& form = formOf({profile}, "\tiProfile = 1,\r\n");
     auto& combo = find<QComboBox>(form, "cboComboBox");
     EXPECT_EQ(combo.count(), 3);
     EXPECT_EQ(combo.itemText(0), "Master");
@@ -349,20 +343,20 @@ TEST_F(FormOf, OfTwoProfilesOfOneNameTheFirstOnesKeyIsSaved)
     hub.profiles = {};
     for (const char* name : {"Reg", "Operator", "Reg"})
         hub.profiles.add(name);
-    auto& form = formOf({profileKey("iProfile", "cboComboBox", "Profile")}, "\tiProfile = 1,\r\n");
+    auto& form = formOf({setting::profileKey("iProfile", "cboComboBox", "Profile")}, "\tiProfile = 1,\r\n");
     find<QComboBox>(form, "cboComboBox").setCurrentIndex(2);
     EXPECT_EQ(saved(form), "tSample = {\r\n\tiProfile = 0,\r\n}\r\n");
 }
 
 TEST_F(FormOf, AProfileKeyOfNoProfileIsKeptAndNoKeyIsTheFirst)
 {
-    const Setting setting = profileKey("iProfile", "cboComboBox", "Profile");
-    auto& form = formOf({setting}, "\tiProfile = 9,\r\n");
+    const auto profile = setting::profileKey("iProfile", "cboComboBox", "Profile");
+    auto& form = formOf({profile}, "\tiProfile = 9,\r\n");
     EXPECT_EQ(find<QComboBox>(form, "cboComboBox").currentText(), "");
     EXPECT_EQ(saved(form), "tSample = {\r\n\tiProfile = 9,\r\n}\r\n");
     form.parentWidget()->close();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    auto& other = formOf({setting}, "");
+    auto& other = formOf({profile}, "");
     EXPECT_EQ(find<QComboBox>(other, "cboComboBox").currentText(), "Master");
     EXPECT_EQ(saved(other), "tSample = {\r\n\tiProfile = 0,\r\n}\r\n");
 }

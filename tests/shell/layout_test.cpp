@@ -39,7 +39,7 @@ protected:
         std::vector<Setting> settings;
         for (int place = 0; place < count; ++place) {
             const std::string number = std::to_string(place);
-            settings.push_back(profileFlags("t" + number, "lvw" + number, "List " + number));
+            settings.push_back(setting::profileFlags("t" + number, "lvw" + number, "List " + number));
         }
         const QWidget& widget = laidOut(settings);
         std::vector<QRect> places;
@@ -58,11 +58,10 @@ private:
 
 TEST_F(Layout, NumbersAndChoicesKeepTheirWidthAndTextsAreOfAReadableOne)
 {
-    Setting days = number("iDays", "txtUpDown(1)", "Days", "5", 1, 9);
-    days.unit = "Days";
-    auto& widget = laidOut({number("iNumber", "txtUpDown(0)", "Number", "5", 1, 9), days,
-                            letter("sAction", "cboComboBox", "Action", "K", {"Kick", "Ban"}),
-                            text("sText", "txtTextBox", "Text", "")});
+    auto& widget = laidOut({setting::number("iNumber", "txtUpDown(0)", "Number", 5, 1, 9),
+                            setting::number("iDays", "txtUpDown(1)", "Days", 5, 1, 9, {.unit = "Days"}),
+                            setting::letter("sAction", "cboComboBox", "Action", "Kick", {"Kick", "Ban"}),
+                            setting::text("sText", "txtTextBox", "Text", "")});
     for (const char* name : {"updUpDown(0)", "updUpDown(1)", "cboComboBox"}) {
         const auto* field = widget.findChild<QWidget*>(name);
         EXPECT_EQ(field->width(), field->sizeHint().width()) << name;

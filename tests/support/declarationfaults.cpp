@@ -1,6 +1,5 @@
 #include "support/declarationfaults.h"
 
-#include "settings/lines.h"
 #include "shell/kit/editdialog.h"
 
 #include <algorithm>
@@ -41,7 +40,15 @@ private:
         m_controls.push_back(name);
     }
 
-    void walk(const DeclaredSettings& settings) { walkFile(settings.file()); }
+    void walk(const DeclaredSettings& settings)
+    {
+        const TableFile file = settings.file();
+        walkFile(file);
+        for (const Setting& each : file.settings)
+            expect(settings.kind != SettingsPartKind::Plain ||
+                       !std::holds_alternative<setting::NamedTexts>(each),
+                   "nobody makes the control: " + keyOf(each));
+    }
 
     void walk(const DeclaredList& list) { walkList(list.list(m_profiles), true); }
 
@@ -102,10 +109,10 @@ private:
     {
         expect(!file.path.empty() && !file.table.empty(), "settings without a file");
         std::multiset<std::string> keys;
-        for (const Setting& setting : file.settings) {
-            if (!setting.idle)
-                keys.insert(setting.key);
-            walkSetting(setting);
+        for (const Setting& each : file.settings) {
+            if (!std::holds_alternative<setting::Idle>(each))
+                keys.insert(keyOf(each));
+            std::visit([this](const auto& setting) { walkSetting(setting); }, each);
         }
         for (const std::string& key : std::set<std::string>(keys.begin(), keys.end()))
             expect(keys.count(key) == 1, "key twice: " + key);
@@ -113,50 +120,74 @@ private:
         expect(ordered.empty() || ordered == keys, "the rebuild's order doesn't name each key once");
     }
 
-    void walkSetting(const Setting& setting)
+    void walkSetting(const setting::Field& field)
     {
-        walkDefault(setting);
-        if (setting.kind == Setting::Kind::Rows)
-            expect(!setting.entries.empty(), "no rows: " + setting.key);
-        if (setting.kind == Setting::Kind::Texts)
-            expect(setting.standards.size() == setting.entries.size(),
-                   "texts without their defaults: " + setting.key);
-        if (!hasControl(setting))
-            return;
-        expect(!setting.label.empty() || !setting.toolTip.empty(), "no label: " + setting.key);
-        if (setting.kind != Setting::Kind::Options) {
-            addControl(setting.control, setting.key);
-            return;
-        }
-        for (std::size_t at = 0; at < setting.entries.size(); ++at) {
-            const auto place = static_cast<std::size_t>(setting.firstOption) + at;
-            addControl(setting.control + '(' + std::to_string(place) + ')', setting.key);
+        std::visit([this, &field](const auto& kind) { walkKind(field, kind); }, field.kind);
+        expect(!field.label.empty() || !field.toolTip.empty(), "no label: " + field.key);
+        const auto* options = std::get_if<setting::Options>(&field.kind);
+        if (!options)
+            addControl(field.control, field.key);
+        for (std::size_t at = 0; options && at < options->captions.size(); ++at) {
+            const auto place = static_cast<std::size_t>(options->firstButton) + at;
+            addControl(field.control + '(' + std::to_string(place) + ')', field.key);
         }
     }
 
-    void walkDefault(const Setting& setting)
+    void walkSetting(const setting::Idle& idle) { walkSetting(idle.field); }
+
+    void walkSetting(const setting::NamedTexts& texts)
     {
-        const auto& entries = setting.entries;
-        const auto number = wholeNumber(setting.standard);
-        bool good = true;
-        if (setting.kind == Setting::Kind::Flag) {
-            good = setting.standard == "0" || setting.standard == "1";
-        } else if (setting.kind == Setting::Kind::Number) {
-            expect(setting.minimum < setting.maximum && setting.step > 0, "no range: " + setting.key);
-            good = number && *number >= setting.minimum && *number <= setting.maximum;
-        } else if (setting.kind == Setting::Kind::Options) {
-            good = number && *number >= 0 && *number < static_cast<double>(entries.size());
-        } else if (setting.kind == Setting::Kind::Letter) {
-            good = std::any_of(entries.begin(), entries.end(), [&setting](const std::string& entry) {
-                return entry.substr(0, 1) == setting.standard;
-            });
-        } else if (setting.kind == Setting::Kind::Entry) {
-            good = std::find(entries.begin(), entries.end(), setting.standard) != entries.end();
-        } else if (setting.kind == Setting::Kind::Text && setting.limit > 0) {
-            good = setting.standard.size() <= static_cast<std::size_t>(setting.limit);
-        }
-        expect(good, "default: " + setting.key);
+        expect(!texts.texts.empty(), "no texts: " + texts.key);
+        expect(!texts.label.empty(), "no label: " + texts.key);
+        addControl(texts.control, texts.key);
     }
+
+    void walkSetting(const setting::ConstantRows& constant)
+    {
+        expect(!constant.rows.empty(), "no rows: " + constant.key);
+    }
+
+    void walkSetting(const auto& /*has no control and any text*/) {}
+
+    void walkKind(const setting::Field& field, const setting::Number& number)
+    {
+        expect(number.minimum < number.maximum && number.details.step > 0, "no range: " + field.key);
+        expectDefault(field, number.defaultValue >= number.minimum && number.defaultValue <= number.maximum);
+    }
+
+    void walkKind(const setting::Field& field, const setting::Options& options)
+    {
+        expectDefault(field,
+                      options.defaultValue >= 0 && options.defaultValue < std::ssize(options.captions));
+    }
+
+    void walkKind(const setting::Field& field, const setting::Letter& letter)
+    {
+        const auto isWord = [&letter](const std::string& word) {
+            return std::ranges::find(letter.words, word) != letter.words.end();
+        };
+        expectDefault(field, isWord(letter.defaultWord));
+        expect(letter.wordWhereNone.empty() || isWord(letter.wordWhereNone), "where none: " + field.key);
+    }
+
+    void walkKind(const setting::Field& field, const setting::Entry& entry)
+    {
+        expectDefault(field, std::ranges::find(entry.entries, entry.defaultValue) != entry.entries.end());
+    }
+
+    void walkKind(const setting::Field& field, const setting::Text& text)
+    {
+        expectDefault(field, text.limit == 0 || std::ssize(text.defaultValue) <= text.limit);
+    }
+
+    void walkKind(const setting::Field& field, const setting::NamedFlags& flags)
+    {
+        expect(!flags.names.empty(), "no names: " + field.key);
+    }
+
+    void walkKind(const setting::Field& /*field*/, const auto& /*any default is one*/) {}
+
+    void expectDefault(const setting::Field& field, bool good) { expect(good, "default: " + field.key); }
 
     void walkList(const RowListDeclaration& list, bool savesItself)
     {

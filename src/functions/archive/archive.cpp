@@ -144,9 +144,9 @@ void rebuildLinkOfTheWeek(const SettingsFiles& files, const HubProfiles& /*profi
 {
     const std::string table = tableOf(hyperlink(), itemOfTheWeek);
     const auto index = files.index(pathOf(hyperlink(), itemOfTheWeek));
-    const auto kept = [&](const std::string& key, const std::string& nested, const std::string& standard) {
+    const auto kept = [&](const std::string& key, const std::string& nested, const std::string& defaultText) {
         const auto value = index.value(key, nested);
-        return value.empty() ? standard : value;
+        return value.empty() ? defaultText : value;
     };
     TableWriter lines(table);
     lines.row("bEnabled", kept("bEnabled", table, "1"));
@@ -320,8 +320,9 @@ const TableFile& newItems(const ArchiveMember& member)
             all[each.word] = {
                 pathOf(each, "NewItems"),
                 tableOf(each, "NewItems"),
-                {flag("bEnableNewItems", "chkCheckBox(0)", "Enable New " + each.items, "1"),
-                 number("iNumberOfNewItems", "txtUpDown(0)", "Max Number Of New " + each.items, "5", 1, 50)}};
+                {setting::flag("bEnableNewItems", "chkCheckBox(0)", "Enable New " + each.items, true),
+                 setting::number("iNumberOfNewItems", "txtUpDown(0)", "Max Number Of New " + each.items, 5, 1,
+                                 50)}};
         }
         return all;
     }();

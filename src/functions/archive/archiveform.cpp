@@ -47,8 +47,8 @@ private:
 WeekPart::WeekPart(const ArchiveMember& member, const FormContext& context)
     : m_member(member),
       m_context(context),
-      m_enabled(makeControl(flag("bEnabled", "chkCheckBox(0)", "Enable Link of Week", "1"), context.profiles,
-                            [this] { emit changed(); })),
+      m_enabled(makeControl(setting::flag("bEnabled", "chkCheckBox(0)", "Enable Link of Week", true),
+                            context.profiles, [this] { emit changed(); })),
       m_changeTime(new QLineEdit),
       m_changeBar(new QToolBar),
       m_announcements(new RowListPart(declaredList(), context)),

@@ -45,8 +45,8 @@ const TableFile& autoCorrectSettings()
         R"(Communication\AutoCorrect\AutoCorrectSettings.tbl)",
         "tAutoCorrectSettings",
         {
-            flag("bNotifyOps", "chkNotifyOps", "Notify Ops", "1"),
-            profileFlags("tEnabledProfiles", "lvwEnabledProfiles", "Enabled Profiles"),
+            setting::flag("bNotifyOps", "chkNotifyOps", "Notify Ops", true),
+            setting::profileFlags("tEnabledProfiles", "lvwEnabledProfiles", "Enabled Profiles"),
         },
     };
     return file;

@@ -48,7 +48,7 @@ Changer changer(const ChangerWords& words)
     texts.restored = noRows;
     return {{pathOf(words, "Settings.tbl"),
              "t" + words.name + "Settings",
-             {number("iDelay", "txtDelay", "Delay", "10", 1, 720)}},
+             {setting::number("iDelay", "txtDelay", "Delay", 10, 1, 720)}},
             texts};
 }
 

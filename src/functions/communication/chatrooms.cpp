@@ -8,18 +8,15 @@ constexpr const char* announceFrame = "Announce To Ops";
 
 Setting announcement(const char* key, const char* control, const char* label)
 {
-    Setting setting = flag(key, control, label, "1");
-    setting.nest = announceTable;
-    setting.frame = announceFrame;
-    return setting;
+    auto flag = setting::flag(key, control, label, true, {.frame = announceFrame});
+    flag.nest = announceTable;
+    return flag;
 }
 
 Setting right(const std::string& keyWord, const std::string& word)
 {
-    Setting setting = hubProfileFlags("tEnabledProfiles" + keyWord, "lvwEnabledProfiles" + word,
-                                      "Enabled Profiles - " + word);
-    setting.column = "Enabled Profiles";
-    return setting;
+    return setting::hubProfileFlags("tEnabledProfiles" + keyWord, "lvwEnabledProfiles" + word,
+                                    "Enabled Profiles - " + word, "Enabled Profiles");
 }
 
 } // namespace

@@ -8,11 +8,11 @@ const TableFile& clockSettings()
         R"(Communication\Clock\ClockSettings.tbl)",
         "tClockSettings",
         {
-            number("iDelay", "txtUpDown", "Display Delay", "60", 0, 250),
-            flag("bManualControl", "chkCheckBox(0)", "Enable Manual Control", "0"),
-            text("sDaylightSaving", "txtTextBox(0)", "Daylight Saving", "BST"),
-            text("sStandardTime", "txtTextBox(1)", "Standard", "GMT"),
-            profileFlags("tEnabledProfiles", "lvwEnabledProfiles", "Enabled Profiles"),
+            setting::number("iDelay", "txtUpDown", "Display Delay", 60, 0, 250),
+            setting::flag("bManualControl", "chkCheckBox(0)", "Enable Manual Control", false),
+            setting::text("sDaylightSaving", "txtTextBox(0)", "Daylight Saving", "BST"),
+            setting::text("sStandardTime", "txtTextBox(1)", "Standard", "GMT"),
+            setting::profileFlags("tEnabledProfiles", "lvwEnabledProfiles", "Enabled Profiles"),
         },
     };
     return file;

@@ -9,7 +9,7 @@ TableFile declaredHubEmail()
         R"(Communication\HubEmail\HubEmailSettings.tbl)",
         "tHubEmailSettings",
         {
-            number("iInboxSize", "txtUpDown", "Inbox Capacity", "10", 0, 250),
+            setting::number("iInboxSize", "txtUpDown", "Inbox Capacity", 10, 0, 250),
         },
     };
     file.makesFolder = true;

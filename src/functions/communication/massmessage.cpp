@@ -45,7 +45,7 @@ const TableFile& massMessageSettings()
         R"(Communication\MassMessage\MassMessageSettings.tbl)",
         "tMassMessageSettings",
         {
-            profileFlags("tEnabledPassiveProfiles", "lvwEnabledProfiles", "Immune Passive Profiles"),
+            setting::profileFlags("tEnabledPassiveProfiles", "lvwEnabledProfiles", "Immune Passive Profiles"),
         },
     };
     return file;

@@ -38,8 +38,8 @@ private:
 
 MassMessagePart::MassMessagePart(const FormContext& context)
     : m_context(context),
-      m_immune(
-          makeControl(massMessageSettings().settings.front(), context.profiles, [this] { emit changed(); })),
+      m_immune(makeControl(std::get<setting::Field>(massMessageSettings().settings.front()), context.profiles,
+                           [this] { emit changed(); })),
       m_grid(new PermissionGridPart(source(), blockGrid(), context)),
       m_widget(placed())
 {
@@ -71,8 +71,7 @@ QWidget* MassMessagePart::placed() const
     auto* widget = new QWidget;
     auto* layout = new QHBoxLayout(widget);
     layout->setContentsMargins({});
-    layout->addWidget(
-        listWithToolbar(fromBytes(massMessageSettings().settings.front().label), nullptr, m_immune.widget));
+    layout->addWidget(listWithToolbar(m_immune.label, nullptr, m_immune.widget));
     layout->addWidget(m_grid->widget(), 2);
     return widget;
 }

@@ -15,8 +15,8 @@ RotatingMessages declared(const std::string& name, std::vector<Setting> profileT
         folder + name + "Settings.tbl",
         "t" + name + "Settings",
         {
-            flag("bRandomise", "chkRandomise", "Randomise", "1"),
-            number("iDelay", "txtUpDown", "Delay", "120", 10, 720),
+            setting::flag("bRandomise", "chkRandomise", "Randomise", true),
+            setting::number("iDelay", "txtUpDown", "Delay", 120, 10, 720),
         },
         std::move(rebuildOrder),
     };
@@ -44,9 +44,9 @@ FunctionDeclaration rotatingFunction(const std::string& name, const RotatingMess
 
 const RotatingMessages& rotatingMainMessages()
 {
-    static const RotatingMessages messages =
-        declared("RotatingMainMessage",
-                 {profileFlags("tEnabledAdProfiles", "lvwEnabledProfiles", "Enabled Ad Profiles")}, {});
+    static const RotatingMessages messages = declared(
+        "RotatingMainMessage",
+        {setting::profileFlags("tEnabledAdProfiles", "lvwEnabledProfiles", "Enabled Ad Profiles")}, {});
     return messages;
 }
 
@@ -54,9 +54,10 @@ const RotatingMessages& rotatingPrivateMessages()
 {
     static const RotatingMessages messages = declared(
         "RotatingPrivateMessage",
-        {profileFlags("tEnabledAdProfiles", "lvwEnabledAdProfiles", "Enabled Ad Profiles"),
-         profileFlags("tEnabledProfiles", "lvwEnabledProfiles", "Enabled Profiles"),
-         profileFlags("tEnabledMaintainProfiles", "lvwEnabledMaintainProfiles", "Enabled Maintain Profiles")},
+        {setting::profileFlags("tEnabledAdProfiles", "lvwEnabledAdProfiles", "Enabled Ad Profiles"),
+         setting::profileFlags("tEnabledProfiles", "lvwEnabledProfiles", "Enabled Profiles"),
+         setting::profileFlags("tEnabledMaintainProfiles", "lvwEnabledMaintainProfiles",
+                               "Enabled Maintain Profiles")},
         {"bRandomise", "iDelay", "tEnabledProfiles", "tEnabledAdProfiles", "tEnabledMaintainProfiles"});
     return messages;
 }

@@ -9,7 +9,7 @@ const TableFile& whisperSettings()
         "tWhisperSettings",
         {
             // The label is the kick settings' own: users know the box by it.
-            flag("bSendConfirmation", "chkCheckBox", "Announce Kicked Return", "1"),
+            setting::flag("bSendConfirmation", "chkCheckBox", "Announce Kicked Return", true),
         },
     };
     return file;

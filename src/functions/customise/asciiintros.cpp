@@ -59,10 +59,10 @@ RowListDeclaration declaredFiles()
 
 const TableFile& asciiIntroSettings()
 {
-    static const TableFile file = {
-        R"(CustomiseUser\IntroOutro\AsciiIntroSettings.tbl)",
-        "tAsciiIntroSettings",
-        {flag("bNotifyOps", "chkNotifyOps", "Notify Ops", "1"), enabledProfiles("Ascii Enabled Profiles")}};
+    static const TableFile file = {R"(CustomiseUser\IntroOutro\AsciiIntroSettings.tbl)",
+                                   "tAsciiIntroSettings",
+                                   {setting::flag("bNotifyOps", "chkNotifyOps", "Notify Ops", true),
+                                    enabledProfiles("Ascii Enabled Profiles")}};
     return file;
 }
 

@@ -17,11 +17,11 @@ constexpr const char* tagTable = "tProfiles";
 /// No control holds this flag: only the rebuild writes it, and each save of the form loses it again.
 const TableFile& rebuiltOnly()
 {
-    static const TableFile file = {path, table, {flag("bNotifyOps", "", "", "1")}};
+    static const TableFile file = {path, table, {setting::rebuiltFlag("bNotifyOps", true)}};
     return file;
 }
 
-std::string standardTag(const std::string& profile)
+std::string defaultTag(const std::string& profile)
 {
     return "[" + profile + "]";
 }
@@ -54,9 +54,9 @@ std::vector<CellRow> loadTags(const SettingsFiles& files, const HubProfiles& pro
     return tagRows(profiles, [&tags](std::size_t row) { return tags[HubProfiles::key(row)]; });
 }
 
-std::vector<CellRow> standardTags(const HubProfiles& profiles)
+std::vector<CellRow> defaultTags(const HubProfiles& profiles)
 {
-    return tagRows(profiles, [&profiles](std::size_t row) { return standardTag(profiles.names()[row]); });
+    return tagRows(profiles, [&profiles](std::size_t row) { return defaultTag(profiles.names()[row]); });
 }
 
 /// The keys of the tags that stand in their own table, which ends at its brace.
@@ -85,7 +85,7 @@ std::vector<CellRow> rebuiltTags(const SettingsFiles& files, const HubProfiles& 
         const std::string key = HubProfiles::key(row);
         // Asked for a tag that is missing, the index would find a flag of the table behind.
         const auto value = keys.contains(key) ? index.value(key, tagTable) : std::string();
-        return value.empty() ? standardTag(profiles.names()[row]) : value;
+        return value.empty() ? defaultTag(profiles.names()[row]) : value;
     });
 }
 
@@ -115,7 +115,7 @@ void rebuildDescriptionTags(const SettingsFiles& files, const HubProfiles& profi
 const TableFile& taggedProfiles()
 {
     static const TableFile file = {
-        path, table, {profileFlags("tEnabledProfiles", "lvwEnabledProfiles", "Enabled Profiles")}};
+        path, table, {setting::profileFlags("tEnabledProfiles", "lvwEnabledProfiles", "Enabled Profiles")}};
     return file;
 }
 
@@ -131,7 +131,7 @@ RowListDeclaration descriptionTags()
     list.fieldsOf = [](const CellRow& row) { return std::vector<std::string>{row.cells[1]}; };
     list.take = [](const std::vector<std::string>& fields, CellRow& row) { row.cells[1] = fields[0]; };
     list.load = loadTags;
-    list.restored = standardTags;
+    list.restored = defaultTags;
     return list;
 }
 

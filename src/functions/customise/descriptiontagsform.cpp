@@ -35,15 +35,15 @@ private:
 
 DescriptionTagsPart::DescriptionTagsPart(const FormContext& context)
     : m_profiles(context.profiles),
-      m_tagged(makeControl(taggedProfiles().settings.front(), context.profiles, [this] { emit changed(); })),
+      m_tagged(makeControl(std::get<setting::Field>(taggedProfiles().settings.front()), context.profiles,
+                           [this] { emit changed(); })),
       m_tags(new RowListPart(declaredTags(), context)),
       m_widget(new QWidget)
 {
     adopt(*m_tags);
     auto* layout = new QHBoxLayout(m_widget);
     layout->setContentsMargins({});
-    layout->addWidget(
-        listWithToolbar(fromBytes(taggedProfiles().settings.front().label), nullptr, m_tagged.widget));
+    layout->addWidget(listWithToolbar(m_tagged.label, nullptr, m_tagged.widget));
     layout->addWidget(m_tags->widget(), 2);
 }
 

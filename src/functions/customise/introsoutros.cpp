@@ -126,10 +126,11 @@ TableFile settingsOf(const Family& family, std::vector<Setting> settings)
 /// The keys of the first two say registered where the controls say unregistered: both stay.
 std::vector<Setting> unregisteredIntro()
 {
-    Setting line = text("sRegIntro", "txtUnregIntro", "",
-                        "Welcome !nick! to !hubname!. Type !prefix!!regcommand! to register");
+    auto line = setting::text("sRegIntro", "txtUnregIntro", "",
+                              "Welcome !nick! to !hubname!. Type !prefix!!regcommand! to register");
     line.toolTip = "Unregistered User Intro";
-    return {flag("bRegIntroEnabled", "chkEnableUnregIntro", "Enable Unregistered User Intro", "1"), line};
+    return {setting::flag("bRegIntroEnabled", "chkEnableUnregIntro", "Enable Unregistered User Intro", true),
+            line};
 }
 
 FormDeclaration introsOutrosForm(const char* name, const std::string& word, const IntrosOutros& (*all)())
@@ -157,8 +158,8 @@ const IntrosOutros& standardIntrosOutros()
 const IntrosOutros& customIntrosOutros()
 {
     static const IntrosOutros all = {
-        settingsOf(custom,
-                   {flag("bNotifyOps", "chkNotifyOps", "Notify Ops when Custom Intro/Outro changed", "1")}),
+        settingsOf(custom, {setting::flag("bNotifyOps", "chkNotifyOps",
+                                          "Notify Ops when Custom Intro/Outro changed", true)}),
         linesOf(custom)};
     return all;
 }

@@ -8,7 +8,7 @@ namespace {
 
 constexpr const char* wordsPath = R"(Games\Anagrams\AnagramWords.lst)";
 
-Setting quiz(const std::string& key, const std::string& control)
+setting::Field quiz(const std::string& key, const std::string& control)
 {
     return quizSetting(QuizGame::Anagrams, key, control);
 }
@@ -24,7 +24,7 @@ const TableFile& anagramSettings()
                       {
                           quiz("iArchiveScores", "txtTextBoxUpDown(9)"),
                           oneCharacter("sHintChar", "Hint Character", hintBullet),
-                          arrowNumber("iHintTime", "txtTextBoxUpDown(0)", "Hint Time", "20", 0, 60),
+                          arrowNumber("iHintTime", "txtTextBoxUpDown(0)", "Hint Time", 20, 0, 60),
                           quiz("iQuestions", "txtTextBoxUpDown(1)"),
                           quiz("iQuestionsPause", "txtTextBoxUpDown(2)"),
                           quiz("iTimeOut", "txtTextBoxUpDown(3)"),

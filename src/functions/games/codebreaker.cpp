@@ -5,7 +5,9 @@
 namespace quillfen {
 namespace {
 
-Setting quiz(const std::string& key, const std::string& control)
+constexpr const char* digits = "0123456789";
+
+setting::Field quiz(const std::string& key, const std::string& control)
 {
     return quizSetting(QuizGame::CodeBreaker, key, control);
 }
@@ -21,15 +23,15 @@ const TableFile& codeBreakerSettings()
             "chkCheckBox",
             {
                 quiz("iArchiveScores", "txtTextBoxUpDown(9)"),
-                text("sAllowedCharacters", "txtAllowedCharacters", "Allowed Characters", "0123456789"),
+                setting::text("sAllowedCharacters", "txtAllowedCharacters", "Allowed Characters", digits),
                 // The bullet is the default of a hint character, which this game doesn't have: its hidden one
                 // is empty until its owner types it.
                 oneCharacter("sHiddenChar", "Hidden Character", ""),
-                arrowNumber("iQuestionLength", "txtTextBoxUpDown(0)", "Question Length", "3", 0, 60),
+                arrowNumber("iQuestionLength", "txtTextBoxUpDown(0)", "Question Length", 3, 0, 60),
                 quiz("iQuestions", "txtTextBoxUpDown(1)"),
                 quiz("iQuestionsPause", "txtTextBoxUpDown(2)"),
                 quiz("iTimeOut", "txtTextBoxUpDown(3)"),
-                arrowNumber("iQuestionsTime", "txtTextBoxUpDown(4)", "Question Time", "90", 0, 1000),
+                arrowNumber("iQuestionsTime", "txtTextBoxUpDown(4)", "Question Time", 90, 0, 1000),
                 quiz("iPoints", "txtTextBoxUpDown(5)"),
                 quiz("iScores", "txtTextBoxUpDown(6)"),
                 quiz("iTopScores", "txtTextBoxUpDown(7)"),

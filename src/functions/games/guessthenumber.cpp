@@ -5,16 +5,16 @@
 namespace quillfen {
 namespace {
 
-Setting quiz(const std::string& key, const std::string& control)
+setting::Field quiz(const std::string& key, const std::string& control)
 {
     return quizSetting(QuizGame::GuessTheNumber, key, control);
 }
 
 /// This game's captions of the two counts of scores go the other way round from the other games'.
-Setting captioned(Setting setting, const char* label)
+setting::Field captioned(setting::Field field, const char* label)
 {
-    setting.label = label;
-    return setting;
+    field.label = label;
+    return field;
 }
 
 } // namespace
@@ -31,12 +31,12 @@ const TableFile& guessTheNumberSettings()
                 quiz("iQuestions", "txtTextBoxUpDown(0)"),
                 quiz("iQuestionsPause", "txtTextBoxUpDown(1)"),
                 quiz("iTimeOut", "txtTextBoxUpDown(2)"),
-                arrowNumber("iHints", "txtTextBoxUpDown(3)", "Hint Delay", "5", 0, 60),
+                arrowNumber("iHints", "txtTextBoxUpDown(3)", "Hint Delay", 5, 0, 60),
                 // The defaults of these two stand above what their arrows reach.
-                arrowNumber("iHintTime", "txtTextBoxUpDown(4)", "Hints", "20", 0, 10),
-                arrowNumber("iMaxHints", "txtTextBoxUpDown(5)", "Max User Hints", "20", 0, 10),
-                arrowNumber("iQuestionMin", "txtTextBoxUpDown(6)", "Min Question Value", "1", 0, 100),
-                arrowNumber("iQuestionMax", "txtTextBoxUpDown(7)", "Max Question Value", "500", 100, 5000),
+                arrowNumber("iHintTime", "txtTextBoxUpDown(4)", "Hints", 20, 0, 10),
+                arrowNumber("iMaxHints", "txtTextBoxUpDown(5)", "Max User Hints", 20, 0, 10),
+                arrowNumber("iQuestionMin", "txtTextBoxUpDown(6)", "Min Question Value", 1, 0, 100),
+                arrowNumber("iQuestionMax", "txtTextBoxUpDown(7)", "Max Question Value", 500, 100, 5000),
                 captioned(quiz("iScores", "txtTextBoxUpDown(8)"), "Scores"),
                 captioned(quiz("iTopScores", "txtTextBoxUpDown(10)"), "End Of Game Scores"),
                 quiz("iAutoStartDelay", "txtTextBoxUpDown(11)"),

@@ -8,7 +8,7 @@ namespace {
 
 constexpr const char* wordsPath = R"(Games\Hangman\HangmanWords.lst)";
 
-Setting quiz(const std::string& key, const std::string& control)
+setting::Field quiz(const std::string& key, const std::string& control)
 {
     return quizSetting(QuizGame::Hangman, key, control);
 }
@@ -16,9 +16,7 @@ Setting quiz(const std::string& key, const std::string& control)
 /// A box that other games have is on this form too; the file has no such key.
 Setting idleBonusTime()
 {
-    Setting setting = arrowNumber("iBonusTime", "txtTextBoxUpDown(4)", "Bonus Time", "10", 0, 1000);
-    setting.idle = true;
-    return setting;
+    return setting::Idle{arrowNumber("iBonusTime", "txtTextBoxUpDown(4)", "Bonus Time", 10, 0, 1000)};
 }
 
 } // namespace
@@ -30,12 +28,12 @@ const TableFile& hangmanSettings()
         "tHangmanSettings",
         withQuizFlags("chkCheckBox",
                       {
-                          flag("bUseAscii", "chkCheckBox(6)", "Enable Ascii", "1"),
+                          setting::flag("bUseAscii", "chkCheckBox(6)", "Enable Ascii", true),
                           quiz("iArchiveScores", "txtTextBoxUpDown(9)"),
                           oneCharacter("sHiddenChar", "Hint Character", hintBullet),
                           // A rebuild knows no default: the key stays empty until the form first saves.
-                          constantText("sAllowedCharacters", "ABCDEFGHIJKLMNOPQRSTUVWXYZ-"),
-                          arrowNumber("iLostLifeTime", "txtTextBoxUpDown(0)", "Lost Life Time", "30", 0, 60),
+                          setting::ConstantText{"sAllowedCharacters", "ABCDEFGHIJKLMNOPQRSTUVWXYZ-"},
+                          arrowNumber("iLostLifeTime", "txtTextBoxUpDown(0)", "Lost Life Time", 30, 0, 60),
                           quiz("iQuestions", "txtTextBoxUpDown(1)"),
                           quiz("iQuestionsPause", "txtTextBoxUpDown(2)"),
                           quiz("iTimeOut", "txtTextBoxUpDown(3)"),

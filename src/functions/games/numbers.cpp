@@ -14,23 +14,27 @@ constexpr const char* questionsPath = R"(Games\Numbers\NumbersQuestions.lst)";
 /// How many numbers a calculation has.
 constexpr std::size_t numberCount = 4;
 
-Setting quiz(const std::string& key, const std::string& control)
+setting::Field quiz(const std::string& key, const std::string& control)
 {
     return quizSetting(QuizGame::Numbers, key, control);
 }
 
 Setting questionCount()
 {
-    Setting setting = quiz("iQuestions", "txtTextBoxUpDown(1)");
-    setting.keyInSave = "iQuestions "; // a save puts two blanks before the equals sign, a rebuild one
-    return setting;
+    auto count = quiz("iQuestions", "txtTextBoxUpDown(1)");
+    count.keyInSave = "iQuestions "; // a save puts two blanks before the equals sign, a rebuild one
+    return count;
 }
 
 Setting calculations()
 {
-    return namedTexts("tCalculation", "lvwNumbers", "Calculations",
-                      {"sAddition", "sSubtraction", "sMultiplication", "sDivision"},
-                      {"0,10000,0,10000", "0,10000,0,10000", "0,20,0,100", "1,10,1,50"});
+    return setting::NamedTexts{"tCalculation",
+                               "lvwNumbers",
+                               "Calculations",
+                               {{"sAddition", "0,10000,0,10000"},
+                                {"sSubtraction", "0,10000,0,10000"},
+                                {"sMultiplication", "0,20,0,100"},
+                                {"sDivision", "1,10,1,50"}}};
 }
 
 } // namespace
@@ -45,13 +49,13 @@ const TableFile& numbersSettings()
         withQuizFlags(
             "chkCheckBox",
             {
-                flag("bCalculateOnFly", "chkCheckBox(6)", "Calculate Questions On Fly", "1"),
+                setting::flag("bCalculateOnFly", "chkCheckBox(6)", "Calculate Questions On Fly", true),
                 // Captions and keys cross over: each of the two boxes loads and saves the key of the other.
-                flag("bReportCalc", "chkCheckBox(7)", "Prevent Calculator", "1"),
-                flag("bPreventCalc", "chkCheckBox(8)", "Report Calculator", "1"),
+                setting::flag("bReportCalc", "chkCheckBox(7)", "Prevent Calculator", true),
+                setting::flag("bPreventCalc", "chkCheckBox(8)", "Report Calculator", true),
                 quiz("iArchiveScores", "txtTextBoxUpDown(9)"),
                 calculations(),
-                arrowNumber("iQuestionTime", "txtTextBoxUpDown(0)", "Question Time", "20", 0, 60),
+                arrowNumber("iQuestionTime", "txtTextBoxUpDown(0)", "Question Time", 20, 0, 60),
                 questionCount(),
                 quiz("iQuestionsPause", "txtTextBoxUpDown(2)"),
                 quiz("iTimeOut", "txtTextBoxUpDown(3)"),
@@ -67,13 +71,6 @@ const TableFile& numbersSettings()
          "tCalculation", "bPlayInMain", "bAutoClearScores", "bArchiveScores",  "iArchiveScores"},
     };
     return file;
-}
-
-const Setting& numbersCalculations()
-{
-    const auto& settings = numbersSettings().settings;
-    return *std::find_if(settings.begin(), settings.end(),
-                         [](const Setting& setting) { return setting.kind == Setting::Kind::Texts; });
 }
 
 const RowListDeclaration& numbersCalculationList()

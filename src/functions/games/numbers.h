@@ -8,13 +8,11 @@ namespace quillfen {
 
 const TableFile& numbersSettings();
 
-/// The setting of the four calculations, each a text "X Min,X Max,Y Min,Y Max".
-const Setting& numbersCalculations();
-
 /// The list of the calculations: the operator and the four numbers of each.
 const RowListDeclaration& numbersCalculationList();
 
-/// The rows of that list and back. A text of fewer than four numbers fills what it has.
+/// The rows of that list and back. A calculation is stored as a text "X Min,X Max,Y Min,Y Max"; one of fewer
+/// numbers fills what it has.
 CellRow calculationRow(const std::string& operatorSign, const std::string& text);
 std::string calculationText(const CellRow& row);
 

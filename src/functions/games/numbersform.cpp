@@ -27,14 +27,14 @@ public:
         list().setMinimumWidth(numberWidth * static_cast<int>(numbersCalculationList().columns.size() + 1));
     }
 
-    Control control(const Setting& setting);
+    Control control(const setting::NamedTexts& texts);
 
 protected:
     bool mayTake(const CellRow& row) override;
     void touch() override {} ///< an edited calculation is saved together with the next other change
 
 private:
-    void show(const Setting& setting, const SettingValues& values);
+    void show(const setting::NamedTexts& texts, const SettingValues& values);
 };
 
 bool CalculationsPart::mayTake(const CellRow& row)
@@ -47,27 +47,27 @@ bool CalculationsPart::mayTake(const CellRow& row)
     return false;
 }
 
-void CalculationsPart::show(const Setting& setting, const SettingValues& values)
+void CalculationsPart::show(const setting::NamedTexts& texts, const SettingValues& values)
 {
     const std::size_t columns = numbersCalculationList().columns.size();
     list().setRows({});
-    for (std::size_t at = 0; at < setting.entries.size(); ++at) {
-        const std::string& entry = setting.entries[at];
-        CellRow row = calculationRow(calculationOperators.at(at), values.at(textRow(setting, entry)));
+    for (std::size_t at = 0; at < texts.texts.size(); ++at) {
+        const std::string& name = texts.texts[at].name;
+        CellRow row = calculationRow(calculationOperators.at(at), values.at(textRow(texts.key, name)));
         const bool isWhole = row.cells.size() == columns;
         row.cells.resize(columns);
         list().append(std::move(row));
         if (!isWhole)
-            throw LoadError(entry + " in " + numbersSettings().path + " has fewer than four numbers");
+            throw LoadError(name + " in " + numbersSettings().path + " has fewer than four numbers");
     }
 }
 
-Control CalculationsPart::control(const Setting& setting)
+Control CalculationsPart::control(const setting::NamedTexts& texts)
 {
-    return {widget(), [this, &setting](const SettingValues& values) { show(setting, values); },
-            [this, &setting](SettingValues& values) {
-                for (std::size_t at = 0; at < setting.entries.size(); ++at)
-                    values[textRow(setting, setting.entries[at])] = calculationText(rows().at(at));
+    return {widget(), [this, &texts](const SettingValues& values) { show(texts, values); },
+            [this, &texts](SettingValues& values) {
+                for (std::size_t at = 0; at < texts.texts.size(); ++at)
+                    values[textRow(texts.key, texts.texts[at].name)] = calculationText(rows().at(at));
             }};
 }
 
@@ -87,8 +87,9 @@ class NumbersPart : public TableFilePart
 {
 public:
     NumbersPart(const TableFile& file, CalculationsPart* calculations, const FormContext& context)
-        : TableFilePart(file, context,
-                        [calculations](const Setting& setting) { return calculations->control(setting); }),
+        : TableFilePart(
+              file, context,
+              [calculations](const setting::NamedTexts& texts) { return calculations->control(texts); }),
           m_calculations(calculations)
     {
         calculations->setParent(this);

@@ -8,10 +8,9 @@ namespace {
 /// The six chambers. A save quotes them, a rebuild writes them bare.
 Setting chambers()
 {
-    Setting setting =
-        constantRows("tBang", {R"("Die")", R"("Live")", R"("Die")", R"("Die")", R"("Die")", R"("Die")"});
-    setting.rebuildEntries = {"Die", "Live", "Die", "Die", "Die", "Die"};
-    return setting;
+    return setting::ConstantRows{"tBang",
+                                 {R"("Die")", R"("Live")", R"("Die")", R"("Die")", R"("Die")", R"("Die")"},
+                                 {"Die", "Live", "Die", "Die", "Die", "Die"}};
 }
 
 // The boxes speak of winning and losing, as three card monty's do.
@@ -35,7 +34,7 @@ const TableFile& russianRouletteSettings()
     static const TableFile file = {
         R"(Games\RussianRoulette\RussianRouletteSettings.tbl)",
         "tRussianRouletteSettings",
-        {flag("bInMain", "chkPlayInMain", "Play In Main", "1"), chambers()},
+        {setting::flag("bInMain", "chkPlayInMain", "Play In Main", true), chambers()},
     };
     return file;
 }

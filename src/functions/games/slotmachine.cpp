@@ -3,12 +3,10 @@
 namespace quillfen {
 namespace {
 
-Setting credit(const char* key, const char* control, const char* label, const char* standard, int minimum,
+Setting credit(const char* key, const char* control, const char* label, int defaultValue, int minimum,
                int maximum, int step)
 {
-    Setting setting = number(key, control, label, standard, minimum, maximum);
-    setting.step = step;
-    return setting;
+    return setting::number(key, control, label, defaultValue, minimum, maximum, {.step = step});
 }
 
 } // namespace
@@ -19,13 +17,14 @@ const TableFile& slotMachineSettings()
         R"(Games\SlotMachine\SlotMachineSettings.tbl)",
         "tSlotMachineSettings",
         {
-            flag("bInMain", "chkCheckBox(0)", "Play In Main", "1"),
-            credit("iCredit", "txtUpDown(0)", "Credit - Start", "50", 50, 5000, 5),
-            credit("iCreditPlay", "txtUpDown(1)", "Credit - Play", "2", 1, 100, 1),
-            credit("iCreditLoan", "txtUpDown(2)", "Credit - Loan", "1000", 50, 50000, 5),
-            constantRows("tResults", {R"(["Bar"] = 100)", R"(["7"] = 50)", R"(["@"] = 20)", R"(["$"] = 10)",
-                                      "[\"\xA3\"] = 5", "[\"\xA7\"] = 3", R"(["&"] = 1)"}),
-            constantRows("tAux", {"100", "50", "20", "10", "5", "3", "1"}),
+            setting::flag("bInMain", "chkCheckBox(0)", "Play In Main", true),
+            credit("iCredit", "txtUpDown(0)", "Credit - Start", 50, 50, 5000, 5),
+            credit("iCreditPlay", "txtUpDown(1)", "Credit - Play", 2, 1, 100, 1),
+            credit("iCreditLoan", "txtUpDown(2)", "Credit - Loan", 1000, 50, 50000, 5),
+            setting::ConstantRows{"tResults",
+                                  {R"(["Bar"] = 100)", R"(["7"] = 50)", R"(["@"] = 20)", R"(["$"] = 10)",
+                                   "[\"\xA3\"] = 5", "[\"\xA7\"] = 3", R"(["&"] = 1)"}},
+            setting::ConstantRows{"tAux", {"100", "50", "20", "10", "5", "3", "1"}},
         },
     };
     return file;

@@ -8,10 +8,9 @@ namespace {
 /// The three cards. A save spells them with a small "of", a rebuild with a capital one.
 Setting deal()
 {
-    Setting setting =
-        constantRows("tDeal", {R"("Ace of Spades")", R"("Queen of Hearts")", R"("Ace of Clubs")"});
-    setting.rebuildEntries = {R"("Ace Of Spades")", R"("Queen Of Hearts")", R"("Ace Of Clubs")"};
-    return setting;
+    return setting::ConstantRows{"tDeal",
+                                 {R"("Ace of Spades")", R"("Queen of Hearts")", R"("Ace of Clubs")"},
+                                 {R"("Ace Of Spades")", R"("Queen Of Hearts")", R"("Ace Of Clubs")"}};
 }
 
 const CommentList win = {{R"(Games\ThreeCardMonty\ThreeCardMontyWin.tbl)", "tThreeCardMontyWin"},
@@ -34,9 +33,9 @@ const TableFile& threeCardMontySettings()
     static const TableFile file = {
         R"(Games\ThreeCardMonty\ThreeCardMontySettings.tbl)",
         "tThreeCardMontySettings",
-        {flag("bPlayInMain", "chkPlayInMain", "Play In Main", "1"),
-         number("iWager", "txtUpDown(0)", "Wager", "1", 1, 50),
-         number("iMarker", "txtUpDown(1)", "Marker", "25", 10, 500), deal()},
+        {setting::flag("bPlayInMain", "chkPlayInMain", "Play In Main", true),
+         setting::number("iWager", "txtUpDown(0)", "Wager", 1, 1, 50),
+         setting::number("iMarker", "txtUpDown(1)", "Marker", 25, 10, 500), deal()},
     };
     return file;
 }

@@ -14,9 +14,16 @@ constexpr std::string_view questionFilesPath = R"(Games\Trivia\TriviaQuestionFil
 constexpr std::string_view questionFilesTable = "tTriviaQuestionFiles";
 constexpr std::string_view defaultKey = "sDefaultQuestionFile";
 
-Setting quiz(const std::string& key, const std::string& control)
+setting::Field quiz(const std::string& key, const std::string& control)
 {
     return quizSetting(QuizGame::Trivia, key, control);
+}
+
+/// A group of the form's option buttons, which are counted through.
+Setting optionsFrom(int firstButton, const char* key, const char* label, int defaultValue,
+                    std::vector<std::string> captions)
+{
+    return setting::options(key, "optOption", label, defaultValue, firstButton, std::move(captions));
 }
 
 bool comesBefore(const std::string& one, const std::string& other)
@@ -46,14 +53,13 @@ const TableFile& triviaSettings()
         withQuizFlags(
             "chkTrivia",
             {
-                flag("bShowOnlyOneHint", "chkTrivia(6)", "Only Show One Hint", "1"),
+                setting::flag("bShowOnlyOneHint", "chkTrivia(6)", "Only Show One Hint", true),
                 quiz("iArchiveScores", "txtTextBoxUpDown(10)"),
-                options("iFormat", "optOption", "Question Format:", "0", 0,
-                        {"Standard", "Expanded", "Trivia Ex"}),
-                options("iScoring", "optOption", "Scoring Type:", "1", 3, {"Standard", "Hint Reduction"}),
+                optionsFrom(0, "iFormat", "Question Format:", 0, {"Standard", "Expanded", "Trivia Ex"}),
+                optionsFrom(3, "iScoring", "Scoring Type:", 1, {"Standard", "Hint Reduction"}),
                 oneCharacter("sHintChar", "Hint Character", hintBullet),
-                arrowNumber("iHintTime", "txtTextBoxUpDown(0)", "Hint Time", "30", 0, 60),
-                arrowNumber("iMaxHints", "txtTextBoxUpDown(1)", "Max Hints", "5", 0, 10),
+                arrowNumber("iHintTime", "txtTextBoxUpDown(0)", "Hint Time", 30, 0, 60),
+                arrowNumber("iMaxHints", "txtTextBoxUpDown(1)", "Max Hints", 5, 0, 10),
                 quiz("iQuestions", "txtTextBoxUpDown(2)"),
                 quiz("iQuestionsPause", "txtTextBoxUpDown(3)"),
                 quiz("iTimeOut", "txtTextBoxUpDown(4)"),

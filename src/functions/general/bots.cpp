@@ -135,8 +135,8 @@ const TableFile& botSettings()
         R"(General\Bots\BotSettings.tbl)",
         "tBotSettings",
         {
-            flag("bNotifyOps", "chkNotifyOps", "Notify Ops of change", "0"),
-            profileFlags("tEnabledProfiles", "lvwAllowedProfiles", "Enabled Profiles"),
+            setting::flag("bNotifyOps", "chkNotifyOps", "Notify Ops of change", false),
+            setting::profileFlags("tEnabledProfiles", "lvwAllowedProfiles", "Enabled Profiles"),
         },
     };
     return file;

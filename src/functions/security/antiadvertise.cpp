@@ -14,7 +14,7 @@ TableFile declaredActions()
 {
     TableFile file{blockedActionsFile().path, blockedActionsFile().table, {}};
     for (const std::string name : blockedActions)
-        file.settings.push_back(flag("b" + name, "lvwBlockedActions", name, "1"));
+        file.settings.emplace_back(setting::flag("b" + name, "lvwBlockedActions", name, true));
     return file;
 }
 
@@ -46,18 +46,18 @@ RowListDeclaration addressList(const std::string& word)
 
 TableFile declaredSettings()
 {
-    Setting ipBlock = flag("bEnableIPBlock", "chkCheckBox(0)", "Enable IP Block", "1");
+    auto ipBlock = setting::flag("bEnableIPBlock", "chkCheckBox(0)", "Enable IP Block", true);
     ipBlock.toolTip = "Allows IPs beginning with 0 (such as 0.3.6.0)";
     return {
         R"(Security\AntiAdvertise\AntiAdvertiseSettings.tbl)",
         "tAntiAdvertiseSettings",
         {
             ipBlock,
-            flag("bSilentMode", "chkCheckBox(1)", "Enable Silent Mode", "1"),
-            flag("bAllowToOps", "chkCheckBox(2)", "Allow In PM to Ops", "1"),
+            setting::flag("bSilentMode", "chkCheckBox(1)", "Enable Silent Mode", true),
+            setting::flag("bAllowToOps", "chkCheckBox(2)", "Allow In PM to Ops", true),
             banTimeSetting("iTempBanTime"),
             actionSetting("TempBan"),
-            notRestored(profileFlags("tBlockedProfiles", "lvwBlockedProfiles", "Blocked Profiles")),
+            notRestored(setting::profileFlags("tBlockedProfiles", "lvwBlockedProfiles", "Blocked Profiles")),
         },
     };
 }

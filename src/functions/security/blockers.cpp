@@ -48,9 +48,7 @@ RowListDeclaration declaredExemptUsers()
 /// No key belongs to this check box: it only makes the form dirty.
 Setting idleNotification()
 {
-    Setting setting = flag("bSendNotification", "chkCheckBox", "Send Notification", "0");
-    setting.idle = true;
-    return setting;
+    return setting::Idle{setting::flag("bSendNotification", "chkCheckBox", "Send Notification", false)};
 }
 
 } // namespace
@@ -62,7 +60,7 @@ const TableFile& badNickSettings()
         R"(Security\BadNickBlocker\BadNickBlockerSettings.tbl)",
         "tBadNickBlockerSettings",
         {banTimeSetting("iTempBanTime"), actionSetting("TempBan"),
-         notRestored(profileFlags("tExemptProfiles", "lvwExemptProfiles", "Exempt Profiles"))},
+         notRestored(setting::profileFlags("tExemptProfiles", "lvwExemptProfiles", "Exempt Profiles"))},
         {"sAction", "iTempBanTime", "tExemptProfiles"},
     };
     return file;
@@ -80,8 +78,8 @@ const TableFile& cloneSettings()
         R"(Security\CloneBlocker\CloneBlockerSettings.tbl)",
         "tCloneBlockerSettings",
         {banTimeSetting("iTempBanTime"), actionSetting("TempBan"),
-         notRestored(profileFlags("tEnabledProfiles", "lvwEnabledProfiles", "Enabled Profiles")),
-         notRestored(profileFlags("tExemptProfiles", "lvwExemptProfiles", "Exempt Profiles"))},
+         notRestored(setting::profileFlags("tEnabledProfiles", "lvwEnabledProfiles", "Enabled Profiles")),
+         notRestored(setting::profileFlags("tExemptProfiles", "lvwExemptProfiles", "Exempt Profiles"))},
         {"sAction", "iTempBanTime", "tExemptProfiles", "tEnabledProfiles"},
     };
     return file;

@@ -78,9 +78,9 @@ RowListDeclaration declaredVersions()
 /// RESTORE sets the action and its time; the lists stay.
 TableFile declaredSettings()
 {
-    Setting types = notRestored(namedFlags("tBlock", "lvwBlockedTypes", "Blocked Connection Types",
-                                           {"Sockets", "Passive", "Active", "Undeclared"}));
-    types.resets = true; // a rebuild opens the hub to every kind of connection again
+    auto types = notRestored(setting::namedFlags("tBlock", "lvwBlockedTypes", "Blocked Connection Types",
+                                                 {"Sockets", "Passive", "Active", "Undeclared"}));
+    types.rebuild.resets = true; // a rebuild opens the hub to every kind of connection again
     return {
         R"(Security\ClientChecker\ClientCheckerSettings.tbl)",
         "tClientCheckerSettings",
@@ -88,7 +88,7 @@ TableFile declaredSettings()
             banTimeSetting("iBanTime"),
             actionSetting("TempBan"),
             // The key says enabled and the label says exempt: one list, and both words stay.
-            notRestored(profileFlags("tEnabledProfiles", "lvwEnabledProfiles", "Exempt Profiles")),
+            notRestored(setting::profileFlags("tEnabledProfiles", "lvwEnabledProfiles", "Exempt Profiles")),
             types,
         },
         {"sAction", "iBanTime", "tBlock", "tEnabledProfiles"},

@@ -11,6 +11,13 @@ GridCommand command(const std::string& word)
     return {word, R"(Security\Kick\KickCan)" + word + ".tbl", "tKickCan" + word};
 }
 
+/// A number that the file knows without a value.
+Setting count(const char* key, const char* control, const char* label, int defaultValue, int minimum,
+              int maximum)
+{
+    return setting::number(key, control, label, defaultValue, minimum, maximum, setting::asTyped);
+}
+
 } // namespace
 
 const TableFile& kickSettings()
@@ -19,17 +26,17 @@ const TableFile& kickSettings()
         R"(Security\Kick\KickSettings.tbl)",
         "tKickSettings",
         {
-            flag("bAnnounceNextArrival", "chkCheckBox(0)", "Announce Kicked Return", "1"),
-            flag("bCleanerActive", "chkCheckBox(1)", "Enable Kick Log Cleaner", "1"),
-            flag("bAsciiToMain", "chkCheckBox(2)", "Enable Ascii Kick", "0"),
-            savedAsTyped(number("iWarnsMakeKick", "txtUpDown(0)", "Warns Make Kick", "5", 1, 50)),
-            savedAsTyped(number("iKicksMakeBan", "txtUpDown(1)", "Kicks Make Ban", "5", 1, 50)),
-            savedAsTyped(number("iTimeBansMakeBan", "txtUpDown(2)", "TempBans Make Ban", "5", 1, 50)),
-            savedAsTyped(number("iKickBanTime", "txtUpDown(3)", "Kick Ban Time", "10", 1, 500)),
-            savedAsTyped(number("iCleanOlderThan", "txtUpDown(4)", "Clean Older Than", "30", 1, 180)),
+            setting::flag("bAnnounceNextArrival", "chkCheckBox(0)", "Announce Kicked Return", true),
+            setting::flag("bCleanerActive", "chkCheckBox(1)", "Enable Kick Log Cleaner", true),
+            setting::flag("bAsciiToMain", "chkCheckBox(2)", "Enable Ascii Kick", false),
+            count("iWarnsMakeKick", "txtUpDown(0)", "Warns Make Kick", 5, 1, 50),
+            count("iKicksMakeBan", "txtUpDown(1)", "Kicks Make Ban", 5, 1, 50),
+            count("iTimeBansMakeBan", "txtUpDown(2)", "TempBans Make Ban", 5, 1, 50),
+            count("iKickBanTime", "txtUpDown(3)", "Kick Ban Time", 10, 1, 500),
+            count("iCleanOlderThan", "txtUpDown(4)", "Clean Older Than", 30, 1, 180),
             // A clock time as the digits HHMM, but a plain number to its arrows: nothing corrects a 1260.
-            savedAsTyped(number("iCleanerTime", "txtUpDown(5)", "Cleaner Time", "2355", 5, 2359)),
-            savedAsTyped(number("iTopKickers", "txtUpDown(6)", "Top Kickers", "10", 1, 100)),
+            count("iCleanerTime", "txtUpDown(5)", "Cleaner Time", 2355, 5, 2359),
+            count("iTopKickers", "txtUpDown(6)", "Top Kickers", 10, 1, 100),
         },
         {"iWarnsMakeKick", "iKicksMakeBan", "iTimeBansMakeBan", "iKickBanTime", "bAnnounceNextArrival",
          "bCleanerActive", "iCleanOlderThan", "iCleanerTime", "iTopKickers", "bAsciiToMain"},

@@ -8,12 +8,12 @@ constexpr const char* mainCleanerText = R"(Security\MainCleaner\MainCleaner.asc)
 
 Setting enabledProfiles()
 {
-    return profileFlags("tEnabledProfiles", "lvwEnabledProfiles", "Enabled Profiles");
+    return setting::profileFlags("tEnabledProfiles", "lvwEnabledProfiles", "Enabled Profiles");
 }
 
 Setting exemptProfiles()
 {
-    return profileFlags("tExemptProfiles", "lvwExemptProfiles", "Exempt Profiles");
+    return setting::profileFlags("tExemptProfiles", "lvwExemptProfiles", "Exempt Profiles");
 }
 
 } // namespace
@@ -23,7 +23,7 @@ const TableFile& mainBlockSettings()
     static const TableFile file = {
         R"(Security\MainBlock\MainBlockSettings.tbl)",
         "tMainBlockSettings",
-        {savedAsTyped(number("iBlockTime", "txtUpDown", "Temporary Block Time", "10", 5, 1440)),
+        {setting::number("iBlockTime", "txtUpDown", "Temporary Block Time", 10, 5, 1440, setting::asTyped),
          enabledProfiles(), exemptProfiles()},
         {"tEnabledProfiles", "tExemptProfiles", "iBlockTime"},
     };

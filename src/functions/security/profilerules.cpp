@@ -18,7 +18,7 @@ struct Rule
 {
     std::string_view name;
     char letter; ///< of its key in a profile's block
-    std::string_view standard;
+    std::string_view defaultText;
     EditForm form;
     std::string_view title;
     std::vector<std::string> labels;
@@ -225,23 +225,26 @@ RowListDeclaration textList(const std::string& word, const std::string& menu, co
     return list;
 }
 
+Setting enabled(const std::string& word)
+{
+    return setting::profileFlags("tEnabled" + word + "Profiles", "lvwEnabled" + word + "Profiles",
+                                 "Enabled " + word + " Profiles", "Enabled Profiles");
+}
+
 TableFile declaredSettings()
 {
-    Setting log = flag("bEnableRedirectLog", "chkCheckBox", "Log Redirects", "0");
+    auto log = setting::flag("bEnableRedirectLog", "chkCheckBox", "Log Redirects", false);
     // A rebuild asks for the defaults of both under other names: it finds the flag's to be 1, and none for
     // the delay, whose row then stands without a value.
-    log.rebuildStandard = "1";
+    log.rebuild.defaultText = "1";
     // The file knows the delay without a value, so an emptied one is saved so.
-    Setting delay = savedAsTyped(number("iCheckDelay", "txtUpDown", "Automatic Check Delay", "5", 1, 365));
-    delay.unit = "Days";
-    delay.rebuildStandard = "";
-    Setting get = profileFlags("tEnabledGetProfiles", "lvwEnabledGetProfiles", "Enabled Get Profiles");
-    Setting set = profileFlags("tEnabledSetProfiles", "lvwEnabledSetProfiles", "Enabled Set Profiles");
-    get.column = set.column = "Enabled Profiles";
+    auto delay = setting::number("iCheckDelay", "txtUpDown", "Automatic Check Delay", 5, 1, 365,
+                                 {.unit = "Days", .savedAsTyped = true});
+    delay.rebuild.defaultText = "";
     return {
         R"(Security\ProfileRules\ProfileRuleSettings.tbl)",
         "tProfileRuleSettings",
-        {log, delay, get, set},
+        {log, delay, enabled("Get"), enabled("Set")},
         {"iCheckDelay", "bEnableRedirectLog", "tEnabledGetProfiles", "tEnabledSetProfiles"},
     };
 }
@@ -262,7 +265,7 @@ void rebuildRules(const SettingsFiles& files, const HubProfiles& profiles)
         table.open(bracketed(block));
         for (const Rule& rule : rules()) {
             const std::string value = index.value(keyOf(rule), block);
-            writeRule(table, rule, value.empty() ? std::string(rule.standard) : value);
+            writeRule(table, rule, value.empty() ? std::string(rule.defaultText) : value);
         }
         table.close();
     }

@@ -7,8 +7,8 @@ const TableFile& ptokaXSettings()
     static const TableFile file = {
         R"(Security\PtokaX\PtokaXSettings.tbl)",
         "tPtokaXSettings",
-        {profileFlags("tEnabledGetProfiles", "lvwEnabledGetProfiles", "Enabled Get Profiles"),
-         profileFlags("tEnabledSetProfiles", "lvwEnabledSetProfiles", "Enabled Set Profiles")}};
+        {setting::profileFlags("tEnabledGetProfiles", "lvwEnabledGetProfiles", "Enabled Get Profiles"),
+         setting::profileFlags("tEnabledSetProfiles", "lvwEnabledSetProfiles", "Enabled Set Profiles")}};
     return file;
 }
 

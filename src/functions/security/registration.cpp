@@ -39,10 +39,10 @@ const TableFile& registrationSettings()
         R"(Security\Registration\RegistrationSettings.tbl)",
         "tRegistrationSettings",
         {
-            flag("bAllowRegme", "chkCheckBox(0)", "Enable Regme", "1"),
-            flag("bKeepLog", "chkCheckBox(1)", "Keep Log", "1"),
-            text("sPrefix", "txtTextBox(0)", "Prefix", ""),
-            notRestored(profileKey("iRegProfile", "cboComboBox", "Registration Profile")),
+            setting::flag("bAllowRegme", "chkCheckBox(0)", "Enable Regme", true),
+            setting::flag("bKeepLog", "chkCheckBox(1)", "Keep Log", true),
+            setting::text("sPrefix", "txtTextBox(0)", "Prefix", ""),
+            notRestored(setting::profileKey("iRegProfile", "cboComboBox", "Registration Profile")),
         },
     };
     return file;

@@ -7,7 +7,7 @@ const TableFile& reportSettings()
     static const TableFile file = {
         R"(Security\Report\ReportSettings.tbl)",
         "tReportSettings",
-        {profileFlags("tEnabledProfiles", "lvwEnabledProfiles", "Enabled Profiles")}};
+        {setting::profileFlags("tEnabledProfiles", "lvwEnabledProfiles", "Enabled Profiles")}};
     return file;
 }
 

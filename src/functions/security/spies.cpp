@@ -35,7 +35,7 @@ void saveTerms(const SettingsFiles& files, const HubProfiles& /*profiles*/, cons
     std::vector<ListRow> list;
     list.reserve(rows.size());
     for (const CellRow& row : rows)
-        list.push_back({row.cells[Term], actionLetter(row.cells[Action])});
+        list.push_back({row.cells[Term], setting::letterOf(row.cells[Action])});
     saveList(files, termsFile, list);
 }
 
@@ -71,7 +71,7 @@ const TableFile& commandSpySettings()
     static const TableFile file = {
         R"(Security\CommandSpy\CommandSpySettings.tbl)",
         "tCommandSpySettings",
-        {profileFlags("tEnabledProfiles", "lvwEnabledProfiles", "Enabled Profiles")}};
+        {setting::profileFlags("tEnabledProfiles", "lvwEnabledProfiles", "Enabled Profiles")}};
     return file;
 }
 
@@ -80,8 +80,8 @@ const TableFile& searchSpySettings()
     static const TableFile file = {
         R"(Security\SearchSpy\SearchSpySettings.tbl)",
         "tSearchSpySettings",
-        {profileFlags("tAllowedProfiles", "lvwAllowedProfiles", "Enabled Profiles"),
-         profileFlags("tImmuneProfiles", "lvwImmuneProfiles", "Immune Profiles")},
+        {setting::profileFlags("tAllowedProfiles", "lvwAllowedProfiles", "Enabled Profiles"),
+         setting::profileFlags("tImmuneProfiles", "lvwImmuneProfiles", "Immune Profiles")},
         {"tImmuneProfiles", "tAllowedProfiles"},
     };
     return file;

@@ -5,22 +5,21 @@ namespace {
 
 TableFile declared()
 {
-    Setting cleanOlderThan = number("iCleanOlderThan", "txtUpDown(0)", "Clean Older Than", "28", 1, 365);
-    cleanOlderThan.unit = "Days";
     return {
         R"(Security\UserLog\UserLogSettings.tbl)",
         "tUserLogSettings",
         {
-            flag("bEnableCleaner", "chkCheckBox(0)", "Enable Cleaner", "1"),
-            flag("bEnableSaveTimer", "chkCheckBox(1)", "Enable Save On Timer", "1"),
-            flag("bEnableFileLog", "chkCheckBox(2)", "Enable Log To File", "1"),
-            cleanOlderThan,
+            setting::flag("bEnableCleaner", "chkCheckBox(0)", "Enable Cleaner", true),
+            setting::flag("bEnableSaveTimer", "chkCheckBox(1)", "Enable Save On Timer", true),
+            setting::flag("bEnableFileLog", "chkCheckBox(2)", "Enable Log To File", true),
+            setting::number("iCleanOlderThan", "txtUpDown(0)", "Clean Older Than", 28, 1, 365,
+                            {.unit = "Days"}),
             // A clock time as the digits HHMM. Its end is the default, where the kick log's is 2359.
-            number("iCleanerTime", "txtUpDown(1)", "Cleaner Active Time", "2355", 5, 2355),
-            number("iSaveTimerInterval", "txtUpDown(2)", "Save Timer Interval", "60", 1, 86400),
-            number("iTopHubbers", "txtUpDown(3)", "Number Of Top Hubbers to Show", "25", 1, 150),
-            profileFlags("tEnabledProfiles", "lvwEnabledProfiles", "Enabled View Log Profiles"),
-            profileFlags("tEnabledLogProfiles", "lvwEnabledLogProfiles", "Enabled Log Profiles"),
+            setting::number("iCleanerTime", "txtUpDown(1)", "Cleaner Active Time", 2355, 5, 2355),
+            setting::number("iSaveTimerInterval", "txtUpDown(2)", "Save Timer Interval", 60, 1, 86400),
+            setting::number("iTopHubbers", "txtUpDown(3)", "Number Of Top Hubbers to Show", 25, 1, 150),
+            setting::profileFlags("tEnabledProfiles", "lvwEnabledProfiles", "Enabled View Log Profiles"),
+            setting::profileFlags("tEnabledLogProfiles", "lvwEnabledLogProfiles", "Enabled Log Profiles"),
         },
         {"bEnableCleaner", "iCleanOlderThan", "iCleanerTime", "iTopHubbers", "bEnableSaveTimer",
          "iSaveTimerInterval", "bEnableFileLog", "tEnabledProfiles", "tEnabledLogProfiles"},

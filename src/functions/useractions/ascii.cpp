@@ -47,11 +47,11 @@ const TableFile& asciiSettings()
         R"(UserActions\Ascii\AsciiSettings.tbl)",
         "tAsciiSettings",
         {
-            flag("bInMain", "chkCheckBox(0)", "Show In Main", "1"),
-            flag("bInMainGlobal", "chkCheckBox(1)", "Show In Main To All", "1"),
-            flag("bEnableNoCommand", "chkCheckBox(2)", "Enable No Command", "1"),
-            notRestored(profileFlags("tEnabledProfiles", "lvwEnabledProfiles", "Enabled Profiles")),
-            notRestored(profileFlags("tEnabledRC", "lvwEnabledRCs", "Enabled Right Clicks")),
+            setting::flag("bInMain", "chkCheckBox(0)", "Show In Main", true),
+            setting::flag("bInMainGlobal", "chkCheckBox(1)", "Show In Main To All", true),
+            setting::flag("bEnableNoCommand", "chkCheckBox(2)", "Enable No Command", true),
+            notRestored(setting::profileFlags("tEnabledProfiles", "lvwEnabledProfiles", "Enabled Profiles")),
+            notRestored(setting::profileFlags("tEnabledRC", "lvwEnabledRCs", "Enabled Right Clicks")),
         },
         {"bInMain", "bInMainGlobal", "bEnableNoCommand", "tEnabledRC", "tEnabledProfiles"},
     };

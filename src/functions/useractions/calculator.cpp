@@ -7,7 +7,7 @@ const TableFile& calculatorSettings()
     static const TableFile file = {
         R"(UserActions\Calculator\CalculatorSettings.tbl)",
         "tCalculatorSettings",
-        {profileFlags("tEnabledProfiles", "lvwEnabledProfiles", "Enabled Profiles")}};
+        {setting::profileFlags("tEnabledProfiles", "lvwEnabledProfiles", "Enabled Profiles")}};
     return file;
 }
 

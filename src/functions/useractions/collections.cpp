@@ -13,14 +13,14 @@ ListFile textsFile(const std::string& word)
     return {pathOf(word, "s.tbl"), "t" + word + "s"};
 }
 
-Collection collection(const std::string& word, const std::string& delay)
+Collection collection(const std::string& word, int delay)
 {
     Collection result;
     result.settings = {pathOf(word, "Settings.tbl"),
                        "t" + word + "Settings",
-                       {flag("bManualControl", "chkManualControl", "Manual Control", "0"),
-                        flag("bSendToAll", "chkSendToAll", "Send To All", "1"),
-                        number("iDelay", "txtDelay(0)", "Delay", delay, 10, 720)},
+                       {setting::flag("bManualControl", "chkManualControl", "Manual Control", false),
+                        setting::flag("bSendToAll", "chkSendToAll", "Send To All", true),
+                        setting::number("iDelay", "txtDelay(0)", "Delay", delay, 10, 720)},
                        {"bManualControl", "iDelay", "bSendToAll"}};
     RowListDeclaration& texts = result.texts;
     texts.list = "lvw" + word + "s";
@@ -55,25 +55,25 @@ FunctionDeclaration collectionFunction(const std::string& word, const Collection
 
 const Collection& jokes()
 {
-    static const Collection declared = collection("Joke", "103");
+    static const Collection declared = collection("Joke", 103);
     return declared;
 }
 
 const Collection& limericks()
 {
-    static const Collection declared = collection("Limerick", "93");
+    static const Collection declared = collection("Limerick", 93);
     return declared;
 }
 
 const Collection& proverbs()
 {
-    static const Collection declared = collection("Proverb", "73");
+    static const Collection declared = collection("Proverb", 73);
     return declared;
 }
 
 const Collection& quotations()
 {
-    static const Collection declared = collection("Quotation", "89");
+    static const Collection declared = collection("Quotation", 89);
     return declared;
 }
 

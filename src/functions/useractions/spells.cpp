@@ -22,12 +22,12 @@ ListFile phraseFile(const SpellBook& book, const std::string& spell)
 
 Setting timeout()
 {
-    return number("iDelay", "txtUpDown(0)", "Timeout", "3", 1, 180);
+    return setting::number("iDelay", "txtUpDown(0)", "Timeout", 3, 1, 180);
 }
 
 Setting enabledProfiles()
 {
-    return profileFlags("tEnabledProfiles", "lvwEnabledProfiles", "Enabled Profiles");
+    return setting::profileFlags("tEnabledProfiles", "lvwEnabledProfiles", "Enabled Profiles");
 }
 
 std::vector<std::string> pieces(const std::string& text)
@@ -83,7 +83,7 @@ const TableFile& spellSettings()
     static const TableFile file = {
         R"(UserActions\Spells\SpellSettings.tbl)",
         "tSpellSettings",
-        {flag("bEnableWards", "chkCheckBox(0)", "Enable Wards", "1"), timeout(), enabledProfiles()},
+        {setting::flag("bEnableWards", "chkCheckBox(0)", "Enable Wards", true), timeout(), enabledProfiles()},
         {"iDelay", "bEnableWards", "tEnabledProfiles"}};
     return file;
 }

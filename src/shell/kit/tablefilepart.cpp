@@ -1,5 +1,6 @@
 #include "shell/kit/tablefilepart.h"
 
+#include "settings/overloaded.h"
 #include "settings/tablefile.h"
 #include "shell/kit/codepagetext.h"
 #include "shell/kit/labels.h"
@@ -14,35 +15,32 @@
 namespace quillfen {
 namespace {
 
-/// The least and the most characters of a text that a field has room for.
-constexpr int shortText = 24;
+/// The most characters of a text that a field has room for.
 constexpr int longText = 64;
 
-QLabel* numberedLabel(const Setting& setting, QWidget* field, int number)
+QLabel* numberedLabel(const Control& control, int number)
 {
-    auto* label = labelFor(fromBytes(setting.label), field);
+    auto* label = labelFor(control.label, control.widget);
     label->setObjectName(QStringLiteral("lblLabel(%1)").arg(number));
     return label;
 }
 
 /// The field as wide as its content may be, and its unit behind it if it has one: a number doesn't stretch
 /// across the window, and neither does a choice.
-QWidget* sized(const Setting& setting, QWidget* field)
+QWidget* sized(const Control& control)
 {
-    const int character = field->fontMetrics().averageCharWidth();
-    const bool takesText = setting.kind == Setting::Kind::Text || setting.kind == Setting::Kind::Entry;
-    if (takesText && setting.limit == 0)
-        field->setMinimumWidth(shortText * character);
+    QWidget* field = control.widget;
+    const bool takesText = control.place == ControlPlace::Text;
     auto* widget = new QWidget;
     auto* layout = new QHBoxLayout(widget);
     layout->setContentsMargins({});
     if (takesText)
-        field->setMaximumWidth(longText * character);
+        field->setMaximumWidth(longText * field->fontMetrics().averageCharWidth());
     else
         field->setSizePolicy(QSizePolicy::Fixed, field->sizePolicy().verticalPolicy());
     layout->addWidget(field, takesText ? 1 : 0);
-    if (!setting.unit.empty()) {
-        auto* unit = new QLabel(fromBytes(setting.unit));
+    if (!control.unit.isEmpty()) {
+        auto* unit = new QLabel(control.unit);
         unit->setTextFormat(Qt::PlainText);
         layout->addWidget(unit);
     }
@@ -50,16 +48,14 @@ QWidget* sized(const Setting& setting, QWidget* field)
     return widget;
 }
 
-bool isList(const Setting& setting)
+bool isList(const Control& control)
 {
-    return setting.kind == Setting::Kind::Profiles || setting.kind == Setting::Kind::Flags ||
-           setting.kind == Setting::Kind::Texts;
+    return control.place == ControlPlace::List;
 }
 
 /// The layout of the frame around a flag: the one that the column ends with, or a new one.
-QLayout* frameOf(const Setting& setting, QFormLayout& column)
+QLayout* frameOf(const QString& caption, QFormLayout& column)
 {
-    const QString caption = fromBytes(setting.frame);
     if (const auto* last = column.itemAt(column.rowCount() - 1, QFormLayout::SpanningRole)) {
         const auto* frame = qobject_cast<QGroupBox*>(last->widget());
         if (frame && frame->title() == caption)
@@ -107,54 +103,53 @@ TableFilePart::TableFilePart(TableFile file, const FormContext& context, const O
     : m_file(std::move(file)),
       m_context(context)
 {
-    for (const Setting& setting : m_file.settings) {
-        if (!hasControl(setting))
-            continue;
-        m_settings.push_back(&setting);
-        m_controls.push_back(controlOf(setting, own));
-    }
+    for (const Setting& each : m_file.settings)
+        addControl(each, own);
     m_widget = placed();
 }
 
-Control TableFilePart::controlOf(const Setting& setting, const OwnControl& own)
+void TableFilePart::addControl(const Setting& setting, const OwnControl& own)
 {
-    if (setting.kind == Setting::Kind::Texts)
-        return own(setting);
-    Control control = makeControl(setting, m_context.profiles, [this] { emit changed(); });
-    if (setting.idle) {
-        control.show({{setting.key, setting.standard}});
-        control.show = [](const SettingValues&) {};
-        control.collect = [](SettingValues&) {};
-    }
-    return control;
+    const auto report = [this] { emit changed(); };
+    const Overloaded adders = {
+        [&](const setting::Field& field) {
+            m_controls.push_back(makeControl(field, m_context.profiles, report));
+        },
+        [&](const setting::Idle& idle) {
+            m_controls.push_back(makeIdleControl(idle, m_context.profiles, report));
+        },
+        [&](const setting::NamedTexts& texts) {
+            m_controls.push_back(own(texts));
+            m_controls.back().label = fromBytes(texts.label);
+        },
+        [](const auto& /*without a control*/) {},
+    };
+    std::visit(adders, setting);
 }
 
 QWidget* TableFilePart::placed() const
 {
-    const auto count = std::count_if(m_settings.begin(), m_settings.end(),
-                                     [](const Setting* setting) { return isList(*setting); });
+    const auto count = std::count_if(m_controls.begin(), m_controls.end(), isList);
     CheckLists lists(static_cast<int>(count));
-    const auto beside = static_cast<std::ptrdiff_t>(m_settings.size()) - count;
+    const auto beside = static_cast<std::ptrdiff_t>(m_controls.size()) - count;
     const bool crowded = beside > 12; // then check boxes and options get a column of their own
     auto* choices = new QFormLayout;
     auto* fields = new QFormLayout;
     auto* grid = new QGridLayout;
     int labels = 0;
-    for (std::size_t at = 0; at < m_controls.size(); ++at) {
-        const Setting& setting = *m_settings[at];
-        QWidget* control = m_controls[at].widget;
-        if (setting.kind == Setting::Kind::Flag || setting.kind == Setting::Kind::Options) {
+    for (const Control& control : m_controls) {
+        if (control.place == ControlPlace::Choice) {
             QFormLayout* column = crowded ? choices : fields;
-            if (setting.frame.empty())
-                column->addRow(control);
+            if (control.frame.isEmpty())
+                column->addRow(control.widget);
             else
-                frameOf(setting, *column)->addWidget(control);
-        } else if (isList(setting)) {
-            lists.add(*grid, numberedLabel(setting, control, labels++), control);
-        } else if (setting.label.empty()) {
-            fields->addRow(sized(setting, control));
+                frameOf(control.frame, *column)->addWidget(control.widget);
+        } else if (isList(control)) {
+            lists.add(*grid, numberedLabel(control, labels++), control.widget);
+        } else if (control.label.isEmpty()) {
+            fields->addRow(sized(control));
         } else {
-            fields->addRow(numberedLabel(setting, control, labels++), sized(setting, control));
+            fields->addRow(numberedLabel(control, labels++), sized(control));
         }
     }
     auto* widget = new QWidget;
@@ -185,9 +180,9 @@ void TableFilePart::load()
 void TableFilePart::restore()
 {
     const SettingValues values = restored(m_file, m_context.profiles);
-    for (std::size_t at = 0; at < m_controls.size(); ++at) {
-        if (!m_settings[at]->keptByRestore)
-            m_controls[at].show(values);
+    for (const Control& control : m_controls) {
+        if (!control.keptByRestore)
+            control.show(values);
     }
 }
 

@@ -16,8 +16,8 @@ class TableFilePart : public FormPart
     Q_OBJECT
 
 public:
-    /// Makes the control of a setting that the kit has none for, of named texts.
-    using OwnControl = std::function<Control(const Setting&)>;
+    /// Makes the control of named texts, for which the kit has none.
+    using OwnControl = std::function<Control(const setting::NamedTexts&)>;
 
     TableFilePart(TableFile file, const FormContext& context, const OwnControl& own = {});
 
@@ -27,12 +27,11 @@ public:
     void save() override;
 
 private:
-    Control controlOf(const Setting& setting, const OwnControl& own);
+    void addControl(const Setting& setting, const OwnControl& own);
     QWidget* placed() const;
 
     const TableFile m_file; ///< its own, which the controls hold on to
     FormContext m_context;
-    std::vector<const Setting*> m_settings; ///< those with a control, in the order of the controls
     std::vector<Control> m_controls;
     QWidget* m_widget;
 };

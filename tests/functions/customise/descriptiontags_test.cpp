@@ -89,7 +89,7 @@ TEST_F(DescriptionTags, ATagBelongsToItsKeyAndThoseOfProfilesThatAreGoneAreLeftO
 
 TEST_F(DescriptionTags, ASaveWritesTheProfilesFirstAndNoFlag)
 {
-    const Setting& enabled = taggedProfiles().settings.front();
+    const std::string& enabled = keyOf(taggedProfiles().settings.front());
     const SettingValues tagged = {{profileRow(enabled, 0), "0"},
                                   {profileRow(enabled, 1), "1"},
                                   {profileRow(enabled, 2), "1"},
@@ -124,7 +124,7 @@ TEST_F(DescriptionTags, TheHubScriptSeesWhatIsBuiltAndSaved)
 
 TEST_F(DescriptionTags, ATagWithADoubleQuoteBreaksTheLineForTheHubScript)
 {
-    const Setting& enabled = taggedProfiles().settings.front();
+    const std::string& enabled = keyOf(taggedProfiles().settings.front());
     hub.profiles = HubProfiles();
     saveDescriptionTags({{profileRow(enabled, 0), "0"}}, {{{"Unregistered", "a\"b"}}}, hub.files,
                         hub.profiles);

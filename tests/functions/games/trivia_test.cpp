@@ -213,14 +213,15 @@ TEST(QuizPattern, EachGameHasItsOwnDefaultsAndRanges)
         for (int game = 0; game < 6; ++game) {
             if (*row.cells[game] == '\0')
                 continue;
-            const Setting setting = quizSetting(static_cast<QuizGame>(game), row.key, "txtUpDown(3)");
-            EXPECT_EQ(setting.standard + " (" + std::to_string(setting.minimum) + "-" +
-                          std::to_string(setting.maximum) + ")",
+            const setting::Field field = quizSetting(static_cast<QuizGame>(game), row.key, "txtUpDown(3)");
+            const auto& number = std::get<setting::Number>(field.kind);
+            EXPECT_EQ(std::to_string(number.defaultValue) + " (" + std::to_string(number.minimum) + "-" +
+                          std::to_string(number.maximum) + ")",
                       row.cells[game])
                 << row.key << " game " << game;
-            EXPECT_EQ(setting.label, game == 0 ? row.triviaCaption : row.caption);
-            EXPECT_TRUE(setting.onlyArrows);
-            EXPECT_EQ(setting.control, "txtUpDown(3)");
+            EXPECT_EQ(field.label, game == 0 ? row.triviaCaption : row.caption);
+            EXPECT_TRUE(number.details.onlyArrows);
+            EXPECT_EQ(field.control, "txtUpDown(3)");
         }
     }
 }
@@ -231,15 +232,15 @@ TEST(QuizPattern, ItsFlagsStandInFrontAndAreTheSameInEveryGame)
         {"bManualStart", "Manual Start Only", "0"},     {"bOpOnlyStart", "Operator Start", "0"},
         {"bOpOnlyStop", "Operator Stop", "0"},          {"bPlayInMain", "Play Game In Main", "1"},
         {"bAutoClearScores", "Auto Clear Scores", "1"}, {"bArchiveScores", "Auto Archive Scores", "1"}};
-    const auto settings = withQuizFlags("chkBox", {number("iOwn", "txtUpDown", "Own", "1", 0, 9)});
+    const auto settings = withQuizFlags("chkBox", {setting::number("iOwn", "txtUpDown", "Own", 1, 0, 9)});
     ASSERT_EQ(settings.size(), 7U);
     for (std::size_t at = 0; at < expected.size(); ++at) {
-        EXPECT_EQ(settings[at].kind, Setting::Kind::Flag);
-        EXPECT_EQ((std::vector<std::string>{settings[at].key, settings[at].label, settings[at].standard}),
-                  expected[at]);
-        EXPECT_EQ(settings[at].control, "chkBox(" + std::to_string(at) + ")");
+        const auto& field = std::get<setting::Field>(settings[at]);
+        EXPECT_TRUE(std::holds_alternative<setting::Flag>(field.kind));
+        EXPECT_EQ((std::vector<std::string>{field.key, field.label, defaultText(field.kind)}), expected[at]);
+        EXPECT_EQ(field.control, "chkBox(" + std::to_string(at) + ")");
     }
-    EXPECT_EQ(settings[6].key, "iOwn");
+    EXPECT_EQ(keyOf(settings[6]), "iOwn");
 }
 
 } // namespace

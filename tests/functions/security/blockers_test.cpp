@@ -18,11 +18,11 @@ TEST(Actions, EachOfTheSixWordsHasItsLetter)
                                                                     {"T", "TempBan"},    {"B", "Ban"}};
     for (const auto& [letter, word] : pairs) {
         EXPECT_EQ(actionWord(actionWords(), letter), word);
-        EXPECT_EQ(actionLetter(word), letter);
+        EXPECT_EQ(setting::letterOf(word), letter);
     }
     EXPECT_EQ(actionWord(actionWords(), "x"), "");
     EXPECT_EQ(actionWord(actionWords(), ""), "");
-    EXPECT_EQ(actionLetter(""), "");
+    EXPECT_EQ(setting::letterOf(""), "");
 }
 
 class Blockers : public test::SecurityFiles

@@ -4,9 +4,7 @@ namespace quillfen {
 
 Setting enabledProfiles(const std::string& label)
 {
-    Setting setting = profileFlags("tEnabledProfiles", "lvwEnabledProfiles", label);
-    setting.column = "Enabled Profiles";
-    return setting;
+    return setting::profileFlags("tEnabledProfiles", "lvwEnabledProfiles", label, "Enabled Profiles");
 }
 
 } // namespace quillfen

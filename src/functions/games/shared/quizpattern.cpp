@@ -16,19 +16,19 @@ struct QuizFlag
 {
     const char* key;
     const char* caption;
-    const char* standard;
+    bool defaultValue;
 };
 
 constexpr QuizFlag flags[] = {
-    {"bManualStart", "Manual Start Only", "0"},     {"bOpOnlyStart", "Operator Start", "0"},
-    {"bOpOnlyStop", "Operator Stop", "0"},          {"bPlayInMain", "Play Game In Main", "1"},
-    {"bAutoClearScores", "Auto Clear Scores", "1"}, {"bArchiveScores", "Auto Archive Scores", "1"},
+    {"bManualStart", "Manual Start Only", false},    {"bOpOnlyStart", "Operator Start", false},
+    {"bOpOnlyStop", "Operator Stop", false},         {"bPlayInMain", "Play Game In Main", true},
+    {"bAutoClearScores", "Auto Clear Scores", true}, {"bArchiveScores", "Auto Archive Scores", true},
 };
 
-/// A game's default and range; without a default the game's writer does not write the key.
+/// A game's default and range; the game's writer does not write a key without one.
 struct Range
 {
-    const char* standard = nullptr;
+    int defaultValue = 0;
     int minimum = 0;
     int maximum = 0;
 };
@@ -43,32 +43,25 @@ struct QuizNumber
 constexpr QuizNumber numbers[] = {
     {"iArchiveScores",
      "ScoresTo Archive",
-     {{{"5", 0, 250}, {"5", 0, 1000}, {"5", 0, 1000}, {"5", 0, 1000}, {"5", 0, 1000}, {"5", 0, 1000}}}},
+     {{{5, 0, 250}, {5, 0, 1000}, {5, 0, 1000}, {5, 0, 1000}, {5, 0, 1000}, {5, 0, 1000}}}},
     {"iQuestions",
      "Questions",
-     {{{"15", 0, 999}, {"20", 0, 999}, {"10", 0, 999}, {"20", 0, 999}, {"20", 0, 999}, {"12", 0, 999}}}},
+     {{{15, 0, 999}, {20, 0, 999}, {10, 0, 999}, {20, 0, 999}, {20, 0, 999}, {12, 0, 999}}}},
     {"iQuestionsPause",
      "Pause Between Questions",
-     {{{"10", 0, 60}, {"10", 0, 1000}, {"10", 0, 1000}, {"10", 0, 1000}, {"10", 0, 1000}, {"10", 0, 60}}}},
-    {"iTimeOut",
-     "Timeout",
-     {{{"5", 0, 1000}, {"3", 0, 60}, {"3", 0, 60}, {"3", 0, 60}, {"3", 0, 60}, {"3", 0, 1000}}}},
-    {"iBonusTime", "Bonus Time", {{{"45", 0, 100}, {"10", 0, 1000}, {}, {"10", 0, 1000}, {}, {}}}},
-    {"iPoints", "Points", {{{"1", 0, 100}, {"1", 0, 100}, {"6", 0, 100}, {"1", 0, 100}, {"1", 0, 100}, {}}}},
+     {{{10, 0, 60}, {10, 0, 1000}, {10, 0, 1000}, {10, 0, 1000}, {10, 0, 1000}, {10, 0, 60}}}},
+    {"iTimeOut", "Timeout", {{{5, 0, 1000}, {3, 0, 60}, {3, 0, 60}, {3, 0, 60}, {3, 0, 60}, {3, 0, 1000}}}},
+    {"iBonusTime", "Bonus Time", {{{45, 0, 100}, {10, 0, 1000}, {}, {10, 0, 1000}, {}, {}}}},
+    {"iPoints", "Points", {{{1, 0, 100}, {1, 0, 100}, {6, 0, 100}, {1, 0, 100}, {1, 0, 100}, {}}}},
     {"iScores",
      "End Of Game Scores",
-     {{{"25", 0, 200}, {"25", 0, 100}, {"25", 0, 100}, {"25", 0, 100}, {"25", 0, 100}, {"25", 0, 100}}}},
+     {{{25, 0, 200}, {25, 0, 100}, {25, 0, 100}, {25, 0, 100}, {25, 0, 100}, {25, 0, 100}}}},
     {"iTopScores",
      "Top Scores",
-     {{{"10", 0, 100}, {"10", 0, 200}, {"10", 0, 200}, {"10", 0, 200}, {"10", 0, 200}, {"10", 0, 100}}}},
+     {{{10, 0, 100}, {10, 0, 200}, {10, 0, 200}, {10, 0, 200}, {10, 0, 200}, {10, 0, 100}}}},
     {"iAutoStartDelay",
      "Auto Start Delay",
-     {{{"93", 1, 1440},
-       {"73", 1, 1440},
-       {"67", 1, 1440},
-       {"73", 1, 1440},
-       {"73", 1, 1440},
-       {"111", 1, 1440}}}},
+     {{{93, 1, 1440}, {73, 1, 1440}, {67, 1, 1440}, {73, 1, 1440}, {73, 1, 1440}, {111, 1, 1440}}}},
 };
 
 /// Trivia words two captions in its own way.
@@ -84,12 +77,13 @@ std::string captionOf(QuizGame game, const QuizNumber& quizNumber)
 
 } // namespace
 
-Setting quizSetting(QuizGame game, const std::string& key, const std::string& control)
+setting::Field quizSetting(QuizGame game, const std::string& key, const std::string& control)
 {
     const auto* const found = std::find_if(std::begin(numbers), std::end(numbers),
                                            [&key](const QuizNumber& each) { return each.key == key; });
     const Range& range = found->ranges.at(static_cast<std::size_t>(game));
-    return arrowNumber(key, control, captionOf(game, *found), range.standard, range.minimum, range.maximum);
+    return arrowNumber(key, control, captionOf(game, *found), range.defaultValue, range.minimum,
+                       range.maximum);
 }
 
 std::vector<Setting> withQuizFlags(const std::string& checkBoxes, std::vector<Setting> further)
@@ -97,26 +91,22 @@ std::vector<Setting> withQuizFlags(const std::string& checkBoxes, std::vector<Se
     std::vector<Setting> settings;
     for (const QuizFlag& each : flags) {
         const std::string control = checkBoxes + "(" + std::to_string(settings.size()) + ")";
-        settings.push_back(flag(each.key, control, each.caption, each.standard));
+        settings.emplace_back(setting::flag(each.key, control, each.caption, each.defaultValue));
     }
     settings.insert(settings.end(), std::make_move_iterator(further.begin()),
                     std::make_move_iterator(further.end()));
     return settings;
 }
 
-Setting arrowNumber(const std::string& key, const std::string& control, const std::string& label,
-                    const std::string& standard, int minimum, int maximum)
+setting::Field arrowNumber(const std::string& key, const std::string& control, const std::string& label,
+                           int defaultValue, int minimum, int maximum)
 {
-    Setting setting = number(key, control, label, standard, minimum, maximum);
-    setting.onlyArrows = true;
-    return setting;
+    return setting::number(key, control, label, defaultValue, minimum, maximum, {.onlyArrows = true});
 }
 
-Setting oneCharacter(const std::string& key, const std::string& label, const std::string& standard)
+setting::Field oneCharacter(const std::string& key, const std::string& label, const std::string& defaultValue)
 {
-    Setting setting = text(key, "txtTextBox(0)", label, standard);
-    setting.limit = 1;
-    return setting;
+    return setting::text(key, "txtTextBox(0)", label, defaultValue, 1);
 }
 
 FunctionDeclaration quizFunction(const std::string& folder, const std::string& game,

@@ -3,16 +3,6 @@
 #include <algorithm>
 
 namespace quillfen {
-namespace {
-
-/// Where a file holds no action the combo box stands at "Kick", as it does before a load.
-std::string kickWhereNone(const std::string& stored)
-{
-    return stored.empty() ? actionLetter("Kick") : stored;
-}
-
-} // namespace
-
 const std::vector<std::string>& actionWords()
 {
     static const std::vector<std::string> words = {"Disconnect", "Warn",    "Notify Ops",
@@ -23,26 +13,20 @@ const std::vector<std::string>& actionWords()
 std::string actionWord(const std::vector<std::string>& words, std::string_view letter)
 {
     const auto found = std::find_if(words.begin(), words.end(), [letter](const std::string& word) {
-        return actionLetter(word) == letter;
+        return setting::letterOf(word) == letter;
     });
     return found == words.end() ? std::string() : *found;
 }
 
-std::string actionLetter(std::string_view word)
+Setting actionSetting(const std::string& defaultWord)
 {
-    return std::string(word.substr(0, 1));
-}
-
-Setting actionSetting(std::string_view standard)
-{
-    Setting setting = letter("sAction", "cboComboBox", "Action", actionLetter(standard), actionWords());
-    setting.shown = kickWhereNone;
-    return setting;
+    // Where a file holds no action the combo box stands at "Kick", as it does before a load.
+    return setting::letter("sAction", "cboComboBox", "Action", defaultWord, actionWords(), "Kick");
 }
 
 Setting banTimeSetting(const std::string& key)
 {
-    return number(key, "txtUpDown", "TimeBan", "60", 5, 1440);
+    return setting::number(key, "txtUpDown", "TimeBan", 60, 5, 1440);
 }
 
 } // namespace quillfen

@@ -14,11 +14,8 @@ const std::vector<std::string>& actionWords();
 /// The word of a stored letter among these words; empty if it is none of theirs.
 std::string actionWord(const std::vector<std::string>& words, std::string_view letter);
 
-/// The letter that a word is stored as; empty for no word.
-std::string actionLetter(std::string_view word);
-
 /// The setting `sAction` with its combo box; its default as a word.
-Setting actionSetting(std::string_view standard);
+Setting actionSetting(const std::string& defaultWord);
 
 /// How long a ban for a time lasts. Its box is live for every action.
 Setting banTimeSetting(const std::string& key);
