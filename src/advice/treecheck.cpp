@@ -1,11 +1,13 @@
 #include "advice/treecheck.h"
 
 #include "advice/filefindings.h"
+#include "advice/settingfindings.h"
 #include "functions/catalogue.h"
 #include "settings/tablefile.h"
 
 #include <algorithm>
 #include <iterator>
+#include <map>
 
 namespace quillfen {
 namespace {
@@ -25,6 +27,46 @@ struct PathOf
     std::string operator()(BuildRoutine /*step*/) const { return {}; }
 };
 
+/// The declared settings files of a form's part.
+struct FilesOf
+{
+    std::vector<TableFile> operator()(const DeclaredSettings& part) const { return {part.file()}; }
+    std::vector<TableFile> operator()(const OwnPart& part) const
+    {
+        return part.files ? part.files() : std::vector<TableFile>();
+    }
+    template <typename Other>
+    std::vector<TableFile> operator()(const Other& /*part*/) const
+    {
+        return {};
+    }
+};
+
+/// The settings files of all forms by their paths.
+std::map<std::string, TableFile> settingsFilesOfForms()
+{
+    std::map<std::string, TableFile> all;
+    for (const FormDeclaration& form : formCatalogue()) {
+        for (const PartDeclaration& part : form.parts) {
+            for (TableFile& file : std::visit(FilesOf(), part))
+                all.emplace(file.path, std::move(file));
+        }
+    }
+    return all;
+}
+
+/// Adds what is found in lines of which nothing is told yet, and keeps the order of the lines.
+void addToOtherLines(std::vector<Finding>& findings, std::vector<Finding> others)
+{
+    for (Finding& other : others) {
+        const auto place =
+            std::lower_bound(findings.begin(), findings.end(), other.line,
+                             [](const Finding& finding, std::size_t line) { return finding.line < line; });
+        if (place == findings.end() || place->line != other.line)
+            findings.insert(place, std::move(other));
+    }
+}
+
 /// Looks at one settings tree.
 class TreeCheck
 {
@@ -42,8 +84,13 @@ private:
     void takeFolder(const std::string& folder);
     void takeFile(const std::string& file);
     void takeMissing(const FunctionDeclaration& function);
+    void add(std::vector<Finding> findings)
+    {
+        std::move(findings.begin(), findings.end(), std::back_inserter(m_findings));
+    }
 
     const SettingsFiles& m_files;
+    const std::map<std::string, TableFile> m_settings = settingsFilesOfForms();
     std::vector<Finding> m_findings{};
 };
 
@@ -66,8 +113,12 @@ void TreeCheck::takeFolder(const std::string& folder)
 void TreeCheck::takeFile(const std::string& file)
 {
     const auto bytes = m_files.store().read(m_files.paths().inSettings(file));
-    auto found = bytes ? fileFindings(file, *bytes) : std::vector<Finding>{{file, 0, unreadableWords}};
-    std::move(found.begin(), found.end(), std::back_inserter(m_findings));
+    if (!bytes)
+        return add({{file, 0, unreadableWords}});
+    auto findings = fileFindings(file, *bytes);
+    if (const auto settings = m_settings.find(file); settings != m_settings.end())
+        addToOtherLines(findings, settingFindings(settings->second, *bytes));
+    add(std::move(findings));
 }
 
 void TreeCheck::takeMissing(const FunctionDeclaration& function)

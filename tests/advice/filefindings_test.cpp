@@ -1,4 +1,7 @@
 #include "advice/filefindings.h"
+#include "advice/settingfindings.h"
+#include "declarations/declaration.h"
+#include "functions/security/kicks.h"
 
 #include <algorithm>
 #include <gtest/gtest.h>
@@ -138,6 +141,70 @@ TEST(FileFindings, TellOfTextsThatAreTooLongForTheEditor)
               at(5001, "the text has more than 5,000 lines"));
     EXPECT_EQ(found(text, R"(UserActions\Ascii\Ascii\a.asc)"), Lines{});
     EXPECT_EQ(found(text + "one more", R"(UserActions\Ascii\Ascii\a.asc)").size(), 1U);
+}
+
+TableFile sample()
+{
+    return {"A.tbl",
+            "t",
+            {setting::flag("bFlag", "chkCheckBox", "Flag", true),
+             setting::number("iNumber", "txtUpDown(0)", "Number", 60, 1, 50),
+             setting::number("iTime", "txtUpDown(1)", "Time", 2355, 5, 2359, {.clockTime = true}),
+             setting::text("sText", "txtTextBox", "Text", "x", 3),
+             setting::options("iOption", "optOption", "Option", 0, 0, {"A", "B"}),
+             setting::letter("sAction", "cboComboBox", "Action", "Kick", {"Kick", "Ban"})}};
+}
+
+Lines foundInSample(const std::string& rows)
+{
+    return shortly(settingFindings(sample(), "t = {\r\n" + rows + "}\r\n"));
+}
+
+TEST(SettingFindings, AreNoneForValuesThatTheFormShows)
+{
+    EXPECT_EQ(foundInSample("bFlag = 0,\r\niNumber = 50,\r\niTime = 1259,\r\nsText = \"abc\",\r\niOption = "
+                            "1,\r\nsAction = \"B\",\r\n"),
+              Lines{});
+    EXPECT_EQ(foundInSample(""), Lines{});
+    EXPECT_EQ(foundInSample("iNumber = 60,\r\n"), Lines{}) << "a default may stand outside its range";
+}
+
+TEST(SettingFindings, NameTheLineOfANumberOutsideItsRange)
+{
+    EXPECT_EQ(foundInSample("bFlag = 1,\r\niNumber = 0,\r\n"),
+              at(3, "0 is outside its range. Enter a number from 1 to 50."));
+    EXPECT_EQ(foundInSample("iNumber = 51,\r\n"),
+              at(2, "51 is outside its range. Enter a number from 1 to 50."));
+    EXPECT_EQ(foundInSample("iOption = 2,\r\n"),
+              at(2, "2 is outside its range. Enter a number from 0 to 1."));
+}
+
+TEST(SettingFindings, NameAClockTimeThatIsNone)
+{
+    EXPECT_EQ(foundInSample("iTime = 1260,\r\n"), at(2, "1260 is no time of day. Enter hours and minutes"));
+    EXPECT_EQ(foundInSample("iTime = 2360,\r\n"),
+              at(2, "2360 is outside its range. Enter a number from 5 to 2359."));
+    EXPECT_EQ(shortly(settingFindings(kickSettings(), "tKickSettings = {\r\n\tiCleanerTime = 1260,\r\n}\r\n"))
+                  .size(),
+              1U);
+}
+
+TEST(SettingFindings, NameWhatNobodyCanChoose)
+{
+    EXPECT_EQ(foundInSample("sAction = \"X\",\r\n"), at(2, "\"X\" stands for none of the choices"));
+    EXPECT_EQ(foundInSample("bFlag = 2,\r\n"), at(2, "2 is neither on nor off. Enter 1 or 0."));
+    EXPECT_EQ(foundInSample("sText = \"abcd\",\r\n"),
+              at(2, "the text is longer than the 3 characters that the form shows"));
+}
+
+TEST(SettingFindings, TellWhereTheReadersStop)
+{
+    std::string rows;
+    for (int row = 0; row < 4998; ++row)
+        rows += "x = 1,\r\n";
+    EXPECT_EQ(foundInSample(rows), Lines{}) << "the brace stands on line 5,000";
+    EXPECT_EQ(foundInSample(rows + "x = 1,\r\niNumber = 99,\r\n"),
+              at(5001, "the editor reads no further than line 5,000"));
 }
 
 } // namespace

@@ -124,6 +124,18 @@ TEST_F(TreeCheck, FindsEachOfTwelveFaultsWhereItStands)
             R"(Security\Kick\KickSettings.tbl:3: the file won't load: there is no value)"}));
 }
 
+TEST_F(TreeCheck, HoldsSettingsToWhatTheirFormsDeclare)
+{
+    build(1);
+    change("Security/Kick/KickSettings.tbl", "iKicksMakeBan = 5", "iKicksMakeBan = 51");
+    change("Security/UserLog/UserLogSettings.tbl", "iCleanerTime = 2355", "iCleanerTime = 1260");
+    change("Security/AntiVirus/AntiVirusSettings.tbl", "sAction = \"D\"", "sAction = \"X\"");
+    EXPECT_EQ(found(),
+              (Lines{R"(Security\AntiVirus\AntiVirusSettings.tbl:2: "X" stands for none of the choices)",
+                     R"(Security\Kick\KickSettings.tbl:3: 51 is outside its range)",
+                     R"(Security\UserLog\UserLogSettings.tbl:4: 1260 is no time of day)"}));
+}
+
 TEST_F(TreeCheck, PrintsAFindingALineAndEndsWithOne)
 {
     build(1);
