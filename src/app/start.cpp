@@ -11,6 +11,8 @@
 
 #include <QStatusBar>
 
+#include <algorithm>
+
 namespace quillfen {
 namespace {
 
@@ -42,6 +44,8 @@ void showNotices(QStatusBar& statusBar, const std::vector<ProfileNotice>& notice
     panel->setLine(sentences.join(". "));
     panel->setToolTip(Qt::convertFromPlainText(details.join('\n')));
     panel->setAccessibleDescription(details.join('\n'));
+    constexpr int room = 440; // the smallest window has it beside the versions
+    panel->setMinimumWidth(std::min(panel->fontMetrics().horizontalAdvance(panel->text()) + 16, room));
     statusBar.addPermanentWidget(panel);
 }
 

@@ -1,5 +1,6 @@
 // What the hub script finds in the files that every form saved.
 #include "advice/notloading.h"
+#include "advice/treecheck.h"
 #include "lua/tablereader.h"
 #include "settings/profiles.h"
 #include "shell/kit/codepagetext.h"
@@ -229,6 +230,8 @@ TEST_P(HubScript, LoadsTheTreeThatEveryFormSavedButForTheFilesThatAreKnownNotTo)
         EXPECT_THROW(test::luaValues(bytes), std::runtime_error) << path << " loads by now";
         EXPECT_EQ(words(reading.fault), words(known->second.fault)) << path;
     }
+    for (const Finding& finding : checkTree(hub.files))
+        ADD_FAILURE() << finding.file << ':' << finding.line << ": " << finding.words;
 }
 
 } // namespace
