@@ -61,13 +61,14 @@ private:
     Value plainValue();
     Word word();
     Value namedValue();
-    Value wordAsValue(const Word& word);
+    Value wordAsValue(const Word& word) const;
     Value negative();
     Value table();
     bool field();
     void keyedField();
     void endOfField(std::size_t openingLine);
     void refuseOperator() const;
+    void refuseMoreThanName() const;
     void refuseOtherEnvironment(std::string_view name) const;
 
     Lexer m_lexer;
@@ -148,21 +149,22 @@ void TableReader::assignment()
 {
     const Word target = word();
     refuseOtherEnvironment(target.name);
-    switch (m_lexer.token()) {
-    case Token::Equals:
-        m_lexer.next();
-        values();
-        m_names.push_back(target.name);
-        return;
-    case Token::Comma:
-    case Token::Suffix:
-    case Token::OpenParen:
-    case Token::OpenBracket:
-    case Token::OpenBrace:
-    case Token::Text:
+    refuseMoreThanName();
+    if (is(Token::Comma)) // several names at once
         giveUp(Fault::Computes);
-    default:
+    if (!take(Token::Equals))
         fail(Fault::Stray);
+    values();
+    m_names.push_back(target.name);
+}
+
+/// Behind a name these call it, or look something up in it.
+void TableReader::refuseMoreThanName() const
+{
+    for (const Token token :
+         {Token::Suffix, Token::OpenParen, Token::OpenBracket, Token::OpenBrace, Token::Text}) {
+        if (is(token))
+            giveUp(Fault::Computes);
     }
 }
 
@@ -248,19 +250,10 @@ TableReader::Word TableReader::word()
     return word;
 }
 
-Value TableReader::wordAsValue(const Word& word)
+Value TableReader::wordAsValue(const Word& word) const
 {
     refuseOtherEnvironment(word.name);
-    switch (m_lexer.token()) {
-    case Token::Suffix:
-    case Token::OpenParen:
-    case Token::OpenBracket:
-    case Token::OpenBrace:
-    case Token::Text:
-        giveUp(Fault::Computes);
-    default:
-        break;
-    }
+    refuseMoreThanName();
     return Value::Word;
 }
 
