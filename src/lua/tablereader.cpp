@@ -182,6 +182,8 @@ void TableReader::values()
     value();
     const std::size_t places = m_places;
     while (take(Token::Comma)) {
+        if (is(Token::CloseBrace)) // the comma was that of a nested table's brace
+            fail(Fault::BraceWithoutTable);
         takePlaces(1);
         value();
     }

@@ -141,6 +141,7 @@ TEST_P(LuaVersions, RefuseBracesThatDontMatch)
     fails("t = {\r\n\tu = {\r\n\t\ta = 1", Fault::OpenTable, 2);
     fails("t = {\r\n}\r\n}\r\n", Fault::BraceWithoutTable, 3);
     fails("}", Fault::BraceWithoutTable);
+    fails("t = {\r\n\t[-1] = 0,\r\n},\r\n}\r\n", Fault::BraceWithoutTable, 4);
     fails("return {}}", Fault::BraceWithoutTable);
     fails("t = {]}", Fault::NoValue);
     fails("t = {[1}", Fault::Stray);
