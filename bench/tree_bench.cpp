@@ -1,5 +1,6 @@
 // The settings tree on the disk: its first build beside a copy of the same tree, and its rebuild beside plain
 // writes of the same bytes to the same files.
+#include "advice/treecheck.h"
 #include "figures.h"
 #include "hubfolder.h"
 
@@ -162,6 +163,22 @@ void saveForm(benchmark::State& state)
     }
 }
 
+void checkTreeAlone(benchmark::State& state)
+{
+    HubFolder hub(static_cast<std::size_t>(state.range(0)));
+    hub.start();
+    std::size_t files = 0;
+    for (const auto& entry : std::filesystem::recursive_directory_iterator(hub.tree()))
+        files += entry.is_regular_file() ? 1 : 0;
+    for (auto _ : state) {
+        std::size_t findings = 0;
+        state.SetIterationTime(secondsOf([&] { findings = checkTree(hub.files).size(); }));
+        if (findings > 0)
+            state.SkipWithError("a fresh tree has findings");
+    }
+    state.counters["files"] = static_cast<double>(files);
+}
+
 constexpr int repetitions = 41;
 constexpr int profileCounts[] = {5, 20, 64};
 
@@ -198,6 +215,12 @@ void printTable(const Figures& figures)
     }
     if (const auto* save = figures.of("saveForm"))
         printPair("save of six files without waiting for the disk, beside plain writes", save, {});
+    for (const int count : profileCounts) {
+        if (const auto* check = figures.of("checkTree/" + std::to_string(count)))
+            printTime("check of the tree, " + profilesOf(count) + " (" +
+                          number(check->counters.at("files").value, 0) + " files)",
+                      check->milliseconds, count == 64 ? std::optional(50.0) : std::nullopt);
+    }
 }
 
 } // namespace
@@ -212,6 +235,7 @@ int main(int argc, char** argv)
                  repetitions);
         repeated(benchmark::RegisterBenchmark("rebuild_replaced", rebuildTree, true)->Arg(count),
                  repetitions);
+        repeated(benchmark::RegisterBenchmark("checkTree", checkTreeAlone)->Arg(count), repetitions);
     }
     repeated(benchmark::RegisterBenchmark("saveForm", saveForm), repetitions);
     Figures figures;

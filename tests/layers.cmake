@@ -1,5 +1,6 @@
 # Holds the includes of the sources against the floors of docs/architecture.md: each folder may use its own and those
 # that are listed. usage: cmake -DSOURCES=<folder of src> -P layers.cmake
+set(allowed_lua "lua")
 set(allowed_store "store")
 set(allowed_settings "store|settings")
 set(allowed_declarations "store|settings|declarations")
@@ -11,9 +12,10 @@ set(allowed_news "store|settings|declarations|news|shell/kit")
 set(allowed_shell/icons "shell/icons")
 set(allowed_shell/kit "store|settings|declarations|shell/icons|shell/kit")
 set(allowed_shell/window "store|settings|declarations|functions|shell/icons|shell/kit|shell/window")
-set(allowed_app "store|settings|declarations|functions|news|shell/kit|shell/window|app")
+set(allowed_advice "lua|store|settings|declarations|functions|advice")
+set(allowed_app "advice|store|settings|declarations|functions|news|shell/kit|shell/window|app")
 
-foreach(floor store settings declarations functions portal news shell/icons shell/kit shell/window app)
+foreach(floor lua store settings declarations functions advice portal news shell/icons shell/kit shell/window app)
   file(GLOB_RECURSE sources RELATIVE ${SOURCES} ${SOURCES}/${floor}/*.h ${SOURCES}/${floor}/*.cpp)
   if(NOT sources)
     message(SEND_ERROR "no sources in ${floor}")

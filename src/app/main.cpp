@@ -1,15 +1,21 @@
+#include "advice/checkcommand.h"
 #include "app/hubdata.h"
 #include "app/start.h"
 #include "store/diskstore.h"
 
 #include <QApplication>
 
+#include <iostream>
+
 int main(int argc, char** argv)
 {
+    quillfen::DiskStore disk;
+    if (argc > 1 && std::string_view(argv[1]) == "--check") // needs no display
+        return quillfen::runCheck(disk, quillfen::programFolderOf(argv[0]), {argv + 2, argv + argc},
+                                  std::cout, std::cerr);
     const QApplication application(argc, argv);
     QCoreApplication::setApplicationName("quillfen"); // whatever the owner calls the file
     const QString folder = QCoreApplication::applicationDirPath();
-    quillfen::DiskStore disk;
     quillfen::HubData data(disk, folder);
     data.sweep();
     quillfen::ProgramInfo info{QUILLFEN_VERSION, QStringLiteral(QUILLFEN_WEB_BASE)};

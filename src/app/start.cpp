@@ -5,12 +5,15 @@
 #include "functions/catalogue.h"
 #include "functions/ownparts.h"
 #include "news/newsclient.h"
+#include "settings/profiles.h"
 #include "shell/kit/codepagetext.h"
 #include "shell/kit/contraststyle.h"
 #include "shell/kit/messages.h"
 
 #include <QLabel>
 #include <QStatusBar>
+
+#include <algorithm>
 
 namespace quillfen {
 namespace {
@@ -26,6 +29,26 @@ FailureWords wordsFor(const StoreError& error)
     return {"The settings couldn't be rebuilt.",
             "What was written by then stays, and the next start asks again: mend it and start the program "
             "again."};
+}
+
+/// Puts what is to be told of the hub's profiles behind the told panels, if there is anything.
+void showNotices(QStatusBar& statusBar, const std::vector<ProfileNotice>& notices)
+{
+    QStringList sentences;
+    QStringList details;
+    for (const ProfileNotice& notice : notices) {
+        sentences.append(fromBytes(notice.sentence));
+        details.append({fromBytes(notice.sentence), fromBytes(notice.details)});
+    }
+    if (sentences.isEmpty())
+        return;
+    auto* panel = new StatusPanel("PROFILES", {});
+    panel->setLine(sentences.join(". "));
+    panel->setToolTip(Qt::convertFromPlainText(details.join('\n')));
+    panel->setAccessibleDescription(details.join('\n'));
+    constexpr int room = 440; // the smallest window has it beside the versions
+    panel->setMinimumWidth(std::min(panel->fontMetrics().horizontalAdvance(panel->text()) + 16, room));
+    statusBar.addPermanentWidget(panel);
 }
 
 } // namespace
@@ -70,6 +93,7 @@ std::optional<int> Program::start()
         tellFailure(nullptr, m_info.product, wordsFor(error), error);
         return 1;
     }
+    showNotices(*m_window->statusBar(), profileNotices(m_files.store(), m_files.paths()));
     auto* news = new NewsClient(*m_window->statusBar(), m_files, m_info.version.toStdString(),
                                 {m_info.newsBase.toStdString(), m_info.updatesBase.toStdString()});
     tellOfOthers();

@@ -9,9 +9,6 @@ namespace quillfen {
 namespace {
 
 constexpr std::string_view versionFile = R"(General\Globals\Version.tbl)";
-constexpr std::string_view hubProfileFile = R"(cfg\Profiles.xml)";
-constexpr std::string_view oldProfileFile =
-    R"(scripts\Morvaleth's Quillfen\Settings\General\PtokaX\Profiles.xml)";
 constexpr std::string_view savedProfileFile = R"(General\PtokaX\Profiles.xml)";
 
 void makeNewsFolders(const SettingsFiles& files)
@@ -71,17 +68,17 @@ StartResult reconcileSettings(const Reconciliation& start, HubProfiles& profiles
 {
     const auto& files = start.files;
     requireScriptFolder(files);
-    const auto hubText = ReadProfileFile(files.store(), files.paths(), hubProfileFile, profiles);
-    HubProfiles oldProfiles;
-    ReadProfileFile(files.store(), files.paths(), oldProfileFile, oldProfiles);
+    const HubProfileFile hub = readHubProfiles(files.store(), files.paths());
+    profiles = hub.profiles;
+    const HubProfiles oldProfiles = readSavedProfiles(files.store(), files.paths());
     makeNewsFolders(files);
 
     auto result = CheckSettingsRebuild(start, RebuildCase::Version, profiles);
     // Only a rise counts: a profile that went, or got another name, asks for nothing.
     if (result == StartResult::Current && profiles.count() > oldProfiles.count())
         result = CheckSettingsRebuild(start, RebuildCase::Profiles, profiles);
-    if (result == StartResult::Rebuilt && !hubText.empty())
-        files.WriteSettingsFile(savedProfileFile, hubText);
+    if (result == StartResult::Rebuilt && !hub.text.empty())
+        files.WriteSettingsFile(savedProfileFile, hub.text);
     return result;
 }
 

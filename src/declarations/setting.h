@@ -33,6 +33,7 @@ struct NumberDetails
     const char* unit = "";     ///< behind the box, "Days"
     bool onlyArrows = false;   ///< changed by its arrows and not typed
     bool savedAsTyped = false; ///< an emptied box is saved as nothing, and not as the 0 that it loads as
+    bool clockTime = false;    ///< hours and minutes, HHMM, though its arrows count on as with any number
 };
 
 inline constexpr NumberDetails asTyped = {.savedAsTyped = true}; ///< of a number that has only this one

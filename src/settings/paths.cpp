@@ -32,7 +32,18 @@ bool isAbsolutePath(std::string_view told)
            (rootIsAbsolute && told.starts_with(separator));
 }
 
-SettingsPaths::SettingsPaths(std::string programFolder) : m_programFolder(std::move(programFolder)) {}
+SettingsPaths::SettingsPaths(std::string programFolder)
+    : m_programFolder(std::move(programFolder)),
+      m_settingsRoot(inProgramFolder(R"(Morvaleth's Quillfen\Settings)"))
+{
+}
+
+SettingsPaths SettingsPaths::ofSettings(std::string settingsRoot)
+{
+    SettingsPaths paths(settingsRoot + separator + ".." + separator + "..");
+    paths.m_settingsRoot = std::move(settingsRoot);
+    return paths;
+}
 
 std::string SettingsPaths::resolve(std::string_view told, bool bAppRelative) const
 {
@@ -64,7 +75,7 @@ std::string SettingsPaths::scriptFolder() const
 
 std::string SettingsPaths::settingsRoot() const
 {
-    return inProgramFolder(R"(Morvaleth's Quillfen\Settings)");
+    return m_settingsRoot;
 }
 
 } // namespace quillfen

@@ -13,6 +13,9 @@ public:
     /// The program's own folder, which is the hub's `scripts` folder: UTF-8, without a separator at its end.
     explicit SettingsPaths(std::string programFolder);
 
+    /// A settings root anywhere, in UTF-8. The program folder is taken to lie as usual, two folders above.
+    static SettingsPaths ofSettings(std::string settingsRoot);
+
     /// The path rule: an absolute path stands as it is; with bAppRelative the rest lies in the program
     /// folder, else below the settings root.
     std::string resolve(std::string_view told, bool bAppRelative = false) const;
@@ -29,6 +32,7 @@ public:
 
 private:
     std::string m_programFolder;
+    std::string m_settingsRoot;
 };
 
 /// Whether the path rule takes a path as absolute: a drive, or the platform's root.

@@ -45,4 +45,31 @@ private:
 std::string ReadProfileFile(const FileStore& store, const SettingsPaths& paths, std::string_view file,
                             HubProfiles& profiles);
 
+/// What the hub's profile files say at this moment.
+struct HubProfileFile
+{
+    HubProfiles profiles;
+    std::string text;     ///< what a rebuild saves as the copy; empty if no file can be read
+    bool damaged = false; ///< the file of today's hubs is there and can't be read
+};
+
+/// The hub's profiles as the hub itself reads them: from `cfg\Profiles.pxb`, which hubs of today write, else
+/// from `cfg\Profiles.xml`. The text of the former is composed as lines of the latter, a name each.
+HubProfileFile readHubProfiles(const FileStore& store, const SettingsPaths& paths);
+
+/// The names in the copy that the last rebuild saved.
+HubProfiles readSavedProfiles(const FileStore& store, const SettingsPaths& paths);
+
+/// A sentence about the hub's profiles for the main status bar, and all that there is to tell.
+struct ProfileNotice
+{
+    std::string sentence;
+    std::string details;
+};
+
+/// What an owner has to know of the hub's profiles: that their file is damaged, and which places in it belong
+/// to other profiles than in the saved copy. Settings know a profile by its place, so those of the old one
+/// are the new one's by now.
+std::vector<ProfileNotice> profileNotices(const FileStore& store, const SettingsPaths& paths);
+
 } // namespace quillfen

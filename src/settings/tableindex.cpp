@@ -50,21 +50,34 @@ const TableIndex::Key* TableIndex::find(std::string_view key) const
     return place == m_places.end() ? nullptr : &m_keys[place->second];
 }
 
-std::string TableIndex::value(std::string_view key, std::string_view table) const
+/// The row that answers; null if there is none.
+const TableIndex::Row* TableIndex::rowOf(std::string_view key, std::string_view table) const
 {
     const Key* const found = find(key);
     if (!found)
-        return {};
+        return nullptr;
     std::size_t from = 0;
     if (!table.empty()) {
         const Key* const opening = find(table);
         if (!opening || opening->opening == 0)
-            return {};
+            return nullptr;
         from = opening->opening;
     }
     const auto row = std::partition_point(found->rows.begin(), found->rows.end(),
                                           [from](const Row& candidate) { return candidate.line < from; });
-    return row == found->rows.end() ? std::string() : std::string(row->value);
+    return row == found->rows.end() ? nullptr : &*row;
+}
+
+std::string TableIndex::value(std::string_view key, std::string_view table) const
+{
+    const Row* const row = rowOf(key, table);
+    return row ? std::string(row->value) : std::string();
+}
+
+std::size_t TableIndex::line(std::string_view key, std::string_view table) const
+{
+    const Row* const row = rowOf(key, table);
+    return row ? row->line : 0;
 }
 
 TableCells::TableCells(const TableIndex& index, const std::vector<std::string>& keys) : m_index(index)

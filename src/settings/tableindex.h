@@ -25,6 +25,9 @@ public:
     /// one are still the outer one's.
     std::string value(std::string_view key, std::string_view table = {}) const;
 
+    /// The line of the row that gives this answer, counted from 1; 0 if there is none.
+    std::size_t line(std::string_view key, std::string_view table = {}) const;
+
 private:
     friend class TableCells;
 
@@ -44,6 +47,7 @@ private:
 
     std::size_t placeOf(std::string_view key, std::size_t before);
     const Key* find(std::string_view key) const;
+    const Row* rowOf(std::string_view key, std::string_view table) const;
 
     // The views below point into the text, which must not move with the index.
     std::unique_ptr<const std::string> m_bytes;

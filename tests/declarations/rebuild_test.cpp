@@ -1,8 +1,9 @@
+#include "advice/notloading.h"
 #include "declarations/rebuild.h"
 #include "functions/catalogue.h"
+#include "support/binaryprofiles.h"
 #include "support/hub.h"
 #include "support/lua.h"
-#include "support/notloading.h"
 
 #include <algorithm>
 #include <gtest/gtest.h>
@@ -61,7 +62,7 @@ protected:
     {
         std::map<std::string, LuaValues> all;
         for (const auto& [path, bytes] : hub.store.files) {
-            if (path.ends_with(".tbl") && !test::notLoading().contains(path.substr(hub.root.size() + 1)))
+            if (path.ends_with(".tbl") && !notLoading().contains(path.substr(hub.root.size() + 1)))
                 all[path] = luaValues(bytes);
         }
         return all;
@@ -338,6 +339,24 @@ TEST_F(Start, FewerOrRenamedProfilesAskNothingAndLeaveTheSavedCopy)
     hub.store.files[hubFile] = "<Name>A</Name>\n<Name>B</Name>\n<Name>C</Name>\n";
     EXPECT_EQ(run(), StartResult::Current);
     EXPECT_EQ(hub.file("General/PtokaX/Profiles.xml"), copy);
+}
+
+TEST_F(Start, TheProfilesOfAHubOfTodayAreComparedAndSavedLikeTheOthers)
+{
+    std::string& binary = hub.store.files["/hub/cfg/Profiles.pxb"];
+    binary = test::binaryProfiles({"A", "B"});
+    firstStart();
+    EXPECT_EQ(hub.profiles.names(), (std::vector<std::string>{"Unregistered", "A", "B"}));
+    EXPECT_EQ(hub.file("General/PtokaX/Profiles.xml"), "\r\n<Name>A</Name>\r\n<Name>B</Name>\r\n");
+    EXPECT_EQ(run(), StartResult::Current);
+    binary = test::binaryProfiles({"A", "C"});
+    EXPECT_EQ(run(), StartResult::Current) << "no rise";
+    EXPECT_EQ(profileNotices(hub.store, hub.files.paths()).size(), 1U);
+    binary = test::binaryProfiles({"A", "C", "D"});
+    EXPECT_EQ(run(), StartResult::Rebuilt);
+    EXPECT_EQ(asked, Asked{"Morvaleth's Quillfen: PtokaX Profile Change Detected"});
+    EXPECT_TRUE(profileNotices(hub.store, hub.files.paths()).empty()) << "until the next rebuild";
+    EXPECT_EQ(run(), StartResult::Current);
 }
 
 TEST_F(Start, ARefusalChangesNothingAndComesAgain)

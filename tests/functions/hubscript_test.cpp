@@ -1,12 +1,14 @@
 // What the hub script sees: every file of the tree, loaded by Lua 5.1.
+#include "advice/notloading.h"
 #include "declarations/rebuild.h"
 #include "functions/catalogue.h"
 #include "functions/general/settings.h"
 #include "functions/general/switches.h"
+#include "lua/tablereader.h"
 #include "support/golden.h"
 #include "support/hub.h"
 #include "support/lua.h"
-#include "support/notloading.h"
+#include "support/realluas/refusal.h"
 
 #include <gtest/gtest.h>
 
@@ -27,7 +29,7 @@ TEST(HubScript, LoadsEveryTableOfAFreshTreeButThoseThatAreKnownNotTo)
         if (!path.ends_with(".tbl"))
             continue;
         ++loaded;
-        const bool known = test::notLoading().contains(path.substr(hub.root.size() + 1));
+        const bool known = notLoading().contains(path.substr(hub.root.size() + 1));
         try {
             EXPECT_FALSE(luaValues(bytes).empty()) << path;
             EXPECT_FALSE(known) << path << " loads by now";
@@ -38,6 +40,55 @@ TEST(HubScript, LoadsEveryTableOfAFreshTreeButThoseThatAreKnownNotTo)
     EXPECT_GE(loaded, 140); // with the text and list files about 150
     EXPECT_EQ(luaValues(hub.file("General/Globals/Version.tbl")),
               (LuaValues{{"tVersion.sVersion", "5.2.0"}}));
+}
+
+class TreeOfAHub : public testing::TestWithParam<int>
+{
+protected:
+    TreeOfAHub()
+    {
+        std::string& bytes = hub.store.files["/hub/cfg/Profiles.xml"];
+        for (int profile = 0; profile < GetParam(); ++profile)
+            bytes += "<Name>P" + std::to_string(profile) + "</Name>\r\n";
+        build("5.2.0");
+    }
+
+    void build(const std::string& version)
+    {
+        hub.profiles = {};
+        reconcileSettings(
+            {hub.files, folderCatalogue(), version, [](const RebuildQuestion&) { return true; }},
+            hub.profiles);
+    }
+
+    /// Holds the reader to what both Luas say of each file.
+    void expectTheSameOfEachFile() const
+    {
+        for (const auto& [path, bytes] : hub.store.files) {
+            if (!path.ends_with(".tbl"))
+                continue;
+            const auto in51 = lua::readTables(bytes, lua::Version::Lua51);
+            const auto in53 = lua::readTables(bytes, lua::Version::Lua53);
+            EXPECT_EQ(in51.loads(), !test::lua51Refusal(bytes)) << path;
+            EXPECT_EQ(in53.loads(), !test::lua53Refusal(bytes)) << path;
+            EXPECT_TRUE(in51.notes.empty()) << path << ':' << in51.notes.front().line;
+            const auto known = notLoading().find(path.substr(hub.root.size() + 1));
+            EXPECT_EQ(words(in51.fault), known == notLoading().end() ? "" : words(known->second.fault))
+                << path;
+        }
+    }
+
+    test::Hub hub;
+};
+
+INSTANTIATE_TEST_SUITE_P(Profiles, TreeOfAHub, testing::Values(1, 5, 64),
+                         [](const auto& each) { return "Of" + std::to_string(each.param); });
+
+TEST_P(TreeOfAHub, IsReadAsBothLuasReadIt)
+{
+    expectTheSameOfEachFile();
+    build("5.3.0");
+    expectTheSameOfEachFile();
 }
 
 TEST(HubScript, SeesTheGeneralSettings)

@@ -1,5 +1,6 @@
 #include "app/start.h"
 #include "news/newsclient.h"
+#include "support/binaryprofiles.h"
 #include "support/boxes.h"
 #include "support/hub.h"
 #include "support/webserver.h"
@@ -392,6 +393,27 @@ TEST_F(ProgramStart, AsksForARebuildWhenTheHubHasANewProfile)
     EXPECT_EQ(boxes[0].text, "PtokaX Profile change detected. Settings must be rebuilt; continue?");
     EXPECT_EQ(boxes[0].buttons, QMessageBox::Ok | QMessageBox::Cancel);
     EXPECT_EQ(boxes[0].icon, QMessageBox::Question);
+}
+
+TEST_F(ProgramStart, SaysInTheStatusBarWhichProfilesMovedAndThatTheirFileIsDamaged)
+{
+    info.newsBase.clear();
+    const auto panel = [this]() -> QStringList {
+        Program program(hub.store, "/hub/scripts", info);
+        EXPECT_EQ(program.start(), std::nullopt);
+        const auto* found = program.window().statusBar()->findChild<StatusPanel*>("PROFILES");
+        if (!found)
+            return {};
+        EXPECT_EQ(found->textFormat(), Qt::PlainText);
+        return {found->text(), found->toolTip()};
+    };
+    EXPECT_EQ(panel(), QStringList()) << "nothing to tell";
+    hub.store.files["/hub/cfg/Profiles.pxb"] = test::binaryProfiles({"A&", "B", "C"});
+    const QString moved = "Hub profiles changed: &B is now B; check the permissions";
+    hub.file("General/PtokaX/Profiles.xml") = "<Name>A&</Name>\r\n<Name>&B</Name>\r\n<Name>C</Name>\r\n";
+    EXPECT_EQ(panel(), (QStringList{moved, Qt::convertFromPlainText(moved + "\n&B is now B")}));
+    hub.store.files["/hub/cfg/Profiles.pxb"] = "cut";
+    EXPECT_EQ(panel().value(0), "The hub's Profiles.pxb is damaged: let the hub write it anew");
 }
 
 TEST_F(ProgramStart, TheNavigatorShowsThePortalByTheSwitchesFromBeforeTheRebuild)

@@ -49,6 +49,23 @@ data=$(echo "$work"/data/quillfen/hubs/hub-*)
 grep -q "^cause Rebuild from 5.1.9$" "$data"/versions/entries/* || fail "what the rebuild replaced was not kept"
 [ "$(stat -c %a "$data")" = 700 ] || fail "others may read the hub's data"
 
+echo "- check without a display"
+check() { env -u DISPLAY QT_QPA_PLATFORM= "$scripts/quillfen" --check "$@" >"$work/check.txt" 2>&1; }
+before=$(state)
+check || fail "a tree that is well has findings: $(cat "$work/check.txt")"
+[ ! -s "$work/check.txt" ] || fail "it said something: $(cat "$work/check.txt")"
+sed -i 's/bFlatRC = 1/bFlatRC = /' "$tree/General/Globals/GeneralSettings.tbl"
+result=0
+check "$tree" || result=$?
+[ "$result" -eq 1 ] || fail "it ended with $result for a broken file"
+grep -q "^$tree/General/Globals/GeneralSettings.tbl:6: the file won't load: there is no value. Enter one.$" "$work/check.txt" ||
+  fail "not told: $(cat "$work/check.txt")"
+sed -i 's/bFlatRC = /bFlatRC = 1/' "$tree/General/Globals/GeneralSettings.tbl"
+[ "$(state)" = "$before" ] || fail "the check changed something"
+result=0
+check "$work/nowhere" || result=$?
+[ "$result" -eq 2 ] || fail "it ended with $result where there is no tree"
+
 sed -i 's|^</Profiles>|<Profile>\r\n<Name>Guest</Name>\r\n</Profile>\r\n</Profiles>|' "$work/hub/cfg/Profiles.xml"
 begin "more profiles rebuild"
 press "$profile_box" Return

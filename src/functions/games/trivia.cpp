@@ -41,7 +41,7 @@ void makeFirstQuestions(const SettingsFiles& files, const HubProfiles& /*profile
     table.indent(0).text(bracketed(quoted(defaultKey)), "TriviaQuestions");
     files.WriteSettingsFile(questionFilesPath, table.closed());
     writeIfMissing(files, triviaQuestionFile("TriviaQuestions"),
-                   "Misc:Which short word is the title of a novel in Tavis Orlemon's series?*mort\r\n");
+                   std::string(firstTriviaQuestion).append(lineEnd));
 }
 
 } // namespace

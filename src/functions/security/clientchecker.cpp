@@ -6,8 +6,7 @@
 namespace quillfen {
 namespace {
 
-const ListFile versionsFile = {R"(Security\ClientChecker\ClientVersions.tbl)", "tClientVersions",
-                               ListFile::Form::Keyed};
+const ListFile versionsFile = {clientVersionsFile, "tClientVersions", ListFile::Form::Keyed};
 
 /// The cells of a row.
 enum Cell

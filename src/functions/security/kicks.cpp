@@ -34,8 +34,8 @@ const TableFile& kickSettings()
             count("iTimeBansMakeBan", "txtUpDown(2)", "TempBans Make Ban", 5, 1, 50),
             count("iKickBanTime", "txtUpDown(3)", "Kick Ban Time", 10, 1, 500),
             count("iCleanOlderThan", "txtUpDown(4)", "Clean Older Than", 30, 1, 180),
-            // A clock time as the digits HHMM, but a plain number to its arrows: nothing corrects a 1260.
-            count("iCleanerTime", "txtUpDown(5)", "Cleaner Time", 2355, 5, 2359),
+            setting::number("iCleanerTime", "txtUpDown(5)", "Cleaner Time", 2355, 5, 2359,
+                            {.savedAsTyped = true, .clockTime = true}),
             count("iTopKickers", "txtUpDown(6)", "Top Kickers", 10, 1, 100),
         },
         {"iWarnsMakeKick", "iKicksMakeBan", "iTimeBansMakeBan", "iKickBanTime", "bAnnounceNextArrival",

@@ -14,8 +14,9 @@ TableFile declared()
             setting::flag("bEnableFileLog", "chkCheckBox(2)", "Enable Log To File", true),
             setting::number("iCleanOlderThan", "txtUpDown(0)", "Clean Older Than", 28, 1, 365,
                             {.unit = "Days"}),
-            // A clock time as the digits HHMM. Its end is the default, where the kick log's is 2359.
-            setting::number("iCleanerTime", "txtUpDown(1)", "Cleaner Active Time", 2355, 5, 2355),
+            // Its end is the default, where the kick log's is 2359.
+            setting::number("iCleanerTime", "txtUpDown(1)", "Cleaner Active Time", 2355, 5, 2355,
+                            {.clockTime = true}),
             setting::number("iSaveTimerInterval", "txtUpDown(2)", "Save Timer Interval", 60, 1, 86400),
             setting::number("iTopHubbers", "txtUpDown(3)", "Number Of Top Hubbers to Show", 25, 1, 150),
             setting::profileFlags("tEnabledProfiles", "lvwEnabledProfiles", "Enabled View Log Profiles"),

@@ -1,0 +1,17 @@
+#pragma once
+
+#include "advice/finding.h"
+
+namespace quillfen {
+
+struct TableFile;
+
+/// What is wrong with the values of a declared settings file, beyond what its bytes alone tell: numbers
+/// outside their range, clock times that are none, letters and options that nobody can choose, and lines that
+/// stand too far down to be read.
+std::vector<Finding> settingFindings(const TableFile& file, std::string_view bytes);
+
+/// Where a file of settings or of a grid has more lines than its readers look at.
+std::vector<Finding> unreadFindings(std::string_view file, std::string_view bytes);
+
+} // namespace quillfen
