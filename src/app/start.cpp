@@ -61,7 +61,8 @@ Program::Program(FileStore& store, const QString& programFolder, ProgramInfo inf
 
 void Program::use(HubData& data)
 {
-    m_files.store().keepVersionsIn(&data.history());
+    m_history = &data.history();
+    m_files.store().keepVersionsIn(m_history);
     m_isOnlyEditor = data.isOnlyEditor();
 }
 
@@ -82,6 +83,8 @@ std::optional<int> Program::start()
     // The navigator comes before the rebuild and shows the tree's switches as they stand now.
     m_window =
         std::make_unique<MainWindow>(m_info, FormContext{m_files, m_profiles}, formCatalogue(), partMakers());
+    if (m_history)
+        m_window->offerVersions(*m_history);
     const auto ask = [](const RebuildQuestion& question) {
         return confirm(nullptr, fromBytes(question.title), fromBytes(question.text));
     };

@@ -8,6 +8,7 @@
 
 namespace quillfen {
 
+class History;
 class HubData;
 
 /// The program in one folder: its files, the hub's profiles and the main window.
@@ -34,6 +35,7 @@ private:
     SettingsFiles m_files;
     HubProfiles m_profiles;
     std::unique_ptr<MainWindow> m_window;
+    History* m_history = nullptr;
     bool m_isOnlyEditor = true;
 };
 

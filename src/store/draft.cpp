@@ -96,6 +96,8 @@ const StoreChange* DraftStore::drafted(const std::string& path) const
 
 std::optional<std::string> DraftStore::read(const std::string& path) const
 {
+    if (m_record)
+        m_record->m_paths.insert(path);
     const StoreChange* change = drafted(path);
     if (!change)
         return m_disk.read(path);

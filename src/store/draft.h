@@ -4,11 +4,14 @@
 #include "store/versionstore.h"
 
 #include <functional>
+#include <set>
+#include <string>
 
 namespace quillfen {
 
 class Draft;
 class History;
+class ReadRecord;
 
 /// What a store asks and tells of commits.
 struct StoreListener
@@ -47,6 +50,7 @@ public:
 
 private:
     friend class Draft;
+    friend class ReadRecord;
 
     const StoreChange* drafted(const std::string& path) const;
     void take(StoreChange change);
@@ -57,6 +61,7 @@ private:
     StoreListener m_listener;
     History* m_history = nullptr;
     Draft* m_draft = nullptr;
+    ReadRecord* m_record = nullptr;
 };
 
 /// What a save would do to the disk. While it is open, it holds all that is written to its store and answers
@@ -84,6 +89,24 @@ private:
     DraftStore& m_store;
     Cause m_cause;
     std::vector<StoreChange> m_changes;
+};
+
+/// Notes, while it is there, which files its store is asked for. A store has one at a time.
+class ReadRecord
+{
+public:
+    explicit ReadRecord(DraftStore& store) : m_store(store) { m_store.m_record = this; }
+    ReadRecord(const ReadRecord&) = delete;
+    ReadRecord& operator=(const ReadRecord&) = delete;
+    ~ReadRecord() { m_store.m_record = nullptr; }
+
+    const std::set<std::string>& paths() const { return m_paths; }
+
+private:
+    friend class DraftStore;
+
+    DraftStore& m_store;
+    std::set<std::string> m_paths;
 };
 
 } // namespace quillfen

@@ -153,6 +153,7 @@ void EditorForm::markDirty()
 void EditorForm::load()
 {
     const QScopedValueRollback loading(m_loading, true);
+    const ReadRecord record(m_store);
     m_notLoaded.clear();
     try {
         for (FormPart* part : m_parts)
@@ -161,6 +162,13 @@ void EditorForm::load()
         m_notLoaded = fromBytes(error.what());
         notify(this, caption(), m_notLoaded, QMessageBox::Critical);
     }
+    m_files = record.paths();
+}
+
+void EditorForm::loadAnew()
+{
+    load();
+    bDirty = SetControlsClean(*m_toolbar, *m_statusBar);
 }
 
 bool EditorForm::maySave()

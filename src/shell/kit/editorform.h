@@ -9,6 +9,8 @@
 
 #include <functional>
 #include <memory>
+#include <set>
+#include <string>
 #include <vector>
 
 class QFrame;
@@ -34,6 +36,12 @@ public:
 
     /// Loads every part; the form is clean.
     void open();
+
+    /// Loads a clean form's parts again, as its files changed.
+    void loadAnew();
+
+    /// The files that the last load asked for, also those that weren't there.
+    const std::set<std::string>& files() const { return m_files; }
 
     /// What it opens with where there is room: all of its parts, and no less than its own least size.
     QSize sizeHint() const override;
@@ -75,6 +83,7 @@ private:
 
     FormDescription m_description;
     DraftStore& m_store;
+    std::set<std::string> m_files;
     QString m_tag;
     QToolBar* m_toolbar;
     QFrame* m_frame;

@@ -12,6 +12,7 @@
 #include "shell/window/navigator.h"
 #include "shell/window/navigatortable.h"
 #include "shell/window/popupmenus.h"
+#include "shell/window/rootmenu.h"
 #include "shell/window/toptoolbar.h"
 #include "shell/window/windowmenu.h"
 #include "shell/window/windowsdialog.h"
@@ -105,7 +106,8 @@ MainWindow::MainWindow(const ProgramInfo& program, const FormContext& context, c
       m_makers(std::move(makers)),
       m_area(new QMdiArea),
       m_windowMenu(new WindowMenu(this)),
-      m_popUpMenus(new PopUpMenus([this] { return activeForm(); }, this))
+      m_popUpMenus(new PopUpMenus([this] { return activeForm(); }, this)),
+      m_rootMenu(new RootMenu(context, *m_area, this))
 {
     for (const FormDeclaration& form : forms)
         m_forms.insert(fromBytes(form.form.name), form);
@@ -119,6 +121,7 @@ MainWindow::MainWindow(const ProgramInfo& program, const FormContext& context, c
     const bool portalShown = isPortalOn(context.files);
     addToolbar(portalShown);
     m_navigator = new Navigator(portalShown);
+    connect(m_navigator, &Navigator::rootMenuAsked, m_rootMenu, &RootMenu::popUp);
     connect(m_navigator, &Navigator::chosen, this, [this] { OpenFunctionForm(QString()); });
     buildMenus();
     addKeys();
@@ -149,6 +152,11 @@ MainWindow::~MainWindow()
 {
     m_context.files.store().hear({});
     m_area->disconnect(this); // as it goes with its forms, they still activate each other
+}
+
+void MainWindow::offerVersions(History& history)
+{
+    m_rootMenu->offerVersions(history);
 }
 
 /// What is written outside of a form's save, a text or a deletion, is the active form's doing.

@@ -14,8 +14,10 @@ class QToolBar;
 
 namespace quillfen {
 
+class History;
 class Navigator;
 class PopUpMenus;
+class RootMenu;
 class WindowMenu;
 
 /// The multiple-document main window: navigator, top toolbar, menus, the registry of open windows and the
@@ -34,6 +36,9 @@ public:
     /// Opens or brings forward the form of a navigator key; an empty key means the tree's selected node. A
     /// key without a form opens nothing.
     void OpenFunctionForm(const QString& key);
+
+    /// From now on offers the earlier versions of the settings.
+    void offerVersions(History& history);
 
     const COpenWindows& openWindows() const { return m_openWindows; }
 
@@ -74,6 +79,7 @@ private:
     QPointer<QMdiSubWindow> m_followed; ///< the form that the tree has followed last
     WindowMenu* m_windowMenu;
     PopUpMenus* m_popUpMenus;
+    RootMenu* m_rootMenu;
 };
 
 } // namespace quillfen

@@ -119,6 +119,16 @@ void Navigator::buildTree(bool portalShown)
     }
     m_tree->addTopLevelItem(root);
     root->setExpanded(true);
+    m_tree->setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(m_tree, &QTreeWidget::customContextMenuRequested, this, &Navigator::askMenu);
+}
+
+/// By a right click on the row, or by the menu key while it is current.
+void Navigator::askMenu(const QPoint& at)
+{
+    auto* root = m_tree->topLevelItem(0);
+    if (m_tree->itemAt(at) == root)
+        emit rootMenuAsked(m_tree->viewport()->mapToGlobal(at));
 }
 
 QString Navigator::selectedKey() const

@@ -7,6 +7,7 @@
 #include <optional>
 
 class QLineEdit;
+class QPoint;
 class QToolBar;
 class QTreeWidget;
 class QTreeWidgetItem;
@@ -41,11 +42,15 @@ signals:
     /// The user chose the selected node.
     void chosen();
 
+    /// The user asked for the menu of the root row; the place is the screen's.
+    void rootMenuAsked(const QPoint& at);
+
 private:
     void buildTree(bool portalShown);
     void buildToolbar();
     void buildFindBox();
     QTreeWidgetItem* nodeOf(const QString& key) const;
+    void askMenu(const QPoint& at);
     void expandGroups();
     void collapseAll();
     void narrow(const QString& text);

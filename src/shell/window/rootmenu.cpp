@@ -1,0 +1,85 @@
+#include "shell/window/rootmenu.h"
+
+#include "settings/tablefile.h"
+#include "shell/kit/editorform.h"
+#include "shell/kit/messages.h"
+#include "shell/window/versionsdialog.h"
+#include "store/draft.h"
+
+#include <QDesktopServices>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QUrl>
+
+#include <algorithm>
+
+namespace quillfen {
+
+RootMenu::RootMenu(const FormContext& context, const QMdiArea& area, QWidget* parent)
+    : QMenu(parent),
+      m_context(context),
+      m_area(area),
+      m_versions(addAction("&Earlier versions...", this, &RootMenu::showVersions)),
+      m_backUp(addAction("&Back up now", this, &RootMenu::backUp))
+{
+    setObjectName("mnuRoot");
+    m_versions->setObjectName("mnuRootVersions");
+    m_backUp->setObjectName("mnuRootBackUp");
+    addAction("&Open the settings folder", this, &RootMenu::openFolder)->setObjectName("mnuRootFolder");
+    for (auto* action : {m_versions, m_backUp})
+        action->setEnabled(false);
+}
+
+void RootMenu::offerVersions(History& history)
+{
+    m_history = &history;
+    for (auto* action : {m_versions, m_backUp})
+        action->setEnabled(true);
+}
+
+QList<EditorForm*> RootMenu::formsOf(const std::vector<std::string>& paths) const
+{
+    QList<EditorForm*> forms;
+    for (const auto* window : m_area.subWindowList()) {
+        auto* form = qobject_cast<EditorForm*>(window->widget());
+        const auto isShown = [form](const std::string& path) { return form->files().count(path) > 0; };
+        if (form && std::any_of(paths.begin(), paths.end(), isShown))
+            forms.append(form);
+    }
+    return forms;
+}
+
+void RootMenu::showVersions()
+{
+    const OpenForms forms = {[this](const std::vector<std::string>& paths) {
+                                 QStringList captions;
+                                 for (const auto* form : formsOf(paths)) {
+                                     if (form->isDirty())
+                                         captions.append(form->caption());
+                                 }
+                                 return captions;
+                             },
+                             [this](const std::vector<std::string>& paths) {
+                                 for (auto* form : formsOf(paths)) {
+                                     if (!form->isDirty())
+                                         form->loadAnew();
+                                 }
+                             }};
+    VersionsDialog(*m_history, m_context.files.store(), forms, parentWidget()).exec();
+}
+
+void RootMenu::backUp()
+{
+    const FailureWords words = {"The settings could not be backed up.", "They are as they were."};
+    if (attempt(parentWidget(), words, [this] { m_history->backUp("Backup"); }))
+        notify(parentWidget(), "Back up", "All settings as they stand now are among the earlier versions.",
+               QMessageBox::Information);
+}
+
+void RootMenu::openFolder()
+{
+    const QString folder = QString::fromStdString(m_context.files.paths().settingsRoot());
+    QDesktopServices::openUrl(QUrl::fromLocalFile(folder));
+}
+
+} // namespace quillfen
