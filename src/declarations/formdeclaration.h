@@ -47,6 +47,8 @@ struct FormDescription
     AfterDiscard afterDiscard = AfterDiscard::Clean;
     bool hasRestore = true;
     bool reloadsAfterSave = false; ///< all is loaded again, as its files may hold other than it showed
+    bool isLoadedOnce = false; ///< a load adds to what is shown, or would drop texts that save themselves: a
+                               ///< file that changed on disk is told and not read
     Parts parts = Parts::Below;
     std::string restoreTitle = "Restore defaults?";
     std::string restoreText = "Restore to defaults?";

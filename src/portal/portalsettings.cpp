@@ -108,7 +108,8 @@ FunctionDeclaration portalFunction()
     const FormDescription form = {.name = "frmCommunicationPortal",
                                   .caption = "Communication ~ Portal",
                                   .minimumSize = {6000, 6600},
-                                  .hasRestore = false};
+                                  .hasRestore = false,
+                                  .isLoadedOnce = true};
     return {.nodes = {{"Communication~Portal", "Portal", {{form, {OwnPart{OwnPartKind::Portal}}}}}}};
 }
 

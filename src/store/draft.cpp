@@ -96,12 +96,18 @@ const StoreChange* DraftStore::drafted(const std::string& path) const
 
 std::optional<std::string> DraftStore::read(const std::string& path) const
 {
-    if (m_record)
-        m_record->m_paths.insert(path);
     const StoreChange* change = drafted(path);
-    if (!change)
-        return m_disk.read(path);
-    return change->kind == Kind::Write ? std::optional(change->bytes) : std::nullopt;
+    auto bytes = !change                       ? m_disk.read(path)
+                 : change->kind == Kind::Write ? std::optional(change->bytes)
+                                               : std::nullopt;
+    if (m_record)
+        m_record->m_files[path] = markOf(bytes);
+    return bytes;
+}
+
+FileMark markOf(const std::optional<std::string>& bytes)
+{
+    return bytes ? std::hash<std::string>()(*bytes) | 1U : 0;
 }
 
 std::optional<std::uintmax_t> DraftStore::size(const std::string& path) const

@@ -4,7 +4,7 @@
 #include "store/versionstore.h"
 
 #include <functional>
-#include <set>
+#include <map>
 #include <string>
 
 namespace quillfen {
@@ -91,7 +91,12 @@ private:
     std::vector<StoreChange> m_changes;
 };
 
-/// Notes, while it is there, which files its store is asked for. A store has one at a time.
+/// What a file held, as far as it takes to see that it holds something else: 0 for no file.
+using FileMark = std::size_t;
+FileMark markOf(const std::optional<std::string>& bytes);
+
+/// Notes, while it is there, which files its store is asked for and what they held. A store has one at a
+/// time.
 class ReadRecord
 {
 public:
@@ -100,13 +105,13 @@ public:
     ReadRecord& operator=(const ReadRecord&) = delete;
     ~ReadRecord() { m_store.m_record = nullptr; }
 
-    const std::set<std::string>& paths() const { return m_paths; }
+    const std::map<std::string, FileMark>& files() const { return m_files; }
 
 private:
     friend class DraftStore;
 
     DraftStore& m_store;
-    std::set<std::string> m_paths;
+    std::map<std::string, FileMark> m_files;
 };
 
 } // namespace quillfen

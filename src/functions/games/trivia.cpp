@@ -169,7 +169,8 @@ FunctionDeclaration triviaFunction()
     const FormDescription questions = {.name = "frmGamesTriviaQuestions",
                                        .caption = "Games ~ Trivia ~ Questions",
                                        .minimumSize = {12000, 7500},
-                                       .hasRestore = false};
+                                       .hasRestore = false,
+                                       .isLoadedOnce = true};
     FunctionDeclaration function = quizFunction("Trivia", "Trivia", triviaSettings);
     function.nodes = {{"Games~Trivia", "Trivia"},
                       {"Games~Trivia~Settings", "Settings",

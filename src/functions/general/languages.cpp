@@ -72,7 +72,8 @@ std::vector<ListRow> referenceList(const SettingsFiles& files, const LanguageSet
 
 Node languageNode(const std::string& key, const std::string& caption, std::size_t set)
 {
-    const FormDescription form = {std::string(sets[set].form), std::string(sets[set].caption), {10500, 6000}};
+    FormDescription form = {std::string(sets[set].form), std::string(sets[set].caption), {10500, 6000}};
+    form.isLoadedOnce = true;
     return {.key = key,
             .caption = caption,
             .form = {{form, {OwnPart{OwnPartKind::Languages, set}}}},

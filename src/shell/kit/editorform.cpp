@@ -7,6 +7,7 @@
 #include "store/draft.h"
 
 #include <QCloseEvent>
+#include <QFileInfo>
 #include <QFrame>
 #include <QLabel>
 #include <QScopedValueRollback>
@@ -107,9 +108,34 @@ void EditorForm::tellVersionFault(const QString& fault)
     fillSecondPanel();
 }
 
+void EditorForm::tellChangedFile(const QString& name)
+{
+    m_changedFile = name;
+    fillSecondPanel();
+}
+
+void EditorForm::lookAtFiles()
+{
+    const auto changed = std::find_if(m_files.begin(), m_files.end(), [this](const auto& file) {
+        return markOf(m_store.read(file.first)) != file.second;
+    });
+    const bool isChanged = changed != m_files.end();
+    if (isChanged && !bDirty && !m_description.isLoadedOnce)
+        loadAnew();
+    else
+        tellChangedFile(isChanged ? QFileInfo(QString::fromStdString(changed->first)).fileName() : QString());
+}
+
+QString EditorForm::secondPanelText() const
+{
+    if (!m_changedFile.isEmpty())
+        return m_changedFile + " changed on disk; SAVE replaces it, DISCARD reads it";
+    return m_versionFault.isEmpty() ? m_note : "No version was kept: " + m_versionFault;
+}
+
 void EditorForm::fillSecondPanel()
 {
-    const QString text = m_versionFault.isEmpty() ? m_note : "No version was kept: " + m_versionFault;
+    const QString text = secondPanelText();
     auto* panel = m_statusBar->findChildren<QLabel*>(Qt::FindDirectChildrenOnly).at(1);
     panel->setText(text);
     panel->setToolTip(text.isEmpty() ? QString() : Qt::convertFromPlainText(text));
@@ -162,11 +188,15 @@ void EditorForm::load()
         m_notLoaded = fromBytes(error.what());
         notify(this, caption(), m_notLoaded, QMessageBox::Critical);
     }
-    m_files = record.paths();
+    m_files = record.files();
+    tellChangedFile({});
+    emit loaded();
 }
 
 void EditorForm::loadAnew()
 {
+    if (m_description.isLoadedOnce)
+        return;
     load();
     bDirty = SetControlsClean(*m_toolbar, *m_statusBar);
 }
@@ -195,6 +225,9 @@ void EditorForm::save()
     });
     if (!saved)
         return;
+    for (auto& [path, mark] : m_files)
+        mark = markOf(m_store.read(path));
+    tellChangedFile({});
     if (m_description.reloadsAfterSave)
         load();
     bDirty = SetControlsClean(*m_toolbar, *m_statusBar);

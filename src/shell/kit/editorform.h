@@ -2,14 +2,15 @@
 
 #include "declarations/formdeclaration.h"
 #include "shell/kit/formpart.h"
+#include "store/draft.h"
 
 #include <QSize>
 #include <QString>
 #include <QWidget>
 
 #include <functional>
+#include <map>
 #include <memory>
-#include <set>
 #include <string>
 #include <vector>
 
@@ -18,8 +19,6 @@ class QStatusBar;
 class QToolBar;
 
 namespace quillfen {
-
-class DraftStore;
 
 /// An editor form: its toolbar, its parts in a frame that scrolls where there is too little room for them,
 /// its status bar, and the cycle of load, change, save, discard, restore and close. It alone knows whether
@@ -37,11 +36,15 @@ public:
     /// Loads every part; the form is clean.
     void open();
 
-    /// Loads a clean form's parts again, as its files changed.
+    /// Loads a clean form's parts again, as its files changed. Some forms can't: see FormDescription.
     void loadAnew();
 
+    /// Compares the files with what they held at the last load or save. Where one holds something else, a
+    /// clean form loads anew, and a dirty one says so in its second status panel.
+    void lookAtFiles();
+
     /// The files that the last load asked for, also those that weren't there.
-    const std::set<std::string>& files() const { return m_files; }
+    const std::map<std::string, FileMark>& files() const { return m_files; }
 
     /// What it opens with where there is room: all of its parts, and no less than its own least size.
     QSize sizeHint() const override;
@@ -65,6 +68,9 @@ public:
 signals:
     void closed();
 
+    /// Other files may be the form's from now on.
+    void loaded();
+
 protected:
     void closeEvent(QCloseEvent* event) override;
 
@@ -78,12 +84,14 @@ private:
     void restore();
     void markDirty();
     void showNote(const QString& text);
+    void tellChangedFile(const QString& name);
+    QString secondPanelText() const;
     void fillSecondPanel();
     bool confirmDiscard();
 
     FormDescription m_description;
     DraftStore& m_store;
-    std::set<std::string> m_files;
+    std::map<std::string, FileMark> m_files;
     QString m_tag;
     QToolBar* m_toolbar;
     QFrame* m_frame;
@@ -94,6 +102,7 @@ private:
     bool m_loading = false;
     QString m_note;         ///< what a part says in the second panel
     QString m_versionFault; ///< and what takes its place there
+    QString m_changedFile;  ///< what changed on the disk under a dirty form, which comes before both
     QString m_notLoaded;    ///< why the last load stopped; empty after one that went through
 };
 

@@ -9,6 +9,7 @@
 #include "shell/kit/toolbars.h"
 #include "shell/kit/units.h"
 #include "shell/window/aboutbox.h"
+#include "shell/window/filewatch.h"
 #include "shell/window/navigator.h"
 #include "shell/window/navigatortable.h"
 #include "shell/window/popupmenus.h"
@@ -107,7 +108,8 @@ MainWindow::MainWindow(const ProgramInfo& program, const FormContext& context, c
       m_area(new QMdiArea),
       m_windowMenu(new WindowMenu(this)),
       m_popUpMenus(new PopUpMenus([this] { return activeForm(); }, this)),
-      m_rootMenu(new RootMenu(context, *m_area, this))
+      m_rootMenu(new RootMenu(context, *m_area, this)),
+      m_fileWatch(new FileWatch(this))
 {
     for (const FormDeclaration& form : forms)
         m_forms.insert(fromBytes(form.form.name), form);
@@ -142,6 +144,10 @@ MainWindow::MainWindow(const ProgramInfo& program, const FormContext& context, c
     m_navigator->find();
 
     followStore();
+    connect(m_fileWatch, &FileWatch::changed, this, [this] {
+        for (auto* form : openForms())
+            form->lookAtFiles();
+    });
 
     connect(m_popUpMenus, &PopUpMenus::routineMissing, this, [this](const QString& routine) {
         notify(this, m_program.product, "The active form has no " + routine + '.', QMessageBox::Critical);
@@ -157,6 +163,26 @@ MainWindow::~MainWindow()
 void MainWindow::offerVersions(History& history)
 {
     m_rootMenu->offerVersions(history);
+}
+
+QList<EditorForm*> MainWindow::openForms() const
+{
+    QList<EditorForm*> forms;
+    for (const auto* window : m_area->subWindowList()) {
+        if (auto* form = qobject_cast<EditorForm*>(window->widget()))
+            forms.append(form);
+    }
+    return forms;
+}
+
+void MainWindow::followFiles()
+{
+    std::set<std::string> files;
+    for (const auto* form : openForms()) {
+        for (const auto& [path, mark] : form->files())
+            files.insert(path);
+    }
+    m_fileWatch->follow(files);
 }
 
 /// What is written outside of a form's save, a text or a deletion, is the active form's doing.
@@ -259,6 +285,8 @@ void MainWindow::showForm(EditorForm* form)
     if (maximised)
         before->showNormal(); // else Qt hands its state on to the new window before that has got its size
     auto* window = m_area->addSubWindow(form);
+    connect(form, &EditorForm::loaded, this, &MainWindow::followFiles);
+    followFiles();
     window->setWindowIcon(themedIcon("quillfen"));
     window->setAttribute(Qt::WA_DeleteOnClose);
     connect(form, &EditorForm::closed, this,

@@ -14,6 +14,7 @@ class QToolBar;
 
 namespace quillfen {
 
+class FileWatch;
 class History;
 class Navigator;
 class PopUpMenus;
@@ -51,6 +52,8 @@ protected:
 private:
     void buildMenus();
     void followStore();
+    void followFiles();
+    QList<EditorForm*> openForms() const;
     void addToolbar(bool portalShown);
     EditorForm* formOf(const QString& key);
     QMdiSubWindow* subWindowOf(const QString& name) const;
@@ -80,6 +83,7 @@ private:
     WindowMenu* m_windowMenu;
     PopUpMenus* m_popUpMenus;
     RootMenu* m_rootMenu;
+    FileWatch* m_fileWatch;
 };
 
 } // namespace quillfen

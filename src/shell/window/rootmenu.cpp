@@ -42,8 +42,10 @@ QList<EditorForm*> RootMenu::formsOf(const std::vector<std::string>& paths) cons
     QList<EditorForm*> forms;
     for (const auto* window : m_area.subWindowList()) {
         auto* form = qobject_cast<EditorForm*>(window->widget());
-        const auto isShown = [form](const std::string& path) { return form->files().count(path) > 0; };
-        if (form && std::any_of(paths.begin(), paths.end(), isShown))
+        const auto isShown = [form](const std::string& path) {
+            return form && form->files().count(path) > 0;
+        };
+        if (std::any_of(paths.begin(), paths.end(), isShown))
             forms.append(form);
     }
     return forms;
