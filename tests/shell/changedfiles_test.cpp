@@ -1,5 +1,6 @@
 // Files that change on the disk under an open form.
 #include "shell/kit/numberbox.h"
+#include "shell/kit/rowlist.h"
 #include "support/formtest.h"
 
 #include <QLineEdit>
@@ -56,7 +57,7 @@ TEST_F(ChangedFiles, AreToldByADirtyFormUntilItReadsOrReplacesThem)
         EXPECT_TRUE(isDirty(form));
         EXPECT_EQ(secondPanel(form),
                   "SlotMachineSettings.tbl changed on disk; SAVE replaces it, DISCARD reads it");
-        answering(QMessageBox::Ok, [this, key] { button(form, key).trigger(); });
+        test::answering(QMessageBox::Ok, [this, key] { button(form, key).trigger(); });
         EXPECT_EQ(secondPanel(form), "") << key;
         EXPECT_EQ(number(form).text(), QString(key) == "SAVE" ? "3" : "7");
         form.lookAtFiles();

@@ -1,5 +1,6 @@
 // The window of earlier versions, and the menu of the tree's root that opens it.
 #include "shell/kit/numberbox.h"
+#include "shell/kit/rowlist.h"
 #include "shell/window/differencetext.h"
 #include "shell/window/versionsdialog.h"
 #include "store/history.h"
@@ -200,7 +201,7 @@ TEST_F(EarlierVersions, WhatStandsSoTodayIsSaidAndAsksNothing)
 TEST_F(EarlierVersions, ABackupKeepsAllFilesAndSaysSo)
 {
     const auto boxes =
-        answering(QMessageBox::Ok, [this] { find<QAction>(window(), "mnuRootBackUp").trigger(); });
+        test::answering(QMessageBox::Ok, [this] { find<QAction>(window(), "mnuRootBackUp").trigger(); });
     ASSERT_EQ(boxes.size(), 1);
     EXPECT_EQ(boxes[0].icon, QMessageBox::Information);
     const auto entries = history.entries().entries;
