@@ -169,7 +169,7 @@ void checkTreeAlone(benchmark::State& state)
     hub.start();
     std::size_t files = 0;
     for (const auto& entry : std::filesystem::recursive_directory_iterator(hub.tree()))
-        files += entry.is_regular_file() ? 1 : 0;
+        files += entry.is_regular_file() ? 1U : 0U;
     for (auto _ : state) {
         std::size_t findings = 0;
         state.SetIterationTime(secondsOf([&] { findings = checkTree(hub.files).size(); }));

@@ -79,10 +79,10 @@ TEST_F(ChangedFiles, ThatHoldTheSameAgainAreNotTold)
 TEST_F(ChangedFiles, OfAFormWhoseLoadAddsAreToldAndNotRead)
 {
     auto& questions = open("Games~Trivia~Questions");
-    const auto rows = shown(find<RowList>(questions, "lvwFiles"));
+    const auto rows = shown(find<RowList>(questions, "lvwQuestionFiles"));
     hub.file("Games/Trivia/TriviaQuestionFiles.tbl") += " ";
     questions.lookAtFiles();
-    EXPECT_EQ(shown(find<RowList>(questions, "lvwFiles")), rows);
+    EXPECT_EQ(shown(find<RowList>(questions, "lvwQuestionFiles")), rows);
     EXPECT_TRUE(secondPanel(questions).startsWith("TriviaQuestionFiles.tbl changed on disk;"))
         << secondPanel(questions).toStdString();
 }

@@ -38,23 +38,31 @@ protected:
         EXPECT_FALSE(isDirty(form));
     }
 
-    /// Opens the window, does something in it and closes it; message boxes are answered with a button.
+    /// Opens the window, does something in it, and closes it when it is in front again; message boxes are
+    /// answered with a button. Returns their texts.
     QStringList inWindow(const std::function<void(VersionsDialog&)>& action,
                          QMessageBox::StandardButton answer = QMessageBox::Ok)
     {
         QStringList texts;
-        test::withModal(
-            [this] { find<QAction>(window(), "mnuRootVersions").trigger(); },
-            [&](QWidget& modal) {
-                if (auto* box = qobject_cast<QMessageBox*>(&modal)) {
-                    texts.append(box->text());
-                    (box->button(answer) ? box->button(answer) : box->buttons().constFirst())->click();
-                    return;
-                }
+        bool isDone = false;
+        const auto use = [&](QWidget& modal) {
+            if (auto* box = qobject_cast<QMessageBox*>(&modal)) {
+                texts.append(box->text());
+                box->button(box->button(answer) ? answer : QMessageBox::Ok)->click();
+            } else if (!std::exchange(isDone, true)) {
                 action(*qobject_cast<VersionsDialog*>(&modal));
+            } else {
                 find<QPushButton>(modal, "cmdClose").click();
-            });
+            }
+        };
+        test::withModal([this] { find<QAction>(window(), "mnuRootVersions").trigger(); }, use);
         return texts;
+    }
+
+    /// Presses a button whose box is answered afterwards.
+    static void press(VersionsDialog& dialog, const char* name)
+    {
+        QMetaObject::invokeMethod(&find<QPushButton>(dialog, name), "click", Qt::QueuedConnection);
     }
 
     static QTreeWidget& list(VersionsDialog& dialog) { return find<QTreeWidget>(dialog, "tvwVersions"); }
@@ -134,7 +142,7 @@ TEST_F(EarlierVersions, AFileIsBroughtBackAndTheCleanFormLoadsAnew)
     const std::string wanted = file();
     saveSlotMachine("12");
     auto& form = open("Games~SlotMachine");
-    const auto texts = inWindow([](VersionsDialog& dialog) { find<QPushButton>(dialog, "cmdFile").click(); });
+    const auto texts = inWindow([](VersionsDialog& dialog) { press(dialog, "cmdFile"); });
     EXPECT_EQ(texts, QStringList{R"(Bring back Games\SlotMachine\SlotMachineSettings.tbl?)"});
     EXPECT_EQ(file(), wanted);
     EXPECT_EQ(find<NumberBox>(form, "updUpDown(0)").text(), "11");
@@ -150,8 +158,7 @@ TEST_F(EarlierVersions, ADirtyFormIsNamedAndLeftAlone)
     auto& form = open("Games~SlotMachine");
     find<NumberBox>(form, "updUpDown(0)").setText("13");
     ASSERT_TRUE(isDirty(form));
-    const auto texts =
-        inWindow([](VersionsDialog& dialog) { find<QPushButton>(dialog, "cmdEntry").click(); });
+    const auto texts = inWindow([](VersionsDialog& dialog) { press(dialog, "cmdEntry"); });
     ASSERT_EQ(texts.size(), 1);
     EXPECT_TRUE(texts[0].endsWith("replaces what is brought back: Games ~ SlotMachine"))
         << texts[0].toStdString();
@@ -165,8 +172,7 @@ TEST_F(EarlierVersions, ACancelBringsNothingBack)
     saveSlotMachine("11");
     saveSlotMachine("12");
     const std::string before = file();
-    inWindow([](VersionsDialog& dialog) { find<QPushButton>(dialog, "cmdFile").click(); },
-             QMessageBox::Cancel);
+    inWindow([](VersionsDialog& dialog) { press(dialog, "cmdFile"); }, QMessageBox::Cancel);
     EXPECT_EQ(file(), before);
     EXPECT_EQ(history.entries().entries.size(), 2U);
 }
@@ -181,7 +187,7 @@ TEST_F(EarlierVersions, TheWholeTreeIsBroughtBackAsItStoodBeforeAnEntry)
     ASSERT_NE(hub.store.files, tree);
     inWindow([](VersionsDialog& dialog) {
         list(dialog).setCurrentItem(list(dialog).topLevelItem(1)); // the older one
-        find<QPushButton>(dialog, "cmdTree").click();
+        press(dialog, "cmdTree");
     });
     EXPECT_EQ(hub.store.files, tree);
 }
@@ -189,11 +195,11 @@ TEST_F(EarlierVersions, TheWholeTreeIsBroughtBackAsItStoodBeforeAnEntry)
 TEST_F(EarlierVersions, WhatStandsSoTodayIsSaidAndAsksNothing)
 {
     saveSlotMachine("11");
-    inWindow([](VersionsDialog& dialog) { find<QPushButton>(dialog, "cmdFile").click(); });
+    inWindow([](VersionsDialog& dialog) { press(dialog, "cmdFile"); });
     const auto texts = inWindow([](VersionsDialog& dialog) {
         list(dialog).setCurrentItem(list(dialog).topLevelItem(1));
         EXPECT_EQ(difference(dialog), "The file stands so today.");
-        find<QPushButton>(dialog, "cmdFile").click();
+        press(dialog, "cmdFile");
     });
     EXPECT_EQ(texts, QStringList{"Nothing to do: all of it stands so today."});
 }

@@ -212,21 +212,27 @@ bool EditorForm::maySave()
     return false;
 }
 
+void EditorForm::commitParts()
+{
+    Draft draft(m_store, {m_description.caption});
+    for (FormPart* part : m_parts)
+        part->save();
+    auto files = m_files;
+    for (const StoreChange& change : draft.changes()) {
+        if (change.kind == StoreChange::Kind::Write)
+            files[change.path] = markOf(change.bytes);
+    }
+    draft.commit();
+    m_files = std::move(files);
+}
+
 void EditorForm::save()
 {
     if (!maySave())
         return;
     // After a failure the form stays dirty and complete, so that nothing typed is lost.
-    const bool saved = attempt(this, saving(caption()), [this] {
-        Draft draft(m_store, {m_description.caption});
-        for (FormPart* part : m_parts)
-            part->save();
-        draft.commit();
-    });
-    if (!saved)
+    if (!attempt(this, saving(caption()), [this] { commitParts(); }))
         return;
-    for (auto& [path, mark] : m_files)
-        mark = markOf(m_store.read(path));
     tellChangedFile({});
     if (m_description.reloadsAfterSave)
         load();

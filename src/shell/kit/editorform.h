@@ -79,6 +79,7 @@ private:
     void focusFirstControl();
     void load();
     bool maySave();
+    void commitParts();
     void save();
     void discard();
     void restore();
