@@ -155,14 +155,16 @@ void VersionsDialog::showFiles(QTreeWidgetItem& row) const
     QList<QTreeWidgetItem*> files;
     for (std::size_t at = 0; at < entry->files.size(); ++at) {
         const KeptFile& file = entry->files[at];
-        auto* child = new QTreeWidgetItem({QString::fromStdString(file.told),
-                                           file.wasThere() ? QString() : QStringLiteral("was not there")});
+        const QString path = QString::fromStdString(file.told);
+        auto* child = new QTreeWidgetItem({file.wasThere() ? path : path + " (was not there)"});
         child->setData(0, entryRole, row.data(0, entryRole));
         child->setData(0, fileRole, QVariant::fromValue(at));
         child->setToolTip(0, child->text(0).toHtmlEscaped());
         files.append(child);
     }
     row.addChildren(files);
+    for (auto* file : files)
+        file->setFirstColumnSpanned(true); // a path is longer than a time
 }
 
 const VersionEntry* VersionsDialog::entryOf(const QTreeWidgetItem* row) const
