@@ -1,6 +1,7 @@
 // The yardstick: a plain Qt multiple-document window with the same tree and toolbars as ours, up to its first
 // paint.
 #include "firstpaint.h"
+#include "functions/catalogue.h"
 #include "shell/window/navigatortable.h"
 
 #include <QHash>
@@ -17,10 +18,13 @@
 
 namespace {
 
-using quillfen::isHeading;
 using quillfen::NavigatorRow;
-using quillfen::navigatorRows;
-using quillfen::parentKey;
+
+const quillfen::NavigatorTable& table()
+{
+    static const quillfen::NavigatorTable rows(quillfen::functionNodes());
+    return rows;
+}
 
 QIcon plainIcon(const QWidget& widget)
 {
@@ -30,8 +34,8 @@ QIcon plainIcon(const QWidget& widget)
 QMenu* dropDown(const QString& group, QWidget* parent)
 {
     auto* menu = new QMenu(parent);
-    for (const NavigatorRow& row : navigatorRows()) {
-        if (row.key.section('~', 0, 0) == group && !isHeading(row.key))
+    for (const NavigatorRow& row : table().rows()) {
+        if (row.key.section('~', 0, 0) == group && !table().isHeading(row.key))
             menu->addAction(row.dropDown);
     }
     return menu;
@@ -43,8 +47,8 @@ void addToolbar(QMainWindow& window)
     const QIcon icon = plainIcon(window);
     for (const char* button : {"Tree", "Scripts", "Donate"})
         toolbar->addAction(icon, button);
-    for (const NavigatorRow& row : navigatorRows()) {
-        if (parentKey(row.key).isEmpty())
+    for (const NavigatorRow& row : table().rows()) {
+        if (table().parentKey(row.key).isEmpty())
             toolbar->addAction(icon, row.caption)->setMenu(dropDown(row.key, toolbar));
     }
 }
@@ -55,8 +59,8 @@ QTreeWidget* tree()
     tree->setHeaderHidden(true);
     auto* root = new QTreeWidgetItem(tree, {"Quillfen"});
     QHash<QString, QTreeWidgetItem*> nodes = {{QString(), root}};
-    for (const NavigatorRow& row : navigatorRows())
-        nodes.insert(row.key, new QTreeWidgetItem(nodes.value(parentKey(row.key)), {row.caption}));
+    for (const NavigatorRow& row : table().rows())
+        nodes.insert(row.key, new QTreeWidgetItem(nodes.value(table().parentKey(row.key)), {row.caption}));
     root->setExpanded(true);
     return tree;
 }

@@ -6,6 +6,7 @@
 #include "hubfolder.h"
 #include "news/news.h"
 #include "shell/kit/listview.h"
+#include "shell/window/versionsdialog.h"
 
 #include <QAction>
 #include <QMenu>
@@ -27,7 +28,7 @@ public:
         hub.start();
         window =
             std::make_unique<MainWindow>(ProgramInfo{QUILLFEN_VERSION}, FormContext{hub.files, hub.profiles},
-                                         formCatalogue(), partMakers());
+                                         functionNodes(), formCatalogue(), partMakers());
         window->show();
         QApplication::processEvents();
     }
@@ -136,6 +137,21 @@ void resizeNews(benchmark::State& state, Desk& desk)
     closeForms(*desk.window);
 }
 
+/// The window of earlier versions with as many entries as are kept, of which the newest is shown.
+void showVersions(benchmark::State& state, Desk& desk)
+{
+    for (unsigned save = 0; save < VersionStore::entryLimit; ++save)
+        desk.hub.files.WriteSettingsFile(R"(Games\SlotMachine\SlotMachineSettings.tbl)",
+                                         std::to_string(save));
+    for (auto _ : state) {
+        state.SetIterationTime(secondsOf([&] {
+            VersionsDialog dialog(desk.hub.history(), desk.hub.files.store(), {});
+            dialog.show();
+            QApplication::processEvents();
+        }));
+    }
+}
+
 constexpr int repetitions = 15;
 
 std::string opening(int profiles, const QString& key)
@@ -160,6 +176,7 @@ void registerAll(int profiles, Desk& desk, const QStringList& keys)
     add("questions" + count, loadQuestions);
     add("article" + count, showArticle);
     add("news" + count, resizeNews);
+    add("versions" + count, showVersions);
 }
 
 void printOpenings(const Figures& figures, int profiles, double worstAllowed, const QStringList& keys)
@@ -195,6 +212,8 @@ void printTable(const Figures& figures, const QStringList& keys)
     print("reading a question file of 50,000 rows", "questions/5");
     if (const auto* medians = figures.of("article/5"))
         printTime("an article of 1 MiB, from the button to the painted box", medians->milliseconds, 100);
+    if (const auto* medians = figures.of("versions/5"))
+        printTime("the window of earlier versions with 200 entries", medians->milliseconds, 100);
     print("the news with a headline and a story of 1 MiB: a resize", "news/5");
 }
 
@@ -206,7 +225,7 @@ int main(int argc, char** argv)
     using namespace quillfen::bench;
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const QApplication application(argc, argv);
-    const QStringList keys = quillfen::formKeys();
+    const QStringList keys = quillfen::bench::formKeys();
     Desk few(5);
     Desk many(64);
     registerAll(5, few, keys);

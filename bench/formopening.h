@@ -1,5 +1,6 @@
 #pragma once
 
+#include "functions/catalogue.h"
 #include "functions/ownparts.h"
 #include "shell/kit/editorform.h"
 #include "shell/window/mainwindow.h"
@@ -31,6 +32,12 @@ public:
 private:
     bool m_painted = false;
 };
+
+/// The keys of all forms.
+inline QStringList formKeys()
+{
+    return NavigatorTable(functionNodes()).formKeys();
+}
 
 /// Opens a form as a click in the tree does, up to its first paint.
 inline EditorForm& openForm(MainWindow& window, const QString& key)

@@ -78,6 +78,8 @@ public:
     SettingsFiles files;
     HubProfiles profiles; ///< filled by the start
 
+    History& history() { return m_history; }
+
 private:
     VersionStore m_versions{m_disk, data().string()};
     History m_history{m_disk, files.paths().settingsRoot(), m_versions};

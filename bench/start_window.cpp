@@ -42,7 +42,7 @@ int main(int argc, char** argv)
     const int rounds = argc > 2 ? std::atoi(argv[2]) : 0;
     const bench::FirstPaint ending(program.window(), [&] {
         for (int round = 0; round < rounds; ++round)
-            openAll(program.window(), quillfen::formKeys());
+            openAll(program.window(), quillfen::bench::formKeys());
         bench::endProgram();
     });
     program.window().show();

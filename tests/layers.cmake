@@ -11,7 +11,7 @@ set(allowed_portal "store|settings|declarations|portal|shell/kit")
 set(allowed_news "store|settings|declarations|news|shell/kit")
 set(allowed_shell/icons "shell/icons")
 set(allowed_shell/kit "store|settings|declarations|shell/icons|shell/kit")
-set(allowed_shell/window "store|settings|declarations|functions|shell/icons|shell/kit|shell/window")
+set(allowed_shell/window "store|settings|declarations|shell/icons|shell/kit|shell/window")
 set(allowed_advice "lua|store|settings|declarations|functions|advice")
 set(allowed_app "advice|store|settings|declarations|functions|news|shell/kit|shell/window|app")
 

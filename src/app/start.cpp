@@ -81,8 +81,8 @@ std::optional<int> Program::start()
 {
     ContrastStyle::install();
     // The navigator comes before the rebuild and shows the tree's switches as they stand now.
-    m_window =
-        std::make_unique<MainWindow>(m_info, FormContext{m_files, m_profiles}, formCatalogue(), partMakers());
+    m_window = std::make_unique<MainWindow>(m_info, FormContext{m_files, m_profiles}, functionNodes(),
+                                            formCatalogue(), partMakers());
     if (m_history)
         m_window->offerVersions(*m_history);
     const auto ask = [](const RebuildQuestion& question) {

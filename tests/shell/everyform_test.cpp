@@ -1,7 +1,7 @@
 #include "shell/kit/codepagetext.h"
 #include "shell/kit/listview.h"
-#include "shell/window/navigatortable.h"
 #include "support/formtest.h"
+#include "support/navigatornames.h"
 
 #include <QAbstractButton>
 #include <QAbstractSpinBox>

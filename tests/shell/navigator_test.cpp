@@ -1,8 +1,8 @@
 #include "shell/window/navigator.h"
-#include "shell/window/navigatortable.h"
 #include "shell/window/toptoolbar.h"
 #include "support/formtest.h"
 #include "support/golden.h"
+#include "support/navigatornames.h"
 
 #include <QLineEdit>
 #include <QMenu>
@@ -348,7 +348,7 @@ TEST_F(NavigatorTest, EveryDropDownsEntryOpensItsForm)
 TEST_F(NavigatorTest, AGroupsButtonWalksThroughItsDropDownAndStartsAgain)
 {
     for (const bool portalShown : {false, true}) {
-        TopToolbar toolbar(portalShown);
+        TopToolbar toolbar(navigatorTable(), portalShown);
         QStringList chosen;
         QObject::connect(&toolbar, &TopToolbar::formChosen,
                          [&chosen](const QString& key) { chosen.append(key); });
@@ -370,7 +370,7 @@ TEST_F(NavigatorTest, AGroupsButtonWalksThroughItsDropDownAndStartsAgain)
 
 TEST_F(NavigatorTest, AnArchiveButtonsBodyDoesNothing)
 {
-    TopToolbar toolbar(false);
+    TopToolbar toolbar(navigatorTable(), false);
     int chosen = 0;
     QObject::connect(&toolbar, &TopToolbar::formChosen, [&chosen] { ++chosen; });
     for (const char* key : {"Bookshelf", "DVDRack", "Jukebox", "Songbook", "Arcade", "Hyperlink"}) {

@@ -4,8 +4,8 @@
 #include "shell/kit/numberbox.h"
 #include "shell/kit/rowlist.h"
 #include "shell/kit/textedit.h"
-#include "shell/window/navigatortable.h"
 #include "support/formtest.h"
+#include "support/navigatornames.h"
 
 #include <QCheckBox>
 #include <QComboBox>

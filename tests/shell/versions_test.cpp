@@ -90,7 +90,7 @@ TEST_F(VersionsOfForms, ASaveThatStopsHalfWayTellsWhatIsNewAndWhatIsOld)
 TEST_F(VersionsOfForms, TheWindowsEndLeavesTheFilesToOthers)
 {
     {
-        MainWindow another(program, FormContext{hub.files, hub.profiles}, forms, makers);
+        MainWindow another(program, FormContext{hub.files, hub.profiles}, functionNodes(), forms, makers);
     }
     hub.files.WriteSettingsFile(R"(Games\SlotMachine\SlotMachineSettings.tbl)", "new");
     ASSERT_EQ(entries().size(), 1U);

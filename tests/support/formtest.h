@@ -45,8 +45,8 @@ protected:
     MainWindow& window()
     {
         if (!m_window) {
-            m_window =
-                std::make_unique<MainWindow>(program, FormContext{hub.files, hub.profiles}, forms, makers);
+            m_window = std::make_unique<MainWindow>(program, FormContext{hub.files, hub.profiles},
+                                                    functionNodes(), forms, makers);
             m_window->show();
             m_window->activateWindow();
             EXPECT_TRUE(QTest::qWaitForWindowActive(m_window.get()));
@@ -66,7 +66,8 @@ protected:
     static void close(EditorForm& form)
     {
         form.parentWidget()->close();
-        QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); // no event loop runs that would do it
+        QApplication::sendPostedEvents(nullptr,
+                                       QEvent::DeferredDelete); // no event loop runs that would do it
     }
 
     /// Puts a form of this part into the place of "Games ~ Anagrams".

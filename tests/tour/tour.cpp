@@ -2,13 +2,13 @@
 // every form and every dialog by itself, in a light or a dark palette.
 #include "app/start.h"
 #include "functions/catalogue.h"
-#include "store/diskstore.h"
 #include "shell/kit/editdialog.h"
 #include "shell/kit/textedit.h"
 #include "shell/window/aboutbox.h"
-#include "shell/window/navigatortable.h"
 #include "shell/window/windowsdialog.h"
+#include "store/diskstore.h"
 #include "support/boxes.h"
+#include "support/navigatornames.h"
 
 #include <QAction>
 #include <QDir>

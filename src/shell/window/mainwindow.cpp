@@ -11,7 +11,6 @@
 #include "shell/window/aboutbox.h"
 #include "shell/window/filewatch.h"
 #include "shell/window/navigator.h"
-#include "shell/window/navigatortable.h"
 #include "shell/window/popupmenus.h"
 #include "shell/window/rootmenu.h"
 #include "shell/window/toptoolbar.h"
@@ -100,9 +99,10 @@ QWidget* entryOf(QWidget& pane)
 
 } // namespace
 
-MainWindow::MainWindow(const ProgramInfo& program, const FormContext& context, const FormCatalogue& forms,
-                       PartMakers makers)
+MainWindow::MainWindow(const ProgramInfo& program, const FormContext& context, const std::vector<Node>& nodes,
+                       const FormCatalogue& forms, PartMakers makers)
     : m_program(program),
+      m_table(nodes),
       m_context(context),
       m_makers(std::move(makers)),
       m_area(new QMdiArea),
@@ -122,7 +122,7 @@ MainWindow::MainWindow(const ProgramInfo& program, const FormContext& context, c
 
     const bool portalShown = isPortalOn(context.files);
     addToolbar(portalShown);
-    m_navigator = new Navigator(portalShown);
+    m_navigator = new Navigator(m_table, portalShown);
     connect(m_navigator, &Navigator::rootMenuAsked, m_rootMenu, &RootMenu::popUp);
     connect(m_navigator, &Navigator::chosen, this, [this] { OpenFunctionForm(QString()); });
     buildMenus();
@@ -202,7 +202,7 @@ void MainWindow::followStore()
 
 void MainWindow::addToolbar(bool portalShown)
 {
-    auto* toolbar = new TopToolbar(portalShown, this);
+    auto* toolbar = new TopToolbar(m_table, portalShown, this);
     m_toolbar = toolbar;
     addToolBar(toolbar);
     connect(toolbar, &TopToolbar::formChosen, this, &MainWindow::OpenFunctionForm);
@@ -253,7 +253,7 @@ void MainWindow::OpenFunctionForm(const QString& key)
 
 EditorForm* MainWindow::formOf(const QString& key)
 {
-    const QString name = formName(key);
+    const QString name = m_table.formName(key);
     if (auto* open = subWindowOf(name)) {
         bringForward(*open);
         return formIn(*open);
@@ -309,7 +309,7 @@ void MainWindow::bringForward(QMdiSubWindow& window)
         window.showNormal();
     m_area->setActiveSubWindow(&window);
     bringIntoSight(window, *m_area);
-    m_navigator->follow(keyOfForm(window.widget()->objectName()));
+    m_navigator->follow(m_table.keyOfForm(window.widget()->objectName()));
 }
 
 void MainWindow::formActivated(QMdiSubWindow* window)
@@ -317,7 +317,7 @@ void MainWindow::formActivated(QMdiSubWindow* window)
     if (!window || !window->widget() || window == m_followed)
         return; // only the main window lost or got back the focus
     m_followed = window;
-    m_navigator->follow(keyOfForm(window->widget()->objectName()));
+    m_navigator->follow(m_table.keyOfForm(window->widget()->objectName()));
     if (QApplication::mouseButtons() == Qt::NoButton) // what is being clicked must not move away
         bringIntoSight(*window, *m_area);
 }

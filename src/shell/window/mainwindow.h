@@ -1,6 +1,7 @@
 #pragma once
 
 #include "shell/kit/declaredforms.h"
+#include "shell/window/navigatortable.h"
 #include "shell/window/openwindows.h"
 #include "shell/window/programinfo.h"
 
@@ -30,8 +31,8 @@ class MainWindow : public QMainWindow
 public:
     /// Builds toolbars and navigator from the settings tree as it stands now; the profiles may be filled
     /// later, but before the first form opens.
-    MainWindow(const ProgramInfo& program, const FormContext& context, const FormCatalogue& forms,
-               PartMakers makers);
+    MainWindow(const ProgramInfo& program, const FormContext& context, const std::vector<Node>& nodes,
+               const FormCatalogue& forms, PartMakers makers);
     ~MainWindow() override;
 
     /// Opens or brings forward the form of a navigator key; an empty key means the tree's selected node. A
@@ -72,6 +73,7 @@ private:
     EditorForm* activeForm() const;
 
     ProgramInfo m_program;
+    NavigatorTable m_table;
     FormContext m_context;
     QHash<QString, FormDeclaration> m_forms;
     PartMakers m_makers;

@@ -58,8 +58,9 @@ bool narrowed(QTreeWidgetItem& item, const QString& above, const QStringList& so
 
 } // namespace
 
-Navigator::Navigator(bool portalShown, QWidget* parent)
+Navigator::Navigator(const NavigatorTable& table, bool portalShown, QWidget* parent)
     : QWidget(parent),
+      m_table(table),
       m_toolbar(new QToolBar),
       m_find(new QLineEdit),
       m_tree(new QTreeWidget)
@@ -110,11 +111,11 @@ void Navigator::buildTree(bool portalShown)
     m_tree->setItemDelegate(new RowDelegate(m_tree));
     auto* root = node("Quillfen", "Quillfen", true);
     QHash<QString, QTreeWidgetItem*> nodes = {{QString(), root}};
-    for (const NavigatorRow& row : navigatorRows()) {
+    for (const NavigatorRow& row : m_table.rows()) {
         if (row.key == portalKey && !portalShown)
             continue;
-        auto* item = node(row.key, row.caption, isHeading(row.key));
-        nodes.value(parentKey(row.key))->addChild(item);
+        auto* item = node(row.key, row.caption, m_table.isHeading(row.key));
+        nodes.value(m_table.parentKey(row.key))->addChild(item);
         nodes.insert(row.key, item);
     }
     m_tree->addTopLevelItem(root);
@@ -222,7 +223,7 @@ void Navigator::selectFirstMatch()
 {
     m_missed = nullptr;
     for (QTreeWidgetItemIterator item(m_tree, QTreeWidgetItemIterator::NotHidden); *item; ++item) {
-        if (!formName(keyOf(**item)).isEmpty()) {
+        if (!m_table.formName(keyOf(**item)).isEmpty()) {
             m_tree->setCurrentItem(*item);
             return;
         }

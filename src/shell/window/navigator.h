@@ -14,6 +14,8 @@ class QTreeWidgetItem;
 
 namespace quillfen {
 
+class NavigatorTable;
+
 /// The side bar with the tree of functions, its two buttons, and a box that narrows the tree to what is
 /// typed.
 class Navigator : public QWidget
@@ -21,7 +23,8 @@ class Navigator : public QWidget
     Q_OBJECT
 
 public:
-    explicit Navigator(bool portalShown, QWidget* parent = nullptr);
+    /// The table must outlive it.
+    Navigator(const NavigatorTable& table, bool portalShown, QWidget* parent = nullptr);
 
     /// The selected node's key; empty if none is selected.
     QString selectedKey() const;
@@ -58,6 +61,7 @@ private:
     void selectFirstMatch();
     void chooseMatch();
 
+    const NavigatorTable& m_table;
     QToolBar* m_toolbar;
     QLineEdit* m_find;
     QTreeWidget* m_tree;

@@ -1,8 +1,14 @@
 #pragma once
 
+#include "declarations/function.h"
+
+#include <QHash>
 #include <QList>
+#include <QSet>
 #include <QString>
 #include <QStringList>
+
+#include <vector>
 
 namespace quillfen {
 
@@ -18,23 +24,44 @@ struct NavigatorRow
 /// The node that needs its switch in the settings tree: it is left out unless the owner put it there by hand.
 inline constexpr const char* portalKey = "Communication~Portal";
 
-/// All nodes below the root, in the order of the tree.
-const QList<NavigatorRow>& navigatorRows();
+/// What the main window knows of the functions' nodes.
+class NavigatorTable
+{
+public:
+    explicit NavigatorTable(const std::vector<Node>& nodes);
 
-/// The key of the node above; empty for a node right below the root.
-QString parentKey(const QString& key);
+    /// All nodes below the root, in the order of the tree.
+    const QList<NavigatorRow>& rows() const { return m_rows; }
 
-/// Whether a node has children. A heading opens nothing.
-bool isHeading(const QString& key);
+    /// The key of the node above; empty for a node right below the root.
+    QString parentKey(const QString& key) const { return m_places.value(key).above; }
 
-/// Every key with a form behind it: rows in their order, then the forms that no node reaches.
-QStringList formKeys();
+    /// Whether a node has children. A heading opens nothing.
+    bool isHeading(const QString& key) const { return m_headings.contains(key); }
 
-/// The form behind a key; empty if there is none.
-QString formName(const QString& key);
+    /// Every key with a form behind it: rows in their order, then the forms that no node reaches.
+    const QStringList& formKeys() const { return m_formKeys; }
 
-/// The key that leads to a form; empty if none does.
-QString keyOfForm(const QString& name);
+    /// The form behind a key; empty if there is none.
+    QString formName(const QString& key) const { return m_places.value(key).form; }
+
+    /// The key that leads to a form; empty if none does.
+    QString keyOfForm(const QString& name) const { return m_keys.value(name); }
+
+private:
+    /// What a key leads to.
+    struct Place
+    {
+        QString above; ///< the key of the node above
+        QString form;
+    };
+
+    QList<NavigatorRow> m_rows;
+    QHash<QString, Place> m_places;
+    QSet<QString> m_headings;
+    QStringList m_formKeys;
+    QHash<QString, QString> m_keys; ///< by the form's name
+};
 
 /// "General~Settings" as it is shown: "General ~ Settings".
 QString captionOfKey(const QString& key);

@@ -14,11 +14,11 @@ namespace {
 constexpr const char* walkingGroups[] = {"General", "Communication", "CustomiseUser",
                                          "Games",   "Security",      "UserActions"};
 
-QMenu* dropDown(const QString& group, bool portalShown, QWidget* parent)
+QMenu* dropDown(const NavigatorTable& table, const QString& group, bool portalShown, QWidget* parent)
 {
     auto* menu = new QMenu(parent);
-    for (const NavigatorRow& row : navigatorRows()) {
-        if (row.key.section('~', 0, 0) != group || isHeading(row.key) ||
+    for (const NavigatorRow& row : table.rows()) {
+        if (row.key.section('~', 0, 0) != group || table.isHeading(row.key) ||
             (row.key == portalKey && !portalShown))
             continue;
         menu->addAction(withoutKeys(row.dropDown))->setObjectName(row.key);
@@ -28,7 +28,7 @@ QMenu* dropDown(const QString& group, bool portalShown, QWidget* parent)
 
 } // namespace
 
-TopToolbar::TopToolbar(bool portalShown, QWidget* parent) : QToolBar(parent)
+TopToolbar::TopToolbar(const NavigatorTable& table, bool portalShown, QWidget* parent) : QToolBar(parent)
 {
     setObjectName("tlbMDITop");
     setWindowTitle("Functions");
@@ -48,17 +48,18 @@ TopToolbar::TopToolbar(bool portalShown, QWidget* parent) : QToolBar(parent)
     connect(addButton(*this, behindGroups, "SCRIPTS", "Visit Morvaleth's Scripts Website", "scripts"),
             &QAction::triggered, this, &TopToolbar::scriptsChosen);
 
-    for (const NavigatorRow& row : navigatorRows()) {
-        if (parentKey(row.key).isEmpty())
-            insertGroup(row, index, portalShown);
+    for (const NavigatorRow& row : table.rows()) {
+        if (table.parentKey(row.key).isEmpty())
+            insertGroup(table, row, index, portalShown);
     }
 }
 
-void TopToolbar::insertGroup(const NavigatorRow& row, int& index, bool portalShown)
+void TopToolbar::insertGroup(const NavigatorTable& table, const NavigatorRow& row, int& index,
+                             bool portalShown)
 {
     const QString group = row.key;
     auto* action = addButton(*this, index, group, row.caption, group.toLower());
-    auto* menu = dropDown(group, portalShown, this);
+    auto* menu = dropDown(table, group, portalShown, this);
     action->setMenu(menu);
     qobject_cast<QToolButton*>(widgetForAction(action))->setPopupMode(QToolButton::MenuButtonPopup);
     connect(menu, &QMenu::triggered, this, [this](QAction* entry) { emit formChosen(entry->objectName()); });

@@ -5,6 +5,7 @@
 
 namespace quillfen {
 
+class NavigatorTable;
 struct NavigatorRow;
 
 /// The main window's toolbar: the side bar's button, a drop-down of forms for each group, and the maker's
@@ -14,7 +15,7 @@ class TopToolbar : public QToolBar
     Q_OBJECT
 
 public:
-    explicit TopToolbar(bool portalShown, QWidget* parent = nullptr);
+    TopToolbar(const NavigatorTable& table, bool portalShown, QWidget* parent = nullptr);
 
 signals:
     void sideBarToggled();
@@ -25,7 +26,7 @@ signals:
     void formChosen(const QString& key);
 
 private:
-    void insertGroup(const NavigatorRow& row, int& index, bool portalShown);
+    void insertGroup(const NavigatorTable& table, const NavigatorRow& row, int& index, bool portalShown);
     void walk(const QString& group);
 
     QHash<QString, int> m_walked; ///< per group, the place of the entry that its button opened last
