@@ -26,8 +26,8 @@ bool isFree(quint16 port)
            datagrams.bind(QHostAddress::Any, port, QUdpSocket::DontShareAddress);
 }
 
-/// A free port below those that the system gives out by itself, and another one for each test that runs at the
-/// same time.
+/// A free port below those that the system gives out by itself, and another one for each test that runs at
+/// the same time.
 quint16 portOfThisProcess(int which)
 {
     auto port = static_cast<quint16>(10'000 + (QCoreApplication::applicationPid() * 2 + which) % 20'000);
