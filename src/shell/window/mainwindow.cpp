@@ -108,7 +108,8 @@ MainWindow::MainWindow(const ProgramInfo& program, const FormContext& context, c
       m_area(new QMdiArea),
       m_windowMenu(new WindowMenu(this)),
       m_popUpMenus(new PopUpMenus([this] { return activeForm(); }, this)),
-      m_rootMenu(new RootMenu(context, *m_area, this)),
+      m_rootMenu(new RootMenu(
+          context, [this] { return openForms(); }, this)),
       m_fileWatch(new FileWatch(this))
 {
     for (const FormDeclaration& form : forms)

@@ -7,18 +7,17 @@
 #include "store/draft.h"
 
 #include <QDesktopServices>
-#include <QMdiArea>
-#include <QMdiSubWindow>
 #include <QUrl>
 
 #include <algorithm>
+#include <utility>
 
 namespace quillfen {
 
-RootMenu::RootMenu(const FormContext& context, const QMdiArea& area, QWidget* parent)
+RootMenu::RootMenu(const FormContext& context, std::function<QList<EditorForm*>()> openForms, QWidget* parent)
     : QMenu(parent),
       m_context(context),
-      m_area(area),
+      m_openForms(std::move(openForms)),
       m_versions(addAction("&Earlier versions...", this, &RootMenu::showVersions)),
       m_backUp(addAction("&Back up now", this, &RootMenu::backUp))
 {
@@ -40,11 +39,8 @@ void RootMenu::offerVersions(History& history)
 QList<EditorForm*> RootMenu::formsOf(const std::vector<std::string>& paths) const
 {
     QList<EditorForm*> forms;
-    for (const auto* window : m_area.subWindowList()) {
-        auto* form = qobject_cast<EditorForm*>(window->widget());
-        const auto isShown = [form](const std::string& path) {
-            return form && form->files().count(path) > 0;
-        };
+    for (auto* form : m_openForms()) {
+        const auto isShown = [form](const std::string& path) { return form->files().count(path) > 0; };
         if (std::any_of(paths.begin(), paths.end(), isShown))
             forms.append(form);
     }

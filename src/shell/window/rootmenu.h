@@ -4,10 +4,9 @@
 
 #include <QMenu>
 
+#include <functional>
 #include <string>
 #include <vector>
-
-class QMdiArea;
 
 namespace quillfen {
 
@@ -20,8 +19,8 @@ class RootMenu : public QMenu
     Q_OBJECT
 
 public:
-    /// The open forms are those of the area.
-    RootMenu(const FormContext& context, const QMdiArea& area, QWidget* parent);
+    /// Looks the open forms up when it needs them.
+    RootMenu(const FormContext& context, std::function<QList<EditorForm*>()> openForms, QWidget* parent);
 
     /// Shows the menu at a place of the screen.
     void popUp(const QPoint& at) { popup(at); }
@@ -36,7 +35,7 @@ private:
     QList<EditorForm*> formsOf(const std::vector<std::string>& paths) const;
 
     FormContext m_context;
-    const QMdiArea& m_area;
+    std::function<QList<EditorForm*>()> m_openForms;
     History* m_history = nullptr;
     QAction* m_versions;
     QAction* m_backUp;
