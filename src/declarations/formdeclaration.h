@@ -9,6 +9,7 @@
 #include <cstddef>
 #include <functional>
 #include <string>
+#include <string_view>
 #include <variant>
 #include <vector>
 
@@ -129,8 +130,9 @@ struct TickList
     std::string caption;
     ListFile file;                                                ///< of the form Flags
     std::function<std::string_view(std::string_view row)> help{}; ///< empty for none
-    std::string label{};      ///< above the list, in place of the column's caption
-    bool restoreTicks = true; ///< RESTORE ticks every row; else it leaves them
+    std::string label{};            ///< above the list, in place of the column's caption
+    bool restoreTicks = true;       ///< RESTORE ticks every row; else it leaves them
+    std::string_view explanation{}; ///< what a tick does for the hub's users, in a sentence
 };
 
 /// A list of ticks that is one whole file.
@@ -143,8 +145,9 @@ struct DeclaredTicks
 struct DeclaredText
 {
     std::string toolbar;
-    std::string caption; ///< beside the button
-    std::string path;    ///< a told one
+    std::string caption;            ///< beside the button
+    std::string path;               ///< a told one
+    std::string_view explanation{}; ///< what the text does for the hub's users, in a sentence
 };
 
 /// A part that only its function has. What it is made of, as far as that is declared, is told for those who

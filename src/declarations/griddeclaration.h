@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace quillfen {
@@ -19,6 +20,7 @@ struct GridWords
     bool namesCommandByProfile = false; ///< each acting profile's first row names the command
     bool targets = true;                ///< false: one value per command and profile, and three columns
     bool clickToggles = false;          ///< a click on a row toggles it
+    std::string_view explanation{};     ///< what the permissions do for the hub's users, in a sentence
 
     /// The button that shows one command. A press of it takes the filter off if its key is COMMAND.
     std::string commandFilter = "COMMAND";

@@ -3,6 +3,7 @@
 #include <functional>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -83,6 +84,7 @@ struct RowListDeclaration
     std::vector<std::string> toolTips{}; ///< of NEW, DELETE and EDIT, where they tell more than those
     std::string label{};                 ///< above the list; may be empty
     std::string remark{};                ///< below the list; may be empty
+    std::string_view explanation{};      ///< what its rows do for the hub's users, in a sentence
     std::vector<std::string> columns{};
     int hiddenColumns = 0; ///< how many of the last ones don't show
     bool ticks = false;

@@ -79,6 +79,13 @@ Field letter(std::string key, std::string control, std::string label, std::strin
             Letter{std::move(defaultWord), std::move(words), std::move(wordWhereNone)}};
 }
 
+Field Field::explained(std::string_view sentence) const
+{
+    Field field = *this;
+    field.explanation = sentence;
+    return field;
+}
+
 Field notRestored(Field field)
 {
     field.keptByRestore = true;

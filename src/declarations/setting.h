@@ -130,7 +130,11 @@ struct Field
     std::string nest{};      ///< the nested table that it stands in; neighbours of the same one share it
     std::string keyInSave{}; ///< the key as a save writes it, where it is another
     RebuildRule rebuild{};
-    bool keptByRestore = false; ///< RESTORE leaves the control as it is
+    bool keptByRestore = false;     ///< RESTORE leaves the control as it is
+    std::string_view explanation{}; ///< what the setting does for the hub's users, in a sentence
+
+    /// The same field with its explanation.
+    Field explained(std::string_view sentence) const;
 };
 
 /// A text of a nested table; its key there is the name.
@@ -147,6 +151,7 @@ struct NamedTexts
     std::string control;
     std::string label;
     std::vector<NamedText> texts;
+    std::string_view explanation{}; ///< what they do for the hub's users, in a sentence
 };
 
 /// A nested table whose rows nothing changes. They are told as they stand in the file, without indent and
