@@ -139,6 +139,8 @@ PortalPart::PortalPart(const FormContext& context)
     m_hubs->setColumnHidden(static_cast<int>(HubColumn::HubName), true);
     new ColumnWidths(*m_hubs, fitHubColumns);
     new TickSelects(*m_hubs);
+    m_hubs->setTicksTogether(false); // a tick opens a link
+    m_hubs->setSelectionMode(QAbstractItemView::SingleSelection);
     new ColumnWidths(*m_nicks, fitNickColumn);
     m_nicks->setColumnHidden(0, true); // not before, or the header would keep the column's room free
     for (auto* list : {m_hubs, m_nicks})

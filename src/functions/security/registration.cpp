@@ -28,6 +28,7 @@ GridWords gridWords()
     words.columns[3] = "Allow";
     words.yes = "True";
     words.no = "False";
+    words.targetLink = "of";
     return words;
 }
 

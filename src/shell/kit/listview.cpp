@@ -33,6 +33,7 @@ ListView::ListView(const QString& name, QWidget* parent) : QTreeView(parent)
     setUniformRowHeights(true);
     setAllColumnsShowFocus(true);
     setTabKeyNavigation(false);
+    setSelectionMode(ExtendedSelection);
     setEditTriggers(NoEditTriggers);
     setExpandsOnDoubleClick(false);
     setItemDelegate(new RowDelegate(this));
@@ -45,13 +46,46 @@ ListView::ListView(const QString& name, QWidget* parent) : QTreeView(parent)
 
 int ListView::currentRow() const
 {
-    const auto selected = selectionModel() ? selectionModel()->selectedRows() : QModelIndexList();
-    return selected.isEmpty() ? -1 : selected.constFirst().row();
+    int first = -1;
+    for (const QItemSelectionRange& range :
+         selectionModel() ? selectionModel()->selection() : QItemSelection())
+        first = first < 0 ? range.top() : std::min(first, range.top());
+    return first;
 }
 
+std::vector<int> ListView::selectedRows() const
+{
+    std::vector<int> rows;
+    for (const QItemSelectionRange& range :
+         selectionModel() ? selectionModel()->selection() : QItemSelection()) {
+        for (int row = range.top(); row <= range.bottom(); ++row)
+            rows.push_back(row);
+    }
+    std::sort(rows.begin(), rows.end());
+    rows.erase(std::unique(rows.begin(), rows.end()), rows.end()); // hidden columns part a row in ranges
+    return rows;
+}
+
+std::vector<int> ListView::shownRows() const
+{
+    std::vector<int> rows;
+    for (int row = 0; row < model()->rowCount(); ++row) {
+        if (!isRowHidden(row, {}))
+            rows.push_back(row);
+    }
+    return rows;
+}
+
+bool ListView::isSelected(int row) const
+{
+    return selectionModel()->isRowSelected(row, {});
+}
+
+/// Says so itself, as Qt would look at the keys that are held.
 void ListView::select(int row)
 {
-    setCurrentIndex(model()->index(row, 0));
+    selectionModel()->setCurrentIndex(model()->index(row, 0),
+                                      QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
 }
 
 void ListView::setModel(QAbstractItemModel* model)
@@ -111,7 +145,7 @@ QSize ListView::sizeHint() const
 void ListView::keyPressEvent(QKeyEvent* event)
 {
     const bool ticks = event->key() == Qt::Key_Space || event->key() == Qt::Key_Select;
-    if (ticks && currentIndex().isValid())
+    if (ticks && currentIndex().isValid() && !isSelected(currentIndex().row()))
         select(currentIndex().row()); // a tick by key is a tick of a selected row, as one by the mouse is
     if (event->key() == Qt::Key_Delete)
         emit deleteAsked();
@@ -125,7 +159,7 @@ void ListView::contextMenuEvent(QContextMenuEvent* event)
 {
     const bool byMouse = event->reason() == QContextMenuEvent::Mouse;
     const QModelIndex index = byMouse ? indexAt(event->pos()) : currentIndex();
-    if (index.isValid())
+    if (index.isValid() && !isSelected(index.row()))
         select(index.row());
     emit menuAsked(byMouse || !index.isValid() ? event->globalPos()
                                                : viewport()->mapToGlobal(visualRect(index).bottomLeft()),
@@ -136,6 +170,24 @@ void ListView::focusInEvent(QFocusEvent* event)
 {
     QTreeView::focusInEvent(event);
     selectFirst();
+}
+
+/// Where all that is selected goes, the row behind it is selected, or the last that stays before it.
+void ListView::rowsAboutToBeRemoved(const QModelIndex& parent, int start, int end)
+{
+    const std::vector<int> selected = selectedRows();
+    const bool allGo = !selected.empty() && selected.front() >= start && selected.back() <= end;
+    const int next = end + 1 < model()->rowCount() ? end + 1 : start - 1;
+    if (allGo && next >= 0)
+        select(next);
+    QTreeView::rowsAboutToBeRemoved(parent, start, end);
+}
+
+/// A press below the last row leaves what is selected.
+QItemSelectionModel::SelectionFlags ListView::selectionCommand(const QModelIndex& index,
+                                                               const QEvent* event) const
+{
+    return index.isValid() ? QTreeView::selectionCommand(index, event) : QItemSelectionModel::NoUpdate;
 }
 
 } // namespace quillfen

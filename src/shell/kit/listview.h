@@ -7,6 +7,12 @@
 
 namespace quillfen {
 
+/// What a list's model may tell of a cell besides what Qt asks for.
+enum CellRole
+{
+    WholeText = Qt::UserRole + 1 ///< its text, where the cell shows less of it or nothing
+};
+
 /// Draws rows with some air between them.
 class RowDelegate : public QStyledItemDelegate
 {
@@ -18,8 +24,8 @@ public:
     QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
 };
 
-/// A flat list with columns, as every form uses it: one selected row, quick at any length, and the moves that
-/// all lists share.
+/// A flat list with columns, as every form uses it: quick at any length, with the moves that all lists share.
+/// Several rows are selected by Shift and Ctrl; what works on one row works on the first of them.
 class ListView : public QTreeView
 {
     Q_OBJECT
@@ -27,8 +33,16 @@ class ListView : public QTreeView
 public:
     explicit ListView(const QString& name, QWidget* parent = nullptr);
 
-    /// The selected row; -1 if none is.
+    /// The first selected row; -1 if none is.
     int currentRow() const;
+
+    /// All selected rows, from the first to the last.
+    std::vector<int> selectedRows() const;
+
+    /// The rows that no filter hides.
+    std::vector<int> shownRows() const;
+
+    /// Selects one row and no other.
     void select(int row);
 
     /// Off where what is selected has a meaning of its own: then no row is selected but by the user.
@@ -50,16 +64,20 @@ signals:
     void editAsked();   ///< double click or Enter on a row
     void deleteAsked(); ///< the Delete key
 
-    /// Right click, or the menu key; a row under the pointer is selected by then. `onRow` tells whether there
-    /// is one.
+    /// Right click, or the menu key; a row under the pointer is selected by then, with those that were where
+    /// it was among them. `onRow` tells whether there is one.
     void menuAsked(const QPoint& global, bool onRow);
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
+    void rowsAboutToBeRemoved(const QModelIndex& parent, int start, int end) override;
+    QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index,
+                                                         const QEvent* event) const override;
 
 private:
+    bool isSelected(int row) const;
     void fitColumns();
     void selectFirst();
 

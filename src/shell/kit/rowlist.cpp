@@ -3,7 +3,12 @@
 #include "shell/kit/longtext.h"
 
 #include <QAbstractTableModel>
+#include <QAction>
+#include <QContextMenuEvent>
 #include <QHeaderView>
+#include <QKeyEvent>
+#include <QMenu>
+#include <QMetaMethod>
 
 #include <algorithm>
 
@@ -129,6 +134,8 @@ RowList::RowList(const QString& name, const QStringList& columns, bool ticks, QW
     setModel(m_rows);
     header()->setVisible(!columns.isEmpty());
     header()->setDefaultSectionSize(fontMetrics().averageCharWidth() * 24);
+    if (ticks)
+        addTickActions();
     connect(m_rows, &QAbstractItemModel::modelReset, this, &RowList::countChanged);
     connect(m_rows, &QAbstractItemModel::rowsInserted, this, &RowList::countChanged);
     connect(m_rows, &QAbstractItemModel::rowsRemoved, this, &RowList::countChanged);
@@ -157,6 +164,65 @@ void RowList::replace(int row, CellRow cells)
 void RowList::remove(int row)
 {
     m_rows->removeRows(row, 1);
+}
+
+void RowList::addTickActions()
+{
+    const auto add = [this](const char* name, const QString& text, const QKeySequence& keys,
+                            const std::function<bool(const CellRow&)>& ticked) {
+        auto* action = new QAction(text, this);
+        action->setObjectName(name);
+        action->setShortcut(keys);
+        action->setShortcutContext(Qt::WidgetShortcut);
+        connect(action, &QAction::triggered, this, [this, ticked] { tick(shownRows(), ticked); });
+        addAction(action);
+        m_tickActions.append(action);
+    };
+    add("TickAll", "&All", Qt::CTRL | Qt::Key_A, [](const CellRow&) { return true; });
+    add("TickNone", "&None", Qt::CTRL | Qt::SHIFT | Qt::Key_A, [](const CellRow&) { return false; });
+    add("TickInvert", "&Invert", Qt::CTRL | Qt::Key_I, [](const CellRow& row) { return !row.checked; });
+}
+
+void RowList::setTicksTogether(bool together)
+{
+    for (QAction* action : m_tickActions)
+        action->setEnabled(together);
+}
+
+/// Ticks or unticks rows as each row tells; those that are so already haven't changed.
+void RowList::tick(const std::vector<int>& rows, const std::function<bool(const CellRow&)>& ticked)
+{
+    for (const int row : rows) {
+        const CellRow& each = m_rows->rows()[static_cast<std::size_t>(row)];
+        const bool on = ticked(each);
+        if (on != each.checked)
+            m_rows->setData(m_rows->index(row, 0), on ? Qt::Checked : Qt::Unchecked, Qt::CheckStateRole);
+    }
+}
+
+/// Space gives several selected rows the tick that the first one gets.
+void RowList::keyPressEvent(QKeyEvent* event)
+{
+    const std::vector<int> selected = selectedRows();
+    if (event->key() != Qt::Key_Space || event->modifiers() != Qt::NoModifier || selected.size() < 2 ||
+        m_tickActions.isEmpty() || !m_tickActions.first()->isEnabled()) {
+        ListView::keyPressEvent(event);
+        return;
+    }
+    const bool on = !rows()[static_cast<std::size_t>(selected.front())].checked;
+    tick(selected, [on](const CellRow&) { return on; });
+}
+
+void RowList::contextMenuEvent(QContextMenuEvent* event)
+{
+    ListView::contextMenuEvent(event);
+    const bool hasMenu = isSignalConnected(QMetaMethod::fromSignal(&ListView::menuAsked));
+    if (hasMenu || m_tickActions.isEmpty() || !m_tickActions.first()->isEnabled())
+        return;
+    auto* menu = new QMenu(this);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    menu->addActions(m_tickActions);
+    menu->popup(event->globalPos());
 }
 
 void RowList::move(int row, int place)
