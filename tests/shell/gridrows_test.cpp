@@ -194,6 +194,10 @@ TEST_F(GridRows, TheRowOnTopNamesCommandAndProfileAlsoWhereItsCellsAreBlank)
     }
     list.verticalScrollBar()->setValue(3);
     EXPECT_TRUE(hasInk(list, 3, 0)) << "the next row on top";
+    list.verticalScrollBar()->setValue(0);
+    ASSERT_FALSE(hasInk(list, 3, 0));
+    list.setRowHidden(2, {}, true);
+    EXPECT_TRUE(hasInk(list, 3, 0)) << "the row above it is out of sight";
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 #include "shell/kit/editorform.h"
 
 #include "shell/kit/codepagetext.h"
+#include "shell/kit/listview.h"
 #include "shell/kit/messages.h"
 #include "shell/kit/toolbars.h"
 #include "shell/kit/units.h"
@@ -12,6 +13,7 @@
 #include <QLabel>
 #include <QScopedValueRollback>
 #include <QScrollArea>
+#include <QShortcut>
 #include <QStatusBar>
 #include <QTextDocument>
 #include <QToolButton>
@@ -70,6 +72,10 @@ EditorForm::EditorForm(const FormDescription& description, DraftStore& store)
     connect(button(*m_toolbar, "SAVE"), &QAction::triggered, this, &EditorForm::save);
     connectButton(*m_toolbar, "DISCARD", this, &EditorForm::discard);
     connectButton(*m_toolbar, "RESTORE", this, &EditorForm::restore);
+
+    connect(new QShortcut(Qt::CTRL | Qt::SHIFT | Qt::Key_F, this, nullptr, nullptr,
+                          Qt::WidgetWithChildrenShortcut),
+            &QShortcut::activated, this, [this] { openNearestFilter(*m_frame); });
 
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins({});

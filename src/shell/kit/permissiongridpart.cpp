@@ -225,9 +225,9 @@ private:
 
 namespace {
 
-/// While a grid is scrolled, the row on top names its command and profiles, which its cells leave to the rows
-/// above it.
-class TopRowDelegate : public RowDelegate
+/// A row whose cells leave command and profiles to the rows above it names them where those aren't in sight:
+/// on top of a scrolled grid, and behind rows that a filter hides.
+class GroupNamesDelegate : public RowDelegate
 {
 public:
     using RowDelegate::RowDelegate;
@@ -237,11 +237,17 @@ protected:
     {
         RowDelegate::initStyleOption(option, index);
         const auto* list = qobject_cast<const QTreeView*>(option->widget);
-        if (!option->text.isEmpty() || !list || list->indexAt({0, 0}).row() != index.row())
+        if (!option->text.isEmpty() || !list || !isFirstInSight(*list, index.row()))
             return;
         option->text = index.data(WholeText).toString();
         option->features |= QStyleOptionViewItem::HasDisplay;
         option->palette.setBrush(QPalette::Text, option->palette.placeholderText());
+    }
+
+private:
+    static bool isFirstInSight(const QTreeView& list, int row)
+    {
+        return list.indexAt({0, 0}).row() == row || (row > 0 && list.isRowHidden(row - 1, {}));
     }
 };
 
@@ -265,7 +271,7 @@ PermissionGridPart::PermissionGridPart(GridSource source, GridWords words, const
       m_tools(new ToolbarList(m_list, {fromBytes(m_words.toolbar), "Permissions"}, {AddEditButton}, context))
 {
     m_list->setModel(m_model);
-    m_list->setItemDelegate(new TopRowDelegate(m_list));
+    m_list->setItemDelegate(new GroupNamesDelegate(m_list));
     connect(m_list->verticalScrollBar(), &QScrollBar::valueChanged, m_list->viewport(),
             qOverload<>(&QWidget::update)); // a scroll paints only what it brings into sight
     fitColumns();

@@ -1,5 +1,6 @@
 #include "shell/kit/rowlist.h"
 
+#include "shell/kit/codepagetext.h"
 #include "shell/kit/longtext.h"
 
 #include <QAbstractTableModel>
@@ -87,6 +88,8 @@ public:
         const auto column = static_cast<std::size_t>(index.column());
         if (role == Qt::DisplayRole)
             return column < row.cells.size() ? shownPart(row.cells[column]) : QString();
+        if (role == WholeText)
+            return column < row.cells.size() ? fromBytes(row.cells[column]) : QString();
         if (role == Qt::CheckStateRole && m_ticks && column == 0)
             return row.checked ? Qt::Checked : Qt::Unchecked;
         if (role == Qt::FontRole && row.bold) {
@@ -223,6 +226,18 @@ void RowList::contextMenuEvent(QContextMenuEvent* event)
     menu->setAttribute(Qt::WA_DeleteOnClose);
     menu->addActions(m_tickActions);
     menu->popup(event->globalPos());
+}
+
+/// Run by run from the last, as those before it keep their places.
+void RowList::remove(const std::vector<int>& rows)
+{
+    for (std::size_t end = rows.size(); end > 0;) {
+        std::size_t begin = end - 1;
+        while (begin > 0 && rows[begin - 1] + 1 == rows[begin])
+            --begin;
+        m_rows->removeRows(rows[begin], static_cast<int>(end - begin));
+        end = begin;
+    }
 }
 
 void RowList::move(int row, int place)

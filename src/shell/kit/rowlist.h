@@ -28,6 +28,9 @@ public:
     void replace(int row, CellRow cells);
     void remove(int row);
 
+    /// Removes several rows, which stand in order.
+    void remove(const std::vector<int>& rows);
+
     /// Off where a tick does something of its own, once for each.
     void setTicksTogether(bool together);
 
