@@ -28,7 +28,7 @@ Setting timeout()
 Setting enabledProfiles()
 {
     return setting::profileFlags("tEnabledProfiles", "lvwEnabledProfiles", "Enabled Profiles")
-        .explained("Lets the ticked profiles cast spells from this book.");
+        .explained("Lets the ticked profiles cast these spells.");
 }
 
 std::vector<std::string> pieces(const std::string& text)
