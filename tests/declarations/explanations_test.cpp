@@ -99,13 +99,13 @@ Unexplained unexplainedOf(const std::vector<Node>& nodes, const HubProfiles& pro
     return all;
 }
 
-/// Whether a word is of a file and not of an owner: a key such as "bFlatRC", a table or a path.
+/// Whether a word is of a file and not of an owner: a key such as "bFlatRC", or a path.
 bool isOfAFile(std::string_view word)
 {
     const auto isUpper = [](char character) { return character >= 'A' && character <= 'Z'; };
     const bool isKey = word.size() > 2 && std::string_view("bist").find(word[0]) != std::string_view::npos &&
                        isUpper(word[1]);
-    return isKey || word.find('\\') != std::string_view::npos || word.find(".tbl") != std::string_view::npos;
+    return isKey || word.find('\\') != std::string_view::npos;
 }
 
 bool namesAFile(std::string_view sentence)
@@ -149,7 +149,7 @@ protected:
     test::Hub hub;
 };
 
-/// The same settings, one of them without a sentence, in all the kinds of parts.
+/// The same settings, one of them with a sentence, in all the kinds of parts.
 FormDeclaration formOfEachKind()
 {
     const auto file = [] {
@@ -181,15 +181,15 @@ TEST_F(Explanations, AreMissingWhereTheLabelSaysAll)
         {"CustomiseUser", {{"settings", 2}}},
         {"Games", {{"settings", 60}}},
 
-        {"Arcade", {{"settings", 2}, {"lists", 1}, {"grids", 1}}},
-        {"Bookshelf", {{"settings", 2}, {"lists", 1}, {"grids", 1}}},
-        {"DVDRack", {{"settings", 2}, {"lists", 1}, {"grids", 1}}},
-        {"General", {{"settings", 8}, {"lists", 1}, {"ticks", 2}}},
-        {"Hyperlink", {{"settings", 2}, {"lists", 1}, {"grids", 2}}},
-        {"Jukebox", {{"settings", 2}, {"lists", 1}, {"grids", 1}}},
-        {"Security", {{"settings", 67}, {"lists", 9}, {"grids", 3}, {"ticks", 1}, {"texts", 2}}},
-        {"Songbook", {{"settings", 2}, {"lists", 1}, {"grids", 1}}},
-        {"UserActions", {{"settings", 23}, {"lists", 20}}},
+        {"Arcade", {{"settings", 2}}},
+        {"Bookshelf", {{"settings", 2}}},
+        {"DVDRack", {{"settings", 2}}},
+        {"General", {{"settings", 1}}},
+        {"Hyperlink", {{"settings", 2}}},
+        {"Jukebox", {{"settings", 2}}},
+        {"Security", {{"settings", 16}, {"grids", 1}}},
+        {"Songbook", {{"settings", 2}}},
+        {"UserActions", {{"settings", 13}}},
     };
     EXPECT_EQ(unexplainedOf(functionNodes(), hub.profiles), held);
 }
