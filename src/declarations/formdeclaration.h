@@ -150,6 +150,13 @@ struct DeclaredText
     std::string_view explanation{}; ///< what the text does for the hub's users, in a sentence
 };
 
+/// What a control that nobody declares does for the hub's users, in a sentence.
+struct ControlExplanation
+{
+    std::string control;
+    std::string_view explanation;
+};
+
 /// A part that only its function has. What it is made of, as far as that is declared, is told for those who
 /// walk over all declarations.
 struct OwnPart
@@ -158,6 +165,7 @@ struct OwnPart
     std::size_t which = 0; ///< of several of that kind, as their function counts them
     std::function<std::vector<TableFile>()> files{};
     std::function<std::vector<RowListDeclaration>()> lists{};
+    std::vector<ControlExplanation> explanations{}; ///< of controls that are in neither
 };
 
 using PartDeclaration = std::variant<DeclaredSettings, DeclaredList, DeclaredLists, DeclaredTexts,
@@ -172,6 +180,9 @@ struct FormDeclaration
 
 /// Every form that is built.
 using FormCatalogue = std::vector<FormDeclaration>;
+
+/// The declared settings files of a form's part.
+std::vector<TableFile> settingsFilesOf(const PartDeclaration& part);
 
 /// A list that is the same at every hub.
 DeclaredList listPart(std::function<RowListDeclaration()> list, ListPartKind kind = ListPartKind::Plain);

@@ -223,11 +223,14 @@ bool offersDownload(const SettingsFiles& files, std::string_view programVersion)
 
 FunctionDeclaration newsFunction()
 {
-    return {.nodes = {
-                {.key = "General~News",
-                 .caption = "News Archive",
-                 .form = {{{"frmGeneralNews", "General ~ News", {6000, 4500}}, {OwnPart{OwnPartKind::News}}}},
-                 .dropDown = "News"}}};
+    const OwnPart part = {
+        .kind = OwnPartKind::News,
+        .explanations = {
+            {"lvwNews", "Each row is an article that was fetched; a deleted one does not come back."}}};
+    return {.nodes = {{.key = "General~News",
+                       .caption = "News Archive",
+                       .form = {{{"frmGeneralNews", "General ~ News", {6000, 4500}}, {part}}},
+                       .dropDown = "News"}}};
 }
 
 } // namespace quillfen

@@ -105,12 +105,22 @@ void savePortalSettings(const SettingsFiles& files, const PortalSettings& settin
 
 FunctionDeclaration portalFunction()
 {
+    const OwnPart part = {
+        .kind = OwnPartKind::Portal,
+        .explanations = {
+            {"txtTextBox(0)", "Sets the nick that speaks on both hubs."},
+            {"txtTextBox(1)", "Sets the description of that nick on both hubs."},
+            {"txtTextBox(2)", "Sets the email address of that nick on both hubs."},
+            {"txtTextBox(3)", "Is only kept: no hub is told of it."},
+            {"lvwHubs", "Each row is a hub whose main chat is passed on to the other; a tick logs in to it."},
+            {"lvwNicks", "Each row is a nick whose words are not passed on to the other hub."},
+        }};
     const FormDescription form = {.name = "frmCommunicationPortal",
                                   .caption = "Communication ~ Portal",
                                   .minimumSize = {6000, 6600},
                                   .hasRestore = false,
                                   .isLoadedOnce = true};
-    return {.nodes = {{"Communication~Portal", "Portal", {{form, {OwnPart{OwnPartKind::Portal}}}}}}};
+    return {.nodes = {{"Communication~Portal", "Portal", {{form, {part}}}}}};
 }
 
 } // namespace quillfen

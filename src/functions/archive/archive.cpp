@@ -192,6 +192,7 @@ GridWords permissionWords()
     words.columns = {"Command", "Profile", "Setting"};
     words.targets = false;
     words.clickToggles = true;
+    words.explanation = "Lets the profile use the command on this collection.";
     return words;
 }
 
@@ -201,6 +202,7 @@ GridWords rightClickWords()
     // A press of this button doesn't take its filter off: only a button of the key COMMAND does so.
     words.commandFilter = "RIGHTCLICK";
     words.commandFilterTip = "View By Right Click";
+    words.explanation = "Gives the profile the right clicks of this kind.";
     return words;
 }
 
@@ -274,6 +276,8 @@ RowListDeclaration announcements()
     RowListDeclaration list = listOf("Announcement", Fewest::None);
     list.list = "lvwWeek";
     list.toolbar = "tlbWeek";
+    list.explanation =
+        "Each row is a time at which the link of the week is announced, in main chat or by private message.";
     list.columns = {"Date", "Time", "Location"};
     list.menu = "mnuFirst";
     list.dialog.form = EditForm::FourCombos;
@@ -354,7 +358,10 @@ FunctionDeclaration archiveFunction(std::size_t member)
         return FormDescription{"frm" + each.word + name, each.word + " ~ " + caption, size};
     };
     const OwnPart week = {
-        OwnPartKind::LinkOfTheWeek, member, {}, [] { return std::vector{announcements()}; }};
+        .kind = OwnPartKind::LinkOfTheWeek,
+        .which = member,
+        .lists = [] { return std::vector{announcements()}; },
+        .explanations = {{"txtChangeTime", "Sets the day and time at which the link of the week changes."}}};
     return {
         .nodes = {
             {each.word, each.word},

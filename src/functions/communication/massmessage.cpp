@@ -45,7 +45,8 @@ const TableFile& massMessageSettings()
         R"(Communication\MassMessage\MassMessageSettings.tbl)",
         "tMassMessageSettings",
         {
-            setting::profileFlags("tEnabledPassiveProfiles", "lvwEnabledProfiles", "Immune Passive Profiles"),
+            setting::profileFlags("tEnabledPassiveProfiles", "lvwEnabledProfiles", "Immune Passive Profiles")
+                .explained("Spares the ticked profiles the passive mass messages."),
         },
     };
     return file;
@@ -94,10 +95,14 @@ FunctionDeclaration massMessageFunction()
                                   .caption = "Communication ~ MassMessage",
                                   .hasRestore = false,
                                   .reloadsAfterSave = true};
+    const OwnPart part = {
+        .kind = OwnPartKind::MassMessage,
+        .files = [] { return std::vector{massMessageSettings()}; },
+        .explanations = {
+            {"lvwPermissions",
+             "Lets users of the acting profile send mass messages to users of the target profile."}}};
     return {
-        .nodes = {{"Communication~MassMessage",
-                   "Mass Message",
-                   {{form, {OwnPart{OwnPartKind::MassMessage}}}}}},
+        .nodes = {{"Communication~MassMessage", "Mass Message", {{form, {part}}}}},
         .folders = {R"(Communication\MassMessage)"},
         .build = {rebuildMassMessage, EmptyTable{R"(Communication\MassMessage\MassMessagePassiveImmune.tbl)",
                                                  "tMassMessagePassiveImmune"}}};

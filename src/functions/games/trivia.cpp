@@ -1,5 +1,6 @@
 #include "functions/games/trivia.h"
 
+#include "declarations/oddfiles.h"
 #include "functions/games/shared/questions.h"
 #include "functions/games/shared/quizpattern.h"
 #include "functions/games/shared/wordlist.h"
@@ -84,6 +85,7 @@ ListedFiles triviaQuestionLists()
     ListedFiles files;
     files.names.list = "lvwQuestionFiles";
     files.names.toolbar = "tlbQuestionFiles";
+    files.names.explanation = "Each row is a file of questions that the game can ask.";
     files.names.columns = {"Available Question Files"};
     files.names.menu = "mnuFirst";
     files.names.dialog.addTitle = "Enter filename";
@@ -92,6 +94,7 @@ ListedFiles triviaQuestionLists()
                             "There must be a minimum of one Question File"};
     files.rows.list = "lvwQuestions";
     files.rows.toolbar = "tlbQuestions";
+    files.rows.explanation = "Each row is a question with its category and its answer.";
     files.rows.columns = {"Questions", "Answers"};
     files.rows.menu = "mnuTriviaQuestions";
     files.rows.dialog.form = EditForm::ThreeFields;
@@ -171,6 +174,10 @@ FunctionDeclaration triviaFunction()
                                        .minimumSize = {12000, 7500},
                                        .hasRestore = false,
                                        .isLoadedOnce = true};
+    const auto lists = [] {
+        const ListedFiles files = triviaQuestionLists();
+        return std::vector{files.names, files.rows};
+    };
     FunctionDeclaration function = quizFunction("Trivia", "Trivia", triviaSettings);
     function.nodes = {{"Games~Trivia", "Trivia"},
                       {"Games~Trivia~Settings", "Settings",
@@ -178,9 +185,7 @@ FunctionDeclaration triviaFunction()
                        "Trivia ~ Settings"},
                       {"Games~Trivia~Questions",
                        "Questions",
-                       {{questions,
-                         {OwnPart{.kind = OwnPartKind::TriviaQuestions,
-                                  .lists = [] { return std::vector{triviaQuestionLists().rows}; }}}}},
+                       {{questions, {OwnPart{.kind = OwnPartKind::TriviaQuestions, .lists = lists}}}},
                        "Trivia ~ Questions"}};
     function.folders.push_back(R"(Games\Trivia\QuestionFiles)");
     function.build.emplace_back(makeFirstQuestions);

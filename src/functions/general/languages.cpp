@@ -23,6 +23,8 @@ constexpr LanguageSet sets[] = {
         .deleteRefusal = "DEFAULT Command File cannot be deleted",
         .editTitle = "Edit Command",
         .editLabel = "Command",
+        .namesExplained = "Each row is a language for the command words, and the ticked one is in use.",
+        .textsExplained = "Each row is a command and the word for it in the open language.",
     },
     {
         .form = "frmLanguageRightClick",
@@ -39,6 +41,8 @@ constexpr LanguageSet sets[] = {
         .deleteRefusal = "DEFAULT RightClick cannot be deleted",
         .editTitle = "Edit RightClick",
         .editLabel = "RightClick",
+        .namesExplained = "Each row is a language for the right click menus, and the ticked one is in use.",
+        .textsExplained = "Each row is a text of the right click menus in the open language.",
     },
     {
         .form = "frmLanguageMessages",
@@ -55,6 +59,8 @@ constexpr LanguageSet sets[] = {
         .deleteRefusal = "DEFAULT Command File cannot be deleted",
         .editTitle = "Edit Message",
         .editLabel = "Message",
+        .namesExplained = "Each row is a language for the messages to users, and the ticked one is in use.",
+        .textsExplained = "Each row is a message to users in the open language.",
     },
 };
 
@@ -74,9 +80,10 @@ Node languageNode(const std::string& key, const std::string& caption, std::size_
 {
     FormDescription form = {std::string(sets[set].form), std::string(sets[set].caption), {10500, 6000}};
     form.isLoadedOnce = true;
+    const auto lists = [set] { return std::vector{languageLists(sets[set]).names}; };
     return {.key = key,
             .caption = caption,
-            .form = {{form, {OwnPart{OwnPartKind::Languages, set}}}},
+            .form = {{form, {OwnPart{.kind = OwnPartKind::Languages, .which = set, .lists = lists}}}},
             .dropDown = "Language~" + caption,
             .above = "General~Language"}; // the keys came before their heading
 }
@@ -93,6 +100,7 @@ ListedFiles languageLists(const LanguageSet& set)
     ListedFiles files;
     files.names.list = "lvwFiles";
     files.names.toolbar = "tlbFiles";
+    files.names.explanation = set.namesExplained;
     files.names.columns = {"Languages"};
     files.names.ticks = true;
     files.names.menu = "mnuFirst";
@@ -105,6 +113,7 @@ ListedFiles languageLists(const LanguageSet& set)
     };
     files.rows.list = "lvwTexts";
     files.rows.toolbar = "tlbTexts";
+    files.rows.explanation = set.textsExplained;
     files.rows.columns = {std::string(set.keyColumn), std::string(set.textColumn)};
     files.rows.dialog.editTitle = set.editTitle;
     files.rows.dialog.labels = {std::string(set.editLabel)};

@@ -20,9 +20,10 @@ std::string rulesFile(std::size_t row)
 
 FunctionDeclaration rulesFunction()
 {
-    return {.nodes = {{"Security~Rules",
-                       "Rules",
-                       {{{"frmSecurityRules", "Security ~ Rules"}, {OwnPart{OwnPartKind::Rules}}}}}},
+    const OwnPart part = {
+        .kind = OwnPartKind::Rules,
+        .explanations = {{"lvwRules", "Each row is a profile with a rules text of its own."}}};
+    return {.nodes = {{"Security~Rules", "Rules", {{{"frmSecurityRules", "Security ~ Rules"}, {part}}}}},
             .folders = {R"(Security\Rules)", R"(Security\Rules\Ascii)"},
             .build = {makeRules}};
 }

@@ -5,6 +5,7 @@
 #include <QTreeView>
 
 #include <functional>
+#include <map>
 #include <vector>
 
 namespace quillfen {
@@ -61,6 +62,12 @@ public:
     /// Off where a click does something of its own, which a double click is to do once.
     void setDoubleClickEdits(bool edits) { m_doubleClickEdits = edits; }
 
+    /// Shows a sign at the end of each of these rows, with what it means. They last until rows come or go.
+    void setSigns(const std::map<int, QString>& signs);
+
+    /// What a row's sign means; empty for a row without one.
+    QString signOf(int row) const;
+
     /// The widths of the first columns, where they are known without a look at the rows.
     void setColumnWidths(const std::vector<int>& widths);
 
@@ -93,6 +100,9 @@ protected:
     void rowsAboutToBeRemoved(const QModelIndex& parent, int start, int end) override;
     QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index,
                                                          const QEvent* event) const override;
+    void drawRow(QPainter* painter, const QStyleOptionViewItem& option,
+                 const QModelIndex& index) const override;
+    bool viewportEvent(QEvent* event) override;
 
 private:
     bool isSelected(int row) const;
@@ -109,6 +119,7 @@ private:
     std::function<QStringList(int row)> m_copiedCells;
     QString m_typed; ///< what was typed to find a row, until a pause
     QElapsedTimer m_sinceTyped;
+    std::map<int, QString> m_signs;
     bool m_selectsFirst = true;
     bool m_doubleClickEdits = true;
     bool m_fitted = false;    ///< the columns got their widths from the first rows that came
