@@ -166,6 +166,7 @@ TEST_F(ListFilters, OnlyTicksInSightAreSetTogether)
     auto& form = openRightClicks({"a", "b", "ab"});
     auto& list = find<RowList>(form, "lvwCustomRightClicks");
     filter(list, "b");
+    list.setFocus();
     QTest::keyClick(&list, Qt::Key_A, Qt::ControlModifier);
     EXPECT_FALSE(list.rows()[0].checked);
     EXPECT_TRUE(list.rows()[1].checked);

@@ -182,6 +182,14 @@ protected:
             dialog.close();
     }
 
+    /// A box that was closed leaves no window active here.
+    static void focus(ListView& list)
+    {
+        list.window()->activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(list.window()));
+        list.setFocus();
+    }
+
     /// Shows only the rows of a list that hold the first word of its first row, and all of them again.
     static void filterAndShowAll(ListView& list)
     {
@@ -195,7 +203,7 @@ protected:
         };
         const auto rows = static_cast<std::size_t>(list.model()->rowCount());
         const QString word = textOf(0).section(QRegularExpression("\\s"), 0, 0, QString::SectionSkipEmpty);
-        list.setFocus();
+        focus(list);
         QTest::keyClick(&list, Qt::Key_F, Qt::ControlModifier | Qt::ShiftModifier);
         auto& line = find<QLineEdit>(list, "txtFilter");
         EXPECT_TRUE(line.hasFocus());
@@ -223,7 +231,7 @@ protected:
     static Pasted copyAndPaste(ListView& list)
     {
         list.select(0);
-        list.setFocus();
+        focus(list);
         QApplication::clipboard()->clear();
         QTest::keyClick(&list, Qt::Key_C, Qt::ControlModifier);
         EXPECT_EQ(QApplication::clipboard()->text().count('\n'), 1);
