@@ -185,7 +185,13 @@ FunctionDeclaration triviaFunction()
                        "Trivia ~ Settings"},
                       {"Games~Trivia~Questions",
                        "Questions",
-                       {{questions, {OwnPart{.kind = OwnPartKind::TriviaQuestions, .lists = lists}}}},
+                       {{questions,
+                         {OwnPart{.kind = OwnPartKind::TriviaQuestions,
+                                  .lists = lists,
+                                  .explanations = {{"cboQuestionFileDefault",
+                                                    {},
+                                                    std::string(questionFilesPath),
+                                                    std::string(defaultKey)}}}}}},
                        "Trivia ~ Questions"}};
     function.folders.push_back(R"(Games\Trivia\QuestionFiles)");
     function.build.emplace_back(makeFirstQuestions);

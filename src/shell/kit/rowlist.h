@@ -21,6 +21,10 @@ public:
     const std::vector<CellRow>& rows() const;
     bool isEmpty() const { return rows().empty(); }
     void setRows(std::vector<CellRow> rows);
+
+    /// Whether a button of its own saves the list, and the form's SAVE doesn't.
+    bool isSavedByItself() const { return m_savedByItself; }
+    void setSavedByItself() { m_savedByItself = true; }
     void append(CellRow row);
     void replace(int row, CellRow cells);
     void remove(int row);
@@ -37,6 +41,7 @@ signals:
 
 private:
     RowModel* m_rows;
+    bool m_savedByItself = false;
 };
 
 } // namespace quillfen

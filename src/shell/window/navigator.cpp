@@ -2,6 +2,7 @@
 
 #include "shell/kit/listview.h"
 #include "shell/kit/toolbars.h"
+#include "shell/window/changedicon.h"
 #include "shell/window/navigatortable.h"
 
 #include <QHash>
@@ -161,6 +162,12 @@ void Navigator::follow(const QString& key)
         m_missed = item;
     else if (item)
         m_tree->setCurrentItem(item); // opens the closed groups above it, and no other
+}
+
+void Navigator::markChanged(const QString& key, bool isChanged)
+{
+    if (auto* item = nodeOf(key))
+        item->setIcon(0, isChanged ? changedDot() : QIcon());
 }
 
 void Navigator::find()

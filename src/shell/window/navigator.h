@@ -36,6 +36,9 @@ public:
     /// comes with the whole tree.
     void follow(const QString& key);
 
+    /// Shows by a dot at a node that its form has something to save, or takes the dot away.
+    void markChanged(const QString& key, bool isChanged);
+
     /// Lets the user type what to look for.
     void find();
 
