@@ -17,6 +17,7 @@
 #include <QLabel>
 #include <QScopedValueRollback>
 #include <QScrollArea>
+#include <QShortcut>
 #include <QStatusBar>
 #include <QTextDocument>
 #include <QToolButton>
@@ -77,6 +78,10 @@ EditorForm::EditorForm(const FormDescription& description, DraftStore& store)
     connect(button(*m_toolbar, "SAVE"), &QAction::triggered, this, &EditorForm::save);
     connectButton(*m_toolbar, "DISCARD", this, &EditorForm::discard);
     connectButton(*m_toolbar, "RESTORE", this, &EditorForm::restore);
+
+    connect(new QShortcut(Qt::CTRL | Qt::SHIFT | Qt::Key_F, this, nullptr, nullptr,
+                          Qt::WidgetWithChildrenShortcut),
+            &QShortcut::activated, this, [this] { openNearestFilter(*m_frame); });
 
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins({});
