@@ -36,6 +36,24 @@ std::vector<std::string> loadIgnoreNicks(const SettingsFiles& files)
     return nicks;
 }
 
+/// All but the passwords, which no other place than the form's own shows.
+std::vector<PlacedText> placedTexts(const SettingsFiles& files, const HubProfiles& /*profiles*/)
+{
+    const PortalSettings settings = loadPortalSettings(files);
+    std::vector<PlacedText> texts;
+    const auto add = [&texts](const std::string& control, std::size_t row, const std::string& label,
+                              const std::string& text) {
+        texts.push_back({std::string(file), control, static_cast<int>(row), label, text});
+    };
+    for (std::size_t at = 0; at < settings.user.size(); ++at)
+        add("txtTextBox(" + std::to_string(at) + ')', 0, portalLabels[at], settings.user[at]);
+    for (std::size_t row = 0; row < settings.hubs.size(); ++row)
+        add("lvwHubs", row, "Hub Settings", settings.hubs[row].address + " | " + settings.hubs[row].port);
+    for (std::size_t row = 0; row < settings.ignoreNicks.size(); ++row)
+        add("lvwNicks", row, "Nicks To Ignore", settings.ignoreNicks[row]);
+    return texts;
+}
+
 bool precedes(std::string_view one, std::string_view other)
 {
     const auto lower = [](char character) {
@@ -110,7 +128,8 @@ FunctionDeclaration portalFunction()
                                   .minimumSize = {6000, 6600},
                                   .hasRestore = false,
                                   .isLoadedOnce = true};
-    return {.nodes = {{"Communication~Portal", "Portal", {{form, {OwnPart{OwnPartKind::Portal}}}}}}};
+    const OwnPart part = {.kind = OwnPartKind::Portal, .texts = placedTexts};
+    return {.nodes = {{"Communication~Portal", "Portal", {{form, {part}}}}}};
 }
 
 } // namespace quillfen

@@ -204,6 +204,21 @@ GridWords rightClickWords()
     return words;
 }
 
+std::vector<PlacedText> placedTexts(const ArchiveMember& member, const SettingsFiles& files)
+{
+    const std::string path = pathOf(member, itemOfTheWeek);
+    const LinkOfTheWeek link = loadLinkOfTheWeek(member, files);
+    std::vector<PlacedText> texts = {
+        {path, "chkCheckBox(0)", -1, "Enable Link of Week", link.enabled == "1" ? "on" : "off"},
+        {path, "txtChangeTime", -1, "Change Time", link.changeTime}};
+    for (std::size_t row = 0; row < link.announcements.size(); ++row) {
+        const auto& cells = link.announcements[row].cells;
+        texts.push_back({path, "lvwWeek", static_cast<int>(row), "Date",
+                         cells[Date] + " | " + cells[Time] + " | " + cells[Location]});
+    }
+    return texts;
+}
+
 /// Who voted is forgotten by each rebuild.
 void forgetVoters(const SettingsFiles& files, const HubProfiles& /*profiles*/)
 {
@@ -353,8 +368,11 @@ FunctionDeclaration archiveFunction(std::size_t member)
     const auto form = [&each](const std::string& name, const std::string& caption, Twips size = gridSize) {
         return FormDescription{"frm" + each.word + name, each.word + " ~ " + caption, size};
     };
-    const OwnPart week = {
-        OwnPartKind::LinkOfTheWeek, member, {}, [] { return std::vector{announcements()}; }};
+    const OwnPart week = {.kind = OwnPartKind::LinkOfTheWeek,
+                          .which = member,
+                          .lists = [] { return std::vector{announcements()}; },
+                          .texts = [&each](const SettingsFiles& files,
+                                           const HubProfiles&) { return placedTexts(each, files); }};
     return {
         .nodes = {
             {each.word, each.word},

@@ -60,12 +60,19 @@ std::string gallowsFile(int stage)
 
 FunctionDeclaration hangmanFunction()
 {
+    const OwnPart gallows = {.kind = OwnPartKind::Gallows,
+                             .texts = [](const SettingsFiles& /*files*/, const HubProfiles&) {
+                                 std::vector<PlacedText> texts;
+                                 for (int stage = 0; stage <= lastGallowsStage; ++stage)
+                                     texts.push_back({gallowsFile(stage), "sldAscii", -1, "Ascii", ""});
+                                 return texts;
+                             }};
     FunctionDeclaration function = quizFunction("Hangman", "Hangman", hangmanSettings);
     function.nodes = {{"Games~Hangman",
                        "Hangman",
                        {{{"frmGamesHangman", "Games ~ Hangman"},
                          {DeclaredSettings{hangmanSettings, SettingsPartKind::Hangman},
-                          listPart(hangmanWords, ListPartKind::Words), OwnPart{OwnPartKind::Gallows}}}}}};
+                          listPart(hangmanWords, ListPartKind::Words), gallows}}}}};
     function.folders.push_back(R"(Games\Hangman\Ascii)");
     function.build.emplace_back(FirstText{wordsPath, firstWord});
     for (int stage = 0; stage <= lastGallowsStage; ++stage)
