@@ -178,6 +178,15 @@ void showDialogs(quillfen::MainWindow& window, const quillfen::SettingsFiles& fi
         });
 }
 
+/// What the find box finds, in place of the tree.
+void showFound(quillfen::MainWindow& window, Tour& tour)
+{
+    auto* box = window.findChild<QLineEdit*>("txtFind");
+    box->setText("kick ban time");
+    tour.portrait(*box->parentWidget(), "found");
+    box->clear();
+}
+
 QPalette paletteNamed(const QString& name)
 {
     if (name == "light")
@@ -224,6 +233,7 @@ int main(int argc, char** argv)
         walk(window, tour);
     } else {
         tour.portrait(window, "main-window");
+        showFound(window, tour);
         showForms(window, tour);
         showDialogs(window, {disk, quillfen::SettingsPaths(scripts.toStdString())}, tour);
     }

@@ -41,7 +41,7 @@ std::vector<PlacedText> placedTexts(const SettingsFiles& files, const HubProfile
 {
     const std::string passive(passiveMessageFile);
     std::vector<PlacedText> texts = {
-        {passive, "tlbListview", -1, "Passive File", files.ReadTextFile(passive)}};
+        {passive, "lvwPermissions", -1, "Passive File", files.ReadTextFile(passive)}};
     const auto targets = static_cast<int>(profiles.count() + massMessageTargets().size());
     for (std::size_t by = 0; by < profiles.count(); ++by)
         texts.push_back({massMessageSettings().path, "lvwPermissions", static_cast<int>(by) * targets,

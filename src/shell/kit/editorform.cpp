@@ -1,6 +1,7 @@
 #include "shell/kit/editorform.h"
 
 #include "shell/kit/codepagetext.h"
+#include "shell/kit/listview.h"
 #include "shell/kit/messages.h"
 #include "shell/kit/toolbars.h"
 #include "shell/kit/units.h"
@@ -48,6 +49,7 @@ EditorForm::EditorForm(const FormDescription& description, DraftStore& store)
       m_store(store),
       m_toolbar(new QToolBar),
       m_frame(new QFrame),
+      m_scroller(new FrameScroller(m_frame)),
       m_statusBar(new QStatusBar)
 {
     setObjectName(fromBytes(description.name));
@@ -75,7 +77,7 @@ EditorForm::EditorForm(const FormDescription& description, DraftStore& store)
     layout->setContentsMargins({});
     layout->setSpacing(0);
     layout->addWidget(m_toolbar);
-    layout->addWidget(new FrameScroller(m_frame), 1);
+    layout->addWidget(m_scroller, 1);
     layout->addWidget(m_statusBar);
 }
 
@@ -139,6 +141,22 @@ void EditorForm::fillSecondPanel()
     auto* panel = m_statusBar->findChildren<QLabel*>(Qt::FindDirectChildrenOnly).at(1);
     panel->setText(text);
     panel->setToolTip(text.isEmpty() ? QString() : Qt::convertFromPlainText(text));
+}
+
+void EditorForm::goTo(QWidget& control, int row)
+{
+    m_scroller->ensureWidgetVisible(&control);
+    if (auto* list = qobject_cast<ListView*>(&control); list && row >= 0) {
+        list->select(row);
+        list->scrollTo(list->currentIndex());
+    }
+    control.setFocus(Qt::OtherFocusReason);
+}
+
+void EditorForm::goTo(const QString& control, int row)
+{
+    if (auto* found = m_frame->findChild<QWidget*>(control))
+        goTo(*found, row);
 }
 
 void EditorForm::open()

@@ -15,6 +15,7 @@
 #include <vector>
 
 class QFrame;
+class QScrollArea;
 class QStatusBar;
 class QToolBar;
 
@@ -58,6 +59,12 @@ public:
     /// Shows in the second status panel why no version of what was replaced last was kept; empty if one was.
     void tellVersionFault(const QString& fault);
 
+    /// Brings a control into sight and gives it the focus; of a list, a row too, which is counted from 0.
+    void goTo(QWidget& control, int row = -1);
+
+    /// The same by the control's name. Nothing happens where there is none of it.
+    void goTo(const QString& control, int row = -1);
+
     bool isDirty() const { return bDirty; }
     QString caption() const { return windowTitle(); }
 
@@ -96,6 +103,7 @@ private:
     QString m_tag;
     QToolBar* m_toolbar;
     QFrame* m_frame;
+    QScrollArea* m_scroller;
     QStatusBar* m_statusBar;
     std::vector<FormPart*> m_parts;
     RoutineTable m_routines;
