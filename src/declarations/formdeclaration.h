@@ -186,6 +186,9 @@ struct FormDeclaration
 /// Every form that is built.
 using FormCatalogue = std::vector<FormDeclaration>;
 
+/// The declared settings files of a form's part.
+std::vector<TableFile> settingsFilesOf(const PartDeclaration& part);
+
 /// A list that is the same at every hub.
 DeclaredList listPart(std::function<RowListDeclaration()> list, ListPartKind kind = ListPartKind::Plain);
 

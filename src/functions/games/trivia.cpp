@@ -1,5 +1,6 @@
 #include "functions/games/trivia.h"
 
+#include "declarations/oddfiles.h"
 #include "functions/games/shared/questions.h"
 #include "functions/games/shared/quizpattern.h"
 #include "functions/games/shared/wordlist.h"

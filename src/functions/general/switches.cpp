@@ -1,5 +1,8 @@
 #include "functions/general/switches.h"
 
+#include "declarations/oddfiles.h"
+#include "settings/lines.h"
+
 #include <algorithm>
 #include <array>
 
@@ -109,9 +112,23 @@ std::string_view switchHelp(std::string_view name)
     return function == functions.end() ? std::string_view() : function->help;
 }
 
+std::string_view switchOf(std::string_view nodeKey)
+{
+    const auto group = splitOnce(nodeKey, '~');
+    std::string_view word = splitOnce(group.right, '~').left;
+    while (word.starts_with(' '))
+        word.remove_prefix(1);
+    if (word == "Flooder") // the tree and the hub script call it by two names
+        word = "Flood";
+    const auto* const function =
+        std::find_if(functions.begin(), functions.end(),
+                     [word](const SwitchedFunction& each) { return each.name == word; });
+    return function == functions.end() ? std::string_view() : function->name;
+}
+
 const ListFile& switchesFile()
 {
-    static const ListFile file = {R"(General\Globals\Switches.tbl)", "tSwitches", ListFile::Form::Flags};
+    static const ListFile file = {switchesPath, "tSwitches", ListFile::Form::Flags};
     return file;
 }
 

@@ -1,5 +1,6 @@
 #include "functions/security/clientchecker.h"
 
+#include "declarations/oddfiles.h"
 #include "functions/security/shared/actions.h"
 #include "settings/lines.h"
 

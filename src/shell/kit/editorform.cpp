@@ -1,6 +1,7 @@
 #include "shell/kit/editorform.h"
 
 #include "shell/kit/codepagetext.h"
+#include "shell/kit/formadvice.h"
 #include "shell/kit/listview.h"
 #include "shell/kit/messages.h"
 #include "shell/kit/toolbars.h"
@@ -68,6 +69,7 @@ EditorForm::EditorForm(const FormDescription& description, DraftStore& store)
     if (!description.hasRestore)
         removeButton(*m_toolbar, "RESTORE");
     PlaceChildForm(*m_statusBar);
+    secondPanel()->installEventFilter(this);
     addAction(button(*m_toolbar, "SAVE")); // its shortcut works in the whole form
     connect(button(*m_toolbar, "SAVE"), &QAction::triggered, this, &EditorForm::save);
     connectButton(*m_toolbar, "DISCARD", this, &EditorForm::discard);
@@ -132,15 +134,45 @@ QString EditorForm::secondPanelText() const
 {
     if (!m_changedFile.isEmpty())
         return m_changedFile + " changed on disk; SAVE replaces it, DISCARD reads it";
-    return m_versionFault.isEmpty() ? m_note : "No version was kept: " + m_versionFault;
+    if (!m_versionFault.isEmpty())
+        return "No version was kept: " + m_versionFault;
+    const QString advice = m_advice ? m_advice->words() : QString();
+    return advice.isEmpty() ? m_note : advice;
+}
+
+QLabel* EditorForm::secondPanel() const
+{
+    return m_statusBar->findChildren<QLabel*>(Qt::FindDirectChildrenOnly).at(1);
 }
 
 void EditorForm::fillSecondPanel()
 {
     const QString text = secondPanelText();
-    auto* panel = m_statusBar->findChildren<QLabel*>(Qt::FindDirectChildrenOnly).at(1);
+    auto* panel = secondPanel();
     panel->setText(text);
     panel->setToolTip(text.isEmpty() ? QString() : Qt::convertFromPlainText(text));
+    const bool leads = m_advice && !text.isEmpty() && text == m_advice->words();
+    panel->setCursor(leads ? Qt::PointingHandCursor : Qt::ArrowCursor);
+}
+
+void EditorForm::adviseOf(const FormDeclaration& declaration, const FormContext& context)
+{
+    m_advice = new FormAdvice(declaration, context, *this);
+    connect(m_advice, &FormAdvice::changed, this, &EditorForm::fillSecondPanel);
+    for (FormPart* part : m_parts)
+        connect(part, &FormPart::openFileChanged, m_advice, &FormAdvice::lookSoon);
+    auto* next = new QAction(this);
+    next->setShortcut(Qt::Key_F8);
+    next->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+    addAction(next);
+    connect(next, &QAction::triggered, m_advice, &FormAdvice::goToNext);
+}
+
+bool EditorForm::eventFilter(QObject* watched, QEvent* event)
+{
+    if (m_advice && watched == secondPanel() && event->type() == QEvent::MouseButtonRelease)
+        m_advice->goToNext();
+    return QWidget::eventFilter(watched, event);
 }
 
 void EditorForm::goTo(QWidget& control, int row)
@@ -188,10 +220,18 @@ void EditorForm::focusFirstControl()
     }
 }
 
+void EditorForm::adviseSoon()
+{
+    if (m_advice)
+        m_advice->lookSoon();
+}
+
 void EditorForm::markDirty()
 {
-    if (!m_loading)
-        bDirty = SetControlsDirty(*m_toolbar, *m_statusBar);
+    if (m_loading)
+        return;
+    bDirty = SetControlsDirty(*m_toolbar, *m_statusBar);
+    adviseSoon();
 }
 
 void EditorForm::load()
@@ -208,6 +248,7 @@ void EditorForm::load()
     }
     m_files = record.files();
     tellChangedFile({});
+    adviseSoon();
     emit loaded();
 }
 
@@ -252,6 +293,7 @@ void EditorForm::save()
     if (!attempt(this, saving(caption()), [this] { commitParts(); }))
         return;
     tellChangedFile({});
+    adviseSoon();
     if (m_description.reloadsAfterSave)
         load();
     bDirty = SetControlsClean(*m_toolbar, *m_statusBar);

@@ -15,11 +15,14 @@
 #include <vector>
 
 class QFrame;
+class QLabel;
 class QScrollArea;
 class QStatusBar;
 class QToolBar;
 
 namespace quillfen {
+
+class FormAdvice;
 
 /// An editor form: its toolbar, its parts in a frame that scrolls where there is too little room for them,
 /// its status bar, and the cycle of load, change, save, discard, restore and close. It alone knows whether
@@ -59,11 +62,22 @@ public:
     /// Shows in the second status panel why no version of what was replaced last was kept; empty if one was.
     void tellVersionFault(const QString& fault);
 
+    /// From now on says what is wrong with what it would save.
+    void adviseOf(const FormDeclaration& declaration, const FormContext& context);
+
+    /// What it says; null for a form that was not told to.
+    FormAdvice* advice() const { return m_advice; }
+
+    const std::vector<FormPart*>& parts() const { return m_parts; }
+
     /// Brings a control into sight and gives it the focus; of a list, a row too, which is counted from 0.
     void goTo(QWidget& control, int row = -1);
 
     /// The same by the control's name. Nothing happens where there is none of it.
     void goTo(const QString& control, int row = -1);
+
+    /// Whether all of it was loaded.
+    bool isWhole() const { return !m_loading && m_notLoaded.isEmpty(); }
 
     bool isDirty() const { return bDirty; }
     QString caption() const { return windowTitle(); }
@@ -80,6 +94,7 @@ signals:
 
 protected:
     void closeEvent(QCloseEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     QSize leastSize() const;
@@ -91,14 +106,17 @@ private:
     void discard();
     void restore();
     void markDirty();
+    void adviseSoon();
     void showNote(const QString& text);
     void tellChangedFile(const QString& name);
     QString secondPanelText() const;
+    QLabel* secondPanel() const;
     void fillSecondPanel();
     bool confirmDiscard();
 
     FormDescription m_description;
     DraftStore& m_store;
+    FormAdvice* m_advice = nullptr;
     std::map<std::string, FileMark> m_files;
     QString m_tag;
     QToolBar* m_toolbar;

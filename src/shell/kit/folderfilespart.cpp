@@ -62,6 +62,14 @@ void FolderFilesPart::load()
                   : "Not listed: " + unlisted.join(", ") + " (the hub script can't read such a name)");
 }
 
+std::vector<EditedText> FolderFilesPart::editedTexts()
+{
+    std::vector<EditedText> all;
+    for (const CellRow& row : rows())
+        all.push_back({textFile(m_folder, row.cells[0]), &list(), static_cast<int>(all.size())});
+    return all;
+}
+
 bool FolderFilesPart::isGoodName(const std::string& name)
 {
     // Only the typed name is lowered: it is refused for a row "hello", and not for a row "Hello".

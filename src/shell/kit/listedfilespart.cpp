@@ -67,6 +67,9 @@ ListedFilesPart::ListedFilesPart(ListedFiles files, const FormContext& context, 
                                        {"EDIT", &ListedFilesPart::openSelected}});
     m_rows->tools().connectButtons(
         this, {{"SAVE", &ListedFilesPart::saveFile}, {"CLOSE", &ListedFilesPart::closeFile}});
+    connect(&rowTool("SAVE"), &QAction::changed, this, &FormPart::openFileChanged);
+    connect(&m_rows->list(), &RowList::countChanged, this, &FormPart::openFileChanged);
+    connect(m_rows->list().model(), &QAbstractItemModel::dataChanged, this, &FormPart::openFileChanged);
 }
 
 void ListedFilesPart::load()
@@ -77,6 +80,11 @@ void ListedFilesPart::load()
 void ListedFilesPart::save()
 {
     m_files.names.save(m_context.files, m_context.profiles, m_names->rows());
+}
+
+bool ListedFilesPart::hasUnsavedFile() const
+{
+    return !m_rows->rows().empty() && rowTool("SAVE").isEnabled();
 }
 
 RoutineTable ListedFilesPart::routines()

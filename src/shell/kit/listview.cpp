@@ -1,9 +1,14 @@
 #include "shell/kit/listview.h"
 
+#include "shell/kit/controlsign.h"
+
 #include <QContextMenuEvent>
 #include <QHeaderView>
+#include <QHelpEvent>
 #include <QKeyEvent>
 #include <QScrollBar>
+#include <QTextDocument>
+#include <QToolTip>
 
 #include <algorithm>
 
@@ -60,6 +65,46 @@ void ListView::setModel(QAbstractItemModel* model)
     connect(model, &QAbstractItemModel::modelReset, this, &ListView::fitColumns);
     connect(model, &QAbstractItemModel::modelReset, this, &ListView::selectFirst);
     connect(model, &QAbstractItemModel::rowsInserted, this, &ListView::selectFirst);
+    const auto forget = [this] { setSigns({}); };
+    connect(model, &QAbstractItemModel::modelReset, this, forget);
+    connect(model, &QAbstractItemModel::rowsInserted, this, forget);
+    connect(model, &QAbstractItemModel::rowsRemoved, this, forget);
+    connect(model, &QAbstractItemModel::rowsMoved, this, forget);
+}
+
+void ListView::setSigns(const std::map<int, QString>& signs)
+{
+    if (m_signs == signs)
+        return;
+    m_signs = signs;
+    viewport()->update();
+}
+
+QString ListView::signOf(int row) const
+{
+    const auto sign = m_signs.find(row);
+    return sign == m_signs.end() ? QString() : sign->second;
+}
+
+void ListView::drawRow(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const
+{
+    QTreeView::drawRow(painter, option, index);
+    if (!signOf(index.row()).isEmpty())
+        drawSign(*painter, {viewport()->width() - signSize - 3, option.rect.center().y() - signSize / 2,
+                            signSize, signSize});
+}
+
+bool ListView::viewportEvent(QEvent* event)
+{
+    if (event->type() == QEvent::ToolTip) {
+        const auto* help = static_cast<QHelpEvent*>(event);
+        const QString sign = signOf(indexAt(help->pos()).row());
+        if (!sign.isEmpty()) {
+            QToolTip::showText(help->globalPos(), Qt::convertFromPlainText(sign), viewport());
+            return true;
+        }
+    }
+    return QTreeView::viewportEvent(event);
 }
 
 void ListView::selectFirst()

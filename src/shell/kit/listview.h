@@ -3,6 +3,7 @@
 #include <QStyledItemDelegate>
 #include <QTreeView>
 
+#include <map>
 #include <vector>
 
 namespace quillfen {
@@ -38,6 +39,12 @@ public:
     /// Off where a click does something of its own, which a double click is to do once.
     void setDoubleClickEdits(bool edits) { m_doubleClickEdits = edits; }
 
+    /// Shows a sign at the end of each of these rows, with what it means. They last until rows come or go.
+    void setSigns(const std::map<int, QString>& signs);
+
+    /// What a row's sign means; empty for a row without one.
+    QString signOf(int row) const;
+
     /// The widths of the first columns, where they are known without a look at the rows.
     void setColumnWidths(const std::vector<int>& widths);
 
@@ -58,11 +65,15 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
+    void drawRow(QPainter* painter, const QStyleOptionViewItem& option,
+                 const QModelIndex& index) const override;
+    bool viewportEvent(QEvent* event) override;
 
 private:
     void fitColumns();
     void selectFirst();
 
+    std::map<int, QString> m_signs;
     bool m_selectsFirst = true;
     bool m_doubleClickEdits = true;
     bool m_fitted = false;    ///< the columns got their widths from the first rows that came

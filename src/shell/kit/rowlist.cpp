@@ -84,6 +84,8 @@ public:
             return column < row.cells.size() ? shownPart(row.cells[column]) : QString();
         if (role == Qt::CheckStateRole && m_ticks && column == 0)
             return row.checked ? Qt::Checked : Qt::Unchecked;
+        if (role == Qt::AccessibleDescriptionRole)
+            return m_list.signOf(index.row());
         if (role == Qt::FontRole && row.bold) {
             QFont font = m_list.font();
             font.setBold(true);

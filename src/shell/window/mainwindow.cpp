@@ -1,10 +1,13 @@
 #include "shell/window/mainwindow.h"
 
+#include "declarations/oddfiles.h"
 #include "settings/lines.h"
 #include "settings/tablefile.h"
 #include "shell/icons/icons.h"
 #include "shell/kit/codepagetext.h"
+#include "shell/kit/formadvice.h"
 #include "shell/kit/hourglass.h"
+#include "shell/kit/listview.h"
 #include "shell/kit/messages.h"
 #include "shell/kit/toolbars.h"
 #include "shell/kit/units.h"
@@ -38,7 +41,7 @@ namespace {
 /// No routine writes this switch: the owner puts it into the file by hand.
 bool isPortalOn(const SettingsFiles& files)
 {
-    return isOne(files.ReadTableValue(R"(General\Globals\Switches.tbl)", "bPortal"));
+    return isOne(files.ReadTableValue(switchesPath, "bPortal"));
 }
 
 QAction* addItem(QMenu& menu, const QString& name, const QString& caption)
@@ -126,6 +129,7 @@ MainWindow::MainWindow(const ProgramInfo& program, const FormContext& context, c
     m_finder.setPortalShown(portalShown);
     m_navigator = new Navigator(m_table, m_finder, portalShown);
     connect(m_navigator, &Navigator::found, this, &MainWindow::openFound);
+    connect(m_rootMenu, &RootMenu::findingChosen, this, &MainWindow::goToFinding);
     connect(m_navigator, &Navigator::rootMenuAsked, m_rootMenu, &RootMenu::popUp);
     connect(m_navigator, &Navigator::chosen, this, [this] { OpenFunctionForm(QString()); });
     buildMenus();
@@ -166,6 +170,30 @@ MainWindow::~MainWindow()
 void MainWindow::offerVersions(History& history)
 {
     m_rootMenu->offerVersions(history);
+}
+
+void MainWindow::offerCheck(SettingsCheck check)
+{
+    m_rootMenu->offerCheck(std::move(check));
+}
+
+void MainWindow::goToFinding(const QString& node, const Finding& finding)
+{
+    OpenFunctionForm(node);
+    activateWindow();
+    if (auto* form = activeForm(); form && form->advice())
+        form->advice()->goTo(finding);
+}
+
+void MainWindow::goToRow(const QString& node, const QString& list, const QString& row)
+{
+    OpenFunctionForm(node);
+    auto* view = activeForm()->findChild<ListView*>(list);
+    if (!view)
+        return;
+    const auto found = view->model()->match(view->model()->index(0, 0), Qt::DisplayRole, row, 1,
+                                            Qt::MatchExactly | Qt::MatchCaseSensitive);
+    activeForm()->goTo(*view, found.isEmpty() ? -1 : found.constFirst().row());
 }
 
 QList<EditorForm*> MainWindow::openForms() const
@@ -308,6 +336,8 @@ void MainWindow::showForm(EditorForm* form)
         before->showNormal(); // else Qt hands its state on to the new window before that has got its size
     auto* window = m_area->addSubWindow(form);
     connect(form, &EditorForm::loaded, this, &MainWindow::followFiles);
+    if (form->advice())
+        connect(form->advice(), &FormAdvice::elsewhereAsked, this, &MainWindow::goToRow);
     followFiles();
     window->setWindowIcon(themedIcon("quillfen"));
     window->setAttribute(Qt::WA_DeleteOnClose);

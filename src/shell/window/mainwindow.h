@@ -16,6 +16,8 @@ class QToolBar;
 
 namespace quillfen {
 
+struct Finding;
+struct SettingsCheck;
 class FileWatch;
 class History;
 class Navigator;
@@ -43,6 +45,9 @@ public:
     /// From now on offers the earlier versions of the settings.
     void offerVersions(History& history);
 
+    /// From now on offers the check of all settings.
+    void offerCheck(SettingsCheck check);
+
     const COpenWindows& openWindows() const { return m_openWindows; }
 
     /// The borrowed right-click menu of a name.
@@ -57,6 +62,8 @@ private:
     void followFiles();
     QList<EditorForm*> openForms() const;
     void addToolbar(bool portalShown);
+    void goToFinding(const QString& node, const Finding& finding);
+    void goToRow(const QString& node, const QString& list, const QString& row);
     EditorForm* formOf(const QString& key);
     void openFound(const QString& key, const QString& control, int row);
     QMdiSubWindow* subWindowOf(const QString& name) const;
