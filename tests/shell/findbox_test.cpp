@@ -1,3 +1,5 @@
+#include "find/findforms.h"
+#include "portal/portalsettings.h"
 #include "shell/kit/listview.h"
 #include "support/formtest.h"
 
@@ -147,6 +149,42 @@ TEST_F(FindBox, AFormThatIsOpenIsBroughtForwardToTheControl)
     EXPECT_EQ(openKeys(), (QStringList{"Security~Kicks~Settings", "Games~Anagrams"}));
     auto* focused = QApplication::focusWidget();
     EXPECT_TRUE(focused->findChild<QLineEdit*>("txtUpDown(0)")) << focusName().toStdString();
+}
+
+/// The rows of a list's control; none of any other one.
+int rowsOf(const QWidget& control)
+{
+    const auto* list = qobject_cast<const QTreeView*>(&control);
+    return list ? list->model()->rowCount() : 0;
+}
+
+TEST_F(FindBox, EveryPlaceInTheIndexIsThereInItsForm)
+{
+    hub.store.folders.insert(hub.root + "/Communication/Portal");
+    savePortalSettings(hub.files, {{"nick", "about", "mail", "ip"}, {{"hub:1", "secret", "2"}}, {"gnu"}});
+    std::map<std::string, std::set<std::pair<std::string, int>>> places;
+    std::vector<FindableForm> findable;
+    for (const FormDeclaration& form : forms)
+        findable.push_back({form.form.name, form.form.caption, &form});
+    const FindIndex index = indexOfForms(findable, hub.files, hub.profiles);
+    for (const char* letter : {"a", "e", "i", "o", "u", "0", "1", "t"}) {
+        for (const FindHit& hit : index.find(FindQuery(letter), index.size()).hits) {
+            if (!hit.place.control.empty())
+                places[hit.place.key].emplace(hit.place.control, hit.place.row);
+        }
+    }
+    EXPECT_GT(places.size(), 90U);
+    for (const Node& node : functionNodes()) {
+        if (!node.form)
+            continue;
+        auto& form = open(node.key.c_str());
+        for (const auto& [control, row] : places[node.form->form.name]) {
+            const auto* widget = form.findChild<QWidget*>(QString::fromStdString(control));
+            ASSERT_TRUE(widget) << node.key << ' ' << control;
+            EXPECT_LT(row, std::max(1, rowsOf(*widget))) << node.key << ' ' << control;
+        }
+        close(form);
+    }
 }
 
 TEST_F(FindBox, AClickOpensARow)

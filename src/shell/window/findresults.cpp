@@ -79,8 +79,6 @@ MarkedLine withMarkInSight(MarkedLine line, const QFontMetrics& font, int width)
 /// Draws the two lines of a row, the marked stretches bold on a ground of their own.
 class FoundDelegate : public QStyledItemDelegate
 {
-    Q_OBJECT
-
 public:
     using QStyledItemDelegate::QStyledItemDelegate;
 
@@ -228,5 +226,3 @@ void FindResults::choose()
 }
 
 } // namespace quillfen
-
-#include "findresults.moc"

@@ -1,5 +1,6 @@
 #include "shell/window/navigator.h"
 
+#include "shell/kit/codepagetext.h"
 #include "shell/kit/listview.h"
 #include "shell/kit/toolbars.h"
 #include "shell/window/finder.h"
@@ -95,6 +96,7 @@ void Navigator::buildFindBox()
     m_find->setPlaceholderText("Find any setting (" +
                                QKeySequence(QKeySequence::Find).toString(QKeySequence::NativeText) + ')');
     m_find->setClearButtonEnabled(true);
+    limitToOneLine(*m_find);
     m_find->installEventFilter(this);
     m_results->list().installEventFilter(this);
     connect(m_find, &QLineEdit::textChanged, this, &Navigator::search);
