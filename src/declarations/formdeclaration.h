@@ -160,6 +160,13 @@ struct PlacedText
     std::string text; ///< may have several lines
 };
 
+/// What a control that nobody declares does for the hub's users, in a sentence.
+struct ControlExplanation
+{
+    std::string control;
+    std::string_view explanation;
+};
+
 /// A part that only its function has. What it is made of, as far as that is declared, is told for those who
 /// walk over all declarations.
 struct OwnPart
@@ -168,6 +175,7 @@ struct OwnPart
     std::size_t which = 0; ///< of several of that kind, as their function counts them
     std::function<std::vector<TableFile>()> files{};
     std::function<std::vector<RowListDeclaration>()> lists{};
+    std::vector<ControlExplanation> explanations{}; ///< of controls that are in neither
 
     /// What can be found in it besides those.
     std::function<std::vector<PlacedText>(const SettingsFiles&, const HubProfiles&)> texts{};

@@ -77,6 +77,16 @@ Texts detailsOf(const RowListDeclaration& list)
     return filled(details);
 }
 
+Texts explanationsOf(const OwnPart& own, const std::string& control)
+{
+    Texts explanations;
+    for (const ControlExplanation& each : own.explanations) {
+        if (each.control == control)
+            explanations.push_back(each.explanation);
+    }
+    return explanations;
+}
+
 /// Puts one form into an index.
 class FormWalk
 {
@@ -335,7 +345,8 @@ void FormWalk::take(const OwnPart& own)
         const std::size_t parent = fileEntry(text.file);
         auto [entry, isNew] = settings.try_emplace({text.control, text.label});
         if (isNew)
-            entry->second = add(parent, FindKind::Control, {{}, text.control}, text.label);
+            entry->second = add(parent, FindKind::Control, {{}, text.control}, text.label, {},
+                                explanationsOf(own, text.control));
         takeLines(entry->second, {{}, text.control, text.row}, text.text);
     }
 }

@@ -224,12 +224,15 @@ bool offersDownload(const SettingsFiles& files, std::string_view programVersion)
 FunctionDeclaration newsFunction()
 {
     const OwnPart part = {
-        .kind = OwnPartKind::News, .texts = [](const SettingsFiles& files, const HubProfiles&) {
-            std::vector<PlacedText> texts;
+        .kind = OwnPartKind::News,
+        .explanations = {{"lvwNews",
+                          "Each row is an article that was fetched; a deleted one does not come back."}},
+        .texts = [](const SettingsFiles& files, const HubProfiles&) {
+            std::vector<PlacedText> texts = {{"", "lvwNews", -1, "News Headline", ""}};
+            int row = 0;
             for (const NewsArticle& each : loadNews(files)) {
-                const auto row = static_cast<int>(texts.size());
                 const std::string text = each.date + " | " + each.headline + " | " + each.story;
-                texts.push_back({"", "lvwNews", row, "News Headline", text});
+                texts.push_back({"", "lvwNews", row++, "News Headline", text});
             }
             return texts;
         }};

@@ -40,10 +40,12 @@ std::vector<std::string> loadIgnoreNicks(const SettingsFiles& files)
 std::vector<PlacedText> placedTexts(const SettingsFiles& files, const HubProfiles& /*profiles*/)
 {
     const PortalSettings settings = loadPortalSettings(files);
-    std::vector<PlacedText> texts;
-    const auto add = [&texts](const std::string& control, std::size_t row, const std::string& label,
-                              const std::string& text) {
-        texts.push_back({std::string(file), control, static_cast<int>(row), label, text});
+    const std::string path(file);
+    std::vector<PlacedText> texts = {{path, "lvwHubs", -1, "Hub Settings", ""},
+                                     {path, "lvwNicks", -1, "Nicks To Ignore", ""}};
+    const auto add = [&](const std::string& control, std::size_t row, const std::string& label,
+                         const std::string& text) {
+        texts.push_back({path, control, static_cast<int>(row), label, text});
     };
     for (std::size_t at = 0; at < settings.user.size(); ++at)
         add("txtTextBox(" + std::to_string(at) + ')', 0, portalLabels[at], settings.user[at]);
@@ -123,12 +125,24 @@ void savePortalSettings(const SettingsFiles& files, const PortalSettings& settin
 
 FunctionDeclaration portalFunction()
 {
+    const OwnPart part = {
+        .kind = OwnPartKind::Portal,
+        .explanations =
+            {
+                {"txtTextBox(0)", "Sets the nick that speaks on both hubs."},
+                {"txtTextBox(1)", "Sets the description of that nick on both hubs."},
+                {"txtTextBox(2)", "Sets the email address of that nick on both hubs."},
+                {"txtTextBox(3)", "Is only kept: no hub is told of it."},
+                {"lvwHubs",
+                 "Each row is a hub whose main chat is passed on to the other; a tick logs in to it."},
+                {"lvwNicks", "Each row is a nick whose words are not passed on to the other hub."},
+            },
+        .texts = placedTexts};
     const FormDescription form = {.name = "frmCommunicationPortal",
                                   .caption = "Communication ~ Portal",
                                   .minimumSize = {6000, 6600},
                                   .hasRestore = false,
                                   .isLoadedOnce = true};
-    const OwnPart part = {.kind = OwnPartKind::Portal, .texts = placedTexts};
     return {.nodes = {{"Communication~Portal", "Portal", {{form, {part}}}}}};
 }
 

@@ -192,6 +192,7 @@ GridWords permissionWords()
     words.columns = {"Command", "Profile", "Setting"};
     words.targets = false;
     words.clickToggles = true;
+    words.explanation = "Lets the profile use the command on this collection.";
     return words;
 }
 
@@ -201,6 +202,7 @@ GridWords rightClickWords()
     // A press of this button doesn't take its filter off: only a button of the key COMMAND does so.
     words.commandFilter = "RIGHTCLICK";
     words.commandFilterTip = "View By Right Click";
+    words.explanation = "Gives the profile the right clicks of this kind.";
     return words;
 }
 
@@ -289,6 +291,8 @@ RowListDeclaration announcements()
     RowListDeclaration list = listOf("Announcement", Fewest::None);
     list.list = "lvwWeek";
     list.toolbar = "tlbWeek";
+    list.explanation =
+        "Each row is a time at which the link of the week is announced, in main chat or by private message.";
     list.columns = {"Date", "Time", "Location"};
     list.menu = "mnuFirst";
     list.dialog.form = EditForm::FourCombos;
@@ -368,11 +372,13 @@ FunctionDeclaration archiveFunction(std::size_t member)
     const auto form = [&each](const std::string& name, const std::string& caption, Twips size = gridSize) {
         return FormDescription{"frm" + each.word + name, each.word + " ~ " + caption, size};
     };
-    const OwnPart week = {.kind = OwnPartKind::LinkOfTheWeek,
-                          .which = member,
-                          .lists = [] { return std::vector{announcements()}; },
-                          .texts = [&each](const SettingsFiles& files,
-                                           const HubProfiles&) { return placedTexts(each, files); }};
+    const OwnPart week = {
+        .kind = OwnPartKind::LinkOfTheWeek,
+        .which = member,
+        .lists = [] { return std::vector{announcements()}; },
+        .explanations = {{"txtChangeTime", "Sets the day and time at which the link of the week changes."}},
+        .texts = [&each](const SettingsFiles& files,
+                         const HubProfiles&) { return placedTexts(each, files); }};
     return {
         .nodes = {
             {each.word, each.word},

@@ -57,7 +57,8 @@ const TableFile& massMessageSettings()
         R"(Communication\MassMessage\MassMessageSettings.tbl)",
         "tMassMessageSettings",
         {
-            setting::profileFlags("tEnabledPassiveProfiles", "lvwEnabledProfiles", "Immune Passive Profiles"),
+            setting::profileFlags("tEnabledPassiveProfiles", "lvwEnabledProfiles", "Immune Passive Profiles")
+                .explained("Spares the ticked profiles the passive mass messages."),
         },
     };
     return file;
@@ -106,9 +107,13 @@ FunctionDeclaration massMessageFunction()
                                   .caption = "Communication ~ MassMessage",
                                   .hasRestore = false,
                                   .reloadsAfterSave = true};
-    const OwnPart part = {.kind = OwnPartKind::MassMessage,
-                          .files = [] { return std::vector{massMessageSettings()}; },
-                          .texts = placedTexts};
+    const OwnPart part = {
+        .kind = OwnPartKind::MassMessage,
+        .files = [] { return std::vector{massMessageSettings()}; },
+        .explanations =
+            {{"lvwPermissions",
+              "Lets users of the acting profile send mass messages to users of the target profile."}},
+        .texts = placedTexts};
     return {
         .nodes = {{"Communication~MassMessage", "Mass Message", {{form, {part}}}}},
         .folders = {R"(Communication\MassMessage)"},

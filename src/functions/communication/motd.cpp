@@ -93,9 +93,14 @@ FunctionDeclaration motdFunction()
 {
     const FormDescription form = {
         .name = "frmCommunicationMOTD", .caption = "Communication ~ MOTD", .hasRestore = false};
-    return {.nodes = {{"Communication~MOTD",
-                       "Message Of The Day",
-                       {{form, {OwnPart{.kind = OwnPartKind::MessageOfTheDay, .texts = placedMotds}}}}}},
+    const OwnPart part = {
+        .kind = OwnPartKind::MessageOfTheDay,
+        .explanations =
+            {{"lvwMOTD",
+              "Each ticked row is a profile whose users get its message on login, in main chat or by private "
+              "message; the last is for everybody."}},
+        .texts = placedMotds};
+    return {.nodes = {{"Communication~MOTD", "Message Of The Day", {{form, {part}}}}},
             .folders = {R"(Communication\MOTD)", R"(Communication\MOTD\MOTDs)"},
             .build = {rebuildMotds}};
 }

@@ -1,6 +1,7 @@
 #include "functions/games/russianroulette.h"
 
 #include "functions/games/shared/comments.h"
+#include "functions/games/shared/playinmain.h"
 
 namespace quillfen {
 namespace {
@@ -19,13 +20,15 @@ const CommentList live = {{R"(Games\RussianRoulette\RussianRouletteLive.tbl)", "
                           "tlbLive",
                           "Live",
                           "mnuFirst",
-                          "Win"};
+                          "Win",
+                          "Each row is a comment on a player who survives."};
 const CommentList die = {{R"(Games\RussianRoulette\RussianRouletteDie.tbl)", "tRussianRouletteDie"},
                          "lvwDie",
                          "tlbDie",
                          "Die",
                          "mnuSecond",
-                         "Lose"};
+                         "Lose",
+                         "Each row is a comment on a player who dies."};
 
 } // namespace
 
@@ -34,7 +37,8 @@ const TableFile& russianRouletteSettings()
     static const TableFile file = {
         R"(Games\RussianRoulette\RussianRouletteSettings.tbl)",
         "tRussianRouletteSettings",
-        {setting::flag("bInMain", "chkPlayInMain", "Play In Main", true), chambers()},
+        {setting::flag("bInMain", "chkPlayInMain", "Play In Main", true).explained(playsInMainChat),
+         chambers()},
     };
     return file;
 }

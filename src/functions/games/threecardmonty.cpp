@@ -1,6 +1,7 @@
 #include "functions/games/threecardmonty.h"
 
 #include "functions/games/shared/comments.h"
+#include "functions/games/shared/playinmain.h"
 
 namespace quillfen {
 namespace {
@@ -18,13 +19,15 @@ const CommentList win = {{R"(Games\ThreeCardMonty\ThreeCardMontyWin.tbl)", "tThr
                          "tlbWin",
                          "Win",
                          "mnuFirst",
-                         "Win"};
+                         "Win",
+                         "Each row is a comment on a player who wins."};
 const CommentList lose = {{R"(Games\ThreeCardMonty\ThreeCardMontyLose.tbl)", "tThreeCardMontyLose"},
                           "lvwLose",
                           "tlbLose",
                           "Lose",
                           "mnuSecond",
-                          "Lose"};
+                          "Lose",
+                          "Each row is a comment on a player who loses."};
 
 } // namespace
 
@@ -33,7 +36,7 @@ const TableFile& threeCardMontySettings()
     static const TableFile file = {
         R"(Games\ThreeCardMonty\ThreeCardMontySettings.tbl)",
         "tThreeCardMontySettings",
-        {setting::flag("bPlayInMain", "chkPlayInMain", "Play In Main", true),
+        {setting::flag("bPlayInMain", "chkPlayInMain", "Play In Main", true).explained(playsInMainChat),
          setting::number("iWager", "txtUpDown(0)", "Wager", 1, 1, 50),
          setting::number("iMarker", "txtUpDown(1)", "Marker", 25, 10, 500), deal()},
     };

@@ -107,6 +107,7 @@ ListedFiles triviaQuestionLists()
     ListedFiles files;
     files.names.list = "lvwQuestionFiles";
     files.names.toolbar = "tlbQuestionFiles";
+    files.names.explanation = "Each row is a file of questions that the game can ask.";
     files.names.columns = {"Available Question Files"};
     files.names.menu = "mnuFirst";
     files.names.dialog.addTitle = "Enter filename";
@@ -115,6 +116,7 @@ ListedFiles triviaQuestionLists()
                             "There must be a minimum of one Question File"};
     files.rows.list = "lvwQuestions";
     files.rows.toolbar = "tlbQuestions";
+    files.rows.explanation = "Each row is a question with its category and its answer.";
     files.rows.columns = {"Questions", "Answers"};
     files.rows.menu = "mnuTriviaQuestions";
     files.rows.dialog.form = EditForm::ThreeFields;
@@ -194,18 +196,20 @@ FunctionDeclaration triviaFunction()
                                        .minimumSize = {12000, 7500},
                                        .hasRestore = false,
                                        .isLoadedOnce = true};
+    const auto lists = [] {
+        const ListedFiles files = triviaQuestionLists();
+        return std::vector{files.names, files.rows};
+    };
     FunctionDeclaration function = quizFunction("Trivia", "Trivia", triviaSettings);
-    function.nodes = {{"Games~Trivia", "Trivia"},
-                      {"Games~Trivia~Settings", "Settings",
-                       settingsForm({"frmGamesTrivia", "Games ~ Trivia ~ Settings"}, triviaSettings),
-                       "Trivia ~ Settings"},
-                      {"Games~Trivia~Questions",
-                       "Questions",
-                       {{questions,
-                         {OwnPart{.kind = OwnPartKind::TriviaQuestions,
-                                  .lists = [] { return std::vector{triviaQuestionLists().rows}; },
-                                  .texts = placedQuestions}}}},
-                       "Trivia ~ Questions"}};
+    function.nodes = {
+        {"Games~Trivia", "Trivia"},
+        {"Games~Trivia~Settings", "Settings",
+         settingsForm({"frmGamesTrivia", "Games ~ Trivia ~ Settings"}, triviaSettings), "Trivia ~ Settings"},
+        {"Games~Trivia~Questions",
+         "Questions",
+         {{questions,
+           {OwnPart{.kind = OwnPartKind::TriviaQuestions, .lists = lists, .texts = placedQuestions}}}},
+         "Trivia ~ Questions"}};
     function.folders.push_back(R"(Games\Trivia\QuestionFiles)");
     function.build.emplace_back(makeFirstQuestions);
     return function;

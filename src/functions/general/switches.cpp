@@ -90,10 +90,15 @@ void resetEnabledRightClicks(const SettingsFiles& files, const HubProfiles& /*pr
 }
 
 /// The script's functions with a tick each. A click on one shows its help.
-FormDeclaration switchesForm(const FormDescription& form, const ListFile& (*file)())
+FormDeclaration switchesForm(const FormDescription& form, const ListFile& (*file)(),
+                             std::string_view explanation)
 {
-    return {form, {DeclaredTicks{[file] {
-                return TickList{"lvwSwitches", "Functions", file(), switchHelp};
+    return {form, {DeclaredTicks{[file, explanation] {
+                return TickList{.control = "lvwSwitches",
+                                .caption = "Functions",
+                                .file = file(),
+                                .help = switchHelp,
+                                .explanation = explanation};
             }}}};
 }
 
@@ -141,13 +146,14 @@ const ListFile& enabledRightClicksFile()
 
 FunctionDeclaration switchesFunction()
 {
-    return {
-        .nodes = {{"General~Switches", "Switches",
-                   switchesForm({"frmGeneralSwitches", "General ~ Switches", {3165, 3450}}, switchesFile)},
-                  {"General~EnabledRightClicks", "Enabled Right Clicks",
-                   switchesForm({"frmGeneralRightClicks", "General ~ Right Clicks", {3165, 3450}},
-                                enabledRightClicksFile)}},
-        .build = {resetSwitches, resetEnabledRightClicks}};
+    return {.nodes = {{"General~Switches", "Switches",
+                       switchesForm({"frmGeneralSwitches", "General ~ Switches", {3165, 3450}}, switchesFile,
+                                    "Turns the ticked functions of the hub script on and the others off.")},
+                      {"General~EnabledRightClicks", "Enabled Right Clicks",
+                       switchesForm({"frmGeneralRightClicks", "General ~ Right Clicks", {3165, 3450}},
+                                    enabledRightClicksFile,
+                                    "Gives users the right click entries of the ticked functions.")}},
+            .build = {resetSwitches, resetEnabledRightClicks}};
 }
 
 } // namespace quillfen

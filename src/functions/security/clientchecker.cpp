@@ -53,6 +53,8 @@ RowListDeclaration declaredVersions()
     RowListDeclaration list = listOf("Client", Fewest::One);
     list.list = "lvwClients";
     list.toolbar = "tlbClients";
+    list.explanation =
+        "Each row is a client program, the version that it needs, and whether it may enter the hub.";
     list.columns = {"Client", "Min Version", "Allow"};
     list.menu = "mnuFirst";
     list.dialog.form = EditForm::TwoTextCombo;
@@ -77,7 +79,8 @@ RowListDeclaration declaredVersions()
 TableFile declaredSettings()
 {
     auto types = notRestored(setting::namedFlags("tBlock", "lvwBlockedTypes", "Blocked Connection Types",
-                                                 {"Sockets", "Passive", "Active", "Undeclared"}));
+                                                 {"Sockets", "Passive", "Active", "Undeclared"})
+                                 .explained("Refuses users who connect in a ticked way."));
     types.rebuild.resets = true; // a rebuild opens the hub to every kind of connection again
     return {
         R"(Security\ClientChecker\ClientCheckerSettings.tbl)",
@@ -86,7 +89,8 @@ TableFile declaredSettings()
             banTimeSetting("iBanTime"),
             actionSetting("TempBan"),
             // The key says enabled and the label says exempt: one list, and both words stay.
-            notRestored(setting::profileFlags("tEnabledProfiles", "lvwEnabledProfiles", "Exempt Profiles")),
+            notRestored(setting::profileFlags("tEnabledProfiles", "lvwEnabledProfiles", "Exempt Profiles")
+                            .explained("Sets whom the check covers, by profile.")),
             types,
         },
         {"sAction", "iBanTime", "tBlock", "tEnabledProfiles"},

@@ -29,7 +29,10 @@ std::string rulesFile(std::size_t row)
 
 FunctionDeclaration rulesFunction()
 {
-    const OwnPart part = {.kind = OwnPartKind::Rules, .texts = placedRules};
+    const OwnPart part = {
+        .kind = OwnPartKind::Rules,
+        .explanations = {{"lvwRules", "Each row is a profile with a rules text of its own."}},
+        .texts = placedRules};
     return {.nodes = {{"Security~Rules", "Rules", {{{"frmSecurityRules", "Security ~ Rules"}, {part}}}}},
             .folders = {R"(Security\Rules)", R"(Security\Rules\Ascii)"},
             .build = {makeRules}};

@@ -28,7 +28,8 @@ Setting timeout()
 
 Setting enabledProfiles()
 {
-    return setting::profileFlags("tEnabledProfiles", "lvwEnabledProfiles", "Enabled Profiles");
+    return setting::profileFlags("tEnabledProfiles", "lvwEnabledProfiles", "Enabled Profiles")
+        .explained("Lets the ticked profiles cast these spells.");
 }
 
 std::vector<std::string> pieces(const std::string& text)
@@ -100,11 +101,12 @@ const SpellBook& nickSpellBook()
 
 const TableFile& spellSettings()
 {
-    static const TableFile file = {
-        R"(UserActions\Spells\SpellSettings.tbl)",
-        "tSpellSettings",
-        {setting::flag("bEnableWards", "chkCheckBox(0)", "Enable Wards", true), timeout(), enabledProfiles()},
-        {"iDelay", "bEnableWards", "tEnabledProfiles"}};
+    static const TableFile file = {R"(UserActions\Spells\SpellSettings.tbl)",
+                                   "tSpellSettings",
+                                   {setting::flag("bEnableWards", "chkCheckBox(0)", "Enable Wards", true)
+                                        .explained("Protects the warded users from spells."),
+                                    timeout(), enabledProfiles()},
+                                   {"iDelay", "bEnableWards", "tEnabledProfiles"}};
     return file;
 }
 
@@ -123,6 +125,7 @@ const RowListDeclaration& spellWards()
         list.list = "lvwWards";
         list.toolbar = "tlbWards";
         list.label = "Warded Users";
+        list.explanation = "Each row is a user who is protected from spells while wards are on.";
         list.remark = "Allows IPs beginning with 0 (such as 0.3.6.0)";
         list.columns = {"Warded User"};
         list.menu = "mnuFirst";
@@ -138,6 +141,7 @@ RowListDeclaration spellList(const SpellBook& book)
     RowListDeclaration list = listOf("Spell", Fewest::One);
     list.list = "lvwSpells";
     list.toolbar = "tlbSpells";
+    list.explanation = "Each row is a spell that users can cast.";
     list.columns = {"Spell Name", "Spell Description", "Spell Phrases", "Spell LInes"};
     list.hiddenColumns = 2;
     list.menu = "mnuFirst";
@@ -159,6 +163,7 @@ RowListDeclaration phraseList()
     RowListDeclaration list = listOf("Spell Phrase", Fewest::One);
     list.list = "lvwSpellPhrases";
     list.toolbar = "tlbSpellPhrases";
+    list.explanation = "Each row is a phrase of the spell that is being amended.";
     list.columns = {"Spell Phrase"};
     list.menu = "mnuSecond";
     list.dialog.addTitle = "Add New Spell Phrase";
