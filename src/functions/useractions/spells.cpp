@@ -1,6 +1,7 @@
 #include "functions/useractions/spells.h"
 
 #include "settings/codepage.h"
+#include "settings/filename.h"
 #include "settings/profiles.h"
 
 #include <algorithm>
@@ -57,10 +58,29 @@ std::vector<ListRow> phrasesToWrite(const CellRow& spell)
     return rows;
 }
 
+std::vector<PlacedText> placedPhrases(const SpellBook& book, const SettingsFiles& files,
+                                      const HubProfiles& profiles)
+{
+    std::vector<PlacedText> texts;
+    int place = 0;
+    for (const CellRow& spell : spellList(book).load(files, profiles)) {
+        const std::string& name = spell.cells[SpellName];
+        const bool isReadable = leavingNameFault(name).empty(); // as the form has it
+        for (const CellRow& phrase : isReadable ? loadPhrases(book, name, files) : std::vector<CellRow>())
+            texts.push_back({phraseFile(book, name).path, "lvwSpells", place, "Spell Phrase",
+                             name + ": " + phrase.cells[0]});
+        ++place;
+    }
+    return texts;
+}
+
 FormDeclaration bookForm(const char* name, const char* caption, OwnPartKind kind, const SpellBook& (*book)())
 {
     const auto lists = [book] { return std::vector{spellList(book()), phraseList()}; };
-    return {{name, caption, {10500, 6000}}, {OwnPart{.kind = kind, .lists = lists}}};
+    const auto texts = [book](const SettingsFiles& files, const HubProfiles& profiles) {
+        return placedPhrases(book(), files, profiles);
+    };
+    return {{name, caption, {10500, 6000}}, {OwnPart{.kind = kind, .lists = lists, .texts = texts}}};
 }
 
 } // namespace

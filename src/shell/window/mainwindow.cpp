@@ -127,7 +127,9 @@ MainWindow::MainWindow(const ProgramInfo& program, const FormContext& context, c
 
     const bool portalShown = isPortalOn(context.files);
     addToolbar(portalShown);
-    m_navigator = new Navigator(m_table, portalShown);
+    m_finder.setPortalShown(portalShown);
+    m_navigator = new Navigator(m_table, m_finder, portalShown);
+    connect(m_navigator, &Navigator::found, this, &MainWindow::openFound);
     connect(m_rootMenu, &RootMenu::findingChosen, this, &MainWindow::goToFinding);
     connect(m_navigator, &Navigator::rootMenuAsked, m_rootMenu, &RootMenu::popUp);
     connect(m_navigator, &Navigator::chosen, this, [this] { OpenFunctionForm(QString()); });
@@ -278,7 +280,26 @@ void MainWindow::OpenFunctionForm(const QString& key)
     EditorForm* form = formOf(wanted);
     if (form && !m_openWindows.contains(wanted) && !(fromTree && m_navigator->headingSelected()))
         m_openWindows.Add(wanted);
+    if (form)
+        m_navigator->noteOpened(m_table.keyOfForm(form->objectName()));
     m_windowMenu->RebuildWindowMenu(m_openWindows);
+}
+
+/// A text that has an editor of its own is opened by a button, which is as far as we go.
+void MainWindow::openFound(const QString& key, const QString& control, int row)
+{
+    OpenFunctionForm(key);
+    auto* form = activeForm();
+    if (!form)
+        return;
+    if (auto* entry = entryOf(*form))
+        entry->setFocus(Qt::OtherFocusReason);
+    if (control.isEmpty())
+        return;
+    if (const auto* toolbar = form->findChild<QToolBar*>(control))
+        form->goTo(*toolbar->widgetForAction(toolbar->actions().constFirst()));
+    else
+        form->goTo(control, row);
 }
 
 EditorForm* MainWindow::formOf(const QString& key)
