@@ -4,7 +4,9 @@
 
 #include <QContextMenuEvent>
 #include <QDialog>
+#include <QHelpEvent>
 #include <QMenu>
+#include <QToolTip>
 
 namespace quillfen {
 namespace {
@@ -25,6 +27,24 @@ TEST(ListViewTest, AListThatGetsRowsSelectsTheFirst)
     list.append({{"d"}});
     EXPECT_EQ(list.currentRow(), 0);
     EXPECT_EQ(ticks, 0);
+}
+
+TEST(ListViewTest, ATextTooLongForItsCellHasAToolTip)
+{
+    RowList list("lvwSample", {"Text", "More"}, false);
+    list.setRows({{{"short", "x"}}, {{"a text that is much too long for its cell", "x"}}});
+    list.setColumnWidths({80, 80});
+    list.resize(300, 200);
+    list.show();
+    const auto tipAt = [&list](int row) {
+        QToolTip::hideText();
+        const QPoint at = list.visualRect(list.model()->index(row, 0)).center();
+        QHelpEvent help(QEvent::ToolTip, at, list.viewport()->mapToGlobal(at));
+        QApplication::sendEvent(list.viewport(), &help);
+        return QToolTip::isVisible() ? QToolTip::text() : QString();
+    };
+    EXPECT_EQ(tipAt(1), "<p>a text that is much too long for its cell</p>");
+    EXPECT_EQ(tipAt(0), "");
 }
 
 TEST(ListViewTest, AListWithoutASelectionSelectsItsFirstRowAsItGetsTheFocus)

@@ -106,6 +106,7 @@ protected:
 
 private:
     bool isSelected(int row) const;
+    QString tipOf(const QModelIndex& index) const;
     void fitColumns();
     void selectFirst();
     void applyFilter();
