@@ -164,7 +164,9 @@ struct PlacedText
 struct ControlExplanation
 {
     std::string control;
-    std::string_view explanation;
+    std::string_view explanation; ///< empty where its label says all
+    std::string file{};           ///< a told path, where one file holds it
+    std::string key{};            ///< in that file
 };
 
 /// A part that only its function has. What it is made of, as far as that is declared, is told for those who

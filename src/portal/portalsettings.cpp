@@ -129,10 +129,12 @@ FunctionDeclaration portalFunction()
         .kind = OwnPartKind::Portal,
         .explanations =
             {
-                {"txtTextBox(0)", "Sets the nick that speaks on both hubs."},
-                {"txtTextBox(1)", "Sets the description of that nick on both hubs."},
-                {"txtTextBox(2)", "Sets the email address of that nick on both hubs."},
-                {"txtTextBox(3)", "Is only kept: no hub is told of it."},
+                {"txtTextBox(0)", "Sets the nick that speaks on both hubs.", std::string(file), "sUsername"},
+                {"txtTextBox(1)", "Sets the description of that nick on both hubs.", std::string(file),
+                 "sDescription"},
+                {"txtTextBox(2)", "Sets the email address of that nick on both hubs.", std::string(file),
+                 "sEmail"},
+                {"txtTextBox(3)", "Is only kept: no hub is told of it.", std::string(file), "sClientIP"},
                 {"lvwHubs",
                  "Each row is a hub whose main chat is passed on to the other; a tick logs in to it."},
                 {"lvwNicks", "Each row is a nick whose words are not passed on to the other hub."},

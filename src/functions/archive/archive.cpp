@@ -376,7 +376,9 @@ FunctionDeclaration archiveFunction(std::size_t member)
         .kind = OwnPartKind::LinkOfTheWeek,
         .which = member,
         .lists = [] { return std::vector{announcements()}; },
-        .explanations = {{"txtChangeTime", "Sets the day and time at which the link of the week changes."}},
+        .explanations = {{"chkCheckBox(0)", {}, pathOf(each, itemOfTheWeek), "bEnabled"},
+                         {"txtChangeTime", "Sets the day and time at which the link of the week changes.",
+                          pathOf(each, itemOfTheWeek), "sChangeTime"}},
         .texts = [&each](const SettingsFiles& files,
                          const HubProfiles&) { return placedTexts(each, files); }};
     return {

@@ -208,7 +208,12 @@ FunctionDeclaration triviaFunction()
         {"Games~Trivia~Questions",
          "Questions",
          {{questions,
-           {OwnPart{.kind = OwnPartKind::TriviaQuestions, .lists = lists, .texts = placedQuestions}}}},
+           {OwnPart{
+               .kind = OwnPartKind::TriviaQuestions,
+               .lists = lists,
+               .explanations =
+                   {{"cboQuestionFileDefault", {}, std::string(questionFilesPath), std::string(defaultKey)}},
+               .texts = placedQuestions}}}},
          "Trivia ~ Questions"}};
     function.folders.push_back(R"(Games\Trivia\QuestionFiles)");
     function.build.emplace_back(makeFirstQuestions);

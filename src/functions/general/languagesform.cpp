@@ -64,6 +64,7 @@ LanguagesPart::LanguagesPart(const LanguageSet& set, const FormContext& context)
       m_set(set)
 {
     rows().list().setAccessibleName(fromBytes(set.textColumn));
+    names().setTicksTogether(false); // one language is current
     connect(&names(), &RowList::tickChanged, this, &LanguagesPart::choose);
     connect(&rows().list(), &RowList::editAsked, this, &LanguagesPart::editText);
     rows().tools().connectButtons(this, {{"EDITALL", &LanguagesPart::editAllTexts}});

@@ -28,6 +28,7 @@ GridWords gridWords()
     words.columns[3] = "Allow";
     words.yes = "True";
     words.no = "False";
+    words.targetLink = "of";
     words.explanation =
         "Sets whose registrations a profile may add and delete, and whose passwords it may get and change.";
     return words;

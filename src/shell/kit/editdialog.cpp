@@ -74,6 +74,12 @@ Mode modeOf(const EditRequest& request)
     return mode < modes.size() ? modes[mode] : Mode{""};
 }
 
+bool isRequired(const EditRequest& request, std::size_t number)
+{
+    const std::string_view required = modeOf(request).required;
+    return required.find(static_cast<char>('0' + number)) != std::string_view::npos;
+}
+
 template <typename Value>
 Value valueAt(const std::vector<Value>& values, std::size_t at, const Value& otherwise = {})
 {
@@ -127,8 +133,7 @@ void EditDialog::addField(const EditRequest& request, std::size_t number, char k
     Field field = kind == 'T'   ? textField(value)
                   : kind == 'N' ? numberField(request, value)
                                 : comboField(request, value);
-    const std::string required = modeOf(request).required;
-    field.required = required.find(static_cast<char>('0' + number)) != std::string::npos;
+    field.required = isRequired(request, number);
     if (field.required)
         colourAsRequired(*field.input);
 
@@ -231,6 +236,26 @@ void addRows(QWidget* parent, const EditRequest& request,
         if (answer.gEditResult != EditResult::None)
             take(answer.gEditValues);
     }
+}
+
+std::string fieldsFault(const EditRequest& request, const std::vector<std::string>& values)
+{
+    const std::string_view inputs = inputsOf(request.form);
+    if (values.size() > inputs.size())
+        return "there are more cells than fields, which are " + std::to_string(inputs.size());
+    std::size_t combos = 0;
+    for (std::size_t number = 0; number < inputs.size(); ++number) {
+        const std::string value = valueAt(values, number);
+        const std::string label = valueAt(request.labels, number);
+        if (value.empty() && (number == 0 || isRequired(request, number)))
+            return label + " is missing";
+        if (inputs[number] != 'C')
+            continue;
+        const auto entries = valueAt(request.entries, combos++);
+        if (!value.empty() && std::find(entries.begin(), entries.end(), value) == entries.end())
+            return label + " can't be \"" + value + '"';
+    }
+    return {};
 }
 
 std::string_view inputsOf(EditForm form)

@@ -32,6 +32,7 @@ RowListHooks withRefusal(RowListHooks hooks, const std::function<std::string(con
 RowListHooks fileHooks(const FormContext& context, const std::string& folder)
 {
     RowListHooks hooks;
+    hooks.takesText = false;
     hooks.refuse = [](const CellRow& row) {
         const std::string fault = leavingNameFault(row.cells[0]);
         return fault.empty() ? fault : row.cells[0] + "\n\n" + fault;

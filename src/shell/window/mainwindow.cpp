@@ -12,6 +12,7 @@
 #include "shell/kit/toolbars.h"
 #include "shell/kit/units.h"
 #include "shell/window/aboutbox.h"
+#include "shell/window/changedicon.h"
 #include "shell/window/filewatch.h"
 #include "shell/window/navigator.h"
 #include "shell/window/popupmenus.h"
@@ -340,9 +341,12 @@ void MainWindow::showForm(EditorForm* form)
         connect(form->advice(), &FormAdvice::elsewhereAsked, this, &MainWindow::goToRow);
     followFiles();
     window->setWindowIcon(themedIcon("quillfen"));
+    connect(form, &EditorForm::dirtyChanged, this, [this, form] { showChanged(*form, form->isDirty()); });
     window->setAttribute(Qt::WA_DeleteOnClose);
-    connect(form, &EditorForm::closed, this,
-            [this, form] { FindOpenWindow(form->tag().isEmpty() ? form->caption() : form->tag()); });
+    connect(form, &EditorForm::closed, this, [this, form] {
+        showChanged(*form, false);
+        FindOpenWindow(form->tag().isEmpty() ? form->caption() : form->tag());
+    });
     const int caption =
         window->fontMetrics().horizontalAdvance(form->caption()) + twips(2400); // and its buttons
     window->resize(window->sizeHint()
@@ -353,6 +357,15 @@ void MainWindow::showForm(EditorForm* form)
     if (maximised)
         window->showMaximized();
     bringIntoSight(*window, *m_area);
+}
+
+void MainWindow::showChanged(const EditorForm& form, bool isChanged)
+{
+    const QIcon icon = themedIcon("quillfen");
+    const QString key = m_table.keyOfForm(form.objectName());
+    form.parentWidget()->setWindowIcon(isChanged ? withChangedDot(icon) : icon);
+    m_navigator->markChanged(key, isChanged);
+    m_windowMenu->markChanged(key, isChanged);
 }
 
 void MainWindow::bringForward(QMdiSubWindow& window)

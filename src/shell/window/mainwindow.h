@@ -62,6 +62,7 @@ private:
     void followFiles();
     QList<EditorForm*> openForms() const;
     void addToolbar(bool portalShown);
+    void showChanged(const EditorForm& form, bool isChanged);
     void goToFinding(const QString& node, const Finding& finding);
     void goToRow(const QString& node, const QString& list, const QString& row);
     EditorForm* formOf(const QString& key);

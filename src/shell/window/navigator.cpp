@@ -3,6 +3,7 @@
 #include "shell/kit/codepagetext.h"
 #include "shell/kit/listview.h"
 #include "shell/kit/toolbars.h"
+#include "shell/window/changedicon.h"
 #include "shell/window/finder.h"
 #include "shell/window/findresults.h"
 #include "shell/window/navigatortable.h"
@@ -158,6 +159,12 @@ void Navigator::follow(const QString& key)
 {
     if (auto* item = nodeOf(key))
         m_tree->setCurrentItem(item); // opens the closed groups above it, and no other
+}
+
+void Navigator::markChanged(const QString& key, bool isChanged)
+{
+    if (auto* item = nodeOf(key))
+        item->setIcon(0, isChanged ? changedDot() : QIcon());
 }
 
 void Navigator::noteOpened(const QString& key)

@@ -37,6 +37,9 @@ public:
     /// Selects a key's node and shows it, without choosing it.
     void follow(const QString& key);
 
+    /// Shows by a dot at a node that its form has something to save, or takes the dot away.
+    void markChanged(const QString& key, bool isChanged);
+
     /// Notes that the form of a key was opened: an empty find box offers those that were opened last.
     void noteOpened(const QString& key);
 
