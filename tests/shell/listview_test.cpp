@@ -47,6 +47,20 @@ TEST(ListViewTest, ATextTooLongForItsCellHasAToolTip)
     EXPECT_EQ(tipAt(0), "");
 }
 
+TEST(ListViewTest, AnEmptyListSaysInGreyWhatBelongsThere)
+{
+    RowList list("lvwSample", {"Text"}, false);
+    list.resize(300, 200);
+    const QImage nothing = list.grab().toImage();
+    list.setEmptyText("Each row is a word.");
+    const QImage told = list.grab().toImage();
+    EXPECT_NE(told, nothing);
+    list.setRows({{{"a"}}});
+    const QImage row = list.grab().toImage();
+    list.setEmptyText({});
+    EXPECT_EQ(list.grab().toImage(), row) << "not while there are rows";
+}
+
 TEST(ListViewTest, AListWithoutASelectionSelectsItsFirstRowAsItGetsTheFocus)
 {
     QWidget window;
@@ -97,6 +111,15 @@ TEST(ListViewTest, ARightPressTellsWhetherItIsOnARow)
 class ListsInForms : public test::FormTest
 {
 };
+
+TEST_F(ListsInForms, AnEmptyListTellsHowToAddARow)
+{
+    auto& form = open("Security~BadNickBlocker");
+    const QString text = find<RowList>(form, "lvwBadNickList").emptyText();
+    EXPECT_TRUE(text.endsWith(": the first button, or the Insert key.")) << text.toStdString();
+    auto& words = find<RowList>(open("Games~Anagrams"), "lvwWords");
+    EXPECT_TRUE(words.emptyText().endsWith("Open reads the rows of the file."));
+}
 
 TEST_F(ListsInForms, AFormsListOpensWithItsFirstRowSelectedAndEnterEditsIt)
 {

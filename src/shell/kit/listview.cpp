@@ -11,6 +11,7 @@
 #include <QHelpEvent>
 #include <QKeyEvent>
 #include <QMetaMethod>
+#include <QPainter>
 #include <QScrollBar>
 #include <QToolTip>
 
@@ -157,6 +158,18 @@ bool ListView::viewportEvent(QEvent* event)
         return QTreeView::viewportEvent(event);
     QToolTip::showText(help->globalPos(), toolTipOf(tip), viewport());
     return true;
+}
+
+void ListView::paintEvent(QPaintEvent* event)
+{
+    QTreeView::paintEvent(event);
+    if (m_emptyText.isEmpty() || !model() || model()->rowCount() > 0)
+        return;
+    QPainter painter(viewport());
+    painter.setPen(palette().color(QPalette::PlaceholderText));
+    constexpr int margin = 8;
+    painter.drawText(viewport()->rect().adjusted(margin, margin, -margin, -margin),
+                     Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap, m_emptyText);
 }
 
 /// What a row's sign means, else the text of a cell that is too narrow for it.
