@@ -16,9 +16,15 @@ struct ChangerWords
     std::string text; ///< one of the texts, as dialogs and boxes call it
 };
 
-const ChangerWords topicWords = {"TopicChanger", "lvwTopics", "tlbTopics", "Topics", "Topics", "Topic"};
-const ChangerWords kickBarWords = {"KickBarChanger", "lvwKickBars",    "tlbKickBars",
-                                   "KickBars",       "KickBar Topics", "KickBar"};
+ChangerWords topicWords()
+{
+    return {"TopicChanger", "lvwTopics", "tlbTopics", "Topics", "Topics", "Topic"};
+}
+
+ChangerWords kickBarWords()
+{
+    return {"KickBarChanger", "lvwKickBars", "tlbKickBars", "KickBars", "KickBar Topics", "KickBar"};
+}
 
 std::string pathOf(const ChangerWords& words, const std::string& file)
 {
@@ -57,7 +63,7 @@ FormDeclaration changerForm(const FormDescription& form, const Changer& (*change
 /// loses the owner's topics. The kick bar's build looks in the right place and keeps its texts.
 void emptyTopics(const SettingsFiles& files, const HubProfiles& /*profiles*/)
 {
-    const ListFile texts = textsFile(topicWords);
+    const ListFile texts = textsFile(topicWords());
     if (!files.store().exists(
             files.paths().inSettings(R"(Communication\TopicChanger\TopicChanger\TopicChangerTopics.tbl)")))
         files.WriteSettingsFile(texts.path, TableWriter(texts.table).closed());
@@ -67,13 +73,13 @@ void emptyTopics(const SettingsFiles& files, const HubProfiles& /*profiles*/)
 
 const Changer& topicChanger()
 {
-    static const Changer topics = changer(topicWords);
+    static const Changer topics = changer(topicWords());
     return topics;
 }
 
 const Changer& kickBarChanger()
 {
-    static const Changer kickBars = changer(kickBarWords);
+    static const Changer kickBars = changer(kickBarWords());
     return kickBars;
 }
 
@@ -93,7 +99,7 @@ FunctionDeclaration kickBarChangerFunction()
                                    kickBarChanger)}},
             .folders = {R"(Communication\KickBarChanger)"},
             .build = {RebuiltSettings{[] { return kickBarChanger().settings; }},
-                      emptyTable(textsFile(kickBarWords))}};
+                      emptyTable(textsFile(kickBarWords()))}};
 }
 
 } // namespace quillfen

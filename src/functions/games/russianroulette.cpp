@@ -14,18 +14,25 @@ Setting chambers()
 }
 
 // The boxes speak of winning and losing, as three card monty's do.
-const CommentList live = {{R"(Games\RussianRoulette\RussianRouletteLive.tbl)", "tRussianRouletteLive"},
-                          "lvwLive",
-                          "tlbLive",
-                          "Live",
-                          "mnuFirst",
-                          "Win"};
-const CommentList die = {{R"(Games\RussianRoulette\RussianRouletteDie.tbl)", "tRussianRouletteDie"},
-                         "lvwDie",
-                         "tlbDie",
-                         "Die",
-                         "mnuSecond",
-                         "Lose"};
+CommentList live()
+{
+    return {{R"(Games\RussianRoulette\RussianRouletteLive.tbl)", "tRussianRouletteLive"},
+            "lvwLive",
+            "tlbLive",
+            "Live",
+            "mnuFirst",
+            "Win"};
+}
+
+CommentList die()
+{
+    return {{R"(Games\RussianRoulette\RussianRouletteDie.tbl)", "tRussianRouletteDie"},
+            "lvwDie",
+            "tlbDie",
+            "Die",
+            "mnuSecond",
+            "Lose"};
+}
 
 } // namespace
 
@@ -41,13 +48,13 @@ const TableFile& russianRouletteSettings()
 
 const RowListDeclaration& russianRouletteLive()
 {
-    static const RowListDeclaration declared = commentList(live);
+    static const RowListDeclaration declared = commentList(live());
     return declared;
 }
 
 const RowListDeclaration& russianRouletteDie()
 {
-    static const RowListDeclaration declared = commentList(die);
+    static const RowListDeclaration declared = commentList(die());
     return declared;
 }
 
@@ -60,8 +67,8 @@ FunctionDeclaration russianRouletteFunction()
                           listPart(russianRouletteDie)}}}}},
             .folders = {R"(Games\RussianRoulette)"},
             .build = {RebuiltSettings{russianRouletteSettings},
-                      firstRows(live.file, {{"You have survived... for now"}}),
-                      firstRows(die.file, {{"You're dead, now whose gonna clean up this mess?"}})}};
+                      firstRows(live().file, {{"You have survived... for now"}}),
+                      firstRows(die().file, {{"You're dead, now whose gonna clean up this mess?"}})}};
 }
 
 } // namespace quillfen

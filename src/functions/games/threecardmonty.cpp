@@ -13,18 +13,25 @@ Setting deal()
                                  {R"("Ace Of Spades")", R"("Queen Of Hearts")", R"("Ace Of Clubs")"}};
 }
 
-const CommentList win = {{R"(Games\ThreeCardMonty\ThreeCardMontyWin.tbl)", "tThreeCardMontyWin"},
-                         "lvwWin",
-                         "tlbWin",
-                         "Win",
-                         "mnuFirst",
-                         "Win"};
-const CommentList lose = {{R"(Games\ThreeCardMonty\ThreeCardMontyLose.tbl)", "tThreeCardMontyLose"},
-                          "lvwLose",
-                          "tlbLose",
-                          "Lose",
-                          "mnuSecond",
-                          "Lose"};
+CommentList win()
+{
+    return {{R"(Games\ThreeCardMonty\ThreeCardMontyWin.tbl)", "tThreeCardMontyWin"},
+            "lvwWin",
+            "tlbWin",
+            "Win",
+            "mnuFirst",
+            "Win"};
+}
+
+CommentList lose()
+{
+    return {{R"(Games\ThreeCardMonty\ThreeCardMontyLose.tbl)", "tThreeCardMontyLose"},
+            "lvwLose",
+            "tlbLose",
+            "Lose",
+            "mnuSecond",
+            "Lose"};
+}
 
 } // namespace
 
@@ -42,13 +49,13 @@ const TableFile& threeCardMontySettings()
 
 const RowListDeclaration& threeCardMontyWin()
 {
-    static const RowListDeclaration declared = commentList(win);
+    static const RowListDeclaration declared = commentList(win());
     return declared;
 }
 
 const RowListDeclaration& threeCardMontyLose()
 {
-    static const RowListDeclaration declared = commentList(lose);
+    static const RowListDeclaration declared = commentList(lose());
     return declared;
 }
 
@@ -61,8 +68,8 @@ FunctionDeclaration threeCardMontyFunction()
                           listPart(threeCardMontyLose)}}}}},
             .folders = {R"(Games\ThreeCardMonty)"},
             .build = {RebuiltSettings{threeCardMontySettings},
-                      firstRows(win.file, {{"The Gods smile upon you, this day"}}),
-                      firstRows(lose.file, {{"You lost. Play again, what else have you got going?"}})}};
+                      firstRows(win().file, {{"The Gods smile upon you, this day"}}),
+                      firstRows(lose().file, {{"You lost. Play again, what else have you got going?"}})}};
 }
 
 } // namespace quillfen

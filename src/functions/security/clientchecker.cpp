@@ -6,7 +6,10 @@
 namespace quillfen {
 namespace {
 
-const ListFile versionsFile = {clientVersionsFile, "tClientVersions", ListFile::Form::Keyed};
+ListFile versionsFile()
+{
+    return {clientVersionsFile, "tClientVersions", ListFile::Form::Keyed};
+}
 
 /// The cells of a row.
 enum Cell
@@ -20,7 +23,7 @@ enum Cell
 std::vector<CellRow> loadVersions(const SettingsFiles& files, const HubProfiles& /*profiles*/)
 {
     std::vector<CellRow> rows;
-    for (const ListRow& row : loadList(files, versionsFile)) {
+    for (const ListRow& row : loadList(files, versionsFile())) {
         const auto [allow, version, found] = splitInPieces(row.second, '^');
         rows.push_back({{row.text, std::string(version), isOne(allow) ? "True" : "False"}});
     }
@@ -35,7 +38,7 @@ void saveVersions(const SettingsFiles& files, const HubProfiles& /*profiles*/,
     for (const CellRow& row : rows)
         list.push_back(
             {row.cells[Client], (row.cells[Allow] == "True" ? "1^" : "0^") + row.cells[MinVersion]});
-    saveList(files, versionsFile, list);
+    saveList(files, versionsFile(), list);
 }
 
 std::vector<std::string> trimmed(const std::vector<std::string>& texts)
@@ -112,7 +115,7 @@ FunctionDeclaration clientCheckerFunction()
                        settingsAndListForm({"frmSecurityClientCheckerSettings", "Security ~ ClientChecker"},
                                            clientCheckerSettings, clientVersions)}},
             .folders = {R"(Security\ClientChecker)"},
-            .build = {RebuiltSettings{clientCheckerSettings}, emptyTable(versionsFile)}};
+            .build = {RebuiltSettings{clientCheckerSettings}, emptyTable(versionsFile())}};
 }
 
 } // namespace quillfen
