@@ -1,6 +1,6 @@
 // The settings tree on the disk: its first build beside a copy of the same tree, and its rebuild beside plain
 // writes of the same bytes to the same files.
-#include "advice/treecheck.h"
+#include "check/treecheck.h"
 #include "figures.h"
 #include "hubfolder.h"
 

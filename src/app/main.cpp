@@ -1,6 +1,6 @@
-#include "advice/checkcommand.h"
 #include "app/hubdata.h"
 #include "app/start.h"
+#include "check/checkcommand.h"
 #include "store/diskstore.h"
 
 #include <QApplication>

@@ -22,6 +22,7 @@ RowListDeclaration declaredWords()
     words.list = "lvwAutoCorrectWords";
     words.toolbar = "tlbAutoCorrectWords";
     words.label = "AutoCorrect Words";
+    words.explanation = "Each row is a word and what the hub script puts in its place in chat.";
     words.columns = {"Word", "Replacement"};
     words.menu = "mnuFirst";
     words.dialog.form = EditForm::TwoFields;
@@ -50,7 +51,8 @@ const TableFile& autoCorrectSettings()
         "tAutoCorrectSettings",
         {
             setting::flag("bNotifyOps", "chkNotifyOps", "Notify Ops", true),
-            setting::profileFlags("tEnabledProfiles", "lvwEnabledProfiles", "Enabled Profiles"),
+            setting::profileFlags("tEnabledProfiles", "lvwEnabledProfiles", "Enabled Profiles")
+                .explained("Turns auto correct on for the ticked profiles."),
         },
     };
     return file;

@@ -14,16 +14,36 @@ struct ChangerWords
     std::string column;
     std::string label;
     std::string text; ///< one of the texts, as dialogs and boxes call it
+    std::string_view delayExplained;
+    std::string_view textsExplained;
 };
 
 ChangerWords topicWords()
 {
-    return {"TopicChanger", "lvwTopics", "tlbTopics", "Topics", "Topics", "Topic"};
+    return {
+        "TopicChanger",
+        "lvwTopics",
+        "tlbTopics",
+        "Topics",
+        "Topics",
+        "Topic",
+        "Sets the interval at which the hub's topic changes.",
+        "Each row is a topic of those that the hub changes between.",
+    };
 }
 
 ChangerWords kickBarWords()
 {
-    return {"KickBarChanger", "lvwKickBars", "tlbKickBars", "KickBars", "KickBar Topics", "KickBar"};
+    return {
+        "KickBarChanger",
+        "lvwKickBars",
+        "tlbKickBars",
+        "KickBars",
+        "KickBar Topics",
+        "KickBar",
+        "Sets the interval at which the text of the kick bar changes.",
+        "Each row is a text of those that the kick bar changes between.",
+    };
 }
 
 std::string pathOf(const ChangerWords& words, const std::string& file)
@@ -42,6 +62,7 @@ Changer changer(const ChangerWords& words)
     texts.list = words.list;
     texts.toolbar = words.toolbar;
     texts.label = words.label;
+    texts.explanation = words.textsExplained;
     texts.columns = {words.column};
     texts.menu = "mnuFirst";
     texts.load = loadOf(textsFile(words));
@@ -49,7 +70,7 @@ Changer changer(const ChangerWords& words)
     texts.restored = noRows;
     return {{pathOf(words, "Settings.tbl"),
              "t" + words.name + "Settings",
-             {setting::number("iDelay", "txtDelay", "Delay", 10, 1, 720)}},
+             {setting::number("iDelay", "txtDelay", "Delay", 10, 1, 720).explained(words.delayExplained)}},
             texts};
 }
 

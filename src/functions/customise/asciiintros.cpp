@@ -31,6 +31,7 @@ RowListDeclaration declaredUsers()
     list.toolbar = "tlbAscii";
     list.toolTips = {"Add new user", "Delete user", "Edit user"};
     list.label = "Ascii Profiles";
+    list.explanation = "Each row is a user and the ascii art that announces this user's arrival.";
     list.columns = {"Username", "Filename"};
     list.menu = "mnuFirst";
     list.dialog.form = EditForm::TextCombo;
@@ -51,6 +52,7 @@ RowListDeclaration declaredFiles()
     list.toolbar = "tlbFiles";
     list.toolTips = {"Add new file", "Delete file", "Edit file"};
     list.label = "Ascii Files";
+    list.explanation = "Each row is a piece of ascii art that can be given to users as their intro.";
     list.columns = {"Filename"};
     list.menu = "mnuSecond";
     list.dialog.addTitle = "Enter filename";
@@ -65,10 +67,11 @@ RowListDeclaration declaredFiles()
 
 const TableFile& asciiIntroSettings()
 {
-    static const TableFile file = {R"(CustomiseUser\IntroOutro\AsciiIntroSettings.tbl)",
-                                   "tAsciiIntroSettings",
-                                   {setting::flag("bNotifyOps", "chkNotifyOps", "Notify Ops", true),
-                                    enabledProfiles("Ascii Enabled Profiles")}};
+    static const TableFile file = {
+        R"(CustomiseUser\IntroOutro\AsciiIntroSettings.tbl)",
+        "tAsciiIntroSettings",
+        {setting::flag("bNotifyOps", "chkNotifyOps", "Notify Ops", true),
+         enabledProfiles("Ascii Enabled Profiles", "Turns ascii intros on for the ticked profiles.")}};
     return file;
 }
 

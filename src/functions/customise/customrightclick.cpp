@@ -131,6 +131,9 @@ RowListDeclaration customRightClicks(const HubProfiles& profiles)
     list.toolbar = "tlbHubs";
     list.movement = "tlbListviewMovement";
     list.label = "Hub Settings"; // copied from the list of hubs, as the toolbar's name is
+    list.explanation =
+        "Each ticked row is a line that the users of its profile get in their right click menus, "
+        "in the order of this list.";
     list.columns = {"Right Click", "Profile", "Location"};
     list.ticks = true;
     list.menu = "mnuFirst";

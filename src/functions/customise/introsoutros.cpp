@@ -70,16 +70,39 @@ struct Family
     std::vector<CellRow> (*intros)();
     std::vector<CellRow> (*outros)();
     std::string askedOutro; ///< how the question before an outro goes calls it
+    std::string_view profilesExplained;
+    std::string_view introsExplained;
+    std::string_view outrosExplained;
 };
 
 Family standard()
 {
-    return {"", "Standard", false, standardIntros, standardOutros, "outro"};
+    return {
+        "",
+        "Standard",
+        false,
+        standardIntros,
+        standardOutros,
+        "outro",
+        "Announces users of the ticked profiles with a random one of the standard lines.",
+        "Each row is a line that may announce a user's arrival, with !username! for the user's name.",
+        "Each row is a line that may announce a user's departure, with !username! for the user's name.",
+    };
 }
 
 Family custom()
 {
-    return {"Custom", "Custom", true, customIntros, customOutros, "Outro"};
+    return {
+        "Custom",
+        "Custom",
+        true,
+        customIntros,
+        customOutros,
+        "Outro",
+        "Turns personal intros and outros on for the ticked profiles.",
+        "Each row is a user and a line that announces this user's arrival.",
+        "Each row is a user and a line that announces this user's departure.",
+    };
 }
 
 std::string pathOf(const std::string& name)
@@ -96,12 +119,13 @@ ListFile linesFile(const Family& family, const std::string& noun)
 
 /// `noun` is "Intro" or "Outro"; `asked` is the same in the question before a line goes.
 RowListDeclaration linesOf(const Family& family, const std::string& noun, const std::string& asked,
-                           std::vector<CellRow> (*restored)())
+                           std::vector<CellRow> (*restored)(), std::string_view explanation)
 {
     RowListDeclaration list = listOf(noun, Fewest::One);
     list.list = "lvw" + noun;
     list.toolbar = "tlb" + noun;
     list.label = family.label + " " + noun + "s";
+    list.explanation = explanation;
     list.columns = {noun};
     list.menu = "mnu" + noun;
     list.deletion = deletionOf(noun, asked, noun);
@@ -121,8 +145,8 @@ RowListDeclaration linesOf(const Family& family, const std::string& noun, const 
 RowListGroup linesOf(const Family& family)
 {
     RowListGroup group;
-    group.lists = {linesOf(family, "Intro", "intro", family.intros),
-                   linesOf(family, "Outro", family.askedOutro, family.outros)};
+    group.lists = {linesOf(family, "Intro", "intro", family.intros, family.introsExplained),
+                   linesOf(family, "Outro", family.askedOutro, family.outros, family.outrosExplained)};
     group.save = [family](const SettingsFiles& files, const std::vector<std::vector<CellRow>>& rows) {
         saveOf(linesFile(family, "Intro"))(files, {}, rows.at(0));
         saveOf(linesFile(family, "Outro"))(files, {}, rows.at(1));
@@ -132,7 +156,7 @@ RowListGroup linesOf(const Family& family)
 
 TableFile settingsOf(const Family& family, std::vector<Setting> settings)
 {
-    settings.push_back(enabledProfiles(family.label + " Enabled Profiles"));
+    settings.push_back(enabledProfiles(family.label + " Enabled Profiles", family.profilesExplained));
     return {pathOf(family.word + "IntroOutroSettings"), "t" + family.word + "IntroOutroSettings",
             std::move(settings)};
 }
@@ -143,7 +167,10 @@ std::vector<Setting> unregisteredIntro()
     auto line = setting::text("sRegIntro", "txtUnregIntro", "",
                               "Welcome !nick! to !hubname!. Type !prefix!!regcommand! to register");
     line.toolTip = "Unregistered User Intro";
-    return {setting::flag("bRegIntroEnabled", "chkEnableUnregIntro", "Enable Unregistered User Intro", true),
+    line.explanation = "Holds the intro for unregistered users, in which !nick!, !hubname!, !prefix! and "
+                       "!regcommand! may stand.";
+    return {setting::flag("bRegIntroEnabled", "chkEnableUnregIntro", "Enable Unregistered User Intro", true)
+                .explained("Gives unregistered users an intro of their own."),
             line};
 }
 

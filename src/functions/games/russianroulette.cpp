@@ -1,6 +1,7 @@
 #include "functions/games/russianroulette.h"
 
 #include "functions/games/shared/comments.h"
+#include "functions/games/shared/playinmain.h"
 
 namespace quillfen {
 namespace {
@@ -21,7 +22,8 @@ CommentList live()
             "tlbLive",
             "Live",
             "mnuFirst",
-            "Win"};
+            "Win",
+            "Each row is a comment on a player who survives."};
 }
 
 CommentList die()
@@ -31,7 +33,8 @@ CommentList die()
             "tlbDie",
             "Die",
             "mnuSecond",
-            "Lose"};
+            "Lose",
+            "Each row is a comment on a player who dies."};
 }
 
 } // namespace
@@ -41,7 +44,8 @@ const TableFile& russianRouletteSettings()
     static const TableFile file = {
         R"(Games\RussianRoulette\RussianRouletteSettings.tbl)",
         "tRussianRouletteSettings",
-        {setting::flag("bInMain", "chkPlayInMain", "Play In Main", true), chambers()},
+        {setting::flag("bInMain", "chkPlayInMain", "Play In Main", true).explained(playsInMainChat),
+         chambers()},
     };
     return file;
 }

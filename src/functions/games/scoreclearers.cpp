@@ -35,6 +35,7 @@ const RowListDeclaration& scoreClearers()
         RowListDeclaration list = listOf("User", Fewest::None);
         list.list = "lvwUsers";
         list.toolbar = "tlbListview";
+        list.explanation = "Each row is the nick of a user who may clear the scores of the games.";
         list.columns = {"Users"};
         list.menu = "mnuFirst";
         list.deletion.title = "Delete Exempt User?"; // that of the exempt users' lists

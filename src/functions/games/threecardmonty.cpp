@@ -1,6 +1,7 @@
 #include "functions/games/threecardmonty.h"
 
 #include "functions/games/shared/comments.h"
+#include "functions/games/shared/playinmain.h"
 
 namespace quillfen {
 namespace {
@@ -20,7 +21,8 @@ CommentList win()
             "tlbWin",
             "Win",
             "mnuFirst",
-            "Win"};
+            "Win",
+            "Each row is a comment on a player who wins."};
 }
 
 CommentList lose()
@@ -30,7 +32,8 @@ CommentList lose()
             "tlbLose",
             "Lose",
             "mnuSecond",
-            "Lose"};
+            "Lose",
+            "Each row is a comment on a player who loses."};
 }
 
 } // namespace
@@ -40,7 +43,7 @@ const TableFile& threeCardMontySettings()
     static const TableFile file = {
         R"(Games\ThreeCardMonty\ThreeCardMontySettings.tbl)",
         "tThreeCardMontySettings",
-        {setting::flag("bPlayInMain", "chkPlayInMain", "Play In Main", true),
+        {setting::flag("bPlayInMain", "chkPlayInMain", "Play In Main", true).explained(playsInMainChat),
          setting::number("iWager", "txtUpDown(0)", "Wager", 1, 1, 50),
          setting::number("iMarker", "txtUpDown(1)", "Marker", 25, 10, 500), deal()},
     };

@@ -33,6 +33,7 @@ RowListDeclaration declaredBadNicks()
     list.list = "lvwBadNickList";
     list.toolbar = "tlbListview";
     list.label = "Bad Nicks";
+    list.explanation = "Each row is a nick against which the action is taken.";
     list.columns = {"Nick"};
     return list;
 }
@@ -43,14 +44,23 @@ RowListDeclaration declaredExemptUsers()
     list.list = "lvwExemptUsers";
     list.toolbar = "tlbListview";
     list.label = "Exempt Users";
+    list.explanation = "Each row is a user who is exempt from the action.";
     list.columns = {"User"};
     return list;
+}
+
+setting::Field exemptProfiles()
+{
+    return notRestored(setting::profileFlags("tExemptProfiles", "lvwExemptProfiles", "Exempt Profiles")
+                           .explained("Exempts the ticked profiles from the action."));
 }
 
 /// No key belongs to this check box: it only makes the form dirty.
 Setting idleNotification()
 {
-    return setting::Idle{setting::flag("bSendNotification", "chkCheckBox", "Send Notification", false)};
+    return setting::Idle{
+        setting::flag("bSendNotification", "chkCheckBox", "Send Notification", false)
+            .explained("Does nothing: this box is not saved, and the hub script is told nothing of it.")};
 }
 
 } // namespace
@@ -61,8 +71,7 @@ const TableFile& badNickSettings()
     static const TableFile file = {
         R"(Security\BadNickBlocker\BadNickBlockerSettings.tbl)",
         "tBadNickBlockerSettings",
-        {banTimeSetting("iTempBanTime"), actionSetting("TempBan"),
-         notRestored(setting::profileFlags("tExemptProfiles", "lvwExemptProfiles", "Exempt Profiles"))},
+        {banTimeSetting("iTempBanTime"), actionSetting("TempBan"), exemptProfiles()},
         {"sAction", "iTempBanTime", "tExemptProfiles"},
     };
     return file;
@@ -81,7 +90,7 @@ const TableFile& cloneSettings()
         "tCloneBlockerSettings",
         {banTimeSetting("iTempBanTime"), actionSetting("TempBan"),
          notRestored(setting::profileFlags("tEnabledProfiles", "lvwEnabledProfiles", "Enabled Profiles")),
-         notRestored(setting::profileFlags("tExemptProfiles", "lvwExemptProfiles", "Exempt Profiles"))},
+         exemptProfiles()},
         {"sAction", "iTempBanTime", "tExemptProfiles", "tEnabledProfiles"},
     };
     return file;

@@ -1,5 +1,6 @@
 #include "functions/security/clientchecker.h"
 
+#include "declarations/oddfiles.h"
 #include "functions/security/shared/actions.h"
 #include "settings/lines.h"
 
@@ -55,6 +56,8 @@ RowListDeclaration declaredVersions()
     RowListDeclaration list = listOf("Client", Fewest::One);
     list.list = "lvwClients";
     list.toolbar = "tlbClients";
+    list.explanation =
+        "Each row is a client program, the version that it needs, and whether it may enter the hub.";
     list.columns = {"Client", "Min Version", "Allow"};
     list.menu = "mnuFirst";
     list.dialog.form = EditForm::TwoTextCombo;
@@ -79,7 +82,8 @@ RowListDeclaration declaredVersions()
 TableFile declaredSettings()
 {
     auto types = notRestored(setting::namedFlags("tBlock", "lvwBlockedTypes", "Blocked Connection Types",
-                                                 {"Sockets", "Passive", "Active", "Undeclared"}));
+                                                 {"Sockets", "Passive", "Active", "Undeclared"})
+                                 .explained("Refuses users who connect in a ticked way."));
     types.rebuild.resets = true; // a rebuild opens the hub to every kind of connection again
     return {
         R"(Security\ClientChecker\ClientCheckerSettings.tbl)",
@@ -88,7 +92,8 @@ TableFile declaredSettings()
             banTimeSetting("iBanTime"),
             actionSetting("TempBan"),
             // The key says enabled and the label says exempt: one list, and both words stay.
-            notRestored(setting::profileFlags("tEnabledProfiles", "lvwEnabledProfiles", "Exempt Profiles")),
+            notRestored(setting::profileFlags("tEnabledProfiles", "lvwEnabledProfiles", "Exempt Profiles")
+                            .explained("Sets whom the check covers, by profile.")),
             types,
         },
         {"sAction", "iBanTime", "tBlock", "tEnabledProfiles"},

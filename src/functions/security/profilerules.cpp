@@ -194,6 +194,7 @@ RowListDeclaration permissions()
     list.list = "lvwPermissions";
     list.toolbar = "tlbPermissions";
     list.label = "Permissions";
+    list.explanation = "Each row is a limit that the hub script checks on each user of the profile.";
     list.columns = {"Profile", "Setting", "Data", "iProfile"};
     list.hiddenColumns = 1;
     list.menu = "mnuOnlyEdit";
@@ -204,12 +205,14 @@ RowListDeclaration permissions()
     return list;
 }
 
-RowListDeclaration textList(const std::string& word, const std::string& menu, const std::string& titleEnd)
+RowListDeclaration textList(const std::string& word, const std::string& menu, const std::string& titleEnd,
+                            std::string_view explanation)
 {
     RowListDeclaration list;
     list.list = "lvw" + word;
     list.toolbar = "tlb" + word;
     list.label = word;
+    list.explanation = explanation;
     list.columns = {"Setting", "Data"};
     list.menu = menu;
     list.load = [table = "t" + word](const SettingsFiles& files, const HubProfiles&) {
@@ -294,9 +297,12 @@ const TableFile& profileRuleSettings()
 
 const RowListGroup& profileRules()
 {
-    static const RowListGroup group = {{permissions(), textList("Messages", "mnuOnlyEditTwo", " Message"),
-                                        textList("Redirects", "mnuOnlyEditThree", " Redirect Address")},
-                                       saveRules};
+    static const RowListGroup group = {
+        {permissions(),
+         textList("Messages", "mnuOnlyEditTwo", " Message", "Each row is a rule and its message to a user."),
+         textList("Redirects", "mnuOnlyEditThree", " Redirect Address",
+                  "Each row is a rule and the address that it redirects a user to.")},
+        saveRules};
     return group;
 }
 

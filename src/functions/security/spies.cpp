@@ -47,6 +47,7 @@ RowListDeclaration declaredTerms()
     list.list = "lvwFiles";
     list.toolbar = "tlbFiles";
     list.label = "Forbidden Files";
+    list.explanation = "Each row is a forbidden search term and the action against it.";
     list.columns = {"File", "Action"};
     list.menu = "mnuFirst";
     list.dialog.form = EditForm::TextCombo;
@@ -69,7 +70,8 @@ const TableFile& commandSpySettings()
     static const TableFile file = {
         R"(Security\CommandSpy\CommandSpySettings.tbl)",
         "tCommandSpySettings",
-        {setting::profileFlags("tEnabledProfiles", "lvwEnabledProfiles", "Enabled Profiles")}};
+        {setting::profileFlags("tEnabledProfiles", "lvwEnabledProfiles", "Enabled Profiles")
+             .explained("Lets the ticked profiles spy on commands.")}};
     return file;
 }
 

@@ -81,11 +81,12 @@ RowListDeclaration listOf(const ListWords& words)
 }
 
 RowListDeclaration listOfFile(const ListFile& file, const std::vector<ListRow>& first, const ListWords& words,
-                              const std::string& plural)
+                              const std::string& plural, std::string_view explanation)
 {
     RowListDeclaration list = listOf(words);
     list.list = "lvw" + plural;
     list.toolbar = "tlb" + plural;
+    list.explanation = explanation;
     list.columns = {plural};
     list.menu = "mnuFirst";
     list.load = loadOf(file);
@@ -106,6 +107,7 @@ RowListGroup wordLists(const NestedListsFile& file, const std::vector<std::strin
         RowListDeclaration list = listOf(words[place]);
         list.list = "lvwInsults" + places[place];
         list.toolbar = "tlbInsults" + places[place];
+        list.explanation = "Each row is a word from which the hub script composes an insult.";
         list.columns = {labels[place]};
         list.menu = menus[place];
         list.load = loadOf(file, place);
@@ -132,23 +134,26 @@ constexpr Twips formSize = {9000, 5400};
 
 const RowListDeclaration& insults()
 {
-    static const RowListDeclaration list =
-        listOfFile(insultsFile(), firstInsults(), {"Insult", "Insult", "Insult", "Insult"}, "Insults");
+    static const RowListDeclaration list = listOfFile(
+        insultsFile(), firstInsults(), {"Insult", "Insult", "Insult", "Insult"}, "Insults",
+        "Each row is a text with which one user insults another; !username! and !victim! stand for the two.");
     return list;
 }
 
 const RowListDeclaration& attacks()
 {
-    static const RowListDeclaration list =
-        listOfFile(attacksFile(), firstAttacks(), {"Attack", "Intro", "Intro", "intro"}, "Attacks");
+    static const RowListDeclaration list = listOfFile(
+        attacksFile(), firstAttacks(), {"Attack", "Intro", "Intro", "intro"}, "Attacks",
+        "Each row is a text with which one user attacks another; !username! and !victim! stand for the two.");
     return list;
 }
 
 const RowListDeclaration& doActions()
 {
     static const RowListDeclaration declared = [] {
-        RowListDeclaration list = listOfFile(doActionsFile(), firstDoActions(),
-                                             {"DoAction", "Intro", "DoAction", "intro"}, "DoActions");
+        RowListDeclaration list = listOfFile(
+            doActionsFile(), firstDoActions(), {"DoAction", "Intro", "DoAction", "intro"}, "DoActions",
+            "Each row is a command and the action that it sends, in which !username! stands for the user.");
         list.columns = {"Command", "Action"};
         list.dialog.form = EditForm::TwoFields;
         list.dialog.labels = {"Command", "Action"};

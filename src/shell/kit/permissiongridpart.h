@@ -13,7 +13,9 @@ class PermissionModel;
 class ToolbarList;
 
 /// A permission grid: one row per command, acting profile and target profile, toggled between yes and no, and
-/// filtered by command and by acting profile. What a filter hides is saved all the same.
+/// filtered by command and by acting profile. What a filter hides is saved all the same. Of several selected
+/// rows each gets the answer that a toggle gives to the first. The second status panel tells the first in a
+/// sentence.
 class PermissionGridPart : public FormPart
 {
     Q_OBJECT
@@ -40,6 +42,9 @@ private:
     void choose(QAction* filter, const QString& entry);
     void release(QAction* filter);
     void toggle();
+    void toggleByClick();
+    void tellRow();
+    QString rowSentence() const;
     void showMenu(const QPoint& at, bool onRow);
     void fitColumns();
 

@@ -1,14 +1,18 @@
 #include "shell/window/mainwindow.h"
 
+#include "declarations/oddfiles.h"
 #include "settings/lines.h"
 #include "settings/tablefile.h"
 #include "shell/icons/icons.h"
 #include "shell/kit/codepagetext.h"
+#include "shell/kit/formadvice.h"
 #include "shell/kit/hourglass.h"
+#include "shell/kit/listview.h"
 #include "shell/kit/messages.h"
 #include "shell/kit/toolbars.h"
 #include "shell/kit/units.h"
 #include "shell/window/aboutbox.h"
+#include "shell/window/changedicon.h"
 #include "shell/window/filewatch.h"
 #include "shell/window/navigator.h"
 #include "shell/window/popupmenus.h"
@@ -38,7 +42,7 @@ namespace {
 /// No routine writes this switch: the owner puts it into the file by hand.
 bool isPortalOn(const SettingsFiles& files)
 {
-    return isOne(files.ReadTableValue(R"(General\Globals\Switches.tbl)", "bPortal"));
+    return isOne(files.ReadTableValue(switchesPath, "bPortal"));
 }
 
 QAction* addItem(QMenu& menu, const QString& name, const QString& caption)
@@ -123,7 +127,10 @@ MainWindow::MainWindow(const ProgramInfo& program, const FormContext& context, c
 
     const bool portalShown = isPortalOn(context.files);
     addToolbar(portalShown);
-    m_navigator = new Navigator(m_table, portalShown);
+    m_finder.setPortalShown(portalShown);
+    m_navigator = new Navigator(m_table, m_finder, portalShown);
+    connect(m_navigator, &Navigator::found, this, &MainWindow::openFound);
+    connect(m_rootMenu, &RootMenu::findingChosen, this, &MainWindow::goToFinding);
     connect(m_navigator, &Navigator::rootMenuAsked, m_rootMenu, &RootMenu::popUp);
     connect(m_navigator, &Navigator::chosen, this, [this] { OpenFunctionForm(QString()); });
     buildMenus();
@@ -164,6 +171,30 @@ MainWindow::~MainWindow()
 void MainWindow::offerVersions(History& history)
 {
     m_rootMenu->offerVersions(history);
+}
+
+void MainWindow::offerCheck(SettingsCheck check)
+{
+    m_rootMenu->offerCheck(std::move(check));
+}
+
+void MainWindow::goToFinding(const QString& node, const Finding& finding)
+{
+    OpenFunctionForm(node);
+    activateWindow();
+    if (auto* form = activeForm(); form && form->advice())
+        form->advice()->goTo(finding);
+}
+
+void MainWindow::goToRow(const QString& node, const QString& list, const QString& row)
+{
+    OpenFunctionForm(node);
+    auto* view = activeForm()->findChild<ListView*>(list);
+    if (!view)
+        return;
+    const auto found = view->model()->match(view->model()->index(0, 0), Qt::DisplayRole, row, 1,
+                                            Qt::MatchExactly | Qt::MatchCaseSensitive);
+    activeForm()->goTo(*view, found.isEmpty() ? -1 : found.constFirst().row());
 }
 
 QList<EditorForm*> MainWindow::openForms() const
@@ -249,7 +280,26 @@ void MainWindow::OpenFunctionForm(const QString& key)
     EditorForm* form = formOf(wanted);
     if (form && !m_openWindows.contains(wanted) && !(fromTree && m_navigator->headingSelected()))
         m_openWindows.Add(wanted);
+    if (form)
+        m_navigator->noteOpened(m_table.keyOfForm(form->objectName()));
     m_windowMenu->RebuildWindowMenu(m_openWindows);
+}
+
+/// A text that has an editor of its own is opened by a button, which is as far as we go.
+void MainWindow::openFound(const QString& key, const QString& control, int row)
+{
+    OpenFunctionForm(key);
+    auto* form = activeForm();
+    if (!form)
+        return;
+    if (auto* entry = entryOf(*form))
+        entry->setFocus(Qt::OtherFocusReason);
+    if (control.isEmpty())
+        return;
+    if (const auto* toolbar = form->findChild<QToolBar*>(control))
+        form->goTo(*toolbar->widgetForAction(toolbar->actions().constFirst()));
+    else
+        form->goTo(control, row);
 }
 
 EditorForm* MainWindow::formOf(const QString& key)
@@ -287,11 +337,16 @@ void MainWindow::showForm(EditorForm* form)
         before->showNormal(); // else Qt hands its state on to the new window before that has got its size
     auto* window = m_area->addSubWindow(form);
     connect(form, &EditorForm::loaded, this, &MainWindow::followFiles);
+    if (form->advice())
+        connect(form->advice(), &FormAdvice::elsewhereAsked, this, &MainWindow::goToRow);
     followFiles();
     window->setWindowIcon(themedIcon("quillfen"));
+    connect(form, &EditorForm::dirtyChanged, this, [this, form] { showChanged(*form, form->isDirty()); });
     window->setAttribute(Qt::WA_DeleteOnClose);
-    connect(form, &EditorForm::closed, this,
-            [this, form] { FindOpenWindow(form->tag().isEmpty() ? form->caption() : form->tag()); });
+    connect(form, &EditorForm::closed, this, [this, form] {
+        showChanged(*form, false);
+        FindOpenWindow(form->tag().isEmpty() ? form->caption() : form->tag());
+    });
     const int caption =
         window->fontMetrics().horizontalAdvance(form->caption()) + twips(2400); // and its buttons
     window->resize(window->sizeHint()
@@ -302,6 +357,15 @@ void MainWindow::showForm(EditorForm* form)
     if (maximised)
         window->showMaximized();
     bringIntoSight(*window, *m_area);
+}
+
+void MainWindow::showChanged(const EditorForm& form, bool isChanged)
+{
+    const QIcon icon = themedIcon("quillfen");
+    const QString key = m_table.keyOfForm(form.objectName());
+    form.parentWidget()->setWindowIcon(isChanged ? withChangedDot(icon) : icon);
+    m_navigator->markChanged(key, isChanged);
+    m_windowMenu->markChanged(key, isChanged);
 }
 
 void MainWindow::bringForward(QMdiSubWindow& window)
