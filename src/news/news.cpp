@@ -225,8 +225,17 @@ FunctionDeclaration newsFunction()
 {
     const OwnPart part = {
         .kind = OwnPartKind::News,
-        .explanations = {
-            {"lvwNews", "Each row is an article that was fetched; a deleted one does not come back."}}};
+        .explanations = {{"lvwNews",
+                          "Each row is an article that was fetched; a deleted one does not come back."}},
+        .texts = [](const SettingsFiles& files, const HubProfiles&) {
+            std::vector<PlacedText> texts = {{"", "lvwNews", -1, "News Headline", ""}};
+            int row = 0;
+            for (const NewsArticle& each : loadNews(files)) {
+                const std::string text = each.date + " | " + each.headline + " | " + each.story;
+                texts.push_back({"", "lvwNews", row++, "News Headline", text});
+            }
+            return texts;
+        }};
     return {.nodes = {{.key = "General~News",
                        .caption = "News Archive",
                        .form = {{{"frmGeneralNews", "General ~ News", {6000, 4500}}, {part}}},

@@ -23,7 +23,6 @@
 namespace quillfen {
 namespace {
 
-constexpr const char* labels[] = {"Username", "Description", "Email", "IP"};
 constexpr const char* caption = "Communication ~ Portal";
 constexpr std::size_t fullHubList = 2;
 
@@ -173,10 +172,10 @@ QWidget* PortalPart::identity()
     for (std::size_t at = 0; at < m_fields.size(); ++at) {
         auto* field = new QLineEdit;
         field->setObjectName(QStringLiteral("txtTextBox(%1)").arg(at));
-        field->setAccessibleName(labels[at]);
+        field->setAccessibleName(portalLabels[at]);
         limitToOneLine(*field);
         connect(field, &QLineEdit::textChanged, this, &FormPart::changed);
-        auto* label = labelFor(labels[at], field);
+        auto* label = labelFor(portalLabels[at], field);
         label->setObjectName(QStringLiteral("lblLabel(%1)").arg(at));
         layout->addRow(label, field);
         m_fields[at] = field;

@@ -180,6 +180,15 @@ void showDialogs(quillfen::MainWindow& window, const quillfen::SettingsFiles& fi
         });
 }
 
+/// What the find box finds, in place of the tree.
+void showFound(quillfen::MainWindow& window, Tour& tour)
+{
+    auto* box = window.findChild<QLineEdit*>("txtFind");
+    box->setText("kick ban time");
+    tour.portrait(*box->parentWidget(), "found");
+    box->clear();
+}
+
 /// Three forms with something wrong in each. They stay dirty, so this comes last.
 void showAdvice(quillfen::MainWindow& window, Tour& tour)
 {
@@ -250,6 +259,7 @@ int main(int argc, char** argv)
         walk(window, tour);
     } else {
         tour.portrait(window, "main-window");
+        showFound(window, tour);
         showForms(window, tour);
         showDialogs(window, {disk, quillfen::SettingsPaths(scripts.toStdString())}, tour);
         showAdvice(window, tour);

@@ -10,7 +10,7 @@
 namespace quillfen {
 namespace {
 
-const std::string itemOfTheWeek = "ItemOfTheWeek";
+constexpr const char* itemOfTheWeek = "ItemOfTheWeek";
 
 struct Day
 {
@@ -206,6 +206,21 @@ GridWords rightClickWords()
     return words;
 }
 
+std::vector<PlacedText> placedTexts(const ArchiveMember& member, const SettingsFiles& files)
+{
+    const std::string path = pathOf(member, itemOfTheWeek);
+    const LinkOfTheWeek link = loadLinkOfTheWeek(member, files);
+    std::vector<PlacedText> texts = {
+        {path, "chkCheckBox(0)", -1, "Enable Link of Week", link.enabled == "1" ? "on" : "off"},
+        {path, "txtChangeTime", -1, "Change Time", link.changeTime}};
+    for (std::size_t row = 0; row < link.announcements.size(); ++row) {
+        const auto& cells = link.announcements[row].cells;
+        texts.push_back({path, "lvwWeek", static_cast<int>(row), "Date",
+                         cells[Date] + " | " + cells[Time] + " | " + cells[Location]});
+    }
+    return texts;
+}
+
 /// Who voted is forgotten by each rebuild.
 void forgetVoters(const SettingsFiles& files, const HubProfiles& /*profiles*/)
 {
@@ -361,7 +376,11 @@ FunctionDeclaration archiveFunction(std::size_t member)
         .kind = OwnPartKind::LinkOfTheWeek,
         .which = member,
         .lists = [] { return std::vector{announcements()}; },
-        .explanations = {{"txtChangeTime", "Sets the day and time at which the link of the week changes."}}};
+        .explanations = {{"chkCheckBox(0)", {}, pathOf(each, itemOfTheWeek), "bEnabled"},
+                         {"txtChangeTime", "Sets the day and time at which the link of the week changes.",
+                          pathOf(each, itemOfTheWeek), "sChangeTime"}},
+        .texts = [&each](const SettingsFiles& files,
+                         const HubProfiles&) { return placedTexts(each, files); }};
     return {
         .nodes = {
             {each.word, each.word},

@@ -5,6 +5,7 @@
 #include "functions/games/shared/quizpattern.h"
 #include "functions/games/shared/wordlist.h"
 #include "settings/codepage.h"
+#include "settings/filename.h"
 #include "settings/tablewriter.h"
 
 #include <algorithm>
@@ -31,6 +32,27 @@ Setting optionsFrom(int firstButton, const char* key, const char* label, int def
 bool comesBefore(const std::string& one, const std::string& other)
 {
     return codepage::lowered(one) < codepage::lowered(other);
+}
+
+std::vector<PlacedText> placedQuestions(const SettingsFiles& files, const HubProfiles& /*profiles*/)
+{
+    const auto known = loadTriviaQuestionFiles(files);
+    const std::string list(questionFilesPath);
+    std::vector<PlacedText> texts = {
+        {list, "cboQuestionFileDefault", -1, "Default Question File", known.defaultFile}};
+    for (std::size_t file = 0; file < known.names.size(); ++file) {
+        PlacedText text = {list, "lvwQuestionFiles", static_cast<int>(file), "Available Question Files",
+                           known.names[file]};
+        texts.push_back(text);
+        if (!leavingNameFault(known.names[file]).empty())
+            continue; // the form doesn't open it either
+        text.file = triviaQuestionFile(known.names[file]);
+        for (const CellRow& row : loadTriviaQuestions(files, known.names[file])) {
+            text.text = row.cells[0] + " | " + row.cells[1];
+            texts.push_back(text);
+        }
+    }
+    return texts;
 }
 
 /// Only together with its table: an owner who deleted the file but kept the table doesn't get it back.
@@ -179,14 +201,20 @@ FunctionDeclaration triviaFunction()
         return std::vector{files.names, files.rows};
     };
     FunctionDeclaration function = quizFunction("Trivia", "Trivia", triviaSettings);
-    function.nodes = {{"Games~Trivia", "Trivia"},
-                      {"Games~Trivia~Settings", "Settings",
-                       settingsForm({"frmGamesTrivia", "Games ~ Trivia ~ Settings"}, triviaSettings),
-                       "Trivia ~ Settings"},
-                      {"Games~Trivia~Questions",
-                       "Questions",
-                       {{questions, {OwnPart{.kind = OwnPartKind::TriviaQuestions, .lists = lists}}}},
-                       "Trivia ~ Questions"}};
+    function.nodes = {
+        {"Games~Trivia", "Trivia"},
+        {"Games~Trivia~Settings", "Settings",
+         settingsForm({"frmGamesTrivia", "Games ~ Trivia ~ Settings"}, triviaSettings), "Trivia ~ Settings"},
+        {"Games~Trivia~Questions",
+         "Questions",
+         {{questions,
+           {OwnPart{
+               .kind = OwnPartKind::TriviaQuestions,
+               .lists = lists,
+               .explanations =
+                   {{"cboQuestionFileDefault", {}, std::string(questionFilesPath), std::string(defaultKey)}},
+               .texts = placedQuestions}}}},
+         "Trivia ~ Questions"}};
     function.folders.push_back(R"(Games\Trivia\QuestionFiles)");
     function.build.emplace_back(makeFirstQuestions);
     return function;

@@ -1,5 +1,6 @@
 #include "functions/general/languages.h"
 
+#include "settings/filename.h"
 #include "settings/tablewriter.h"
 
 namespace quillfen {
@@ -76,16 +77,36 @@ std::vector<ListRow> referenceList(const SettingsFiles& files, const LanguageSet
     return list;
 }
 
+std::vector<PlacedText> placedTexts(const LanguageSet& set, const SettingsFiles& files)
+{
+    std::vector<PlacedText> texts;
+    int place = 0;
+    for (const CellRow& language : loadLanguages(files, set)) {
+        const std::string& name = language.cells[0];
+        const bool isReadable = leavingNameFault(name).empty(); // as the form has it
+        for (const CellRow& text : isReadable ? loadLanguageTexts(files, set, name) : std::vector<CellRow>())
+            texts.push_back({pathOf(set, name), "lvwFiles", place, std::string(set.textColumn),
+                             name + ": " + text.cells[0] + " | " + text.cells[1]});
+        ++place;
+    }
+    return texts;
+}
+
 Node languageNode(const std::string& key, const std::string& caption, std::size_t set)
 {
     FormDescription form = {std::string(sets[set].form), std::string(sets[set].caption), {10500, 6000}};
     form.isLoadedOnce = true;
+    const auto texts = [set](const SettingsFiles& files, const HubProfiles&) {
+        return placedTexts(sets[set], files);
+    };
     const auto lists = [set] { return std::vector{languageLists(sets[set]).names}; };
-    return {.key = key,
-            .caption = caption,
-            .form = {{form, {OwnPart{.kind = OwnPartKind::Languages, .which = set, .lists = lists}}}},
-            .dropDown = "Language~" + caption,
-            .above = "General~Language"}; // the keys came before their heading
+    return {
+        .key = key,
+        .caption = caption,
+        .form = {{form,
+                  {OwnPart{.kind = OwnPartKind::Languages, .which = set, .lists = lists, .texts = texts}}}},
+        .dropDown = "Language~" + caption,
+        .above = "General~Language"}; // the keys came before their heading
 }
 
 } // namespace

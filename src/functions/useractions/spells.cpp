@@ -1,6 +1,7 @@
 #include "functions/useractions/spells.h"
 
 #include "settings/codepage.h"
+#include "settings/filename.h"
 #include "settings/profiles.h"
 
 #include <algorithm>
@@ -8,7 +9,10 @@
 namespace quillfen {
 namespace {
 
-const ListFile wardsFile = {R"(UserActions\Spells\SpellWards.tbl)", "tSpellWards", ListFile::Form::Presence};
+ListFile wardsFile()
+{
+    return {R"(UserActions\Spells\SpellWards.tbl)", "tSpellWards", ListFile::Form::Presence};
+}
 
 ListFile bookFile(const SpellBook& book)
 {
@@ -57,10 +61,29 @@ std::vector<ListRow> phrasesToWrite(const CellRow& spell)
     return rows;
 }
 
+std::vector<PlacedText> placedPhrases(const SpellBook& book, const SettingsFiles& files,
+                                      const HubProfiles& profiles)
+{
+    std::vector<PlacedText> texts;
+    int place = 0;
+    for (const CellRow& spell : spellList(book).load(files, profiles)) {
+        const std::string& name = spell.cells[SpellName];
+        const bool isReadable = leavingNameFault(name).empty(); // as the form has it
+        for (const CellRow& phrase : isReadable ? loadPhrases(book, name, files) : std::vector<CellRow>())
+            texts.push_back({phraseFile(book, name).path, "lvwSpells", place, "Spell Phrase",
+                             name + ": " + phrase.cells[0]});
+        ++place;
+    }
+    return texts;
+}
+
 FormDeclaration bookForm(const char* name, const char* caption, OwnPartKind kind, const SpellBook& (*book)())
 {
     const auto lists = [book] { return std::vector{spellList(book()), phraseList()}; };
-    return {{name, caption, {10500, 6000}}, {OwnPart{.kind = kind, .lists = lists}}};
+    const auto texts = [book](const SettingsFiles& files, const HubProfiles& profiles) {
+        return placedPhrases(book(), files, profiles);
+    };
+    return {{name, caption, {10500, 6000}}, {OwnPart{.kind = kind, .lists = lists, .texts = texts}}};
 }
 
 } // namespace
@@ -109,8 +132,8 @@ const RowListDeclaration& spellWards()
         list.remark = "Allows IPs beginning with 0 (such as 0.3.6.0)";
         list.columns = {"Warded User"};
         list.menu = "mnuFirst";
-        list.load = loadOf(wardsFile);
-        list.save = saveOf(wardsFile);
+        list.load = loadOf(wardsFile());
+        list.save = saveOf(wardsFile());
         return list;
     }();
     return declared;
@@ -185,19 +208,19 @@ void saveSpellBook(const SpellBook& book, const std::vector<CellRow>& spells, co
 
 FunctionDeclaration spellsFunction()
 {
-    return {
-        .nodes = {{"UserActions~Spells", "Spells"},
-                  {"UserActions~Spells~Settings",
-                   "Settings",
-                   {{{"frmUserActionsSpellSettings", "UserActions ~ Spells ~ Settings", {7500, 7500}},
-                     {DeclaredSettings{spellSettings}, listPart(spellWards)}}},
-                   "Spells ~ Settings"},
-                  {"UserActions~Spells~SpellBook", "Spell Book",
-                   bookForm("frmUserActionsSpellsSpellBook", "UserActions ~ Spells ~ SpellBook",
-                            OwnPartKind::SpellBook, spellBook),
-                   "Spells ~ Spell Book"}},
-        .folders = {R"(UserActions\Spells)", R"(UserActions\Spells\Spells)"},
-        .build = {RebuiltSettings{spellSettings}, emptyTable(bookFile(spellBook())), emptyTable(wardsFile)}};
+    return {.nodes = {{"UserActions~Spells", "Spells"},
+                      {"UserActions~Spells~Settings",
+                       "Settings",
+                       {{{"frmUserActionsSpellSettings", "UserActions ~ Spells ~ Settings", {7500, 7500}},
+                         {DeclaredSettings{spellSettings}, listPart(spellWards)}}},
+                       "Spells ~ Settings"},
+                      {"UserActions~Spells~SpellBook", "Spell Book",
+                       bookForm("frmUserActionsSpellsSpellBook", "UserActions ~ Spells ~ SpellBook",
+                                OwnPartKind::SpellBook, spellBook),
+                       "Spells ~ Spell Book"}},
+            .folders = {R"(UserActions\Spells)", R"(UserActions\Spells\Spells)"},
+            .build = {RebuiltSettings{spellSettings}, emptyTable(bookFile(spellBook())),
+                      emptyTable(wardsFile())}};
 }
 
 FunctionDeclaration nickSpellsFunction()

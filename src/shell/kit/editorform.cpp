@@ -1,9 +1,13 @@
 #include "shell/kit/editorform.h"
 
+#include "shell/kit/changemarks.h"
 #include "shell/kit/codepagetext.h"
+#include "shell/kit/controlvalue.h"
 #include "shell/kit/formadvice.h"
 #include "shell/kit/listview.h"
+#include "shell/kit/longtext.h"
 #include "shell/kit/messages.h"
+#include "shell/kit/settingcards.h"
 #include "shell/kit/toolbars.h"
 #include "shell/kit/units.h"
 #include "store/draft.h"
@@ -16,7 +20,6 @@
 #include <QScrollArea>
 #include <QShortcut>
 #include <QStatusBar>
-#include <QTextDocument>
 #include <QToolButton>
 #include <QVBoxLayout>
 
@@ -142,7 +145,9 @@ QString EditorForm::secondPanelText() const
     if (!m_versionFault.isEmpty())
         return "No version was kept: " + m_versionFault;
     const QString advice = m_advice ? m_advice->words() : QString();
-    return advice.isEmpty() ? m_note : advice;
+    if (!advice.isEmpty())
+        return advice;
+    return m_rowWords.isEmpty() || m_note.isEmpty() ? m_rowWords + m_note : m_rowWords + ". " + m_note;
 }
 
 QLabel* EditorForm::secondPanel() const
@@ -155,22 +160,47 @@ void EditorForm::fillSecondPanel()
     const QString text = secondPanelText();
     auto* panel = secondPanel();
     panel->setText(text);
-    panel->setToolTip(text.isEmpty() ? QString() : Qt::convertFromPlainText(text));
+    panel->setToolTip(toolTipOf(text));
     const bool leads = m_advice && !text.isEmpty() && text == m_advice->words();
     panel->setCursor(leads ? Qt::PointingHandCursor : Qt::ArrowCursor);
 }
 
-void EditorForm::adviseOf(const FormDeclaration& declaration, const FormContext& context)
+void EditorForm::explainBy(const FormDeclaration& declaration, const FormContext& context)
 {
+    m_marks = new ChangeMarks(*m_frame);
+    m_cards = new SettingCards(*m_frame, *m_marks);
+    for (const PartDeclaration& part : declaration.parts) {
+        for (const SettingCard& card : cardsOf(part, context.profiles)) {
+            m_cards->add(card);
+            auto* control = controlNamed(*m_frame, fromBytes(card.control));
+            if (control && card.defaultValue)
+                m_marks->offerDefault(*control, fromBytes(*card.defaultValue));
+        }
+    }
     m_advice = new FormAdvice(declaration, context, *this);
-    connect(m_advice, &FormAdvice::changed, this, &EditorForm::fillSecondPanel);
+    connect(m_advice, &FormAdvice::looked, this, [this] {
+        m_rowWords = m_marks->rowWords();
+        fillSecondPanel();
+    });
     for (FormPart* part : m_parts)
         connect(part, &FormPart::openFileChanged, m_advice, &FormAdvice::lookSoon);
-    auto* next = new QAction(this);
-    next->setShortcut(Qt::Key_F8);
-    next->setShortcutContext(Qt::WidgetWithChildrenShortcut);
-    addAction(next);
-    connect(next, &QAction::triggered, m_advice, &FormAdvice::goToNext);
+    addKey(Qt::Key_F8, [this] { m_advice->goToNext(); });
+    addKey(Qt::Key_F1, [this] { showCard(); });
+}
+
+void EditorForm::addKey(int key, const std::function<void()>& pressed)
+{
+    auto* action = new QAction(this);
+    action->setShortcut(key);
+    action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+    addAction(action);
+    connect(action, &QAction::triggered, this, pressed);
+}
+
+void EditorForm::showCard()
+{
+    if (!m_cards || m_cards->isShown() || !m_cards->show())
+        emit guideAsked(objectName());
 }
 
 bool EditorForm::eventFilter(QObject* watched, QEvent* event)
@@ -201,7 +231,7 @@ void EditorForm::open()
     letKeysReachButtons(*this);
     focusFirstControl();
     load();
-    bDirty = SetControlsClean(*m_toolbar, *m_statusBar);
+    setDirty(false);
 }
 
 QSize EditorForm::leastSize() const
@@ -225,6 +255,21 @@ void EditorForm::focusFirstControl()
     }
 }
 
+void EditorForm::setDirty(bool dirty)
+{
+    bDirty = dirty ? SetControlsDirty(*m_toolbar, *m_statusBar) : SetControlsClean(*m_toolbar, *m_statusBar);
+    emit dirtyChanged();
+}
+
+/// The files hold what the form shows.
+void EditorForm::remember()
+{
+    tellChangedFile({});
+    if (m_marks)
+        m_marks->remember();
+    adviseSoon();
+}
+
 void EditorForm::adviseSoon()
 {
     if (m_advice)
@@ -235,7 +280,9 @@ void EditorForm::markDirty()
 {
     if (m_loading)
         return;
-    bDirty = SetControlsDirty(*m_toolbar, *m_statusBar);
+    setDirty(true);
+    if (m_marks)
+        m_marks->follow();
     adviseSoon();
 }
 
@@ -252,8 +299,7 @@ void EditorForm::load()
         notify(this, caption(), m_notLoaded, QMessageBox::Critical);
     }
     m_files = record.files();
-    tellChangedFile({});
-    adviseSoon();
+    remember();
     emit loaded();
 }
 
@@ -262,7 +308,7 @@ void EditorForm::loadAnew()
     if (m_description.isLoadedOnce)
         return;
     load();
-    bDirty = SetControlsClean(*m_toolbar, *m_statusBar);
+    setDirty(false);
 }
 
 bool EditorForm::maySave()
@@ -297,11 +343,10 @@ void EditorForm::save()
     // After a failure the form stays dirty and complete, so that nothing typed is lost.
     if (!attempt(this, saving(caption()), [this] { commitParts(); }))
         return;
-    tellChangedFile({});
-    adviseSoon();
+    remember();
     if (m_description.reloadsAfterSave)
         load();
-    bDirty = SetControlsClean(*m_toolbar, *m_statusBar);
+    setDirty(false);
 }
 
 bool EditorForm::confirmDiscard()
@@ -315,7 +360,7 @@ void EditorForm::discard()
         return;
     load();
     if (m_description.afterDiscard == FormDescription::AfterDiscard::Clean)
-        bDirty = SetControlsClean(*m_toolbar, *m_statusBar);
+        setDirty(false);
 }
 
 void EditorForm::restore()

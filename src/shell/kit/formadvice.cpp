@@ -3,15 +3,14 @@
 #include "advice/filefindings.h"
 #include "advice/settingfindings.h"
 #include "declarations/oddfiles.h"
-#include "settings/overloaded.h"
+#include "declarations/settingcard.h"
 #include "settings/tablefile.h"
 #include "shell/kit/codepagetext.h"
 #include "shell/kit/controlsign.h"
+#include "shell/kit/controlvalue.h"
 #include "shell/kit/editorform.h"
 #include "shell/kit/rowlist.h"
 
-#include <QAbstractSpinBox>
-#include <QComboBox>
 #include <QLineEdit>
 
 #include <algorithm>
@@ -34,38 +33,6 @@ std::string_view lineAt(std::string_view bytes, std::size_t number)
     for (std::size_t at = 0; at < number; ++at)
         line = cursor.next();
     return line.value_or(std::string_view());
-}
-
-/// The name of the control that a setting has; empty for none.
-std::string controlOf(const Setting& setting)
-{
-    const Overloaded names = {
-        [](const setting::Field& field) { return field.control; },
-        [](const setting::NamedTexts& texts) { return texts.control; },
-        [](const auto& /*without a control*/) { return std::string(); },
-    };
-    return std::visit(names, setting);
-}
-
-/// The box that a line of text is the inside of, or the line itself.
-QWidget* boxAround(QWidget* line)
-{
-    auto* parent = line->parentWidget();
-    const bool isInner = qobject_cast<QAbstractSpinBox*>(parent) || qobject_cast<QComboBox*>(parent);
-    return isInner ? parent : line;
-}
-
-/// An option group is found by its first button.
-QWidget* widgetOf(QWidget& part, const std::string& control)
-{
-    const QString name = fromBytes(control);
-    if (auto* widget = part.findChild<QWidget*>(name))
-        return boxAround(widget);
-    for (auto* each : part.findChildren<QWidget*>()) {
-        if (!control.empty() && each->objectName().startsWith(name + '('))
-            return each->parentWidget();
-    }
-    return nullptr;
 }
 
 /// How many bytes of a line a row's cells or a box's text make up.
@@ -171,13 +138,13 @@ void FormAdvice::look()
     // What a form shows only in part can't be saved; and while a save is under way its draft is the open one.
     auto found =
         m_form.isWhole() && !m_context.files.store().isDrafting() ? this->found() : std::vector<Advice>();
-    if (std::equal(found.begin(), found.end(), m_all.begin(), m_all.end(), isSame))
-        return;
-    m_all = std::move(found);
-    m_shown = 0;
-    m_wasGoneTo = false;
-    showSigns();
-    emit changed();
+    if (!std::equal(found.begin(), found.end(), m_all.begin(), m_all.end(), isSame)) {
+        m_all = std::move(found);
+        m_shown = 0;
+        m_wasGoneTo = false;
+        showSigns();
+    }
+    emit looked();
 }
 
 /// What the parts would save, each by itself.
@@ -241,7 +208,7 @@ Advice FormAdvice::placed(const Finding& finding, const std::string& bytes, Form
     PlaceOfLine place(lineAt(bytes, finding.line), found);
     const TableFile* file = settingsFile(finding.file);
     const Setting* setting = file ? settingAt(*file, bytes, finding.line) : nullptr;
-    auto* control = setting ? widgetOf(*widget, controlOf(*setting)) : nullptr;
+    auto* control = setting ? controlNamed(*widget, fromBytes(controlOf(*setting))) : nullptr;
     if (auto* list = qobject_cast<RowList*>(control))
         place.lookIn(*list);
     else if (!control)
@@ -351,7 +318,7 @@ void FormAdvice::goTo(std::size_t place)
     m_shown = place;
     m_wasGoneTo = true;
     const Advice advice = m_all.at(place);
-    emit changed();
+    emit looked();
     if (advice.control)
         m_form.goTo(*advice.control, advice.row);
     else if (!advice.elsewhere.isEmpty())

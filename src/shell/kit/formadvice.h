@@ -59,7 +59,8 @@ public:
     void goTo(const Finding& finding);
 
 signals:
-    void changed();
+    /// What is said may be something else now.
+    void looked();
 
     /// Advice leads to a row in another form.
     void elsewhereAsked(const QString& key, const QString& list, const QString& row);

@@ -61,6 +61,7 @@ ListedFilesPart::ListedFilesPart(ListedFiles files, const FormContext& context, 
       m_widget(sideBySide(below(above, m_nameTools), m_rows->widget()))
 {
     m_rows->setParent(this);
+    m_rows->list().setSavedByItself();
     m_names->setSelectionMode(QAbstractItemView::SingleSelection); // it tells which file is meant
     m_nameTools->connectButtons(this, {{"NEW", &ListedFilesPart::askName},
                                        {"OPEN", &ListedFilesPart::chooseFile},

@@ -24,6 +24,10 @@ public:
     const std::vector<CellRow>& rows() const;
     bool isEmpty() const { return rows().empty(); }
     void setRows(std::vector<CellRow> rows);
+
+    /// Whether a button of its own saves the list, and the form's SAVE doesn't.
+    bool isSavedByItself() const { return m_savedByItself; }
+    void setSavedByItself() { m_savedByItself = true; }
     void append(CellRow row);
     void replace(int row, CellRow cells);
     void remove(int row);
@@ -53,6 +57,7 @@ private:
     void tick(const std::vector<int>& rows, const std::function<bool(const CellRow&)>& ticked);
 
     RowModel* m_rows;
+    bool m_savedByItself = false;
     QList<QAction*> m_tickActions; ///< none where there are no ticks
 };
 

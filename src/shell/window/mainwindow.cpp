@@ -12,6 +12,7 @@
 #include "shell/kit/toolbars.h"
 #include "shell/kit/units.h"
 #include "shell/window/aboutbox.h"
+#include "shell/window/changedicon.h"
 #include "shell/window/filewatch.h"
 #include "shell/window/navigator.h"
 #include "shell/window/popupmenus.h"
@@ -126,7 +127,9 @@ MainWindow::MainWindow(const ProgramInfo& program, const FormContext& context, c
 
     const bool portalShown = isPortalOn(context.files);
     addToolbar(portalShown);
-    m_navigator = new Navigator(m_table, portalShown);
+    m_finder.setPortalShown(portalShown);
+    m_navigator = new Navigator(m_table, m_finder, portalShown);
+    connect(m_navigator, &Navigator::found, this, &MainWindow::openFound);
     connect(m_rootMenu, &RootMenu::findingChosen, this, &MainWindow::goToFinding);
     connect(m_navigator, &Navigator::rootMenuAsked, m_rootMenu, &RootMenu::popUp);
     connect(m_navigator, &Navigator::chosen, this, [this] { OpenFunctionForm(QString()); });
@@ -277,7 +280,26 @@ void MainWindow::OpenFunctionForm(const QString& key)
     EditorForm* form = formOf(wanted);
     if (form && !m_openWindows.contains(wanted) && !(fromTree && m_navigator->headingSelected()))
         m_openWindows.Add(wanted);
+    if (form)
+        m_navigator->noteOpened(m_table.keyOfForm(form->objectName()));
     m_windowMenu->RebuildWindowMenu(m_openWindows);
+}
+
+/// A text that has an editor of its own is opened by a button, which is as far as we go.
+void MainWindow::openFound(const QString& key, const QString& control, int row)
+{
+    OpenFunctionForm(key);
+    auto* form = activeForm();
+    if (!form)
+        return;
+    if (auto* entry = entryOf(*form))
+        entry->setFocus(Qt::OtherFocusReason);
+    if (control.isEmpty())
+        return;
+    if (const auto* toolbar = form->findChild<QToolBar*>(control))
+        form->goTo(*toolbar->widgetForAction(toolbar->actions().constFirst()));
+    else
+        form->goTo(control, row);
 }
 
 EditorForm* MainWindow::formOf(const QString& key)
@@ -319,9 +341,12 @@ void MainWindow::showForm(EditorForm* form)
         connect(form->advice(), &FormAdvice::elsewhereAsked, this, &MainWindow::goToRow);
     followFiles();
     window->setWindowIcon(themedIcon("quillfen"));
+    connect(form, &EditorForm::dirtyChanged, this, [this, form] { showChanged(*form, form->isDirty()); });
     window->setAttribute(Qt::WA_DeleteOnClose);
-    connect(form, &EditorForm::closed, this,
-            [this, form] { FindOpenWindow(form->tag().isEmpty() ? form->caption() : form->tag()); });
+    connect(form, &EditorForm::closed, this, [this, form] {
+        showChanged(*form, false);
+        FindOpenWindow(form->tag().isEmpty() ? form->caption() : form->tag());
+    });
     const int caption =
         window->fontMetrics().horizontalAdvance(form->caption()) + twips(2400); // and its buttons
     window->resize(window->sizeHint()
@@ -332,6 +357,15 @@ void MainWindow::showForm(EditorForm* form)
     if (maximised)
         window->showMaximized();
     bringIntoSight(*window, *m_area);
+}
+
+void MainWindow::showChanged(const EditorForm& form, bool isChanged)
+{
+    const QIcon icon = themedIcon("quillfen");
+    const QString key = m_table.keyOfForm(form.objectName());
+    form.parentWidget()->setWindowIcon(isChanged ? withChangedDot(icon) : icon);
+    m_navigator->markChanged(key, isChanged);
+    m_windowMenu->markChanged(key, isChanged);
 }
 
 void MainWindow::bringForward(QMdiSubWindow& window)

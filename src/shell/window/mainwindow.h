@@ -1,6 +1,7 @@
 #pragma once
 
 #include "shell/kit/declaredforms.h"
+#include "shell/window/finder.h"
 #include "shell/window/navigatortable.h"
 #include "shell/window/openwindows.h"
 #include "shell/window/programinfo.h"
@@ -61,9 +62,11 @@ private:
     void followFiles();
     QList<EditorForm*> openForms() const;
     void addToolbar(bool portalShown);
+    void showChanged(const EditorForm& form, bool isChanged);
     void goToFinding(const QString& node, const Finding& finding);
     void goToRow(const QString& node, const QString& list, const QString& row);
     EditorForm* formOf(const QString& key);
+    void openFound(const QString& key, const QString& control, int row);
     QMdiSubWindow* subWindowOf(const QString& name) const;
     void showForm(EditorForm* form);
     void bringForward(QMdiSubWindow& window);
@@ -83,6 +86,7 @@ private:
     NavigatorTable m_table;
     FormContext m_context;
     QHash<QString, FormDeclaration> m_forms;
+    Finder m_finder{m_table, m_forms, m_context};
     PartMakers m_makers;
     COpenWindows m_openWindows;
     Navigator* m_navigator;

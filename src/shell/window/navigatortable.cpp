@@ -18,7 +18,7 @@ NavigatorTable::NavigatorTable(const std::vector<Node>& nodes)
     for (const Node& node : nodes) {
         const QString key = fromBytes(node.key);
         const QString form = node.form ? fromBytes(node.form->form.name) : QString();
-        m_places.insert(key, {keyAbove(node), form});
+        m_places.insert(key, {keyAbove(node), form, fromBytes(node.caption)});
         m_headings.insert(keyAbove(node));
         if (node.inTree)
             m_rows.append({key, fromBytes(node.caption),

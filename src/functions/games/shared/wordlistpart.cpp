@@ -25,6 +25,7 @@ WordListPart::WordListPart(const RowListDeclaration& words, const FormContext& c
                                .note = [this] { setChanges(true); }}))
 {
     m_words->setParent(this);
+    m_words->list().setSavedByItself();
     m_words->tools().connectButtons(this, {{"OPEN", &WordListPart::openFile},
                                            {"SAVE", &WordListPart::saveFile},
                                            {"CLOSE", &WordListPart::closeFile}});
