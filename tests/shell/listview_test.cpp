@@ -37,14 +37,13 @@ TEST(ListViewTest, ATextTooLongForItsCellHasAToolTip)
     list.resize(300, 200);
     list.show();
     const auto tipAt = [&list](int row) {
-        QToolTip::hideText();
         const QPoint at = list.visualRect(list.model()->index(row, 0)).center();
         QHelpEvent help(QEvent::ToolTip, at, list.viewport()->mapToGlobal(at));
         QApplication::sendEvent(list.viewport(), &help);
         return QToolTip::isVisible() ? QToolTip::text() : QString();
     };
-    EXPECT_EQ(tipAt(1), "<p>a text that is much too long for its cell</p>");
     EXPECT_EQ(tipAt(0), "");
+    EXPECT_EQ(tipAt(1), "<p>a text that is much too long for its cell</p>");
 }
 
 TEST(ListViewTest, AnEmptyListSaysInGreyWhatBelongsThere)
