@@ -350,9 +350,9 @@ QMdiSubWindow* MainWindow::subWindowOf(const QString& name) const
 void MainWindow::showForm(EditorForm* form)
 {
     auto* before = m_area->currentSubWindow();
-    const bool maximised = before && before->isMaximized();
+    const bool maximised = before ? before->isMaximized() : m_places.wasMaximised(form->objectName());
     form->open();
-    if (maximised)
+    if (before && maximised)
         before->showNormal(); // else Qt hands its state on to the new window before that has got its size
     delete m_howToBegin;
     delete m_area->viewport()->layout();
@@ -378,6 +378,8 @@ void MainWindow::showForm(EditorForm* form)
                        .boundedTo(m_area->viewport()->size()) // what is more scrolls inside
                        .expandedTo(window->minimumSizeHint()));
     window->show();
+    m_places.putBack(*window);
+    m_places.follow(*window);
     if (maximised)
         window->showMaximized();
     bringIntoSight(*window, *m_area);

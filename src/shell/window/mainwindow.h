@@ -2,6 +2,7 @@
 
 #include "shell/kit/declaredforms.h"
 #include "shell/window/finder.h"
+#include "shell/window/formplaces.h"
 #include "shell/window/navigatortable.h"
 #include "shell/window/openwindows.h"
 #include "shell/window/programinfo.h"
@@ -96,6 +97,7 @@ private:
     Navigator* m_navigator;
     QMdiArea* m_area;
     QPointer<QLabel> m_howToBegin; ///< in the empty area, until the first form opens
+    FormPlaces m_places;
     EditorForm* m_saved = nullptr; ///< the one of all that is being saved
     QToolBar* m_toolbar = nullptr;
     QPointer<QMdiSubWindow> m_followed; ///< the form that the tree has followed last
