@@ -18,21 +18,28 @@ bool isDigit(char byte)
 }
 
 /// Which bytes words are made of.
-std::array<bool, 256> wordBytes()
+class WordBytes
 {
-    std::array<bool, 256> all{};
-    for (std::size_t byte = 0; byte < all.size(); ++byte) {
-        const std::string text(1, static_cast<char>(byte));
-        all[byte] = isDigit(text[0]) || codepage::lowered(text) != codepage::raised(text);
+public:
+    static const WordBytes& all()
+    {
+        static const WordBytes bytes;
+        return bytes;
     }
-    return all;
-}
 
-bool isWordByte(char byte)
-{
-    static const std::array<bool, 256> all = wordBytes();
-    return all[static_cast<unsigned char>(byte)];
-}
+    bool has(char byte) const { return m_are[static_cast<unsigned char>(byte)]; }
+
+private:
+    WordBytes()
+    {
+        for (std::size_t byte = 0; byte < m_are.size(); ++byte) {
+            const std::string text(1, static_cast<char>(byte));
+            m_are[byte] = isDigit(text[0]) || codepage::lowered(text) != codepage::raised(text);
+        }
+    }
+
+    std::array<bool, 256> m_are{};
+};
 
 /// How many bytes at a text's beginning are the word but for one letter; 0 if none are.
 std::size_t nearLength(std::string_view text, std::string_view word)
@@ -43,7 +50,7 @@ std::size_t nearLength(std::string_view text, std::string_view word)
         return word.size();
     const std::string_view rest = text.substr(differs);
     const std::string_view sought = word.substr(differs);
-    if (!rest.empty() && isWordByte(rest[0])) {
+    if (!rest.empty() && WordBytes::all().has(rest[0])) {
         if (rest.substr(1).starts_with(sought))
             return word.size() + 1;
         const bool areSwapped = rest.size() > 1 && sought.size() > 1 && rest[0] == sought[1] &&
@@ -123,7 +130,7 @@ std::vector<std::vector<FindMark>> FindQuery::marksIn(const std::vector<std::str
 
 bool beginsWord(std::string_view lowered, std::size_t at)
 {
-    return at == 0 || !isWordByte(lowered[at - 1]);
+    return at == 0 || !WordBytes::all().has(lowered[at - 1]);
 }
 
 std::optional<FindMark> exactPlace(std::string_view lowered, std::string_view word, std::size_t from)
@@ -138,11 +145,14 @@ std::optional<FindMark> nearPlace(std::string_view lowered, std::string_view wor
 {
     if (!mayBeMisspelt(word))
         return std::nullopt;
+    const WordBytes& bytes = WordBytes::all();
+    bool isInside = !beginsWord(lowered, from);
     for (std::size_t at = from; at < lowered.size(); ++at) {
-        if (!isWordByte(lowered[at]) || !beginsWord(lowered, at))
-            continue;
-        if (const std::size_t length = nearLength(lowered.substr(at), word))
+        const bool isWord = bytes.has(lowered[at]);
+        const std::size_t length = isWord && !isInside ? nearLength(lowered.substr(at), word) : 0;
+        if (length > 0)
             return FindMark{at, length};
+        isInside = isWord;
     }
     return std::nullopt;
 }

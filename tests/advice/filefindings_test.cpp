@@ -84,6 +84,11 @@ TEST(FileFindings, TellOfTextsWhoseEndsTheNextLoadTakesAway)
     }
 }
 
+TEST(FileFindings, TellOfATextBehindWhichBlanksStand)
+{
+    EXPECT_EQ(found("t = {\r\n\tsText = \" a\", \t\r\n}\r\n"), at(2, ends));
+}
+
 TEST(FileFindings, TellOfRowsWhoseBracketsTheNextLoadTakesAway)
 {
     EXPECT_EQ(found("t = {\r\n\t\"[Chat]\",\r\n}\r\n"), at(2, "the text begins with [ or ends with ]"));

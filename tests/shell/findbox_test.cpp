@@ -335,7 +335,7 @@ int markedDots(QListView& list)
     const QImage picture = list.viewport()->grab().toImage();
     const QColor base = list.palette().color(QPalette::Base);
     const QColor highlight = list.palette().color(QPalette::Highlight);
-    const auto mixed = [](int from, int to) { return from + (to - from) / 4; };
+    const auto mixed = [](int from, int to) { return from + (to - from) * 2 / 5; };
     const QColor ground(mixed(base.red(), highlight.red()), mixed(base.green(), highlight.green()),
                         mixed(base.blue(), highlight.blue()));
     const auto isNear = [&ground](const QColor& dot) {

@@ -3,6 +3,8 @@
 #include "support/formtest.h"
 
 #include <QAccessible>
+#include <QContextMenuEvent>
+#include <QMenu>
 #include <QScrollBar>
 
 #include <set>
@@ -145,7 +147,7 @@ TEST_F(GridRows, EachKindOfGridHasSentencesInItsOwnWords)
 {
     EXPECT_EQ(told(open("Communication~MassMessage")), "Unregistered may mass message Unregistered: No");
     auto& registration = open("Security~Registration");
-    EXPECT_EQ(told(registration), "Unregistered may add registration of Unregistered: False");
+    EXPECT_EQ(told(registration), "Master may add registration of Master: False");
     auto& archive = open("Hyperlink~Permissions");
     rowsOf(archive).select(3 * 4);
     EXPECT_TRUE(told(archive).startsWith("New items for Unregistered: ")) << told(archive).toStdString();

@@ -10,7 +10,7 @@
 namespace quillfen {
 namespace {
 
-const std::string itemOfTheWeek = "ItemOfTheWeek";
+constexpr const char* itemOfTheWeek = "ItemOfTheWeek";
 
 struct Day
 {

@@ -3,8 +3,11 @@
 namespace quillfen {
 namespace {
 
-const ListFile hubsFile = {R"(Communication\WelcomeInfo\WelcomeInfoNetworkHubs.tbl)",
-                           "tWelcomeInfoNetworkHubs", ListFile::Form::Numbered};
+ListFile hubsFile()
+{
+    return {R"(Communication\WelcomeInfo\WelcomeInfoNetworkHubs.tbl)", "tWelcomeInfoNetworkHubs",
+            ListFile::Form::Numbered};
+}
 
 setting::Field fact(const char* key, const char* control, const char* label)
 {
@@ -22,8 +25,8 @@ RowListDeclaration declaredHubs()
     hubs.columns = {"HubName"};
     hubs.menu = "mnuFirst";
     hubs.deletion = deletionOf("Intro", "File"); // the words of other lists, which users know here
-    hubs.load = loadOf(hubsFile);
-    hubs.save = saveOf(hubsFile);
+    hubs.load = loadOf(hubsFile());
+    hubs.save = saveOf(hubsFile());
     hubs.restored = noRows;
     return hubs;
 }
@@ -77,7 +80,7 @@ FunctionDeclaration welcomeInfoFunction()
                                 networkHubs),
                        "Welcome Info ~ Network Hubs"}},
             .folders = {R"(Communication\WelcomeInfo)"},
-            .build = {RebuiltSettings{welcomeInfoSettings}, emptyTable(hubsFile)}};
+            .build = {RebuiltSettings{welcomeInfoSettings}, emptyTable(hubsFile())}};
 }
 
 } // namespace quillfen

@@ -6,9 +6,15 @@
 namespace quillfen {
 namespace {
 
-const ListFile usersFile = {R"(CustomiseUser\IntroOutro\AsciiIntro.tbl)", "tAsciiIntro",
-                            ListFile::Form::Keyed};
-const ListFile indexFile = {R"(CustomiseUser\IntroOutro\AsciiIntroIndex.tbl)", "tAsciiIntroIndex"};
+ListFile usersFile()
+{
+    return {R"(CustomiseUser\IntroOutro\AsciiIntro.tbl)", "tAsciiIntro", ListFile::Form::Keyed};
+}
+
+ListFile indexFile()
+{
+    return {R"(CustomiseUser\IntroOutro\AsciiIntroIndex.tbl)", "tAsciiIntroIndex"};
+}
 
 std::vector<CellRow> loadFiles(const SettingsFiles& files, const HubProfiles& /*profiles*/)
 {
@@ -33,8 +39,8 @@ RowListDeclaration declaredUsers()
     list.dialog.labels = list.columns;
     list.editTitleOf = [](const CellRow& row) { return "Edit Ascii Intro for " + row.cells[0]; };
     list.deletion = deletionOf("Intro", "intro");
-    list.load = loadOf(usersFile);
-    list.save = saveOf(usersFile);
+    list.load = loadOf(usersFile());
+    list.save = saveOf(usersFile());
     list.restored = noRows;
     return list;
 }
@@ -53,7 +59,7 @@ RowListDeclaration declaredFiles()
     list.dialog.labels = {"Enter filename for new Ascii Intro"};
     list.deletion = deletionOf("Ascii Intro", "Ascii Intro");
     list.load = loadFiles;
-    list.save = saveOf(indexFile);
+    list.save = saveOf(indexFile());
     return list;
 }
 
@@ -90,7 +96,7 @@ FunctionDeclaration asciiIntrosFunction()
                          {DeclaredSettings{asciiIntroSettings},
                           OwnPart{.kind = OwnPartKind::AsciiIntros, .lists = lists}}}},
                        "IntroOutro ~ Ascii"}},
-            .build = {RebuiltSettings{asciiIntroSettings}, emptyTable(usersFile), emptyTable(indexFile)}};
+            .build = {RebuiltSettings{asciiIntroSettings}, emptyTable(usersFile()), emptyTable(indexFile())}};
 }
 
 } // namespace quillfen

@@ -54,8 +54,6 @@ std::optional<RowRefusal> calculationRefusal(const std::vector<CellRow>& /*rows*
 
 } // namespace
 
-const std::vector<std::string> calculationOperators = {"+", "-", "*", "/"};
-
 const TableFile& numbersSettings()
 {
     static const TableFile file = {

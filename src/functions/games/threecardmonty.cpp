@@ -14,20 +14,27 @@ Setting deal()
                                  {R"("Ace Of Spades")", R"("Queen Of Hearts")", R"("Ace Of Clubs")"}};
 }
 
-const CommentList win = {{R"(Games\ThreeCardMonty\ThreeCardMontyWin.tbl)", "tThreeCardMontyWin"},
-                         "lvwWin",
-                         "tlbWin",
-                         "Win",
-                         "mnuFirst",
-                         "Win",
-                         "Each row is a comment on a player who wins."};
-const CommentList lose = {{R"(Games\ThreeCardMonty\ThreeCardMontyLose.tbl)", "tThreeCardMontyLose"},
-                          "lvwLose",
-                          "tlbLose",
-                          "Lose",
-                          "mnuSecond",
-                          "Lose",
-                          "Each row is a comment on a player who loses."};
+CommentList win()
+{
+    return {{R"(Games\ThreeCardMonty\ThreeCardMontyWin.tbl)", "tThreeCardMontyWin"},
+            "lvwWin",
+            "tlbWin",
+            "Win",
+            "mnuFirst",
+            "Win",
+            "Each row is a comment on a player who wins."};
+}
+
+CommentList lose()
+{
+    return {{R"(Games\ThreeCardMonty\ThreeCardMontyLose.tbl)", "tThreeCardMontyLose"},
+            "lvwLose",
+            "tlbLose",
+            "Lose",
+            "mnuSecond",
+            "Lose",
+            "Each row is a comment on a player who loses."};
+}
 
 } // namespace
 
@@ -45,13 +52,13 @@ const TableFile& threeCardMontySettings()
 
 const RowListDeclaration& threeCardMontyWin()
 {
-    static const RowListDeclaration declared = commentList(win);
+    static const RowListDeclaration declared = commentList(win());
     return declared;
 }
 
 const RowListDeclaration& threeCardMontyLose()
 {
-    static const RowListDeclaration declared = commentList(lose);
+    static const RowListDeclaration declared = commentList(lose());
     return declared;
 }
 
@@ -64,8 +71,8 @@ FunctionDeclaration threeCardMontyFunction()
                           listPart(threeCardMontyLose)}}}}},
             .folders = {R"(Games\ThreeCardMonty)"},
             .build = {RebuiltSettings{threeCardMontySettings},
-                      firstRows(win.file, {{"The Gods smile upon you, this day"}}),
-                      firstRows(lose.file, {{"You lost. Play again, what else have you got going?"}})}};
+                      firstRows(win().file, {{"The Gods smile upon you, this day"}}),
+                      firstRows(lose().file, {{"You lost. Play again, what else have you got going?"}})}};
 }
 
 } // namespace quillfen

@@ -5,10 +5,17 @@
 namespace quillfen {
 namespace {
 
-const ListFile badNickFile = {R"(Security\BadNickBlocker\BadNickBlockerNickList.tbl)",
-                              "tBadNickBlockerNickList", ListFile::Form::Numbered};
-const ListFile exemptUserFile = {R"(Security\CloneBlocker\CloneBlockerExemptUsers.tbl)",
-                                 "tCloneBlockerExemptUsers", ListFile::Form::Presence};
+ListFile badNickFile()
+{
+    return {R"(Security\BadNickBlocker\BadNickBlockerNickList.tbl)", "tBadNickBlockerNickList",
+            ListFile::Form::Numbered};
+}
+
+ListFile exemptUserFile()
+{
+    return {R"(Security\CloneBlocker\CloneBlockerExemptUsers.tbl)", "tCloneBlockerExemptUsers",
+            ListFile::Form::Presence};
+}
 
 /// A list of one-word rows, worded by what a row is called.
 RowListDeclaration wordedList(const ListFile& file, const std::string& word)
@@ -22,7 +29,7 @@ RowListDeclaration wordedList(const ListFile& file, const std::string& word)
 
 RowListDeclaration declaredBadNicks()
 {
-    RowListDeclaration list = wordedList(badNickFile, "Bad Nick");
+    RowListDeclaration list = wordedList(badNickFile(), "Bad Nick");
     list.list = "lvwBadNickList";
     list.toolbar = "tlbListview";
     list.label = "Bad Nicks";
@@ -33,7 +40,7 @@ RowListDeclaration declaredBadNicks()
 
 RowListDeclaration declaredExemptUsers()
 {
-    RowListDeclaration list = wordedList(exemptUserFile, "Exempt User");
+    RowListDeclaration list = wordedList(exemptUserFile(), "Exempt User");
     list.list = "lvwExemptUsers";
     list.toolbar = "tlbListview";
     list.label = "Exempt Users";
@@ -112,7 +119,7 @@ FunctionDeclaration badNickBlockerFunction()
                        settingsAndListForm({"frmSecurityBadNickBlocker", "Security ~ BadNickBlocker"},
                                            badNickSettings, badNicks)}},
             .folders = {R"(Security\BadNickBlocker)"},
-            .build = {RebuiltSettings{badNickSettings}, emptyTable(badNickFile)}};
+            .build = {RebuiltSettings{badNickSettings}, emptyTable(badNickFile())}};
 }
 
 FunctionDeclaration cloneBlockerFunction()
@@ -121,7 +128,7 @@ FunctionDeclaration cloneBlockerFunction()
                        settingsAndListForm({"frmSecurityCloneBlocker", "Security ~ CloneBlocker"},
                                            cloneSettings, cloneExemptUsers)}},
             .folders = {R"(Security\CloneBlocker)"},
-            .build = {RebuiltSettings{cloneSettings}, emptyTable(exemptUserFile)}};
+            .build = {RebuiltSettings{cloneSettings}, emptyTable(exemptUserFile())}};
 }
 
 FunctionDeclaration antiVirusFunction()

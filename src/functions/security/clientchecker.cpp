@@ -7,7 +7,10 @@
 namespace quillfen {
 namespace {
 
-const ListFile versionsFile = {clientVersionsFile, "tClientVersions", ListFile::Form::Keyed};
+ListFile versionsFile()
+{
+    return {clientVersionsFile, "tClientVersions", ListFile::Form::Keyed};
+}
 
 /// The cells of a row.
 enum Cell
@@ -21,7 +24,7 @@ enum Cell
 std::vector<CellRow> loadVersions(const SettingsFiles& files, const HubProfiles& /*profiles*/)
 {
     std::vector<CellRow> rows;
-    for (const ListRow& row : loadList(files, versionsFile)) {
+    for (const ListRow& row : loadList(files, versionsFile())) {
         const auto [allow, version, found] = splitInPieces(row.second, '^');
         rows.push_back({{row.text, std::string(version), isOne(allow) ? "True" : "False"}});
     }
@@ -36,7 +39,7 @@ void saveVersions(const SettingsFiles& files, const HubProfiles& /*profiles*/,
     for (const CellRow& row : rows)
         list.push_back(
             {row.cells[Client], (row.cells[Allow] == "True" ? "1^" : "0^") + row.cells[MinVersion]});
-    saveList(files, versionsFile, list);
+    saveList(files, versionsFile(), list);
 }
 
 std::vector<std::string> trimmed(const std::vector<std::string>& texts)
@@ -117,7 +120,7 @@ FunctionDeclaration clientCheckerFunction()
                        settingsAndListForm({"frmSecurityClientCheckerSettings", "Security ~ ClientChecker"},
                                            clientCheckerSettings, clientVersions)}},
             .folders = {R"(Security\ClientChecker)"},
-            .build = {RebuiltSettings{clientCheckerSettings}, emptyTable(versionsFile)}};
+            .build = {RebuiltSettings{clientCheckerSettings}, emptyTable(versionsFile())}};
 }
 
 } // namespace quillfen

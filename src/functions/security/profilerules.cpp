@@ -11,7 +11,10 @@
 namespace quillfen {
 namespace {
 
-const ListFile rulesFile = {R"(Security\ProfileRules\ProfileRules.tbl)", "tProfileRules"};
+ListFile rulesFile()
+{
+    return {R"(Security\ProfileRules\ProfileRules.tbl)", "tProfileRules"};
+}
 
 /// A rule, named without the letter of its key.
 struct Rule
@@ -91,7 +94,7 @@ bool isCount(std::string_view share)
 
 std::vector<CellRow> loadPermissions(const SettingsFiles& files, const HubProfiles& profiles)
 {
-    const auto index = files.index(rulesFile.path);
+    const auto index = files.index(rulesFile().path);
     std::vector<CellRow> rows;
     for (std::size_t profile = 0; profile < profiles.count(); ++profile) {
         const std::string key = HubProfiles::key(profile);
@@ -125,7 +128,7 @@ void writeTexts(TableWriter& table, std::string_view key, const std::vector<Cell
 
 void saveRules(const SettingsFiles& files, const std::vector<std::vector<CellRow>>& lists)
 {
-    TableWriter table(rulesFile.table);
+    TableWriter table(rulesFile().table);
     writeTexts(table, "tMessages", lists.at(1));
     writeTexts(table, "tRedirects", lists.at(2));
     std::size_t place = 0;
@@ -138,7 +141,7 @@ void saveRules(const SettingsFiles& files, const std::vector<std::vector<CellRow
         if (place == 0)
             table.close();
     }
-    files.WriteSettingsFile(rulesFile.path, table.closed());
+    files.WriteSettingsFile(rulesFile().path, table.closed());
 }
 
 RowDialog dialogOf(const CellRow& row)
@@ -214,7 +217,7 @@ RowListDeclaration textList(const std::string& word, const std::string& menu, co
     list.menu = menu;
     list.load = [table = "t" + word](const SettingsFiles& files, const HubProfiles&) {
         std::vector<ListRow> texts;
-        files.ReadTableToList(rulesFile.path, texts, "=", table);
+        files.ReadTableToList(rulesFile().path, texts, "=", table);
         std::vector<CellRow> rows;
         rows.reserve(texts.size());
         for (const ListRow& text : texts)
@@ -254,8 +257,8 @@ TableFile declaredSettings()
 
 void rebuildRules(const SettingsFiles& files, const HubProfiles& profiles)
 {
-    const auto index = files.index(rulesFile.path);
-    TableWriter table(rulesFile.table);
+    const auto index = files.index(rulesFile().path);
+    TableWriter table(rulesFile().table);
     for (const char* texts : {"tMessages", "tRedirects"}) {
         table.open(texts);
         for (const Rule& rule : rules()) {
@@ -272,7 +275,7 @@ void rebuildRules(const SettingsFiles& files, const HubProfiles& profiles)
         }
         table.close();
     }
-    files.WriteSettingsFile(rulesFile.path, table.closed());
+    files.WriteSettingsFile(rulesFile().path, table.closed());
 }
 
 /// Each rebuild starts the counters anew, and the ratio's key has another letter here than in the rules.

@@ -9,7 +9,10 @@
 namespace quillfen {
 namespace {
 
-const ListFile wardsFile = {R"(UserActions\Spells\SpellWards.tbl)", "tSpellWards", ListFile::Form::Presence};
+ListFile wardsFile()
+{
+    return {R"(UserActions\Spells\SpellWards.tbl)", "tSpellWards", ListFile::Form::Presence};
+}
 
 ListFile bookFile(const SpellBook& book)
 {
@@ -129,8 +132,8 @@ const RowListDeclaration& spellWards()
         list.remark = "Allows IPs beginning with 0 (such as 0.3.6.0)";
         list.columns = {"Warded User"};
         list.menu = "mnuFirst";
-        list.load = loadOf(wardsFile);
-        list.save = saveOf(wardsFile);
+        list.load = loadOf(wardsFile());
+        list.save = saveOf(wardsFile());
         return list;
     }();
     return declared;
@@ -205,19 +208,19 @@ void saveSpellBook(const SpellBook& book, const std::vector<CellRow>& spells, co
 
 FunctionDeclaration spellsFunction()
 {
-    return {
-        .nodes = {{"UserActions~Spells", "Spells"},
-                  {"UserActions~Spells~Settings",
-                   "Settings",
-                   {{{"frmUserActionsSpellSettings", "UserActions ~ Spells ~ Settings", {7500, 7500}},
-                     {DeclaredSettings{spellSettings}, listPart(spellWards)}}},
-                   "Spells ~ Settings"},
-                  {"UserActions~Spells~SpellBook", "Spell Book",
-                   bookForm("frmUserActionsSpellsSpellBook", "UserActions ~ Spells ~ SpellBook",
-                            OwnPartKind::SpellBook, spellBook),
-                   "Spells ~ Spell Book"}},
-        .folders = {R"(UserActions\Spells)", R"(UserActions\Spells\Spells)"},
-        .build = {RebuiltSettings{spellSettings}, emptyTable(bookFile(spellBook())), emptyTable(wardsFile)}};
+    return {.nodes = {{"UserActions~Spells", "Spells"},
+                      {"UserActions~Spells~Settings",
+                       "Settings",
+                       {{{"frmUserActionsSpellSettings", "UserActions ~ Spells ~ Settings", {7500, 7500}},
+                         {DeclaredSettings{spellSettings}, listPart(spellWards)}}},
+                       "Spells ~ Settings"},
+                      {"UserActions~Spells~SpellBook", "Spell Book",
+                       bookForm("frmUserActionsSpellsSpellBook", "UserActions ~ Spells ~ SpellBook",
+                                OwnPartKind::SpellBook, spellBook),
+                       "Spells ~ Spell Book"}},
+            .folders = {R"(UserActions\Spells)", R"(UserActions\Spells\Spells)"},
+            .build = {RebuiltSettings{spellSettings}, emptyTable(bookFile(spellBook())),
+                      emptyTable(wardsFile())}};
 }
 
 FunctionDeclaration nickSpellsFunction()

@@ -106,6 +106,7 @@ public:
 
 private:
     static constexpr float lessImportant = 0.75F;
+    static constexpr float markStrength = 0.4F;
 
     static const FoundRow& rowAt(const QModelIndex& index)
     {
@@ -118,7 +119,7 @@ private:
         const bool isSelected = (option.state & QStyle::State_Selected) != 0;
         QColor colour = option.palette.color(isSelected ? QPalette::HighlightedText : QPalette::Text);
         QColor ground = isSelected ? colour : option.palette.color(QPalette::Highlight);
-        ground.setAlphaF(0.25F);
+        ground.setAlphaF(markStrength);
         colour.setAlphaF(strength);
         const MarkedLine line = withMarkInSight(whole, option.fontMetrics, width);
         QTextCharFormat found;

@@ -189,7 +189,7 @@ bool Navigator::eventFilter(QObject* watched, QEvent* event)
         break;
     case QEvent::FocusIn:
         if (watched == m_find)
-            enterFindBox();
+            search();
         break;
     case QEvent::FocusOut:
         leaveFindBox();
@@ -233,16 +233,11 @@ bool Navigator::takesKey(const QObject& watched, QKeyEvent& event)
     return false;
 }
 
-/// Files may have been saved since the box was left.
-void Navigator::enterFindBox()
-{
-    m_finder.forget();
-    search();
-}
-
-/// What was found stays for the next look at it; what was opened last goes with the focus.
+/// What was found stays for the next look at it; what was opened last goes with the focus. So does the index:
+/// files may be saved until the box is entered again.
 void Navigator::leaveFindBox()
 {
+    m_finder.forget();
     const auto* focused = QApplication::focusWidget();
     if (focused && focused != m_find && focused != &m_results->list() && m_find->text().trimmed().isEmpty())
         showTree();

@@ -67,7 +67,6 @@ private:
     void askMenu(const QPoint& at);
     void expandGroups();
     void collapseAll();
-    void enterFindBox();
     void leaveFindBox();
     void search();
     void showTree();
