@@ -86,6 +86,9 @@ public:
     /// Whether all of it was loaded.
     bool isWhole() const { return !m_loading && m_notLoaded.isEmpty(); }
 
+    /// What its SAVE does.
+    void save();
+
     bool isDirty() const { return bDirty; }
     QString caption() const { return windowTitle(); }
 
@@ -115,7 +118,6 @@ private:
     void load();
     bool maySave();
     void commitParts();
-    void save();
     void discard();
     void restore();
     void markDirty();

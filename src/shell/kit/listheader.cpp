@@ -36,16 +36,27 @@ QString ListHeader::filter() const
     return isFiltering() ? m_line->text() : QString();
 }
 
-void ListHeader::openFilter()
+void ListHeader::showLine()
 {
     if (!m_line)
         makeLine();
-    if (!isFiltering()) {
-        m_hasCaptions = !isHidden();
-        m_line->show();
-        show();
-        emit geometriesChanged(); // the list makes room
-    }
+    if (isFiltering())
+        return;
+    m_hasCaptions = !isHidden();
+    m_line->show();
+    show();
+    emit geometriesChanged(); // the list makes room
+}
+
+void ListHeader::setFilter(const QString& text)
+{
+    showLine();
+    m_line->setText(text);
+}
+
+void ListHeader::openFilter()
+{
+    showLine();
     m_line->setFocus(Qt::ShortcutFocusReason);
     m_line->selectAll();
 }

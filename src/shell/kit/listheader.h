@@ -20,6 +20,9 @@ public:
     /// Takes the line off with what it holds.
     void closeFilter();
 
+    /// Shows the line with this text in it.
+    void setFilter(const QString& text);
+
     /// What stands in the line; empty where it isn't shown.
     QString filter() const;
 
@@ -37,6 +40,7 @@ protected:
 
 private:
     void makeLine();
+    void showLine();
     bool isFiltering() const;
 
     QLineEdit* m_line = nullptr; ///< made when it is first asked for

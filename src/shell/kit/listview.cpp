@@ -197,6 +197,16 @@ void ListView::openFilter()
     m_header->openFilter();
 }
 
+QString ListView::filter() const
+{
+    return m_header->filter();
+}
+
+void ListView::setFilter(const QString& words)
+{
+    m_header->setFilter(words);
+}
+
 /// Rows that come later show in any case: they were just made.
 void ListView::applyFilter()
 {
@@ -295,13 +305,19 @@ int ListView::found(int from, const std::function<bool(const QString&)>& fits) c
     return -1;
 }
 
+/// The last of those that show: the hidden ones are behind it.
+int ListView::lastColumn() const
+{
+    return header()->count() - header()->hiddenSectionCount() - 1;
+}
+
 void ListView::fitColumns()
 {
     if (m_fitted || model()->rowCount() == 0)
         return;
     m_fitted = true;
     const int character = fontMetrics().averageCharWidth();
-    const int last = header()->count() - header()->hiddenSectionCount() - 1; // the hidden ones are the last
+    const int last = lastColumn();
     for (int column = 0; column <= last; ++column) {
         const int wanted =
             std::max(sizeHintForColumn(column), header()->sectionSizeHint(column)) + 2 * character;
@@ -319,13 +335,21 @@ void ListView::setColumnWidths(const std::vector<int>& widths)
         header()->resizeSection(static_cast<int>(column), widths[column]);
 }
 
+std::vector<int> ListView::columnWidths() const
+{
+    std::vector<int> widths;
+    for (int column = 0; m_fitted && column < lastColumn(); ++column)
+        widths.push_back(header()->sectionSize(column));
+    return widths;
+}
+
 QSize ListView::sizeHint() const
 {
     const int fewest = header()->isHidden() ? 6 : 10; // the small ones beside other controls have no header
     constexpr int most = 20;
     const int rowHeight = std::max(sizeHintForRow(0), fontMetrics().height());
     const int rows = model() ? model()->rowCount() : 0;
-    const int last = header()->count() - header()->hiddenSectionCount() - 1;
+    const int last = lastColumn();
     const int character = fontMetrics().averageCharWidth();
     int width = std::clamp(m_lastColumnHint, lastNarrowest * character, lastWidest * character);
     for (int column = 0; column < last; ++column)

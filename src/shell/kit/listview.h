@@ -81,6 +81,14 @@ public:
     /// Shows the filter's line, with the cursor in it.
     void openFilter();
 
+    /// What the filter's line holds; empty where it isn't shown.
+    QString filter() const;
+    void setFilter(const QString& words);
+
+    /// The widths of all columns but the last, which takes what the others leave; empty while no rows have
+    /// come to fit them to.
+    std::vector<int> columnWidths() const;
+
     /// Wide enough for its columns and tall enough for its rows, within reason: what is more scrolls.
     QSize sizeHint() const override;
 
@@ -111,6 +119,7 @@ protected:
 
 private:
     bool isSelected(int row) const;
+    int lastColumn() const;
     QString tipOf(const QModelIndex& index) const;
     void fitColumns();
     void selectFirst();

@@ -58,6 +58,9 @@ public:
         filter();
     }
 
+    const QString& commandFilter() const { return m_commandFilter; }
+    const QString& profileFilter() const { return m_profileFilter; }
+
     void setCommandFilter(const QString& command)
     {
         m_commandFilter = command;
@@ -254,6 +257,10 @@ private:
 /// What tells a command's entry from a profile's: its key begins so.
 const QString commandMark = QStringLiteral("C*");
 
+/// The buttons that take their filter off when they are pressed.
+const QString commandButton = QStringLiteral("COMMAND");
+const QString profileButton = QStringLiteral("PROFILE");
+
 } // namespace
 
 PermissionGridPart::PermissionGridPart(const PermissionGrid& grid, GridWords words,
@@ -326,7 +333,7 @@ void PermissionGridPart::addFilters()
         const QString word = fromBytes(command);
         commands->menu()->addAction(word)->setObjectName(commandMark + word);
     }
-    auto* profiles = addFilter(index, "PROFILE", "View By Profile", "profile");
+    auto* profiles = addFilter(index, profileButton, "View By Profile", "profile");
     for (const std::string& name : m_context.profiles.names()) {
         const QString word = fromBytes(name);
         profiles->menu()->addAction(withoutKeys(word))->setObjectName(word);
@@ -359,9 +366,9 @@ void PermissionGridPart::choose(QAction* filter, const QString& entry)
 
 void PermissionGridPart::release(QAction* filter)
 {
-    if (filter->objectName() == "COMMAND") {
+    if (filter->objectName() == commandButton) {
         m_model->setCommandFilter(QString());
-    } else if (filter->objectName() == "PROFILE") {
+    } else if (filter->objectName() == profileButton) {
         m_model->setProfileFilter(QString());
     } else {
         filter->setChecked(!filter->isChecked()); // the press changes nothing, so it looks as before
@@ -369,6 +376,22 @@ void PermissionGridPart::release(QAction* filter)
     }
     filter->setChecked(false);
     tellRow();
+}
+
+GridFilter PermissionGridPart::filter() const
+{
+    GridFilter filter{{}, m_model->profileFilter()};
+    if (button(m_tools->toolbar(), commandButton))
+        filter.command = m_model->commandFilter();
+    return filter;
+}
+
+void PermissionGridPart::setFilter(const GridFilter& filter)
+{
+    if (!filter.command.isEmpty())
+        choose(&m_tools->tool(commandButton), commandMark + filter.command);
+    if (!filter.profile.isEmpty())
+        choose(&m_tools->tool(profileButton), filter.profile);
 }
 
 void PermissionGridPart::load()

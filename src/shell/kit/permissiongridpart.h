@@ -12,6 +12,13 @@ class ListView;
 class PermissionModel;
 class ToolbarList;
 
+/// What a grid shows of its rows; empty: all.
+struct GridFilter
+{
+    QString command{};
+    QString profile{};
+};
+
 /// A permission grid: one row per command, acting profile and target profile, toggled between yes and no, and
 /// filtered by command and by acting profile. What a filter hides is saved all the same. Of several selected
 /// rows each gets the answer that a toggle gives to the first. The second status panel tells the first in a
@@ -33,6 +40,10 @@ public:
     /// For a part that has the grid's cells from a file of its own.
     void show(std::vector<PermissionCell> cells);
     const std::vector<PermissionCell>& cells() const;
+
+    /// What is filtered now, as far as a press of the filter's button takes it off again.
+    GridFilter filter() const;
+    void setFilter(const GridFilter& filter);
 
     ToolbarList& tools() const { return *m_tools; }
 

@@ -14,6 +14,7 @@
 #include "shell/window/aboutbox.h"
 #include "shell/window/changedicon.h"
 #include "shell/window/filewatch.h"
+#include "shell/window/guide.h"
 #include "shell/window/navigator.h"
 #include "shell/window/popupmenus.h"
 #include "shell/window/rootmenu.h"
@@ -23,15 +24,18 @@
 
 #include <QCloseEvent>
 #include <QDesktopServices>
+#include <QLabel>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMenuBar>
+#include <QScopedValueRollback>
 #include <QScreen>
 #include <QScrollBar>
 #include <QSplitter>
 #include <QStatusBar>
 #include <QStyle>
 #include <QUrl>
+#include <QVBoxLayout>
 
 #include <algorithm>
 #include <utility>
@@ -139,6 +143,7 @@ MainWindow::MainWindow(const ProgramInfo& program, const FormContext& context, c
     m_area->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     m_area->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     connect(m_area, &QMdiArea::subWindowActivated, this, &MainWindow::formActivated);
+    showHowToBegin();
     auto* splitter = new QSplitter;
     splitter->addWidget(m_navigator);
     splitter->addWidget(m_area);
@@ -217,16 +222,30 @@ void MainWindow::followFiles()
     m_fileWatch->follow(files);
 }
 
+void MainWindow::showHowToBegin()
+{
+    m_howToBegin =
+        new QLabel("Choose a function in the tree to open its form,\nor press Ctrl+F and type a word of "
+                   "what you look for.");
+    m_howToBegin->setObjectName("lblHowToBegin");
+    m_howToBegin->setTextFormat(Qt::PlainText);
+    m_howToBegin->setAlignment(Qt::AlignCenter);
+    m_howToBegin->setWordWrap(true);
+    m_howToBegin->setForegroundRole(QPalette::PlaceholderText);
+    auto* layout = new QVBoxLayout(m_area->viewport());
+    layout->addWidget(m_howToBegin);
+}
+
 /// What is written outside of a form's save, a text or a deletion, is the active form's doing.
 void MainWindow::followStore()
 {
     StoreListener listener;
     listener.cause = [this] {
-        const auto* form = activeForm();
+        const auto* form = writingForm();
         return Cause{form ? form->caption().toStdString() : m_program.product.toStdString()};
     };
     listener.versionKept = [this](const std::string& fault) {
-        if (auto* form = activeForm())
+        if (auto* form = writingForm())
             form->tellVersionFault(QString::fromStdString(fault));
     };
     m_context.files.store().hear(std::move(listener));
@@ -331,12 +350,17 @@ QMdiSubWindow* MainWindow::subWindowOf(const QString& name) const
 void MainWindow::showForm(EditorForm* form)
 {
     auto* before = m_area->currentSubWindow();
-    const bool maximised = before && before->isMaximized();
+    const bool maximised = before ? before->isMaximized() : m_places.wasMaximised(form->objectName());
     form->open();
-    if (maximised)
+    if (before && maximised)
         before->showNormal(); // else Qt hands its state on to the new window before that has got its size
+    delete m_howToBegin;
+    delete m_area->viewport()->layout();
     auto* window = m_area->addSubWindow(form);
     connect(form, &EditorForm::loaded, this, &MainWindow::followFiles);
+    connect(form, &EditorForm::guideAsked, this, [this](const QString& name) {
+        openGuide(m_program, guidePage(m_table, m_table.keyOfForm(name)), this);
+    });
     if (form->advice())
         connect(form->advice(), &FormAdvice::elsewhereAsked, this, &MainWindow::goToRow);
     followFiles();
@@ -354,6 +378,8 @@ void MainWindow::showForm(EditorForm* form)
                        .boundedTo(m_area->viewport()->size()) // what is more scrolls inside
                        .expandedTo(window->minimumSizeHint()));
     window->show();
+    m_places.putBack(*window);
+    m_places.follow(*window);
     if (maximised)
         window->showMaximized();
     bringIntoSight(*window, *m_area);
@@ -414,11 +440,30 @@ void MainWindow::addKeys()
     };
     add(QKeySequence::keyBindings(QKeySequence::Find), [this] { findFunction(); });
     // Qt's own goes there when Ctrl is let go, and tells of it by a frame that other forms hide.
-    add(QKeySequence::keyBindings(QKeySequence::NextChild), [this] { m_area->activateNextSubWindow(); });
-    add(QKeySequence::keyBindings(QKeySequence::PreviousChild),
+    add(QKeySequence::keyBindings(QKeySequence::NextChild) + QList<QKeySequence>{Qt::CTRL | Qt::Key_PageDown},
+        [this] { m_area->activateNextSubWindow(); });
+    add(QKeySequence::keyBindings(QKeySequence::PreviousChild) +
+            QList<QKeySequence>{Qt::CTRL | Qt::Key_PageUp},
         [this] { m_area->activatePreviousSubWindow(); });
+    add({Qt::CTRL | Qt::SHIFT | Qt::Key_S}, [this] { saveAll(); });
     add({Qt::Key_F6}, [this] { goToPane(1); });
     add({Qt::SHIFT | Qt::Key_F6}, [this] { goToPane(-1); });
+}
+
+/// Each form tells what it has to tell, and what one couldn't save keeps no other from it.
+void MainWindow::saveAll()
+{
+    EditorForm* unsaved = nullptr;
+    for (auto* form : openForms()) {
+        if (!form->isDirty())
+            continue;
+        const QScopedValueRollback saved(m_saved, form);
+        form->save();
+        if (form->isDirty() && !unsaved)
+            unsaved = form;
+    }
+    if (unsaved)
+        bringForward(*subWindowOf(unsaved->objectName()));
 }
 
 void MainWindow::goToPane(int step)

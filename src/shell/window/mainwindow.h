@@ -2,6 +2,7 @@
 
 #include "shell/kit/declaredforms.h"
 #include "shell/window/finder.h"
+#include "shell/window/formplaces.h"
 #include "shell/window/navigatortable.h"
 #include "shell/window/openwindows.h"
 #include "shell/window/programinfo.h"
@@ -10,6 +11,7 @@
 #include <QMainWindow>
 #include <QPointer>
 
+class QLabel;
 class QMdiArea;
 class QMdiSubWindow;
 class QToolBar;
@@ -60,6 +62,7 @@ private:
     void buildMenus();
     void followStore();
     void followFiles();
+    void showHowToBegin();
     QList<EditorForm*> openForms() const;
     void addToolbar(bool portalShown);
     void showChanged(const EditorForm& form, bool isChanged);
@@ -73,6 +76,7 @@ private:
     void formActivated(QMdiSubWindow* window);
     void addKeys();
     void goToPane(int step);
+    void saveAll();
     void FindOpenWindow(const QString& caption);
     void ToggleSideBar();
     void findFunction();
@@ -81,6 +85,7 @@ private:
     void openDonationPage() { openWebPage("scripts/donate/" + m_program.word + '/'); }
     void openWebPage(const QString& path);
     EditorForm* activeForm() const;
+    EditorForm* writingForm() const { return m_saved ? m_saved : activeForm(); }
 
     ProgramInfo m_program;
     NavigatorTable m_table;
@@ -91,6 +96,9 @@ private:
     COpenWindows m_openWindows;
     Navigator* m_navigator;
     QMdiArea* m_area;
+    QPointer<QLabel> m_howToBegin; ///< in the empty area, until the first form opens
+    FormPlaces m_places;
+    EditorForm* m_saved = nullptr; ///< the one of all that is being saved
     QToolBar* m_toolbar = nullptr;
     QPointer<QMdiSubWindow> m_followed; ///< the form that the tree has followed last
     WindowMenu* m_windowMenu;

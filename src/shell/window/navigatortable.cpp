@@ -2,6 +2,9 @@
 
 #include "shell/kit/codepagetext.h"
 
+#include <algorithm>
+#include <iterator>
+
 namespace quillfen {
 namespace {
 
@@ -29,6 +32,13 @@ NavigatorTable::NavigatorTable(const std::vector<Node>& nodes)
         m_keys.insert(form, key);
     }
     m_formKeys += withoutNode;
+}
+
+bool isArchive(const QString& group)
+{
+    constexpr const char* others[] = {"General", "Communication", "CustomiseUser",
+                                      "Games",   "Security",      "UserActions"};
+    return std::ranges::find(others, group) == std::end(others);
 }
 
 QString captionOfKey(const QString& key)

@@ -67,6 +67,9 @@ private:
     QHash<QString, QString> m_keys; ///< by the form's name
 };
 
+/// Whether a group is one of the archive's members, which are alike.
+bool isArchive(const QString& group);
+
 /// "General~Settings" as it is shown: "General ~ Settings".
 QString captionOfKey(const QString& key);
 
