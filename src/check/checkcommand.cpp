@@ -3,9 +3,9 @@
 #include "check/treecheck.h"
 #include "settings/codepage.h"
 #include "settings/tablefile.h"
+#include "store/nativepath.h"
 
 #include <algorithm>
-#include <filesystem>
 #include <ostream>
 
 namespace quillfen {
@@ -46,7 +46,7 @@ std::string programFolderOf(const std::string& calledBy)
     auto program = std::filesystem::read_symlink("/proc/self/exe", unknown);
     if (unknown)
         program = std::filesystem::absolute(calledBy, unknown);
-    return program.parent_path().string();
+    return pathText(program.parent_path());
 }
 
 } // namespace quillfen

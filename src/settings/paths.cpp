@@ -7,13 +7,11 @@
 namespace quillfen {
 namespace {
 
+constexpr char separator = '/'; // on Windows too, which takes both
+
 #ifdef _WIN32
-constexpr char separator = '\\';
-constexpr std::string_view separators = "\\/";
-constexpr bool rootIsAbsolute = false;
+constexpr bool rootIsAbsolute = false; // it is that of whichever drive is the present one
 #else
-constexpr char separator = '/';
-constexpr std::string_view separators = "/";
 constexpr bool rootIsAbsolute = true;
 #endif
 
@@ -75,7 +73,7 @@ std::string SettingsPaths::inProgramFolder(std::string_view told) const
 
 std::string SettingsPaths::inHubFolder(std::string_view told) const
 {
-    const auto last = m_programFolder.find_last_of(separators);
+    const auto last = m_programFolder.rfind(separator);
     return m_programFolder.substr(0, last == std::string::npos ? 0 : last + 1) + platformPath(told);
 }
 

@@ -91,10 +91,21 @@ FileFacts DiskCalls::facts(const std::string& path)
     const auto status = fs::status(nativePath(path));
     if (!fs::exists(status))
         return {};
-    return {fs::is_directory(status) ? FileFacts::Kind::Folder : FileFacts::Kind::File};
+    auto kind = FileFacts::Kind::Other;
+    if (fs::is_regular_file(status))
+        kind = FileFacts::Kind::File;
+    else if (fs::is_directory(status))
+        kind = FileFacts::Kind::Folder;
+    return {kind};
 }
 
-void DiskCalls::requireWritable(const std::string&) {} // the platform asks that of whoever replaces a file
+void DiskCalls::requireWritable(const std::string& file)
+{
+    const DWORD attributes = GetFileAttributesW(nativePath(file).c_str());
+    require(attributes != INVALID_FILE_ATTRIBUTES);
+    if ((attributes & FILE_ATTRIBUTE_READONLY) != 0)
+        throw std::system_error(ERROR_ACCESS_DENIED, std::system_category());
+}
 
 DiskCalls::Handle DiskCalls::create(const std::string& path, Access) // a user's data folder is his alone
 {
@@ -151,7 +162,8 @@ void DiskCalls::replace(const std::string& aside, const std::string& target)
 
 void DiskCalls::remove(const std::string& file)
 {
-    require(DeleteFileW(nativePath(file).c_str()) != 0 || GetLastError() == ERROR_FILE_NOT_FOUND);
+    require(DeleteFileW(nativePath(file).c_str()) != 0 || GetLastError() == ERROR_FILE_NOT_FOUND ||
+            GetLastError() == ERROR_PATH_NOT_FOUND);
 }
 
 void DiskCalls::makeFolder(const std::string& folder, Access)

@@ -7,12 +7,6 @@
 namespace quillfen {
 namespace {
 
-#ifdef _WIN32
-constexpr bool backslashSeparates = true;
-#else
-constexpr bool backslashSeparates = false;
-#endif
-
 /// Whether a told path stays below the folder in which it is looked for.
 bool staysBelow(std::string_view told)
 {
@@ -43,7 +37,7 @@ std::optional<std::string> History::toldPath(const std::string& path) const
     if (!path.starts_with(m_root) || path.size() < m_root.size() + 2)
         return std::nullopt;
     std::string told = path.substr(m_root.size() + 1);
-    if (!backslashSeparates && told.find('\\') != std::string::npos)
+    if (told.find('\\') != std::string::npos)
         return std::nullopt;
     std::replace(told.begin(), told.end(), '/', '\\');
     return staysBelow(told) ? std::optional(told) : std::nullopt;
@@ -53,10 +47,9 @@ std::optional<std::string> History::realPath(const std::string& told) const
 {
     if (!staysBelow(told))
         return std::nullopt;
-    std::string path = m_root + '\\' + told;
-    if (!backslashSeparates)
-        std::replace(path.begin() + static_cast<std::ptrdiff_t>(m_root.size()), path.end(), '\\', '/');
-    return path;
+    std::string path = told;
+    std::replace(path.begin(), path.end(), '\\', '/');
+    return m_root + '/' + path;
 }
 
 std::optional<unsigned> History::keep(const Cause& cause, const std::vector<ReplacedFile>& replaced)

@@ -155,15 +155,15 @@ TEST_F(Lists, HaveNoLineLimit)
 
 TEST_F(Lists, HaveNoTestForAnAbsolutePath)
 {
-    hub.store.files["/elsewhere/A.tbl"] = "a = 1";
-    hub.store.files[hub.root + "//elsewhere/A.tbl"] = "b = 1";
-    hub.store.files["/hub/scripts//elsewhere/A.tbl"] = "c = 1";
+    hub.store.files["C:/elsewhere/A.tbl"] = "a = 1";
+    hub.store.files[hub.root + "/C:/elsewhere/A.tbl"] = "b = 1";
+    hub.store.files["/hub/scripts/C:/elsewhere/A.tbl"] = "c = 1";
     std::vector<ListRow> rows;
-    hub.files.ReadTableToList("/elsewhere/A.tbl", rows, "=");
-    hub.files.ReadTableToList("/elsewhere/A.tbl", rows, "=", {}, Rows::Plain, true);
+    hub.files.ReadTableToList(R"(C:\elsewhere\A.tbl)", rows, "=");
+    hub.files.ReadTableToList(R"(C:\elsewhere\A.tbl)", rows, "=", {}, Rows::Plain, true);
     EXPECT_EQ(texts(rows), (Texts{"b", "c"}));
     rows = {{"a", "mine"}, {"b", "mine"}};
-    hub.files.ReadListColumn("/elsewhere/A.tbl", "t", rows);
+    hub.files.ReadListColumn(R"(C:\elsewhere\A.tbl)", "t", rows);
     EXPECT_EQ(rows, (std::vector<ListRow>{{"a", "mine"}, {"b", "1"}}));
 }
 
@@ -215,9 +215,9 @@ TEST_F(Lists, FileNamesAreReadFromAtMost5000Lines)
 
 TEST_F(Lists, FileNamesAreReadFromAnAbsolutePath)
 {
-    hub.store.files["/elsewhere/F.tbl"] = "\"a.lst\",";
+    hub.store.files["C:/elsewhere/F.tbl"] = "\"a.lst\",";
     std::vector<ListRow> rows;
-    hub.files.ReadFileList("/elsewhere/F.tbl", rows, "t");
+    hub.files.ReadFileList(R"(C:\elsewhere\F.tbl)", rows, "t");
     EXPECT_EQ(texts(rows), Texts{"a"});
 }
 

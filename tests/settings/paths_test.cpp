@@ -35,10 +35,18 @@ TEST(Paths, AColonElsewhereDoesNot)
     EXPECT_EQ(paths.resolve(""), "/hub/scripts/Morvaleth's Quillfen/Settings/");
 }
 
+#ifdef _WIN32
+TEST(Paths, ARootWithoutADriveIsNotAbsolute)
+{
+    EXPECT_EQ(paths.resolve("/elsewhere/x.tbl"),
+              "/hub/scripts/Morvaleth's Quillfen/Settings//elsewhere/x.tbl");
+}
+#else
 TEST(Paths, ThePlatformsRootIsAbsolute)
 {
     EXPECT_EQ(paths.resolve("/elsewhere/x.tbl"), "/elsewhere/x.tbl");
 }
+#endif
 
 TEST(Paths, TheHubFolderIsCutBehindTheLastSeparator)
 {

@@ -116,10 +116,10 @@ TEST(TableValue, IsReadBelowTheSettingsRootTheProgramFolderOrAnAbsolutePath)
     test::Hub hub;
     hub.file("A.tbl") = "sKey = settings";
     hub.store.files["/hub/scripts/A.tbl"] = "sKey = program";
-    hub.store.files["/elsewhere/A.tbl"] = "sKey = absolute";
+    hub.store.files["C:/elsewhere/A.tbl"] = "sKey = absolute";
     EXPECT_EQ(hub.files.ReadTableValue("A.tbl", "sKey"), "settings");
     EXPECT_EQ(hub.files.ReadTableValue("A.tbl", "sKey", {}, true), "program");
-    EXPECT_EQ(hub.files.ReadTableValue("/elsewhere/A.tbl", "sKey", {}, true), "absolute");
+    EXPECT_EQ(hub.files.ReadTableValue(R"(C:\elsewhere\A.tbl)", "sKey", {}, true), "absolute");
 }
 
 TEST(TableSubValue, ReadsAKeyBehindTheLineThatNamesItsTable)
@@ -174,9 +174,9 @@ TEST(TableSubValue, AsAFlagIsOneWhenTheNumberIsExactlyOne)
 TEST(TableSubValue, HasNoTestForAnAbsolutePath)
 {
     test::Hub hub;
-    hub.store.files["/elsewhere/A.tbl"] = "t = {\r\niKey = 1";
-    hub.store.files[hub.root + "//elsewhere/A.tbl"] = "t = {\r\niKey = 2";
-    EXPECT_EQ(hub.files.ReadTableSubValue("/elsewhere/A.tbl", "t", "iKey"), "2");
+    hub.store.files["C:/elsewhere/A.tbl"] = "t = {\r\niKey = 1";
+    hub.store.files[hub.root + "/C:/elsewhere/A.tbl"] = "t = {\r\niKey = 2";
+    EXPECT_EQ(hub.files.ReadTableSubValue(R"(C:\elsewhere\A.tbl)", "t", "iKey"), "2");
 }
 
 /// Files made of the pieces that the rules look at, whole and damaged, in any order.

@@ -38,8 +38,8 @@ TEST(TextFile, Of5000LinesIsReadWholeAndOf5001IsEmpty)
 TEST(TextFile, IsReadFromAnAbsolutePath)
 {
     test::Hub hub;
-    hub.store.files["/elsewhere/A.txt"] = "one";
-    EXPECT_EQ(hub.files.ReadTextFile("/elsewhere/A.txt"), "one\r\n");
+    hub.store.files["C:/elsewhere/A.txt"] = "one";
+    EXPECT_EQ(hub.files.ReadTextFile(R"(C:\elsewhere\A.txt)"), "one\r\n");
 }
 
 TEST(TextFile, EveryByteSurvivesWritingAndReading)
@@ -82,11 +82,11 @@ TEST(Writer, EscapesNothing)
 TEST(Writer, WritesBelowTheProgramFolderOrToAnAbsolutePath)
 {
     test::Hub hub;
-    hub.store.folders.insert("/elsewhere");
+    hub.store.folders.insert("C:/elsewhere");
     hub.files.WriteSettingsFile("A.tbl", "x", true);
-    hub.files.WriteSettingsFile("/elsewhere/A.tbl", "y");
+    hub.files.WriteSettingsFile(R"(C:\elsewhere\A.tbl)", "y");
     EXPECT_EQ(hub.store.files["/hub/scripts/A.tbl"], "x\r\n");
-    EXPECT_EQ(hub.store.files["/elsewhere/A.tbl"], "y\r\n");
+    EXPECT_EQ(hub.store.files["C:/elsewhere/A.tbl"], "y\r\n");
 }
 
 TEST(Writer, MakesNoFolderAndItsFailureReachesTheCaller)

@@ -18,6 +18,65 @@ TEST(Icons, AreLoadedOnceForAllForms)
     EXPECT_FALSE(themedIcon("save").pixmap(16, 16).isNull());
 }
 
+QImage pictureOf(const QString& icon, int side, qreal scale, QIcon::Mode mode = QIcon::Normal)
+{
+    return themedIcon(icon).pixmap({side, side}, scale, mode).toImage();
+}
+
+/// Whether neighbouring pixels come in pairs all over, as when a smaller picture was enlarged twice.
+bool isDoubled(const QImage& image)
+{
+    for (int y = 0; y + 1 < image.height(); y += 2) {
+        for (int x = 0; x + 1 < image.width(); x += 2) {
+            if (image.pixel(x, y) != image.pixel(x + 1, y + 1))
+                return false;
+        }
+    }
+    return true;
+}
+
+TEST(Icons, HaveAsManyPixelsAsTheScreenShowsAtAnyScale)
+{
+    for (const char* icon : {"save", "quillfen"}) {
+        for (const int side : {16, 20, 24, 64}) {
+            for (const qreal scale : {1.0, 1.25, 1.5, 2.0, 3.0}) {
+                const QImage image = pictureOf(icon, side, scale);
+                EXPECT_EQ(image.size(), QSize(side, side) * scale) << icon << side << ' ' << scale;
+                EXPECT_EQ(image.devicePixelRatio(), scale);
+                EXPECT_FALSE(isDoubled(image)) << icon << side << ' ' << scale;
+            }
+        }
+    }
+}
+
+TEST(Icons, AreDrawnAnewForALargerScale)
+{
+    const QImage drawn = pictureOf("hyperlink", 16, 3);
+    const QImage enlarged = pictureOf("hyperlink", 16, 1).scaled(48, 48, {}, Qt::SmoothTransformation);
+    const auto steepEdges = [](const QImage& image) {
+        int edges = 0;
+        for (int at = 0; at < 48 * 47; ++at) {
+            const int x = at % 47;
+            const int y = at / 47;
+            edges += std::abs(qAlpha(image.pixel(x, y)) - qAlpha(image.pixel(x + 1, y))) > 127 ? 1 : 0;
+        }
+        return edges;
+    };
+    EXPECT_GT(steepEdges(drawn), 3 * steepEdges(enlarged) + 20);
+}
+
+TEST(Icons, OfDisabledButtonsHaveTheSameShapeInNoColour)
+{
+    const QImage normal = pictureOf("save", 16, 2);
+    const QImage disabled = pictureOf("save", 16, 2, QIcon::Disabled);
+    ASSERT_EQ(disabled.size(), normal.size());
+    for (int at = 0; at < 32 * 32; ++at) {
+        const QColor colour = disabled.pixelColor(at % 32, at / 32);
+        EXPECT_EQ(colour.alpha() > 0, normal.pixelColor(at % 32, at / 32).alpha() > 0);
+        EXPECT_LT(colour.alpha() * colour.saturation(), 255 * 60);
+    }
+}
+
 /// Which of an icon's pixels bear colour, as a toolbar of lists draws it.
 std::vector<bool> shapeOf(const QString& icon)
 {

@@ -1,12 +1,13 @@
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <vector>
 
 /// Composes the profile file of today's hubs, whole or with what it should not hold.
 namespace quillfen::test {
 
-inline std::string bigEndian(unsigned long number, int bytes)
+inline std::string bigEndian(std::uint64_t number, int bytes)
 {
     std::string text;
     for (int byte = bytes - 1; byte >= 0; --byte)

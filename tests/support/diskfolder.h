@@ -29,7 +29,7 @@ public:
         std::filesystem::remove_all(m_path, ignored);
     }
 
-    std::string path() const { return m_path.string(); }
+    std::string path() const { return m_path.generic_string(); }
 
     /// Every file below the folder by its path from there, with its bytes.
     std::map<std::string, std::string> files() const
@@ -37,7 +37,7 @@ public:
         std::map<std::string, std::string> all;
         for (const auto& entry : std::filesystem::recursive_directory_iterator(m_path)) {
             if (entry.is_regular_file())
-                all[entry.path().lexically_relative(m_path).string()] = bytesOf(entry.path());
+                all[entry.path().lexically_relative(m_path).generic_string()] = bytesOf(entry.path());
         }
         return all;
     }
