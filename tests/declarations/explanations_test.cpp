@@ -179,16 +179,16 @@ TEST_F(Explanations, AreMissingWhereTheLabelSaysAll)
     const Unexplained held = {
         {"Communication", {{"settings", 9}, {"ticks", 1}}},
         {"CustomiseUser", {{"settings", 2}}},
-        {"Games", {{"settings", 60}}},
+        {"Games", {{"settings", 60}, {"other controls", 1}}},
 
-        {"Arcade", {{"settings", 2}}},
-        {"Bookshelf", {{"settings", 2}}},
-        {"DVDRack", {{"settings", 2}}},
+        {"Arcade", {{"settings", 2}, {"other controls", 1}}},
+        {"Bookshelf", {{"settings", 2}, {"other controls", 1}}},
+        {"DVDRack", {{"settings", 2}, {"other controls", 1}}},
         {"General", {{"settings", 1}}},
-        {"Hyperlink", {{"settings", 2}}},
-        {"Jukebox", {{"settings", 2}}},
+        {"Hyperlink", {{"settings", 2}, {"other controls", 1}}},
+        {"Jukebox", {{"settings", 2}, {"other controls", 1}}},
         {"Security", {{"settings", 16}, {"grids", 1}}},
-        {"Songbook", {{"settings", 2}}},
+        {"Songbook", {{"settings", 2}, {"other controls", 1}}},
         {"UserActions", {{"settings", 13}}},
     };
     EXPECT_EQ(unexplainedOf(functionNodes(), hub.profiles), held);

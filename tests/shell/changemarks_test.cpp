@@ -201,7 +201,7 @@ TEST_F(SettingCardsTest, HoveringShowsTheCardWithWhatTheFileHolds)
     box.click();
     QHelpEvent help(QEvent::ToolTip, {3, 3}, box.mapToGlobal(QPoint(3, 3)));
     QApplication::sendEvent(&box, &help);
-    EXPECT_TRUE(QToolTip::text().contains("In the file: on."));
+    EXPECT_TRUE(QToolTip::text().contains("In the file: on.")) << QToolTip::text().toStdString();
     QToolTip::hideText();
 }
 

@@ -2,6 +2,7 @@
 #include "shell/kit/controlsign.h"
 #include "shell/kit/formadvice.h"
 #include "shell/kit/listview.h"
+#include "shell/kit/longtext.h"
 #include "shell/kit/numberbox.h"
 #include "shell/kit/rowlist.h"
 #include "support/dialogs.h"
@@ -23,11 +24,13 @@ protected:
         return *find<QStatusBar>(form, "stsStatusBar").findChildren<QLabel*>().at(1);
     }
 
-    /// What the second panel says of the form as it stands.
+    /// What is said of the form as it stands.
     static QString said(EditorForm& form)
     {
         form.advice()->look();
-        return secondPanel(form).text();
+        const QString words = form.advice()->words();
+        EXPECT_TRUE(words.isEmpty() || secondPanel(form).text() == words);
+        return words;
     }
 
     static ControlSign* signOf(const QWidget& control)
@@ -251,7 +254,7 @@ TEST_F(FormAdviceTest, MarksTheControlAndNotByItsColourAlone)
     auto* sign = signOf(box);
     ASSERT_NE(sign, nullptr);
     EXPECT_TRUE(sign->isVisible());
-    EXPECT_EQ(sign->toolTip(), Qt::convertFromPlainText(words));
+    EXPECT_EQ(sign->toolTip(), toolTipOf(words));
     EXPECT_EQ(box.accessibleDescription(), words);
     EXPECT_EQ(box.textMargins().right(), signSize + 2);
     EXPECT_FALSE(sign->mask().contains(sign->rect().center())) << "the middle is the control's";
@@ -377,7 +380,7 @@ TEST_F(AdviceOnRows, TheSignOfARowIsExplainedByItsToolTip)
     const QString words = said(form);
     QHelpEvent help(QEvent::ToolTip, placeOf(list, 0).center(), list.mapToGlobal(placeOf(list, 0).center()));
     QApplication::sendEvent(list.viewport(), &help);
-    EXPECT_EQ(QToolTip::text(), Qt::convertFromPlainText(words));
+    EXPECT_EQ(QToolTip::text(), toolTipOf(words));
     QToolTip::hideText();
 }
 

@@ -1,12 +1,13 @@
 #include "shell/kit/controlsign.h"
 
+#include "shell/kit/longtext.h"
+
 #include <QAbstractItemView>
 #include <QComboBox>
 #include <QEvent>
 #include <QLineEdit>
 #include <QPainter>
 #include <QPainterPath>
-#include <QTextDocument>
 
 #include <algorithm>
 
@@ -59,7 +60,7 @@ ControlSign::ControlSign(QWidget& control, const QString& words)
       m_control(&control)
 {
     setObjectName("SIGN");
-    setToolTip(Qt::convertFromPlainText(words));
+    setToolTip(toolTipOf(words));
     control.setAccessibleDescription(words);
     leaveRoom(&control, signSize + 2);
     control.installEventFilter(this);

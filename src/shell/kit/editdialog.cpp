@@ -123,6 +123,7 @@ EditDialog::EditDialog(const EditRequest& request, QWidget* parent)
         addField(request, number++, *input);
     addButtons();
     setMinimumWidth(420);
+    fitTexts();
     follow();
     m_fields.front().input->setFocus();
 }
@@ -151,6 +152,7 @@ EditDialog::Field EditDialog::textField(const std::string& value)
     auto* box = new QLineEdit(fromBytes(value));
     box->setObjectName(QStringLiteral("txtTextBox(%1)").arg(m_texts++));
     limitToOneLine(*box);
+    box->home(false); // a long text shows its beginning
     connect(box, &QLineEdit::textChanged, this, &EditDialog::follow);
     return {box, [box] { return toBytes(box->text()); }, false};
 }
@@ -175,6 +177,19 @@ EditDialog::Field EditDialog::comboField(const EditRequest& request, const std::
     box->setCurrentIndex(box->findText(fromBytes(value), Qt::MatchExactly | Qt::MatchCaseSensitive));
     connect(box, &QComboBox::currentTextChanged, this, &EditDialog::follow);
     return {box, [box] { return toBytes(box->currentText()); }, false};
+}
+
+/// As wide as the texts need, where the window behind has that room.
+void EditDialog::fitTexts()
+{
+    int wanted = minimumWidth();
+    for (const auto* box : findChildren<QLineEdit*>()) {
+        const int text =
+            box->fontMetrics().horizontalAdvance(box->text()) + 4 * box->fontMetrics().averageCharWidth();
+        wanted = std::max(wanted, sizeHint().width() - box->sizeHint().width() + text);
+    }
+    const int room = parentWidget() ? parentWidget()->window()->width() : minimumWidth();
+    resize(std::clamp(wanted, minimumWidth(), std::max(room, minimumWidth())), sizeHint().height());
 }
 
 void EditDialog::addButtons()

@@ -68,6 +68,7 @@ private:
     Field numberField(const EditRequest& request, const std::string& value);
     Field comboField(const EditRequest& request, const std::string& value);
     void addButtons();
+    void fitTexts();
     void follow();
     void finish(EditResult result);
 

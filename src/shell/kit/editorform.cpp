@@ -5,6 +5,7 @@
 #include "shell/kit/controlvalue.h"
 #include "shell/kit/formadvice.h"
 #include "shell/kit/listview.h"
+#include "shell/kit/longtext.h"
 #include "shell/kit/messages.h"
 #include "shell/kit/settingcards.h"
 #include "shell/kit/toolbars.h"
@@ -19,7 +20,6 @@
 #include <QScrollArea>
 #include <QShortcut>
 #include <QStatusBar>
-#include <QTextDocument>
 #include <QToolButton>
 #include <QVBoxLayout>
 
@@ -160,7 +160,7 @@ void EditorForm::fillSecondPanel()
     const QString text = secondPanelText();
     auto* panel = secondPanel();
     panel->setText(text);
-    panel->setToolTip(text.isEmpty() ? QString() : Qt::convertFromPlainText(text));
+    panel->setToolTip(toolTipOf(text));
     const bool leads = m_advice && !text.isEmpty() && text == m_advice->words();
     panel->setCursor(leads ? Qt::PointingHandCursor : Qt::ArrowCursor);
 }

@@ -2,6 +2,7 @@
 
 #include "shell/kit/controlsign.h"
 #include "shell/kit/listheader.h"
+#include "shell/kit/longtext.h"
 #include "shell/kit/rowtext.h"
 
 #include <QApplication>
@@ -10,8 +11,8 @@
 #include <QHelpEvent>
 #include <QKeyEvent>
 #include <QMetaMethod>
+#include <QPainter>
 #include <QScrollBar>
-#include <QTextDocument>
 #include <QToolTip>
 
 #include <algorithm>
@@ -149,15 +150,38 @@ void ListView::drawRow(QPainter* painter, const QStyleOptionViewItem& option, co
 
 bool ListView::viewportEvent(QEvent* event)
 {
-    if (event->type() == QEvent::ToolTip) {
-        const auto* help = static_cast<QHelpEvent*>(event);
-        const QString sign = signOf(indexAt(help->pos()).row());
-        if (!sign.isEmpty()) {
-            QToolTip::showText(help->globalPos(), Qt::convertFromPlainText(sign), viewport());
-            return true;
-        }
-    }
-    return QTreeView::viewportEvent(event);
+    if (event->type() != QEvent::ToolTip)
+        return QTreeView::viewportEvent(event);
+    const auto* help = static_cast<QHelpEvent*>(event);
+    const QString tip = tipOf(indexAt(help->pos()));
+    if (tip.isEmpty())
+        return QTreeView::viewportEvent(event);
+    QToolTip::showText(help->globalPos(), toolTipOf(tip), viewport());
+    return true;
+}
+
+void ListView::paintEvent(QPaintEvent* event)
+{
+    QTreeView::paintEvent(event);
+    if (m_emptyText.isEmpty() || !model() || model()->rowCount() > 0)
+        return;
+    QPainter painter(viewport());
+    painter.setPen(palette().color(QPalette::PlaceholderText));
+    constexpr int margin = 8;
+    painter.drawText(viewport()->rect().adjusted(margin, margin, -margin, -margin),
+                     Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap, m_emptyText);
+}
+
+/// What a row's sign means, else the text of a cell that is too narrow for it.
+QString ListView::tipOf(const QModelIndex& index) const
+{
+    if (!index.isValid())
+        return {};
+    const QString sign = signOf(index.row());
+    if (!sign.isEmpty())
+        return sign;
+    const bool isCut = sizeHintForIndex(index).width() > visualRect(index).width();
+    return isCut ? index.data(Qt::DisplayRole).toString() : QString();
 }
 
 void ListView::selectFirst()

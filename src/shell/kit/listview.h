@@ -71,6 +71,10 @@ public:
     /// The widths of the first columns, where they are known without a look at the rows.
     void setColumnWidths(const std::vector<int>& widths);
 
+    /// What the list says in grey while it has no rows.
+    void setEmptyText(const QString& text) { m_emptyText = text; }
+    QString emptyText() const { return m_emptyText; }
+
     /// What the keys copy of a row instead of the cells that show.
     void setCopiedCells(std::function<QStringList(int row)> cells) { m_copiedCells = std::move(cells); }
 
@@ -103,9 +107,11 @@ protected:
     void drawRow(QPainter* painter, const QStyleOptionViewItem& option,
                  const QModelIndex& index) const override;
     bool viewportEvent(QEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
 
 private:
     bool isSelected(int row) const;
+    QString tipOf(const QModelIndex& index) const;
     void fitColumns();
     void selectFirst();
     void applyFilter();
@@ -119,6 +125,7 @@ private:
     std::function<QStringList(int row)> m_copiedCells;
     QString m_typed; ///< what was typed to find a row, until a pause
     QElapsedTimer m_sinceTyped;
+    QString m_emptyText;
     std::map<int, QString> m_signs;
     bool m_selectsFirst = true;
     bool m_doubleClickEdits = true;

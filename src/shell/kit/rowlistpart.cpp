@@ -38,6 +38,18 @@ std::vector<ToolbarBuilder> buildersOf(const RowListDeclaration& list, const Row
     return {list.dialog.addTitle.empty() ? AddEditButton : BuildListToolbar};
 }
 
+/// What belongs into an empty list, and which button puts it there.
+QString emptyTextOf(const RowListDeclaration& list, const QToolBar& toolbar)
+{
+    QStringList sentences(fromBytes(list.explanation));
+    if (button(toolbar, "OPEN"))
+        sentences.append("Open reads the rows of the file.");
+    else if (const auto* add = button(toolbar, "NEW"))
+        sentences.append(add->toolTip() + ": the first button, or the Insert key.");
+    sentences.removeAll(QString());
+    return sentences.join('\n');
+}
+
 } // namespace
 
 RowListPart::RowListPart(RowListDeclaration declaration, const FormContext& context, RowListHooks hooks)
@@ -55,6 +67,7 @@ RowListPart::RowListPart(RowListDeclaration declaration, const FormContext& cont
     for (int hidden = 1; hidden <= m_declaration.hiddenColumns; ++hidden)
         m_list->setColumnHidden(columns - hidden, true);
     tellInToolTips();
+    m_list->setEmptyText(emptyTextOf(m_declaration, m_tools->toolbar()));
     if (!m_declaration.remark.empty())
         m_tools->addRemark(fromBytes(m_declaration.remark));
     if (m_movement)

@@ -4,13 +4,13 @@
 #include "shell/kit/codepagetext.h"
 #include "shell/kit/controlvalue.h"
 #include "shell/kit/listview.h"
+#include "shell/kit/longtext.h"
 
 #include <QApplication>
 #include <QHeaderView>
 #include <QHelpEvent>
 #include <QLabel>
 #include <QLineEdit>
-#include <QTextDocument>
 #include <QToolTip>
 
 namespace quillfen {
@@ -60,7 +60,7 @@ bool SettingCards::show()
     const QString text = control && m_frame.isAncestorOf(control) ? textOf(*control) : QString();
     if (text.isEmpty())
         return false;
-    m_shown = Qt::convertFromPlainText(text);
+    m_shown = toolTipOf(text);
     QToolTip::showText(control->mapToGlobal(QPoint(0, control->height())), m_shown, control);
     return true;
 }
@@ -79,7 +79,7 @@ bool SettingCards::eventFilter(QObject* object, QEvent* event)
     const QString text = textOf(*widget);
     if (text.isEmpty())
         return false;
-    QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), Qt::convertFromPlainText(text), widget);
+    QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), toolTipOf(text), widget);
     return true;
 }
 

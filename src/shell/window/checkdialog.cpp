@@ -2,6 +2,7 @@
 
 #include "shell/kit/codepagetext.h"
 #include "shell/kit/listview.h"
+#include "shell/kit/longtext.h"
 
 #include <QDialogButtonBox>
 #include <QHeaderView>
@@ -65,7 +66,7 @@ void CheckDialog::look()
     for (const Finding& finding : m_findings) {
         const QString line = finding.line > 0 ? QString::number(finding.line) : QString();
         auto* row = new QTreeWidgetItem(m_list, {fromBytes(finding.file), line, fromBytes(finding.words)});
-        row->setToolTip(2, Qt::convertFromPlainText(fromBytes(finding.words)));
+        row->setToolTip(2, toolTipOf(fromBytes(finding.words)));
     }
     m_list->resizeColumnToContents(0);
     m_list->resizeColumnToContents(1);
