@@ -39,6 +39,26 @@ QStringList anchorHeadings(QTextDocument& guide)
     return chapters;
 }
 
+/// Gives what is code a font of one width, of which Qt's page would say nothing where it knows no such font.
+void markCode(QTextDocument& guide)
+{
+    QList<QTextCursor> codes;
+    for (QTextBlock block = guide.begin(); block.isValid(); block = block.next()) {
+        for (auto part = block.begin(); !part.atEnd(); ++part) {
+            if (!part.fragment().charFormat().fontFixedPitch())
+                continue;
+            QTextCursor code(&guide);
+            code.setPosition(part.fragment().position());
+            code.setPosition(part.fragment().position() + part.fragment().length(), QTextCursor::KeepAnchor);
+            codes.append(code);
+        }
+    }
+    QTextCharFormat monospaced;
+    monospaced.setFontFamilies({"monospace"});
+    for (QTextCursor& code : codes)
+        code.mergeCharFormat(monospaced);
+}
+
 /// Qt's page, with a look for any browser, light or dark, in place of Qt's own.
 QString styled(QString page)
 {
@@ -82,6 +102,7 @@ int main(int argc, char** argv)
     QTextDocument guide;
     guide.setMarkdown(QString::fromUtf8(source.readAll()));
     const QStringList chapters = anchorHeadings(guide);
+    markCode(guide);
     bool written = write(folder.filePath("guide.html"), styled(guide.toHtml()));
     for (const QString& chapter : chapters) {
         const QString place = "../guide.html#" + chapter;

@@ -231,7 +231,11 @@ void MainWindow::showHowToBegin()
     m_howToBegin->setTextFormat(Qt::PlainText);
     m_howToBegin->setAlignment(Qt::AlignCenter);
     m_howToBegin->setWordWrap(true);
-    m_howToBegin->setForegroundRole(QPalette::PlaceholderText);
+    QPalette colours = palette(); // as the area's own, it stays when the desktop's changes
+    QColor grey = colours.color(QPalette::WindowText);
+    grey.setAlphaF(0.75F);
+    colours.setColor(QPalette::WindowText, grey);
+    m_howToBegin->setPalette(colours);
     auto* layout = new QVBoxLayout(m_area->viewport());
     layout->addWidget(m_howToBegin);
 }
