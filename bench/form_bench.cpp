@@ -5,6 +5,7 @@
 #include "functions/games/trivia.h"
 #include "hubfolder.h"
 #include "news/news.h"
+#include "shell/kit/formadvice.h"
 #include "shell/kit/listview.h"
 #include "shell/window/versionsdialog.h"
 
@@ -41,6 +42,15 @@ void openEach(benchmark::State& state, Desk& desk, const QString& key)
 {
     for (auto _ : state)
         state.SetIterationTime(secondsOf([&] { openForm(*desk.window, key); }));
+    closeForms(*desk.window);
+}
+
+/// What a form says of the settings that it would save, looked at when the keys rest.
+void advise(benchmark::State& state, Desk& desk, const QString& key)
+{
+    const EditorForm& form = openForm(*desk.window, key);
+    for (auto _ : state)
+        state.SetIterationTime(secondsOf([&] { form.advice()->look(); }));
     closeForms(*desk.window);
 }
 
@@ -159,6 +169,11 @@ std::string opening(int profiles, const QString& key)
     return "open/" + std::to_string(profiles) + '/' + key.toStdString();
 }
 
+std::string advising(int profiles, const QString& key)
+{
+    return "advise/" + std::to_string(profiles) + '/' + key.toStdString();
+}
+
 void registerAll(int profiles, Desk& desk, const QStringList& keys)
 {
     const auto add = [&desk](const std::string& name, auto work) {
@@ -169,6 +184,9 @@ void registerAll(int profiles, Desk& desk, const QStringList& keys)
     for (const QString& key : keys)
         add(opening(profiles, key),
             [key](benchmark::State& state, Desk& where) { openEach(state, where, key); });
+    for (const QString& key : keys)
+        add(advising(profiles, key),
+            [key](benchmark::State& state, Desk& where) { advise(state, where, key); });
     const std::string count = '/' + std::to_string(profiles);
     add("filter" + count, filterGrid);
     add("toggle" + count, [](benchmark::State& state, Desk& where) { toggleAndSave(state, where, true); });
@@ -196,10 +214,25 @@ void printOpenings(const Figures& figures, int profiles, double worstAllowed, co
               worstAllowed);
 }
 
+void printAdvising(const Figures& figures, int profiles, double allowed, const QStringList& keys)
+{
+    std::pair<double, QString> worst;
+    for (const QString& key : keys) {
+        if (const auto* medians = figures.of(advising(profiles, key)))
+            worst = std::max(worst, {medians->milliseconds, key});
+    }
+    if (!worst.second.isEmpty())
+        printTime("advice in a form, " + std::to_string(profiles) + " profiles: worst (" +
+                      captionOfKey(worst.second).toStdString() + ")",
+                  worst.first, allowed);
+}
+
 void printTable(const Figures& figures, const QStringList& keys)
 {
     printOpenings(figures, 5, 60, keys);
     printOpenings(figures, 64, 150, keys);
+    printAdvising(figures, 5, 5, keys);
+    printAdvising(figures, 64, 20, keys);
     const auto print = [&figures](const std::string& what, const std::string& benchmark) {
         if (const auto* medians = figures.of(benchmark))
             printTime(what, medians->milliseconds);

@@ -16,14 +16,40 @@
 
 namespace quillfen::bench {
 
-/// A copy of the sample hub on the disk, in a temporary folder that goes with it. Its hub file has so many
-/// profiles that the program counts as many as are asked for, "Unregistered" among them.
+/// A temporary folder that goes with its object.
+class TemporaryFolder
+{
+public:
+    TemporaryFolder() { std::filesystem::create_directory(path); }
+    TemporaryFolder(const TemporaryFolder&) = delete;
+    TemporaryFolder& operator=(const TemporaryFolder&) = delete;
+
+    ~TemporaryFolder()
+    {
+        std::error_code ignored;
+        std::filesystem::remove_all(path, ignored);
+    }
+
+    const std::filesystem::path path =
+        std::filesystem::temp_directory_path() / ("quillfen-bench-" + std::to_string(std::random_device()()));
+};
+
+/// Where a run's hubs lie until it ends. Not one goes before: for minutes after a deletion ext4 looks at the
+/// deleted file's number, and passes over it, whenever it makes a file nearby, so that a benchmark which
+/// tidies up thousands of files between its repetitions would measure mostly that.
+inline const std::filesystem::path& folderOfRun()
+{
+    static const TemporaryFolder folder;
+    return folder.path;
+}
+
+/// A copy of the sample hub on the disk. Its hub file has so many profiles that the program counts as many as
+/// are asked for, "Unregistered" among them.
 class HubFolder
 {
 public:
     explicit HubFolder(std::size_t profileCount)
-        : m_folder(std::filesystem::temp_directory_path() /
-                   ("quillfen-bench-" + std::to_string(std::random_device()()))),
+        : m_folder(folderOfRun() / std::to_string(++hubCount)),
           files(m_disk, SettingsPaths(scripts()))
     {
         std::filesystem::copy(QUILLFEN_SAMPLE_HUB, m_folder, std::filesystem::copy_options::recursive);
@@ -33,12 +59,6 @@ public:
 
     HubFolder(const HubFolder&) = delete;
     HubFolder& operator=(const HubFolder&) = delete;
-
-    ~HubFolder()
-    {
-        std::error_code ignored;
-        std::filesystem::remove_all(m_folder, ignored);
-    }
 
     std::string scripts() const { return (m_folder / "scripts").string(); }
     std::filesystem::path folder() const { return m_folder; }
@@ -70,6 +90,8 @@ private:
             file << "<Profile>\r\n<Name>Profile" << profile << "</Name>\r\n</Profile>\r\n";
         file << "</Profiles>\r\n";
     }
+
+    static inline int hubCount = 0;
 
     std::filesystem::path m_folder;
     DiskStore m_disk;

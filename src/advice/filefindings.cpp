@@ -1,8 +1,7 @@
 #include "advice/filefindings.h"
 
 #include "advice/notloading.h"
-#include "functions/games/trivia.h"
-#include "functions/security/clientchecker.h"
+#include "declarations/oddfiles.h"
 #include "lua/tablereader.h"
 #include "settings/lines.h"
 #include "settings/tablefile.h"
@@ -34,6 +33,11 @@ constexpr std::string_view starWords =
 constexpr std::string_view endsInTWords = "the editor doesn't show a line that ends in \"t\", and the next "
                                           "save drops it. Put a full stop behind it.";
 
+constexpr std::string_view unreadableWords =
+    "the file can't be read, and the editor shows zeros and empty texts for it. See to who may read it.";
+constexpr std::string_view missingWords =
+    "the file is missing, and the editor shows zeros and empty texts for it. Restore it and save its form.";
+
 /// Collects the findings of one file.
 class FileFindings
 {
@@ -49,6 +53,7 @@ private:
     }
 
     void takeTable();
+    void takeLua();
     void takeReading(const lua::Reading& reading, std::string_view what);
     bool isKnown(lua::Fault fault) const;
     void takeTexts();
@@ -72,10 +77,31 @@ std::vector<Finding> FileFindings::take()
         takeLength();
     std::stable_sort(m_findings.begin(), m_findings.end(),
                      [](const Finding& one, const Finding& other) { return one.line < other.line; });
+    // One thing at a time: what is told of a line first may well be the reason of the next.
+    m_findings.erase(
+        std::unique(m_findings.begin(), m_findings.end(),
+                    [](const Finding& one, const Finding& other) { return one.line == other.line; }),
+        m_findings.end());
     return std::move(m_findings);
 }
 
+/// A told path with slashes.
+std::string slashed(std::string_view file)
+{
+    std::string path(file);
+    std::replace(path.begin(), path.end(), '\\', '/');
+    return path;
+}
+
 void FileFindings::takeTable()
+{
+    // What never loads is read by the hub script in a way of its own.
+    if (notLoadingOnceSaved().count(slashed(m_file)) == 0)
+        takeLua();
+    takeTexts();
+}
+
+void FileFindings::takeLua()
 {
     const auto in51 = lua::readTables(m_bytes, lua::Version::Lua51);
     takeReading(in51, "the file ");
@@ -86,7 +112,6 @@ void FileFindings::takeTable()
         if (note.line != toldLine)
             add(note.line, note.oddity == lua::Oddity::Backslash ? backslashWords : bareWordWords);
     }
-    takeTexts();
 }
 
 void FileFindings::takeReading(const lua::Reading& reading, std::string_view what)
@@ -101,14 +126,8 @@ void FileFindings::takeReading(const lua::Reading& reading, std::string_view wha
 
 bool FileFindings::isKnown(lua::Fault fault) const
 {
-    std::string path(m_file);
-    std::replace(path.begin(), path.end(), '\\', '/');
-    for (const NotLoading* known : {&notLoading(), &notLoadingOnceSaved()}) {
-        const auto found = known->find(path);
-        if (found != known->end() && found->second.fault == fault)
-            return true;
-    }
-    return false;
+    const auto found = notLoading().find(slashed(m_file));
+    return found != notLoading().end() && found->second.fault == fault;
 }
 
 void FileFindings::takeTexts()
@@ -189,6 +208,34 @@ void FileFindings::takeLength()
 std::vector<Finding> fileFindings(std::string_view file, std::string_view bytes)
 {
     return FileFindings(file, bytes).take();
+}
+
+void addToOtherLines(std::vector<Finding>& findings, const std::vector<Finding>& others)
+{
+    for (const Finding& other : others) {
+        const auto place =
+            std::lower_bound(findings.begin(), findings.end(), other.line,
+                             [](const Finding& finding, std::size_t line) { return finding.line < line; });
+        if (place == findings.end() || place->line != other.line)
+            findings.insert(place, other);
+    }
+}
+
+Finding missingFile(std::string_view file)
+{
+    return {std::string(file), 0, std::string(missingWords)};
+}
+
+Finding unreadableFile(std::string_view file)
+{
+    return {std::string(file), 0, std::string(unreadableWords)};
+}
+
+Finding switchedOff(std::string_view name)
+{
+    return {switchesPath, 0,
+            std::string(name) + " is switched off, so that the hub script does nothing of this. Tick it in "
+                                "General ~ Switches."};
 }
 
 } // namespace quillfen

@@ -3,6 +3,7 @@
 #include "declarations/declaration.h"
 #include "settings/lines.h"
 #include "settings/tableindex.h"
+#include "settings/tabletrim.h"
 
 #include <algorithm>
 #include <optional>
@@ -77,7 +78,80 @@ struct WordsOf
     Words operator()(const setting::ProfileKey& /*kind*/) const { return std::nullopt; }
 };
 
+/// The profiles that may use a function stand under this key. That of the clients' checker bears it too, but
+/// its ticks exempt profiles.
+bool saysWhoMayUse(const setting::Field& field)
+{
+    return field.key == "tEnabledProfiles" && std::holds_alternative<setting::ProfileFlags>(field.kind) &&
+           field.label.find("Exempt") == std::string::npos;
+}
+
+/// The line where a table of flags opens that has rows and none of them on; 0 for no such table.
+std::size_t lineOfEmptyFlags(std::string_view bytes, std::string_view key)
+{
+    LineCursor cursor(bytes);
+    std::size_t opening = 0;
+    for (std::size_t number = 1; const auto line = cursor.next(); ++number) {
+        const auto row = splitOnce(*line, '=');
+        if (opening == 0 && trimmedTableKey(row.left) == key)
+            opening = number;
+        else if (opening > 0 && !row.found)
+            return number > opening + 1 ? opening : 0;
+        else if (opening > 0 && isOne(trimmedTableValue(row.right)))
+            return 0;
+    }
+    return 0;
+}
+
+const std::string& keyInSave(const Setting& setting)
+{
+    const auto* const field = std::get_if<setting::Field>(&setting);
+    return field && !field->keyInSave.empty() ? field->keyInSave : keyOf(setting);
+}
+
+std::string_view nestOf(const Setting& setting)
+{
+    const auto* const field = std::get_if<setting::Field>(&setting);
+    return field ? std::string_view(field->nest) : std::string_view();
+}
+
 } // namespace
+
+std::vector<Finding> useFindings(const TableFile& file, std::string_view bytes)
+{
+    for (const Setting& setting : file.settings) {
+        const auto* const field = std::get_if<setting::Field>(&setting);
+        const std::size_t line = field && saysWhoMayUse(*field) ? lineOfEmptyFlags(bytes, field->key) : 0;
+        if (line > 0)
+            return {{file.path, line,
+                     "no profile is ticked, so that nobody has any use of this function. Tick those that "
+                     "may use it."}};
+    }
+    return {};
+}
+
+const Setting* settingAt(const TableFile& file, std::string_view bytes, std::size_t line)
+{
+    const Setting* last = nullptr;
+    std::string_view table;
+    LineCursor cursor(bytes);
+    for (std::size_t number = 1; number <= line; ++number) {
+        const auto row = cursor.next();
+        if (!row)
+            break;
+        const std::string_view key = trimmedTableKey(splitOnce(*row, '=').left);
+        const auto found =
+            std::find_if(file.settings.begin(), file.settings.end(), [&](const Setting& setting) {
+                return trimmedTableKey(keyInSave(setting)) == key &&
+                       (nestOf(setting).empty() || nestOf(setting) == table);
+            });
+        if (found != file.settings.end())
+            last = &*found;
+        if (row->ends_with('{'))
+            table = key;
+    }
+    return last;
+}
 
 std::vector<Finding> unreadFindings(std::string_view file, std::string_view bytes)
 {

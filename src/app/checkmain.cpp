@@ -1,5 +1,5 @@
 // The check of a settings tree alone, for machines without a display and without Qt.
-#include "advice/checkcommand.h"
+#include "check/checkcommand.h"
 #include "store/diskstore.h"
 
 #include <iostream>

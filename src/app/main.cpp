@@ -1,6 +1,6 @@
-#include "advice/checkcommand.h"
 #include "app/hubdata.h"
 #include "app/start.h"
+#include "check/checkcommand.h"
 #include "store/diskstore.h"
 
 #include <QApplication>
@@ -21,6 +21,7 @@ int main(int argc, char** argv)
     quillfen::ProgramInfo info{QUILLFEN_VERSION, QStringLiteral(QUILLFEN_WEB_BASE)};
     info.newsBase = QStringLiteral(QUILLFEN_NEWS_BASE);
     info.updatesBase = QStringLiteral(QUILLFEN_UPDATES_BASE);
+    info.guideFolder = folder + "/quillfen-docs";
     quillfen::Program program(disk, folder, std::move(info));
     program.use(data);
     if (const auto exitCode = program.start())

@@ -1,6 +1,9 @@
 #include "app/start.h"
 
 #include "app/hubdata.h"
+#include "check/functionfacts.h"
+#include "check/nodeoffile.h"
+#include "check/treecheck.h"
 #include "declarations/rebuild.h"
 #include "functions/catalogue.h"
 #include "functions/ownparts.h"
@@ -9,6 +12,7 @@
 #include "shell/kit/codepagetext.h"
 #include "shell/kit/contraststyle.h"
 #include "shell/kit/messages.h"
+#include "shell/window/checkdialog.h"
 
 #include <QLabel>
 #include <QStatusBar>
@@ -81,8 +85,11 @@ std::optional<int> Program::start()
 {
     ContrastStyle::install();
     // The navigator comes before the rebuild and shows the tree's switches as they stand now.
-    m_window = std::make_unique<MainWindow>(m_info, FormContext{m_files, m_profiles}, functionNodes(),
-                                            formCatalogue(), partMakers());
+    m_window = std::make_unique<MainWindow>(
+        m_info, FormContext{.files = m_files, .profiles = m_profiles, .facts = functionFacts()},
+        functionNodes(), formCatalogue(), partMakers());
+    m_window->offerCheck({[this] { return checkTree(m_files); },
+                          [this](const std::string& file) { return nodeOfFile(m_files, m_profiles, file); }});
     if (m_history)
         m_window->offerVersions(*m_history);
     const auto ask = [](const RebuildQuestion& question) {

@@ -3,6 +3,28 @@
 #include <utility>
 
 namespace quillfen {
+namespace {
+
+struct FilesOf
+{
+    std::vector<TableFile> operator()(const DeclaredSettings& part) const { return {part.file()}; }
+    std::vector<TableFile> operator()(const OwnPart& part) const
+    {
+        return part.files ? part.files() : std::vector<TableFile>();
+    }
+    template <typename Other>
+    std::vector<TableFile> operator()(const Other& /*part*/) const
+    {
+        return {};
+    }
+};
+
+} // namespace
+
+std::vector<TableFile> settingsFilesOf(const PartDeclaration& part)
+{
+    return std::visit(FilesOf(), part);
+}
 
 DeclaredList listPart(std::function<RowListDeclaration()> list, ListPartKind kind)
 {

@@ -150,6 +150,25 @@ struct DeclaredText
     std::string_view explanation{}; ///< what the text does for the hub's users, in a sentence
 };
 
+/// A text that a part of a function's own shows, or that one of its files holds.
+struct PlacedText
+{
+    std::string file;    ///< a told path; empty for one outside of the settings
+    std::string control; ///< where it stands, or what leads to it
+    int row = -1;        ///< of the control's list
+    std::string label;
+    std::string text; ///< may have several lines
+};
+
+/// What a control that nobody declares does for the hub's users, in a sentence.
+struct ControlExplanation
+{
+    std::string control;
+    std::string_view explanation; ///< empty where its label says all
+    std::string file{};           ///< a told path, where one file holds it
+    std::string key{};            ///< in that file
+};
+
 /// A part that only its function has. What it is made of, as far as that is declared, is told for those who
 /// walk over all declarations.
 struct OwnPart
@@ -158,6 +177,10 @@ struct OwnPart
     std::size_t which = 0; ///< of several of that kind, as their function counts them
     std::function<std::vector<TableFile>()> files{};
     std::function<std::vector<RowListDeclaration>()> lists{};
+    std::vector<ControlExplanation> explanations{}; ///< of controls that are in neither
+
+    /// What can be found in it besides those.
+    std::function<std::vector<PlacedText>(const SettingsFiles&, const HubProfiles&)> texts{};
 };
 
 using PartDeclaration = std::variant<DeclaredSettings, DeclaredList, DeclaredLists, DeclaredTexts,
@@ -172,6 +195,9 @@ struct FormDeclaration
 
 /// Every form that is built.
 using FormCatalogue = std::vector<FormDeclaration>;
+
+/// The declared settings files of a form's part.
+std::vector<TableFile> settingsFilesOf(const PartDeclaration& part);
 
 /// A list that is the same at every hub.
 DeclaredList listPart(std::function<RowListDeclaration()> list, ListPartKind kind = ListPartKind::Plain);

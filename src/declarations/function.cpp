@@ -29,7 +29,21 @@ struct StepRunner
     void operator()(BuildRoutine routine) const { routine(files, profiles); }
 };
 
+struct PathOf
+{
+    std::string operator()(const RebuiltSettings& step) const { return step.file().path; }
+    std::string operator()(const RebuiltGrid& step) const { return step.command.path; }
+    std::string operator()(const EmptyTable& step) const { return step.path; }
+    std::string operator()(const FirstText& step) const { return step.path; }
+    std::string operator()(BuildRoutine /*step*/) const { return {}; }
+};
+
 } // namespace
+
+std::string builtFile(const BuildStep& step)
+{
+    return std::visit(PathOf(), step);
+}
 
 EmptyTable emptyTable(const ListFile& file)
 {

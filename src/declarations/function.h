@@ -2,6 +2,7 @@
 
 #include "declarations/formdeclaration.h"
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <variant>
@@ -63,6 +64,21 @@ FirstText firstRows(const ListFile& file, const std::vector<ListRow>& rows);
 using BuildRoutine = void (*)(const SettingsFiles& files, const HubProfiles& profiles);
 
 using BuildStep = std::variant<RebuiltSettings, RebuiltGrid, EmptyTable, FirstText, BuildRoutine>;
+
+/// The file that a step of the build makes; empty for a routine, which may make several or none.
+std::string builtFile(const BuildStep& step);
+
+/// What forms ask about the functions as a whole.
+struct FunctionFacts
+{
+    /// Whether a rebuild makes a file, so that it is missed where it isn't there.
+    std::function<bool(const std::string& file)> isBuilt = [](const std::string&) { return false; };
+
+    /// The switch that turns off the function of a form; empty for none.
+    std::function<std::string(const std::string& form)> switchOf = [](const std::string&) {
+        return std::string();
+    };
+};
 
 /// A function of the hub script, told once: its nodes with their forms, the folders that it lives in, and how
 /// a rebuild fills them.

@@ -21,6 +21,7 @@ struct GridWords
     bool targets = true;                ///< false: one value per command and profile, and three columns
     bool clickToggles = false;          ///< a click on a row toggles it
     std::string_view explanation{};     ///< what the permissions do for the hub's users, in a sentence
+    std::string targetLink{};           ///< between command and target where a sentence tells a row: "of"
 
     /// The button that shows one command. A press of it takes the filter off if its key is COMMAND.
     std::string commandFilter = "COMMAND";

@@ -60,6 +60,8 @@ void HttpRequest::get(const QUrl& url)
     connect(m_reply.get(), &QNetworkReply::finished, this, &HttpRequest::takeReply);
 }
 
+/// Follows redirects itself: of Qt's own ways one stops at another port of the same host, and the one that
+/// asks first sends each request that comes after a second redirect several times.
 void HttpRequest::takeReply()
 {
     const auto target = m_reply->attribute(QNetworkRequest::RedirectionTargetAttribute).toUrl();

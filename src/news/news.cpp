@@ -223,11 +223,23 @@ bool offersDownload(const SettingsFiles& files, std::string_view programVersion)
 
 FunctionDeclaration newsFunction()
 {
-    return {.nodes = {
-                {.key = "General~News",
-                 .caption = "News Archive",
-                 .form = {{{"frmGeneralNews", "General ~ News", {6000, 4500}}, {OwnPart{OwnPartKind::News}}}},
-                 .dropDown = "News"}}};
+    const OwnPart part = {
+        .kind = OwnPartKind::News,
+        .explanations = {{"lvwNews",
+                          "Each row is an article that was fetched; a deleted one does not come back."}},
+        .texts = [](const SettingsFiles& files, const HubProfiles&) {
+            std::vector<PlacedText> texts = {{"", "lvwNews", -1, "News Headline", ""}};
+            int row = 0;
+            for (const NewsArticle& each : loadNews(files)) {
+                const std::string text = each.date + " | " + each.headline + " | " + each.story;
+                texts.push_back({"", "lvwNews", row++, "News Headline", text});
+            }
+            return texts;
+        }};
+    return {.nodes = {{.key = "General~News",
+                       .caption = "News Archive",
+                       .form = {{{"frmGeneralNews", "General ~ News", {6000, 4500}}, {part}}},
+                       .dropDown = "News"}}};
 }
 
 } // namespace quillfen

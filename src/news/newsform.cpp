@@ -72,8 +72,8 @@ public:
 private:
     void removeSelected()
     {
-        const int selected = m_list->currentRow();
-        if (selected < 0 ||
+        const std::vector<int> selected = m_list->selectedRows();
+        if (selected.empty() ||
             !confirm(m_list, "Delete News Article?", "Do you really want to delete this News Article?"))
             return;
         m_list->remove(selected);

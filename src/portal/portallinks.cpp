@@ -53,7 +53,7 @@ private:
 
 /// What a link answers to. Every other command changes nothing and sends nothing, $HubName, $To:, $Search,
 /// $ForceMove and $BadPass among them: the link stays where it is and with whom it is.
-const PortalLinks::Command PortalLinks::commands[] = {
+constexpr PortalLinks::Command PortalLinks::commands[] = {
     {"$LOCK", &PortalLinks::hearLock},         {"$GETPASS", &PortalLinks::hearGetPass},
     {"$GETINFO", &PortalLinks::hearGetInfo},   {"$HELLO", &PortalLinks::hearHello},
     {"$LOGEDIN", &PortalLinks::hearLogedIn},   {"$OPLIST", &PortalLinks::hearOpList},

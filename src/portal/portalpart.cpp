@@ -6,6 +6,7 @@
 #include "shell/kit/editdialog.h"
 #include "shell/kit/labels.h"
 #include "shell/kit/messages.h"
+#include "shell/kit/pastedrows.h"
 #include "shell/kit/rowlist.h"
 #include "shell/kit/toolbarlist.h"
 #include "shell/kit/units.h"
@@ -22,7 +23,6 @@
 namespace quillfen {
 namespace {
 
-constexpr const char* labels[] = {"Username", "Description", "Email", "IP"};
 constexpr const char* caption = "Communication ~ Portal";
 constexpr std::size_t fullHubList = 2;
 
@@ -139,6 +139,8 @@ PortalPart::PortalPart(const FormContext& context)
     m_hubs->setColumnHidden(static_cast<int>(HubColumn::HubName), true);
     new ColumnWidths(*m_hubs, fitHubColumns);
     new TickSelects(*m_hubs);
+    m_hubs->setTicksTogether(false); // a tick opens a link
+    m_hubs->setSelectionMode(QAbstractItemView::SingleSelection);
     new ColumnWidths(*m_nicks, fitNickColumn);
     m_nicks->setColumnHidden(0, true); // not before, or the header would keep the column's room free
     for (auto* list : {m_hubs, m_nicks})
@@ -170,10 +172,10 @@ QWidget* PortalPart::identity()
     for (std::size_t at = 0; at < m_fields.size(); ++at) {
         auto* field = new QLineEdit;
         field->setObjectName(QStringLiteral("txtTextBox(%1)").arg(at));
-        field->setAccessibleName(labels[at]);
+        field->setAccessibleName(portalLabels[at]);
         limitToOneLine(*field);
         connect(field, &QLineEdit::textChanged, this, &FormPart::changed);
-        auto* label = labelFor(labels[at], field);
+        auto* label = labelFor(portalLabels[at], field);
         label->setObjectName(QStringLiteral("lblLabel(%1)").arg(at));
         layout->addRow(label, field);
         m_fields[at] = field;
@@ -192,6 +194,8 @@ void PortalPart::connectLists()
     for (auto* tools : {m_hubTools, m_nickTools})
         tools->letRowsLightButtons();
     connect(m_hubs, &RowList::tickChanged, this, &PortalPart::followTick);
+    connect(m_hubs, &RowList::pasteAsked, this, &PortalPart::pasteHubs);
+    connect(m_nicks, &RowList::pasteAsked, this, &PortalPart::pasteNicks);
     connect(m_nicks, &RowList::countChanged, this, [this] { m_ignored.reset(); });
     connect(m_nicks->model(), &QAbstractItemModel::dataChanged, this, [this] { m_ignored.reset(); });
 }
@@ -240,11 +244,24 @@ PortalSettings PortalPart::shown() const
 
 void PortalPart::addHub()
 {
-    addRows(m_hubs, hubRequest("Add Hub"), [this](const std::vector<std::string>& values) {
-        m_hubs->append(hubRow({values[0], values[1], values[2]}));
-        if (m_hubs->rows().size() == fullHubList)
-            m_hubTools->tool("NEW").setEnabled(false);
-        emit changed();
+    addRows(m_hubs, hubRequest("Add Hub"), [this](const auto& values) { takeHub(values); });
+}
+
+void PortalPart::takeHub(const std::vector<std::string>& values)
+{
+    m_hubs->append(hubRow({values[0], values[1], values[2]}));
+    if (m_hubs->rows().size() == fullHubList)
+        m_hubTools->tool("NEW").setEnabled(false);
+    emit changed();
+}
+
+void PortalPart::pasteHubs()
+{
+    pasteRows(m_hubs, hubRequest("Add Hub"), [this](const auto& values) {
+        if (!m_hubTools->tool("NEW").isEnabled())
+            return "the list is full";
+        takeHub(values);
+        return "";
     });
 }
 
@@ -295,9 +312,20 @@ void PortalPart::followTick(int row)
 /// The links compare nicks with case, so one that is added here matches only a nick in lower case.
 void PortalPart::addNick()
 {
-    addRows(m_nicks, nickRequest("Add Nick"), [this](const std::vector<std::string>& values) {
-        m_nicks->append(nickRow(codepage::lowered(values[0])));
-        emit changed();
+    addRows(m_nicks, nickRequest("Add Nick"), [this](const auto& values) { takeNick(values); });
+}
+
+void PortalPart::takeNick(const std::vector<std::string>& values)
+{
+    m_nicks->append(nickRow(codepage::lowered(values[0])));
+    emit changed();
+}
+
+void PortalPart::pasteNicks()
+{
+    pasteRows(m_nicks, nickRequest("Add Nick"), [this](const auto& values) {
+        takeNick(values);
+        return "";
     });
 }
 
@@ -317,8 +345,8 @@ void PortalPart::editNick()
 
 void PortalPart::deleteNick()
 {
-    const int selected = m_nicks->currentRow();
-    if (selected < 0 || !confirm(m_nicks, "Delete Nick?", "Do you really want to delete this Nick?"))
+    const std::vector<int> selected = m_nicks->selectedRows();
+    if (selected.empty() || !confirm(m_nicks, "Delete Nick?", "Do you really want to delete this Nick?"))
         return;
     m_nicks->remove(selected);
     emit changed();

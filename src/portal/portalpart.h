@@ -45,10 +45,14 @@ private:
     void connectLists();
 
     void addHub();
+    void takeHub(const std::vector<std::string>& values);
+    void pasteHubs();
     void editHub();
     void deleteHub();
     void followTick(int row);
     void addNick();
+    void takeNick(const std::vector<std::string>& values);
+    void pasteNicks();
     void editNick();
     void deleteNick();
     PortalSettings shown() const;

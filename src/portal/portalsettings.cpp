@@ -36,6 +36,26 @@ std::vector<std::string> loadIgnoreNicks(const SettingsFiles& files)
     return nicks;
 }
 
+/// All but the passwords, which no other place than the form's own shows.
+std::vector<PlacedText> placedTexts(const SettingsFiles& files, const HubProfiles& /*profiles*/)
+{
+    const PortalSettings settings = loadPortalSettings(files);
+    const std::string path(file);
+    std::vector<PlacedText> texts = {{path, "lvwHubs", -1, "Hub Settings", ""},
+                                     {path, "lvwNicks", -1, "Nicks To Ignore", ""}};
+    const auto add = [&](const std::string& control, std::size_t row, const std::string& label,
+                         const std::string& text) {
+        texts.push_back({path, control, static_cast<int>(row), label, text});
+    };
+    for (std::size_t at = 0; at < settings.user.size(); ++at)
+        add("txtTextBox(" + std::to_string(at) + ')', 0, portalLabels[at], settings.user[at]);
+    for (std::size_t row = 0; row < settings.hubs.size(); ++row)
+        add("lvwHubs", row, "Hub Settings", settings.hubs[row].address + " | " + settings.hubs[row].port);
+    for (std::size_t row = 0; row < settings.ignoreNicks.size(); ++row)
+        add("lvwNicks", row, "Nicks To Ignore", settings.ignoreNicks[row]);
+    return texts;
+}
+
 bool precedes(std::string_view one, std::string_view other)
 {
     const auto lower = [](char character) {
@@ -105,12 +125,27 @@ void savePortalSettings(const SettingsFiles& files, const PortalSettings& settin
 
 FunctionDeclaration portalFunction()
 {
+    const OwnPart part = {
+        .kind = OwnPartKind::Portal,
+        .explanations =
+            {
+                {"txtTextBox(0)", "Sets the nick that speaks on both hubs.", std::string(file), "sUsername"},
+                {"txtTextBox(1)", "Sets the description of that nick on both hubs.", std::string(file),
+                 "sDescription"},
+                {"txtTextBox(2)", "Sets the email address of that nick on both hubs.", std::string(file),
+                 "sEmail"},
+                {"txtTextBox(3)", "Is only kept: no hub is told of it.", std::string(file), "sClientIP"},
+                {"lvwHubs",
+                 "Each row is a hub whose main chat is passed on to the other; a tick logs in to it."},
+                {"lvwNicks", "Each row is a nick whose words are not passed on to the other hub."},
+            },
+        .texts = placedTexts};
     const FormDescription form = {.name = "frmCommunicationPortal",
                                   .caption = "Communication ~ Portal",
                                   .minimumSize = {6000, 6600},
                                   .hasRestore = false,
                                   .isLoadedOnce = true};
-    return {.nodes = {{"Communication~Portal", "Portal", {{form, {OwnPart{OwnPartKind::Portal}}}}}}};
+    return {.nodes = {{"Communication~Portal", "Portal", {{form, {part}}}}}};
 }
 
 } // namespace quillfen

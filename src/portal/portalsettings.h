@@ -10,6 +10,9 @@ namespace quillfen {
 
 class SettingsFiles;
 
+/// What the form calls the texts that a user has.
+inline constexpr const char* portalLabels[] = {"Username", "Description", "Email", "IP"};
+
 /// A row of the hub list.
 struct HubRow
 {

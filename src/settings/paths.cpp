@@ -55,6 +55,17 @@ std::string SettingsPaths::inSettings(std::string_view told) const
     return settingsRoot() + separator + platformPath(told);
 }
 
+std::optional<std::string> SettingsPaths::toldInSettings(std::string_view path) const
+{
+    const std::string root = settingsRoot() + separator;
+    if (!path.starts_with(root))
+        return std::nullopt;
+    auto told = codepage::fromUtf8(path.substr(root.size()));
+    if (told)
+        std::replace(told->begin(), told->end(), separator, '\\');
+    return told;
+}
+
 std::string SettingsPaths::inProgramFolder(std::string_view told) const
 {
     return m_programFolder + separator + platformPath(told);

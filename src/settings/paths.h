@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -23,6 +24,9 @@ public:
     std::string inSettings(std::string_view told) const;
     std::string inProgramFolder(std::string_view told) const;
     std::string inHubFolder(std::string_view told) const;
+
+    /// The told path of a file below the settings root; nothing for one that lies elsewhere.
+    std::optional<std::string> toldInSettings(std::string_view path) const;
 
     /// The hub script's own folder, which comes with the script and is never made.
     std::string scriptFolder() const;

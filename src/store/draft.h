@@ -42,6 +42,9 @@ public:
     void commit(const std::vector<StoreChange>& changes) override;
     void sync(const std::string& folder) override;
 
+    /// Whether a draft is open.
+    bool isDrafting() const { return m_draft != nullptr; }
+
     /// From now on what a commit replaces is kept there; nowhere if it is null.
     void keepVersionsIn(History* history) { m_history = history; }
 

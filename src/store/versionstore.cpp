@@ -172,7 +172,7 @@ void VersionStore::dropOldest()
             if (counted.insert(file.blob).second)
                 size += blobSize(file.blob).value_or(0);
         }
-        const unsigned times = entry.cause.kind == Cause::Kind::Save ? 1 : 2;
+        const std::size_t times = entry.cause.kind == Cause::Kind::Save ? 1 : 2;
         ++count;
         if (count > 1 && (count > entryLimit * times || size > byteLimit * times)) // the newest stays anyhow
             old.push_back(number);

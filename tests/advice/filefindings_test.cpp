@@ -84,6 +84,11 @@ TEST(FileFindings, TellOfTextsWhoseEndsTheNextLoadTakesAway)
     }
 }
 
+TEST(FileFindings, TellOfATextBehindWhichBlanksStand)
+{
+    EXPECT_EQ(found("t = {\r\n\tsText = \" a\", \t\r\n}\r\n"), at(2, ends));
+}
+
 TEST(FileFindings, TellOfRowsWhoseBracketsTheNextLoadTakesAway)
 {
     EXPECT_EQ(found("t = {\r\n\t\"[Chat]\",\r\n}\r\n"), at(2, "the text begins with [ or ends with ]"));
@@ -112,15 +117,19 @@ TEST(FileFindings, ComeInTheOrderOfTheLines)
               (Lines{at(2, ends)[0], at(3, backslash)[0], at(4, ends)[0]}));
 }
 
-TEST(FileFindings, AreNoneForTheFaultOfAFileThatNeverLoads)
+TEST(FileFindings, DoNotSayOfAFileThatNeverLoadsWhatLuaMakesOfIt)
 {
     const std::string open = "tPortalSettings = {\r\n\tsNick = \"a\",\r\n";
     EXPECT_EQ(found(open, R"(Communication\Portal\PortalSettings.tbl)"), Lines{});
     EXPECT_EQ(found(open), at(1, "the file won't load: the table that opens here is never closed"));
     EXPECT_EQ(
         found("tPortalSettings = {\r\n\tsNick = \"a\"b\",\r\n", R"(Communication\Portal\PortalSettings.tbl)"),
-        at(2, "the file won't load: a quote inside the text ends it there"))
-        << "another fault is told";
+        Lines{})
+        << "the hub script reads it in a way of its own";
+    EXPECT_EQ(
+        found("tPortalSettings = {\r\n\tsNick = \" a\",\r\n", R"(Communication\Portal\PortalSettings.tbl)"),
+        at(2, ends))
+        << "but the editor reads it too";
 }
 
 TEST(FileFindings, TellOfAnswersThatTheEditorCutsOrDrops)
@@ -205,6 +214,44 @@ TEST(SettingFindings, TellWhereTheReadersStop)
     EXPECT_EQ(foundInSample(rows), Lines{}) << "the brace stands on line 5,000";
     EXPECT_EQ(foundInSample(rows + "x = 1,\r\niNumber = 99,\r\n"),
               at(5001, "the editor reads no further than line 5,000"));
+}
+
+const std::string& keyAt(const std::string& bytes, std::size_t line)
+{
+    static const std::string none = "none";
+    const Setting* setting = settingAt(kickSettings(), bytes, line);
+    return setting ? keyOf(*setting) : none;
+}
+
+TEST(SettingAt, IsTheOneWhoseRowALineIsOrFollows)
+{
+    const std::string bytes =
+        "tKickSettings = {\r\n\tiKicksMakeBan = 5,\r\n\tiUnknown = 1,\r\n\tiTopKickers = 1,\r\n}";
+    EXPECT_EQ(keyAt(bytes, 1), "none");
+    EXPECT_EQ(keyAt(bytes, 2), "iKicksMakeBan");
+    EXPECT_EQ(keyAt(bytes, 4), "iTopKickers");
+    EXPECT_EQ(keyAt(bytes, 99), "iTopKickers");
+}
+
+TEST(UseFindings, NameAListOfProfilesOfWhomNoneIsTicked)
+{
+    const TableFile file{
+        "A.tbl", "t", {setting::profileFlags("tEnabledProfiles", "lvw", "Enabled Profiles")}};
+    const std::string none =
+        "t = {\r\n\ttEnabledProfiles = {\r\n\t\t[-1] = 0,\r\n\t\t[0] = 0,\r\n\t},\r\n}\r\n";
+    ASSERT_EQ(useFindings(file, none).size(), 1U);
+    EXPECT_EQ(useFindings(file, none).front().line, 2U);
+    const std::string one =
+        "t = {\r\n\ttEnabledProfiles = {\r\n\t\t[-1] = 0,\r\n\t\t[0] = 1,\r\n\t},\r\n}\r\n";
+    EXPECT_EQ(useFindings(file, one), std::vector<Finding>());
+    EXPECT_EQ(useFindings(file, "t = {\r\n}\r\n"), std::vector<Finding>());
+}
+
+TEST(UseFindings, AskForNoTicksThatExemptProfiles)
+{
+    const TableFile file{"A.tbl", "t", {setting::profileFlags("tEnabledProfiles", "lvw", "Exempt Profiles")}};
+    EXPECT_EQ(useFindings(file, "t = {\r\n\ttEnabledProfiles = {\r\n\t\t[-1] = 0,\r\n\t},\r\n}\r\n"),
+              std::vector<Finding>());
 }
 
 } // namespace

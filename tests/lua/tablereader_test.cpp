@@ -84,6 +84,14 @@ TEST_P(LuaVersions, LoadTablesThatAPersonWrote)
     loads("\t t = {\n\n\r\r\n}");
 }
 
+TEST_P(LuaVersions, LoadManyAssignmentsOfMoreValuesThanNames)
+{
+    std::string text;
+    for (int line = 0; line < 300; ++line)
+        text += "a = 1, 2\n";
+    loads(text);
+}
+
 TEST_P(LuaVersions, RefuseAQuoteInAText)
 {
     fails("t = {\r\n\tsText = \"a\"b\",\r\n}", Fault::QuoteInText, 2);

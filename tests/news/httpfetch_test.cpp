@@ -110,6 +110,23 @@ TEST_F(HttpFetchTest, ARedirectOnTheSameHostIsFollowed)
     EXPECT_EQ(fetched("old.txt").text, "moved");
 }
 
+TEST_F(HttpFetchTest, ARedirectToAnotherPortOfTheSameHostIsFollowed)
+{
+    test::WebServer other;
+    other.serve("new.txt", "next door");
+    server.redirect("old.txt", other.base() + "new.txt");
+    EXPECT_EQ(fetched("old.txt").text, "next door");
+}
+
+TEST_F(HttpFetchTest, AnErrorStatusBehindARedirectIsToldWithItsText)
+{
+    server.redirect("old.txt", "/new.txt");
+    server.serve("new.txt", "gone", "410 Gone");
+    const FetchedText answer = fetched("old.txt");
+    EXPECT_EQ(answer.text, "gone");
+    EXPECT_TRUE(answer.isError);
+}
+
 TEST_F(HttpFetchTest, ARedirectToAnotherHostIsNot)
 {
     test::WebServer other;

@@ -19,6 +19,11 @@ for picture in $(grep -o 'pictures/[a-z-]*.png' "$scripts/quillfen-docs/guide.md
   [ -f "$scripts/quillfen-docs/$picture" ] || fail "the guide shows $picture, which isn't there"
 done
 
+for section in general the-archive; do
+  [ -f "$scripts/quillfen-docs/sections/$section.html" ] || fail "no page of the guide for $section"
+done
+[ -f "$scripts/quillfen-docs/guide.html" ] || fail "no page of the guide"
+
 begin "first start of the unpacked program builds the tree"
 press "$version_box" Return
 close_main

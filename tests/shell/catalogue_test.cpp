@@ -1,3 +1,4 @@
+#include "shell/kit/codepagetext.h"
 #include "support/declarationfaults.h"
 #include "support/formtest.h"
 
@@ -65,6 +66,17 @@ protected:
     const Found deliberate = {"frmGamesGuessTheNumber: default: iHintTime",
                               "frmGamesGuessTheNumber: default: iMaxHints"};
 };
+
+/// What the own parts of a node's form say of the controls that they make themselves.
+std::vector<ControlExplanation> explainedByParts(const Node& node)
+{
+    std::vector<ControlExplanation> all;
+    for (const PartDeclaration& part : node.form ? node.form->parts : std::vector<PartDeclaration>()) {
+        if (const auto* own = std::get_if<OwnPart>(&part))
+            all.insert(all.end(), own->explanations.begin(), own->explanations.end());
+    }
+    return all;
+}
 
 TEST_F(Declarations, OfAllFormsAreRight)
 {
@@ -212,6 +224,19 @@ TEST_F(Declarations, AGroupAGridTicksAndATextThatMissAPartOfThemselvesAreFound)
                "frmSecurityFlood: a grid without load or save", "frmSecurityMainLock: a text without a file",
                "frmSecurityMainLock: no control: a text", "frmUserActionsInsultsModern: a group of no lists",
                "frmUserActionsInsultsModern: lists without a save"}));
+}
+
+TEST_F(Declarations, ExplainOnlyControlsThatTheirFormsHave)
+{
+    std::size_t explained = 0;
+    for (const Node& node : functionNodes()) {
+        for (const ControlExplanation& each : explainedByParts(node)) {
+            EXPECT_TRUE(open(node.key.c_str()).findChild<QWidget*>(fromBytes(each.control)))
+                << node.key << ": " << each.control;
+            ++explained;
+        }
+    }
+    EXPECT_GT(explained, 0U);
 }
 
 TEST_F(Declarations, WhatIsMeantMustBeThere)

@@ -343,6 +343,25 @@ TEST_F(EditDialogTest, ARequiredComboBoxShowsItsColourAsFlatAsATextBoxDoes)
     EXPECT_NE(combo.view()->palette().color(QPalette::Base), lightRed) << "only the field is asked for";
 }
 
+TEST_F(EditDialogTest, IsAsWideAsItsTextsUpToTheWindowAndShowsTheirBeginnings)
+{
+    QWidget behind;
+    behind.resize(900, 600);
+    const auto widthWith = [&](int characters) {
+        EditRequest wide = request(EditForm::OneFields, 0, EditResult::Edit);
+        wide.values = {std::string(static_cast<std::size_t>(characters), 'w')};
+        const EditDialog dialog(wide, &behind);
+        const auto* box = dialog.findChild<QLineEdit*>("txtTextBox(0)");
+        EXPECT_EQ(box->cursorPosition(), 0);
+        return dialog.width();
+    };
+    EXPECT_EQ(widthWith(1), 420);
+    const int wide = widthWith(50);
+    EXPECT_GT(wide, 420);
+    EXPECT_GE(wide, 50 * behind.fontMetrics().horizontalAdvance('w'));
+    EXPECT_EQ(widthWith(5000), 900);
+}
+
 TEST_F(EditDialogTest, AnOwnersAmpersandIsShownAndMakesNoKey)
 {
     EditRequest edit = request(EditForm::OneFields, 0, EditResult::Edit);

@@ -4,7 +4,9 @@
 
 #include <QContextMenuEvent>
 #include <QDialog>
+#include <QHelpEvent>
 #include <QMenu>
+#include <QToolTip>
 
 namespace quillfen {
 namespace {
@@ -25,6 +27,37 @@ TEST(ListViewTest, AListThatGetsRowsSelectsTheFirst)
     list.append({{"d"}});
     EXPECT_EQ(list.currentRow(), 0);
     EXPECT_EQ(ticks, 0);
+}
+
+TEST(ListViewTest, ATextTooLongForItsCellHasAToolTip)
+{
+    RowList list("lvwSample", {"Text", "More"}, false);
+    list.setRows({{{"short", "x"}}, {{"a text that is much too long for its cell", "x"}}});
+    list.setColumnWidths({80, 80});
+    list.resize(300, 200);
+    list.show();
+    const auto tipAt = [&list](int row) {
+        const QPoint at = list.visualRect(list.model()->index(row, 0)).center();
+        QHelpEvent help(QEvent::ToolTip, at, list.viewport()->mapToGlobal(at));
+        QApplication::sendEvent(list.viewport(), &help);
+        return QToolTip::isVisible() ? QToolTip::text() : QString();
+    };
+    EXPECT_EQ(tipAt(0), "");
+    EXPECT_EQ(tipAt(1), "<p>a text that is much too long for its cell</p>");
+}
+
+TEST(ListViewTest, AnEmptyListSaysInGreyWhatBelongsThere)
+{
+    RowList list("lvwSample", {"Text"}, false);
+    list.resize(300, 200);
+    const QImage nothing = list.grab().toImage();
+    list.setEmptyText("Each row is a word.");
+    const QImage told = list.grab().toImage();
+    EXPECT_NE(told, nothing);
+    list.setRows({{{"a"}}});
+    const QImage row = list.grab().toImage();
+    list.setEmptyText({});
+    EXPECT_EQ(list.grab().toImage(), row) << "not while there are rows";
 }
 
 TEST(ListViewTest, AListWithoutASelectionSelectsItsFirstRowAsItGetsTheFocus)
@@ -77,6 +110,15 @@ TEST(ListViewTest, ARightPressTellsWhetherItIsOnARow)
 class ListsInForms : public test::FormTest
 {
 };
+
+TEST_F(ListsInForms, AnEmptyListTellsHowToAddARow)
+{
+    auto& form = open("Security~BadNickBlocker");
+    const QString text = find<RowList>(form, "lvwBadNickList").emptyText();
+    EXPECT_TRUE(text.endsWith(": the first button, or the Insert key.")) << text.toStdString();
+    auto& words = find<RowList>(open("Games~Anagrams"), "lvwWords");
+    EXPECT_TRUE(words.emptyText().endsWith("Open reads the rows of the file."));
+}
 
 TEST_F(ListsInForms, AFormsListOpensWithItsFirstRowSelectedAndEnterEditsIt)
 {

@@ -1,6 +1,10 @@
 #include "shell/kit/codepagetext.h"
+#include "shell/kit/numberbox.h"
+#include "shell/window/guide.h"
 #include "shell/window/popupmenus.h"
+#include "store/history.h"
 #include "support/formtest.h"
+#include "support/memorystore.h"
 
 #include <QContextMenuEvent>
 #include <QDesktopServices>
@@ -9,6 +13,7 @@
 #include <QMenuBar>
 #include <QProcess>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QScreen>
 #include <QScrollBar>
 #include <QSplitter>
@@ -19,18 +24,24 @@
 namespace quillfen {
 namespace {
 
-/// Notes which web pages the program asks the platform to open.
+/// Notes which pages of a scheme the program asks the platform to open.
 class WebPages : public QObject
 {
     Q_OBJECT
 
 public:
-    WebPages() { QDesktopServices::setUrlHandler("quillfentest", this, "note"); }
-    ~WebPages() override { QDesktopServices::unsetUrlHandler("quillfentest"); }
+    explicit WebPages(const QString& scheme = "quillfentest") : m_scheme(scheme)
+    {
+        QDesktopServices::setUrlHandler(m_scheme, this, "note");
+    }
+    ~WebPages() override { QDesktopServices::unsetUrlHandler(m_scheme); }
 
     QStringList opened;
 
     Q_INVOKABLE void note(const QUrl& url) { opened.append(url.toString()); }
+
+private:
+    QString m_scheme;
 };
 
 class MainWindowTest : public test::FormTest
@@ -277,6 +288,135 @@ TEST_F(MainWindowTest, AClickOnAFormHalfInSightDoesNotMoveItAway)
     QTest::mouseRelease(&toolbar, Qt::LeftButton, {}, {5, 5});
 }
 
+/// Two changed forms and a clean one in front of them.
+class SavingAll : public MainWindowTest
+{
+protected:
+    SavingAll()
+    {
+        find<NumberBox>(slotMachine, "updUpDown(0)").setText("7");
+        QTest::keyClicks(&find<QWidget>(settings, "txtTextBox(0)"), "x");
+        hub.store.log.clear();
+        window().activateWindow();
+        inFront = &open("General~Switches");
+    }
+
+    void press()
+    {
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_S, Qt::ControlModifier | Qt::ShiftModifier);
+    }
+
+    bool isWritten(const std::string& file) const
+    {
+        return std::ranges::count(hub.store.log, "write " + hub.root + '/' + file) == 1;
+    }
+
+    EditorForm& slotMachine = open("Games~SlotMachine");
+    EditorForm& settings = open("General~Settings");
+    EditorForm* inFront = nullptr;
+};
+
+TEST_F(SavingAll, ControlShiftSSavesEachChangedFormAndNoOther)
+{
+    press();
+    EXPECT_FALSE(slotMachine.isDirty());
+    EXPECT_FALSE(settings.isDirty());
+    EXPECT_TRUE(isWritten("Games/SlotMachine/SlotMachineSettings.tbl"));
+    EXPECT_TRUE(isWritten("General/Globals/GeneralSettings.tbl"));
+    EXPECT_EQ(hub.store.log.size(), 2U);
+    EXPECT_EQ(area().currentSubWindow(), &subWindow(*inFront)) << "what one works in stays in front";
+}
+
+TEST_F(SavingAll, AFormThatCannotBeSavedSaysSoComesForwardAndKeepsNoOtherFromIt)
+{
+    hub.store.folders.insert(hub.root +
+                             "/Games/SlotMachine/SlotMachineSettings.tbl"); // nothing is written there
+    const auto boxes = test::answering(QMessageBox::Ok, [this] { press(); });
+    ASSERT_EQ(boxes.size(), 1);
+    EXPECT_TRUE(boxes[0].text.contains("Games ~ SlotMachine couldn't be saved."))
+        << boxes[0].text.toStdString();
+    EXPECT_TRUE(slotMachine.isDirty());
+    EXPECT_FALSE(settings.isDirty());
+    EXPECT_TRUE(isWritten("General/Globals/GeneralSettings.tbl"));
+    EXPECT_EQ(area().currentSubWindow(), &subWindow(slotMachine));
+}
+
+TEST_F(SavingAll, EachFormTellsOfItsOwnThatNoVersionWasKept)
+{
+    test::MemoryStore versionDisk;
+    versionDisk.failingCall = 0;
+    VersionStore versions(versionDisk, "/versions");
+    History history(hub.store, hub.root, versions);
+    hub.files.store().keepVersionsIn(&history);
+    press();
+    const auto told = [](EditorForm& form) {
+        return find<QStatusBar>(form, "stsStatusBar")
+            .findChildren<QLabel*>(Qt::FindDirectChildrenOnly)
+            .at(1)
+            ->text()
+            .startsWith("No version was kept");
+    };
+    EXPECT_TRUE(told(slotMachine));
+    EXPECT_TRUE(told(settings));
+    EXPECT_FALSE(told(*inFront));
+}
+
+TEST_F(MainWindowTest, TheEmptyAreaSaysHowToBeginUntilTheFirstFormOpens)
+{
+    QPointer<QLabel> told = &find<QLabel>(window(), "lblHowToBegin");
+    EXPECT_TRUE(told->isVisible());
+    EXPECT_TRUE(area().rect().contains(QRect(told->mapTo(&area(), QPoint()), told->size())));
+    EXPECT_TRUE(told->text().contains("tree"));
+    EXPECT_TRUE(told->text().contains("Ctrl+F"));
+    auto& form = open("General~Settings");
+    EXPECT_FALSE(told);
+    closeForm(form);
+    EXPECT_EQ(window().findChild<QLabel*>("lblHowToBegin"), nullptr);
+}
+
+TEST_F(MainWindowTest, TheGuideOpensAtTheChapterOfTheFormThatAsksForIt)
+{
+    const QTemporaryDir folder;
+    program.guideFolder = folder.path();
+    const QString page = folder.filePath("sections/customise-user.html");
+    WebPages pages("file");
+    const auto ask = [this] {
+        auto& form = open("CustomiseUser~IntroOutro~Standard");
+        emit form.guideAsked(form.objectName());
+    };
+    const auto boxes = test::answering(QMessageBox::Ok, ask);
+    ASSERT_EQ(boxes.size(), 1) << "nothing is there";
+    EXPECT_EQ(boxes[0].title, "Morvaleth's Quillfen");
+    EXPECT_TRUE(boxes[0].text.contains(page)) << boxes[0].text.toStdString();
+    EXPECT_EQ(pages.opened, QStringList());
+    ASSERT_TRUE(QDir(folder.path()).mkdir("sections"));
+    ASSERT_TRUE(QFile(page).open(QIODevice::WriteOnly));
+    EXPECT_EQ(test::answering(QMessageBox::Ok, ask).size(), 0);
+    EXPECT_EQ(pages.opened, QStringList{QUrl::fromLocalFile(page).toString()});
+}
+
+TEST_F(MainWindowTest, EachFormHasAPageThatLeadsToItsGroupInTheGuide)
+{
+    const auto read = [](const QString& page) {
+        QFile file(QStringLiteral(QUILLFEN_GUIDE) + '/' + page);
+        EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << file.fileName().toStdString();
+        return QString::fromUtf8(file.readAll());
+    };
+    const NavigatorTable table(functionNodes());
+    const QString guide = read("guide.html");
+    QStringList anchors;
+    for (const QString& key : table.formKeys()) {
+        static const QRegularExpression target("url=\\.\\./guide\\.html#([a-z-]+)\"");
+        const auto found = target.match(read(guidePage(table, key)));
+        ASSERT_TRUE(found.hasMatch()) << key.toStdString();
+        EXPECT_TRUE(guide.contains("<a name=\"" + found.captured(1) + "\"")) << key.toStdString();
+        anchors.append(found.captured(1));
+    }
+    anchors.removeDuplicates();
+    EXPECT_EQ(anchors, (QStringList{"general", "communication", "customise-user", "games", "security",
+                                    "user-actions", "the-archive"}));
+}
+
 TEST_F(MainWindowTest, ControlTabGoesToTheNextFormAtOnce)
 {
     auto& settings = subWindow(open("General~Settings"));
@@ -291,6 +431,10 @@ TEST_F(MainWindowTest, ControlTabGoesToTheNextFormAtOnce)
     EXPECT_EQ(press(Qt::Key_Tab, Qt::ControlModifier), &switches);
     EXPECT_EQ(press(Qt::Key_Backtab, Qt::ControlModifier | Qt::ShiftModifier), &settings);
     EXPECT_EQ(press(Qt::Key_Backtab, Qt::ControlModifier | Qt::ShiftModifier), &bots);
+    EXPECT_EQ(press(Qt::Key_PageDown, Qt::ControlModifier), &settings);
+    EXPECT_EQ(press(Qt::Key_PageDown, Qt::ControlModifier), &switches);
+    EXPECT_EQ(press(Qt::Key_PageUp, Qt::ControlModifier), &settings);
+    EXPECT_EQ(press(Qt::Key_PageUp, Qt::ControlModifier), &bots);
     bots.showMaximized();
     EXPECT_EQ(press(Qt::Key_Tab, Qt::ControlModifier), &settings);
     EXPECT_TRUE(settings.isMaximized()) << "as are all, then";

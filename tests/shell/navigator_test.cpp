@@ -4,7 +4,6 @@
 #include "support/golden.h"
 #include "support/navigatornames.h"
 
-#include <QLineEdit>
 #include <QMenu>
 #include <QToolButton>
 #include <QTreeWidget>
@@ -485,130 +484,6 @@ TEST_F(TreeFollows, AFormWithoutANodeLeavesTheTreeAsItIs)
     open("Games~Anagrams");
     open("Communication~Whisper");
     EXPECT_EQ(selected(), "Games~Anagrams");
-}
-
-/// The box that narrows the tree, used by keys.
-class FindBox : public NavigatorTest
-{
-protected:
-    QLineEdit& box() { return find<QLineEdit>(window(), "txtFind"); }
-
-    void type(const QString& text)
-    {
-        QTest::keyClick(&window(), Qt::Key_F, Qt::ControlModifier);
-        QTest::keyClicks(QApplication::focusWidget(), text);
-    }
-
-    /// The keys of the rows that the tree shows, below the root.
-    QStringList shownKeys()
-    {
-        QStringList keys;
-        for (auto* item = tree().itemBelow(tree().topLevelItem(0)); item; item = tree().itemBelow(item))
-            keys.append(item->data(0, Qt::UserRole).toString());
-        return keys;
-    }
-};
-
-TEST_F(FindBox, TellsWhatItIsFor)
-{
-    EXPECT_EQ(box().accessibleName(), "Find a function");
-    EXPECT_EQ(box().placeholderText(), "Find a function (Ctrl+F)");
-}
-
-TEST_F(FindBox, LeavesMatchesAndTheHeadingsAboveThem)
-{
-    type("SPELL b");
-    EXPECT_EQ(shownKeys(), (QStringList{"UserActions", "UserActions~Spells", "UserActions~Spells~SpellBook",
-                                        "UserActions~NickSpells", "UserActions~NickSpells~SpellBook"}));
-    EXPECT_EQ(tree().currentItem(), node("UserActions~Spells~SpellBook"));
-}
-
-TEST_F(FindBox, AHeadingsNameLeavesAllThatStandsUnderIt)
-{
-    type("kicks");
-    EXPECT_EQ(shownKeys(), (QStringList{"Security", "Security~Kicks", "Security~Kicks~Settings",
-                                        "Security~Kicks~Permissions"}));
-}
-
-TEST_F(FindBox, EnterOpensTheFirstMatch)
-{
-    type("anti");
-    EXPECT_TRUE(openKeys().isEmpty()) << "typing opens nothing";
-    QTest::keyClick(&box(), Qt::Key_Return);
-    EXPECT_EQ(openKeys(), QStringList{"Security~AntiAdvertise~Settings"});
-}
-
-TEST_F(FindBox, DownGoesToTheTreeWhereEnterOpensWhatIsSelected)
-{
-    type("anti");
-    QTest::keyClick(&box(), Qt::Key_Down);
-    EXPECT_EQ(QApplication::focusWidget(), &tree());
-    QTest::keyClick(&tree(), Qt::Key_Down);
-    QTest::keyClick(&box(), Qt::Key_Return);
-    EXPECT_EQ(openKeys(), QStringList{"Security~AntiAdvertise~Addresses"}) << "the selected match";
-    QTest::keyClick(&tree(), Qt::Key_Down);
-    QTest::keyClick(&tree(), Qt::Key_Return);
-    EXPECT_EQ(openKeys(), (QStringList{"Security~AntiAdvertise~Addresses", "Security~AntiVirus"}));
-}
-
-TEST_F(FindBox, EscapeClearsItAndTheTreeStandsAsBeforeWithTheMatchInView)
-{
-    node("General")->setExpanded(true);
-    node("Games")->setExpanded(true);
-    const QStringList before = shownKeys();
-    type("anagrams");
-    EXPECT_EQ(shownKeys(), (QStringList{"Games", "Games~Anagrams"}));
-    QTest::keyClick(&box(), Qt::Key_Escape);
-    EXPECT_EQ(box().text(), "");
-    EXPECT_EQ(shownKeys(), before);
-    type("clone");
-    QTest::keyClick(&box(), Qt::Key_Escape);
-    EXPECT_TRUE(node("Security")->isExpanded()) << "it was closed, and holds the match";
-    EXPECT_FALSE(node("Security~Kicks")->isExpanded());
-    EXPECT_FALSE(node("UserActions")->isExpanded());
-}
-
-TEST_F(FindBox, WithoutAMatchNothingIsShownOrOpened)
-{
-    type("no such function");
-    EXPECT_TRUE(shownKeys().isEmpty());
-    QTest::keyClick(&box(), Qt::Key_Return);
-    EXPECT_TRUE(openKeys().isEmpty());
-}
-
-TEST_F(FindBox, AFormNarrowedAwayIsFollowedWhenTheTreeIsWhole)
-{
-    auto& anagrams = open("Games~Anagrams");
-    open("Security~AntiVirus");
-    type("anti");
-    find<QMdiArea>(window(), {}).setActiveSubWindow(qobject_cast<QMdiSubWindow*>(anagrams.parentWidget()));
-    EXPECT_TRUE(node("Games~Anagrams")->isHidden());
-    EXPECT_EQ(tree().currentItem(), node("Security~AntiAdvertise~Settings")) << "the match stays selected";
-    QTest::keyClick(&box(), Qt::Key_Escape);
-    EXPECT_EQ(tree().currentItem(), node("Games~Anagrams"));
-}
-
-TEST_F(FindBox, WhatIsTypedLaterGoesBeforeAFormNarrowedAway)
-{
-    auto& anagrams = open("Games~Anagrams");
-    open("Security~AntiVirus");
-    type("anti");
-    find<QMdiArea>(window(), {}).setActiveSubWindow(qobject_cast<QMdiSubWindow*>(anagrams.parentWidget()));
-    type("clone");
-    QTest::keyClick(&box(), Qt::Key_Escape);
-    EXPECT_EQ(tree().currentItem(), node("Security~CloneBlocker"));
-}
-
-TEST_F(FindBox, IsReachedFromAFormAndWithTheSideBarHidden)
-{
-    open("Security~AntiVirus");
-    EXPECT_FALSE(box().hasFocus());
-    find<QAction>(window(), "mnuToolsSideBar").trigger();
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_F, Qt::ControlModifier);
-    EXPECT_TRUE(box().isVisible());
-    EXPECT_TRUE(box().hasFocus());
-    QTest::keyClick(&box(), Qt::Key_Tab);
-    EXPECT_EQ(QApplication::focusWidget(), &tree());
 }
 
 } // namespace

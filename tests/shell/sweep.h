@@ -8,12 +8,14 @@
 #include "support/navigatornames.h"
 
 #include <QCheckBox>
+#include <QClipboard>
 #include <QComboBox>
 #include <QDialog>
 #include <QGroupBox>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QRadioButton>
+#include <QRegularExpression>
 
 #include <map>
 #include <set>
@@ -178,6 +180,75 @@ protected:
             ok->click();
         if (dialog.isVisible())
             dialog.close();
+    }
+
+    /// A box that was closed leaves no window active here.
+    static void focus(ListView& list)
+    {
+        list.window()->activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(list.window()));
+        list.setFocus();
+    }
+
+    /// Shows only the rows of a list that hold the first word of its first row, and all of them again.
+    static void filterAndShowAll(ListView& list)
+    {
+        const auto textOf = [&list](int row) {
+            QString text;
+            for (int column = 0; column < list.model()->columnCount(); ++column)
+                text += list.isColumnHidden(column)
+                            ? QString()
+                            : list.model()->index(row, column).data(WholeText).toString() + '\n';
+            return text;
+        };
+        const auto rows = static_cast<std::size_t>(list.model()->rowCount());
+        const QString word = textOf(0).section(QRegularExpression("\\s"), 0, 0, QString::SectionSkipEmpty);
+        focus(list);
+        QTest::keyClick(&list, Qt::Key_F, Qt::ControlModifier | Qt::ShiftModifier);
+        auto& line = find<QLineEdit>(list, "txtFilter");
+        EXPECT_TRUE(line.hasFocus());
+        line.setText(word);
+        const std::vector<int> shown = list.shownRows();
+        EXPECT_FALSE(shown.empty());
+        EXPECT_TRUE(std::all_of(shown.begin(), shown.end(), [&](int row) {
+            return textOf(row).contains(word, Qt::CaseInsensitive);
+        })) << word.toStdString();
+        line.setText(word + "\x7f");
+        EXPECT_EQ(list.shownRows().size(), 0U);
+        EXPECT_EQ(list.currentRow(), -1) << "what isn't in sight isn't selected";
+        QTest::keyClick(&line, Qt::Key_Escape);
+        EXPECT_EQ(list.shownRows().size(), rows);
+    }
+
+    /// What the copy of a list's first row and a paste of it came to.
+    enum class Pasted
+    {
+        Taken,
+        Refused, ///< told in a box
+        NotHere, ///< told beside the list, or NEW is dark
+    };
+
+    static Pasted copyAndPaste(ListView& list)
+    {
+        list.select(0);
+        focus(list);
+        QApplication::clipboard()->clear();
+        QTest::keyClick(&list, Qt::Key_C, Qt::ControlModifier);
+        EXPECT_EQ(QApplication::clipboard()->text().count('\n'), 1);
+        const int before = list.model()->rowCount();
+        const QStringList boxes =
+            useModals([&list] { QTest::keyClick(&list, Qt::Key_V, Qt::ControlModifier); });
+        if (!boxes.isEmpty()) {
+            EXPECT_EQ(boxes.size(), 1);
+            EXPECT_TRUE(boxes[0].startsWith("Rows not pasted|1 of 1 rows not taken:"))
+                << boxes[0].toStdString();
+            EXPECT_EQ(list.model()->rowCount(), before);
+            return Pasted::Refused;
+        }
+        if (list.model()->rowCount() == before)
+            return Pasted::NotHere;
+        EXPECT_EQ(list.model()->rowCount(), before + 1);
+        return Pasted::Taken;
     }
 
     /// Closes a form, answering its question if it asks one; true if it went.

@@ -47,6 +47,27 @@ TEST_P(SweepOfAHub, EveryFormDiscardsToWhatItShowedAndAsksBeforeItCloses)
     });
 }
 
+TEST_P(SweepOfAHub, EveryListFiltersCopiesAndPastes)
+{
+    int lists = 0;
+    int taking = 0;
+    forEachForm([&](const std::string&, EditorForm& form) {
+        for (auto* list : form.findChildren<ListView*>()) {
+            SCOPED_TRACE(list->objectName().toStdString());
+            if (list->model()->rowCount() == 0 && list->parentWidget()->findChild<QToolBar*>())
+                changeRows(*list); // gives it a row where it has none yet
+            if (list->model()->rowCount() == 0 || !list->isEnabled())
+                continue;
+            ++lists;
+            filterAndShowAll(*list);
+            if (copyAndPaste(*list) == Pasted::Taken)
+                ++taking;
+        }
+    });
+    EXPECT_GT(lists, 100);
+    EXPECT_GT(taking, 30);
+}
+
 TEST_P(SweepOfAHub, EveryFormRestoresWithoutWriting)
 {
     forEachForm([&](const std::string&, EditorForm& form) {

@@ -1,6 +1,6 @@
 // What the hub script finds in the files that every form saved.
 #include "advice/notloading.h"
-#include "advice/treecheck.h"
+#include "check/treecheck.h"
 #include "lua/tablereader.h"
 #include "settings/profiles.h"
 #include "shell/kit/codepagetext.h"

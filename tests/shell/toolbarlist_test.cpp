@@ -52,6 +52,22 @@ TEST_F(ToolbarLists, PressTheButtonsByDoubleClickAndDeleteKey)
     EXPECT_EQ(pressed, (QStringList{"EDIT", "DELETE"}));
 }
 
+TEST_F(ToolbarLists, PressEditByF2AndNewByInsertWhileTheyAreLit)
+{
+    make({"tlbRows", "Things", {}, {}, "AMEND"}, {BuildListToolbar, AddAmendButton}).show();
+    tools->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(tools.get()));
+    list->setFocus();
+    QTest::keyClick(list, Qt::Key_F2);
+    QTest::keyClick(list, Qt::Key_Insert);
+    EXPECT_EQ(pressed, (QStringList{"EDIT", "NEW"}));
+    for (const char* key : {"EDIT", "NEW"})
+        tools->tool(key).setEnabled(false);
+    QTest::keyClick(list, Qt::Key_F2);
+    QTest::keyClick(list, Qt::Key_Insert);
+    EXPECT_EQ(pressed.size(), 2);
+}
+
 TEST_F(ToolbarLists, DoNothingByKeysWhereTheButtonIsDarkOrMissing)
 {
     make({"tlbRows", "Things"}, {AddEditButton});

@@ -164,6 +164,16 @@ TEST(Toolbars, EachBuilderAddsItsButtons)
     }
 }
 
+TEST(Toolbars, TheButtonsThatMoveARowNameTheirKeys)
+{
+    QToolBar toolbar;
+    int index = 0;
+    BuildMovementToolbar(toolbar, index);
+    EXPECT_EQ(keysAndTips(toolbar),
+              (QStringList{"MoveTop=Move to the top (Alt+Home)", "MoveUp=Move up (Alt+Up)",
+                           "MoveDown=Move down (Alt+Down)", "MoveBottom=Move to the bottom (Alt+End)"}));
+}
+
 TEST(Toolbars, ABuilderPutsItsButtonsInAtTheRunningIndex)
 {
     QToolBar toolbar;

@@ -111,6 +111,25 @@ TEST_F(DraftOfASave, ARebuildLeavesWhatIsAsItShouldBe)
     EXPECT_EQ(disk.log, (Names{"write /hub/a/two", "write /hub/a/three"}));
 }
 
+/// Notes among what is written when it was waited for.
+class WaitingStore : public test::MemoryStore
+{
+public:
+    void sync(const std::string& folder) override { log.push_back("wait " + folder); }
+};
+
+TEST(DraftOfARebuild, WaitsForTheDiskOnceBeforeTheFileThatSaysThatAllIsThere)
+{
+    WaitingStore disk;
+    disk.folders = {"/hub"};
+    DraftStore store(disk);
+    Draft draft(store, {"a rebuild", Cause::Kind::Rebuild});
+    for (const char* file : {"/hub/one", "/hub/two", "/hub/version"})
+        store.write(file, "new");
+    draft.commit();
+    EXPECT_EQ(disk.log, (Names{"write /hub/one", "write /hub/two", "wait /hub", "write /hub/version"}));
+}
+
 /// A save whose versions are kept.
 class DraftWithVersions : public DraftOfASave
 {

@@ -60,6 +60,17 @@ TEST_F(Versions, ToldByAnotherRunAreWhatWasKept)
     EXPECT_EQ(list.skipped, Names());
 }
 
+TEST_F(Versions, AreWholeWhereTheirWordsEndInALineEnd)
+{
+    versions.keep({"a cause\n"}, {{"a file\r", "bytes"}});
+    VersionStore another(disk, "/data/v");
+    const auto list = another.entries();
+    ASSERT_EQ(list.entries.size(), 1U);
+    EXPECT_EQ(list.entries[0].cause.words, "a cause\n");
+    ASSERT_EQ(list.entries[0].files.size(), 1U);
+    EXPECT_EQ(list.entries[0].files[0].told, "a file\r");
+}
+
 TEST_F(Versions, EqualBytesAreKeptOnce)
 {
     versions.keep({"a save"}, {{"a", "same"}, {"b", "same"}, {"c", "other"}});
@@ -116,6 +127,14 @@ TEST_F(Versions, SixtyFourMebibytesOfSavesStay)
         keep(std::string(size, each));
     EXPECT_EQ(numbers(), (std::vector<unsigned>{4, 3, 2}));
     EXPECT_EQ(blobs().size(), 3U);
+}
+
+TEST_F(Versions, EqualBytesCountOnce)
+{
+    const std::string large(std::size_t{40} << 20U, 'x');
+    keep(large);
+    keep(large);
+    EXPECT_EQ(numbers(), (std::vector<unsigned>{2, 1}));
 }
 
 TEST_F(Versions, TheNewestStaysHoweverLargeItIs)
@@ -235,6 +254,14 @@ TEST_F(Versions, SweepingDeletesBytesThatNoEntryTellsOf)
     entryFile(2) = "can't be read";
     versions.sweep();
     EXPECT_EQ(blobs().size(), 2U) << "who knows what that entry told of";
+}
+
+TEST(BlobNames, TellTheSizeOnlyWhereAllOfThemIsInOrder)
+{
+    EXPECT_EQ(blobSize("cbf29ce484222325-5-0"), 5U);
+    for (const char* name : {"", "cbf2", "cbf2-5", "cbf2--0", "cbf2-5-", "xyz-5-0", "cbfx-5-0", "cbf2-5x-0",
+                             "cbf2-5-0x", "cbf2-5-0-1", "-5-0"})
+        EXPECT_EQ(blobSize(name), std::nullopt) << name;
 }
 
 TEST(UtcText, TellsDaysOfAllKinds)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "check/functionfacts.h"
 #include "declarations/rebuild.h"
 #include "functions/catalogue.h"
 #include "functions/ownparts.h"
@@ -45,8 +46,9 @@ protected:
     MainWindow& window()
     {
         if (!m_window) {
-            m_window = std::make_unique<MainWindow>(program, FormContext{hub.files, hub.profiles},
-                                                    functionNodes(), forms, makers);
+            m_window = std::make_unique<MainWindow>(
+                program, FormContext{.files = hub.files, .profiles = hub.profiles, .facts = functionFacts()},
+                functionNodes(), forms, makers);
             m_window->show();
             m_window->activateWindow();
             EXPECT_TRUE(QTest::qWaitForWindowActive(m_window.get()));

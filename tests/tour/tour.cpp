@@ -3,6 +3,8 @@
 #include "app/start.h"
 #include "functions/catalogue.h"
 #include "shell/kit/editdialog.h"
+#include "shell/kit/formadvice.h"
+#include "shell/kit/rowlist.h"
 #include "shell/kit/textedit.h"
 #include "shell/window/aboutbox.h"
 #include "shell/window/windowsdialog.h"
@@ -178,6 +180,39 @@ void showDialogs(quillfen::MainWindow& window, const quillfen::SettingsFiles& fi
         });
 }
 
+/// What the find box finds, in place of the tree.
+void showFound(quillfen::MainWindow& window, Tour& tour)
+{
+    auto* box = window.findChild<QLineEdit*>("txtFind");
+    box->setText("kick ban time");
+    tour.portrait(*box->parentWidget(), "found");
+    box->clear();
+}
+
+/// Three forms with something wrong in each. They stay dirty, so this comes last.
+void showAdvice(quillfen::MainWindow& window, Tour& tour)
+{
+    auto* area = window.findChild<QMdiArea*>();
+    closeForms(*area);
+    for (const char* key :
+         {"Security~BadNickBlocker", "Security~Kicks~Settings", "Communication~WelcomeInfo~Settings"})
+        window.OpenFunctionForm(key);
+    area->tileSubWindows();
+    auto* kicks = formOf(window, "frmSecurityKickSettings");
+    kicks->findChild<QLineEdit*>("txtUpDown(1)")->setText("51");
+    kicks->findChild<QLineEdit*>("txtUpDown(5)")->setText("1260");
+    formOf(window, "frmCommunicationWelcomeInfoSettings")
+        ->findChild<QLineEdit*>("txtTextBox(1)")
+        ->setText("The \"Best\" Network");
+    auto* nicks =
+        formOf(window, "frmSecurityBadNickBlocker")->findChild<quillfen::RowList*>("lvwBadNickList");
+    nicks->append({{"advert\\"}});
+    emit nicks->tickChanged(0); // a change by hand
+    for (const auto* form : area->subWindowList())
+        qobject_cast<EditorForm*>(form->widget())->advice()->look();
+    tour.portrait(window, "advice");
+}
+
 QPalette paletteNamed(const QString& name)
 {
     if (name == "light")
@@ -224,8 +259,10 @@ int main(int argc, char** argv)
         walk(window, tour);
     } else {
         tour.portrait(window, "main-window");
+        showFound(window, tour);
         showForms(window, tour);
         showDialogs(window, {disk, quillfen::SettingsPaths(scripts.toStdString())}, tour);
+        showAdvice(window, tour);
     }
     return tour.complete() ? 0 : 1;
 }

@@ -10,7 +10,7 @@
 namespace quillfen {
 namespace {
 
-const std::string itemOfTheWeek = "ItemOfTheWeek";
+constexpr const char* itemOfTheWeek = "ItemOfTheWeek";
 
 struct Day
 {
@@ -192,6 +192,7 @@ GridWords permissionWords()
     words.columns = {"Command", "Profile", "Setting"};
     words.targets = false;
     words.clickToggles = true;
+    words.explanation = "Lets the profile use the command on this collection.";
     return words;
 }
 
@@ -201,7 +202,23 @@ GridWords rightClickWords()
     // A press of this button doesn't take its filter off: only a button of the key COMMAND does so.
     words.commandFilter = "RIGHTCLICK";
     words.commandFilterTip = "View By Right Click";
+    words.explanation = "Gives the profile the right clicks of this kind.";
     return words;
+}
+
+std::vector<PlacedText> placedTexts(const ArchiveMember& member, const SettingsFiles& files)
+{
+    const std::string path = pathOf(member, itemOfTheWeek);
+    const LinkOfTheWeek link = loadLinkOfTheWeek(member, files);
+    std::vector<PlacedText> texts = {
+        {path, "chkCheckBox(0)", -1, "Enable Link of Week", link.enabled == "1" ? "on" : "off"},
+        {path, "txtChangeTime", -1, "Change Time", link.changeTime}};
+    for (std::size_t row = 0; row < link.announcements.size(); ++row) {
+        const auto& cells = link.announcements[row].cells;
+        texts.push_back({path, "lvwWeek", static_cast<int>(row), "Date",
+                         cells[Date] + " | " + cells[Time] + " | " + cells[Location]});
+    }
+    return texts;
 }
 
 /// Who voted is forgotten by each rebuild.
@@ -274,6 +291,8 @@ RowListDeclaration announcements()
     RowListDeclaration list = listOf("Announcement", Fewest::None);
     list.list = "lvwWeek";
     list.toolbar = "tlbWeek";
+    list.explanation =
+        "Each row is a time at which the link of the week is announced, in main chat or by private message.";
     list.columns = {"Date", "Time", "Location"};
     list.menu = "mnuFirst";
     list.dialog.form = EditForm::FourCombos;
@@ -354,7 +373,14 @@ FunctionDeclaration archiveFunction(std::size_t member)
         return FormDescription{"frm" + each.word + name, each.word + " ~ " + caption, size};
     };
     const OwnPart week = {
-        OwnPartKind::LinkOfTheWeek, member, {}, [] { return std::vector{announcements()}; }};
+        .kind = OwnPartKind::LinkOfTheWeek,
+        .which = member,
+        .lists = [] { return std::vector{announcements()}; },
+        .explanations = {{"chkCheckBox(0)", {}, pathOf(each, itemOfTheWeek), "bEnabled"},
+                         {"txtChangeTime", "Sets the day and time at which the link of the week changes.",
+                          pathOf(each, itemOfTheWeek), "sChangeTime"}},
+        .texts = [&each](const SettingsFiles& files,
+                         const HubProfiles&) { return placedTexts(each, files); }};
     return {
         .nodes = {
             {each.word, each.word},

@@ -3,10 +3,18 @@
 namespace quillfen {
 namespace {
 
-const ListFile wordsFile = {R"(Communication\AutoCorrect\AutoCorrectWords.tbl)", "tAutoCorrectWords",
-                            ListFile::Form::Keyed};
-const ListFile filtersFile = {R"(Communication\AutoCorrect\AutoCorrectFilters.tbl)", "tAutoCorrectFilters",
-                              ListFile::Form::Flags};
+ListFile wordsFile()
+{
+    return {R"(Communication\AutoCorrect\AutoCorrectWords.tbl)", "tAutoCorrectWords", ListFile::Form::Keyed};
+}
+
+/// The actions whose texts are left alone. Their rows come with the hub script's own file: the form only
+/// ticks them.
+ListFile filtersFile()
+{
+    return {R"(Communication\AutoCorrect\AutoCorrectFilters.tbl)", "tAutoCorrectFilters",
+            ListFile::Form::Flags};
+}
 
 RowListDeclaration declaredWords()
 {
@@ -14,13 +22,14 @@ RowListDeclaration declaredWords()
     words.list = "lvwAutoCorrectWords";
     words.toolbar = "tlbAutoCorrectWords";
     words.label = "AutoCorrect Words";
+    words.explanation = "Each row is a word and what the hub script puts in its place in chat.";
     words.columns = {"Word", "Replacement"};
     words.menu = "mnuFirst";
     words.dialog.form = EditForm::TwoFields;
     words.dialog.labels = {"Original Word", "Replacement Word"};
     words.deletion = deletionOf("Word", "Word", "Word");
-    words.load = loadOf(wordsFile);
-    words.save = saveOf(wordsFile);
+    words.load = loadOf(wordsFile());
+    words.save = saveOf(wordsFile());
     return words;
 }
 
@@ -28,7 +37,7 @@ TickList filteredActions()
 {
     return {.control = "lvwFilters",
             .caption = "Filtered Actions",
-            .file = filtersFile,
+            .file = filtersFile(),
             .label = "Filtered Actions",
             .restoreTicks = false};
 }
@@ -42,7 +51,8 @@ const TableFile& autoCorrectSettings()
         "tAutoCorrectSettings",
         {
             setting::flag("bNotifyOps", "chkNotifyOps", "Notify Ops", true),
-            setting::profileFlags("tEnabledProfiles", "lvwEnabledProfiles", "Enabled Profiles"),
+            setting::profileFlags("tEnabledProfiles", "lvwEnabledProfiles", "Enabled Profiles")
+                .explained("Turns auto correct on for the ticked profiles."),
         },
     };
     return file;
@@ -54,20 +64,16 @@ const RowListDeclaration& autoCorrectWords()
     return words;
 }
 
-const ListFile& autoCorrectFilters()
-{
-    return filtersFile;
-}
-
 FunctionDeclaration autoCorrectFunction()
 {
-    return {.nodes = {{"Communication~AutoCorrect",
-                       "AutoCorrect",
-                       {{{"frmCommunicationAutoCorrect", "Communication ~ AutoCorrect"},
-                         {DeclaredSettings{autoCorrectSettings}, listPart(autoCorrectWords),
-                          DeclaredTicks{filteredActions}}}}}},
-            .folders = {R"(Communication\AutoCorrect)"},
-            .build = {RebuiltSettings{autoCorrectSettings}, emptyTable(wordsFile), emptyTable(filtersFile)}};
+    return {
+        .nodes = {{"Communication~AutoCorrect",
+                   "AutoCorrect",
+                   {{{"frmCommunicationAutoCorrect", "Communication ~ AutoCorrect"},
+                     {DeclaredSettings{autoCorrectSettings}, listPart(autoCorrectWords),
+                      DeclaredTicks{filteredActions}}}}}},
+        .folders = {R"(Communication\AutoCorrect)"},
+        .build = {RebuiltSettings{autoCorrectSettings}, emptyTable(wordsFile()), emptyTable(filtersFile())}};
 }
 
 } // namespace quillfen

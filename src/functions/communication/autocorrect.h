@@ -10,10 +10,6 @@ const TableFile& autoCorrectSettings();
 /// The words and their replacements.
 const RowListDeclaration& autoCorrectWords();
 
-/// The actions whose texts are left alone. Their rows come with the hub script's own file: the form only
-/// ticks them.
-const ListFile& autoCorrectFilters();
-
 FunctionDeclaration autoCorrectFunction();
 
 } // namespace quillfen

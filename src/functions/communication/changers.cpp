@@ -14,11 +14,37 @@ struct ChangerWords
     std::string column;
     std::string label;
     std::string text; ///< one of the texts, as dialogs and boxes call it
+    std::string_view delayExplained;
+    std::string_view textsExplained;
 };
 
-const ChangerWords topicWords = {"TopicChanger", "lvwTopics", "tlbTopics", "Topics", "Topics", "Topic"};
-const ChangerWords kickBarWords = {"KickBarChanger", "lvwKickBars",    "tlbKickBars",
-                                   "KickBars",       "KickBar Topics", "KickBar"};
+ChangerWords topicWords()
+{
+    return {
+        "TopicChanger",
+        "lvwTopics",
+        "tlbTopics",
+        "Topics",
+        "Topics",
+        "Topic",
+        "Sets the interval at which the hub's topic changes.",
+        "Each row is a topic of those that the hub changes between.",
+    };
+}
+
+ChangerWords kickBarWords()
+{
+    return {
+        "KickBarChanger",
+        "lvwKickBars",
+        "tlbKickBars",
+        "KickBars",
+        "KickBar Topics",
+        "KickBar",
+        "Sets the interval at which the text of the kick bar changes.",
+        "Each row is a text of those that the kick bar changes between.",
+    };
+}
 
 std::string pathOf(const ChangerWords& words, const std::string& file)
 {
@@ -36,6 +62,7 @@ Changer changer(const ChangerWords& words)
     texts.list = words.list;
     texts.toolbar = words.toolbar;
     texts.label = words.label;
+    texts.explanation = words.textsExplained;
     texts.columns = {words.column};
     texts.menu = "mnuFirst";
     texts.load = loadOf(textsFile(words));
@@ -43,7 +70,7 @@ Changer changer(const ChangerWords& words)
     texts.restored = noRows;
     return {{pathOf(words, "Settings.tbl"),
              "t" + words.name + "Settings",
-             {setting::number("iDelay", "txtDelay", "Delay", 10, 1, 720)}},
+             {setting::number("iDelay", "txtDelay", "Delay", 10, 1, 720).explained(words.delayExplained)}},
             texts};
 }
 
@@ -57,7 +84,7 @@ FormDeclaration changerForm(const FormDescription& form, const Changer& (*change
 /// loses the owner's topics. The kick bar's build looks in the right place and keeps its texts.
 void emptyTopics(const SettingsFiles& files, const HubProfiles& /*profiles*/)
 {
-    const ListFile texts = textsFile(topicWords);
+    const ListFile texts = textsFile(topicWords());
     if (!files.store().exists(
             files.paths().inSettings(R"(Communication\TopicChanger\TopicChanger\TopicChangerTopics.tbl)")))
         files.WriteSettingsFile(texts.path, TableWriter(texts.table).closed());
@@ -67,13 +94,13 @@ void emptyTopics(const SettingsFiles& files, const HubProfiles& /*profiles*/)
 
 const Changer& topicChanger()
 {
-    static const Changer topics = changer(topicWords);
+    static const Changer topics = changer(topicWords());
     return topics;
 }
 
 const Changer& kickBarChanger()
 {
-    static const Changer kickBars = changer(kickBarWords);
+    static const Changer kickBars = changer(kickBarWords());
     return kickBars;
 }
 
@@ -93,7 +120,7 @@ FunctionDeclaration kickBarChangerFunction()
                                    kickBarChanger)}},
             .folders = {R"(Communication\KickBarChanger)"},
             .build = {RebuiltSettings{[] { return kickBarChanger().settings; }},
-                      emptyTable(textsFile(kickBarWords))}};
+                      emptyTable(textsFile(kickBarWords()))}};
 }
 
 } // namespace quillfen

@@ -3,11 +3,13 @@
 namespace quillfen {
 namespace {
 
-FormDeclaration blockForm(const char* name, const char* caption, const PermissionGrid& (*grid)())
+FormDeclaration blockForm(const char* name, const char* caption, const PermissionGrid& (*grid)(),
+                          std::string_view explanation)
 {
+    GridWords words = blockGrid();
+    words.explanation = explanation;
     return gridForm(
-        {.name = name, .caption = caption, .hasRestore = false}, [grid] { return sourceOf(grid()); },
-        blockGrid());
+        {.name = name, .caption = caption, .hasRestore = false}, [grid] { return sourceOf(grid()); }, words);
 }
 
 } // namespace
@@ -27,17 +29,20 @@ const PermissionGrid& talkPermissions()
 FunctionDeclaration muteFunction()
 {
     return {.nodes = {{"Communication~Mute", "Mute",
-                       blockForm("frmCommunicationMute", "Communication ~ Mute", mutePermissions)}},
+                       blockForm("frmCommunicationMute", "Communication ~ Mute", mutePermissions,
+                                 "Lets users of the acting profile mute users of the target profile.")}},
             .folders = {R"(Communication\Mute)"},
             .build = {RebuiltGrid{mutePermissions().commands.front()}}};
 }
 
 FunctionDeclaration talkFunction()
 {
-    return {.nodes = {{"Communication~Talk", "Talk",
-                       blockForm("frmCommunicationTalk", "Communication ~ Talk", talkPermissions)}},
-            .folders = {R"(Communication\Talk)"},
-            .build = {RebuiltGrid{talkPermissions().commands.front()}}};
+    return {
+        .nodes = {{"Communication~Talk", "Talk",
+                   blockForm("frmCommunicationTalk", "Communication ~ Talk", talkPermissions,
+                             "Lets users of the acting profile use Talk on users of the target profile.")}},
+        .folders = {R"(Communication\Talk)"},
+        .build = {RebuiltGrid{talkPermissions().commands.front()}}};
 }
 
 } // namespace quillfen

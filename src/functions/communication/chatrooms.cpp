@@ -6,17 +6,18 @@ namespace {
 constexpr const char* announceTable = "tAnnounce";
 constexpr const char* announceFrame = "Announce To Ops";
 
-Setting announcement(const char* key, const char* control, const char* label)
+Setting announcement(const char* key, const char* control, const char* label, std::string_view explanation)
 {
     auto flag = setting::flag(key, control, label, true, {.frame = announceFrame});
     flag.nest = announceTable;
-    return flag;
+    return flag.explained(explanation);
 }
 
-Setting right(const std::string& keyWord, const std::string& word)
+Setting right(const std::string& keyWord, const std::string& word, std::string_view explanation)
 {
     return setting::hubProfileFlags("tEnabledProfiles" + keyWord, "lvwEnabledProfiles" + word,
-                                    "Enabled Profiles - " + word, "Enabled Profiles");
+                                    "Enabled Profiles - " + word, "Enabled Profiles")
+        .explained(explanation);
 }
 
 } // namespace
@@ -27,13 +28,14 @@ const TableFile& chatRoomSettings()
         R"(Communication\ChatRooms\ChatRoomSettings.tbl)",
         "tChatRoomSettings",
         {
-            announcement("bDeleted", "chkDeleted", "Deletion"),
-            announcement("bSuspended", "chkSuspended", "Suspension"),
-            right("Create", "Create"),
-            right("Delete", "Delete"),
-            right("Suspend", "Suspend"),
-            right("Members", "Members"),
-            right("", "Default"),
+            announcement("bDeleted", "chkDeleted", "Deletion", "Tells operators of a room's deletion."),
+            announcement("bSuspended", "chkSuspended", "Suspension",
+                         "Tells operators of a room's suspension."),
+            right("Create", "Create", "Lets the ticked profiles create chat rooms."),
+            right("Delete", "Delete", "Lets the ticked profiles delete chat rooms."),
+            right("Suspend", "Suspend", "Lets the ticked profiles suspend chat rooms."),
+            right("Members", "Members", "Lets the ticked profiles manage the members of chat rooms."),
+            right("", "Default", "Gives the ticked profiles the default rights in chat rooms."),
         },
         {"bDeleted", "bSuspended", "tEnabledProfiles", "tEnabledProfilesCreate", "tEnabledProfilesDelete",
          "tEnabledProfilesSuspend", "tEnabledProfilesMembers"},

@@ -10,9 +10,12 @@ const TableFile& clockSettings()
         {
             setting::number("iDelay", "txtUpDown", "Display Delay", 60, 0, 250),
             setting::flag("bManualControl", "chkCheckBox(0)", "Enable Manual Control", false),
-            setting::text("sDaylightSaving", "txtTextBox(0)", "Daylight Saving", "BST"),
-            setting::text("sStandardTime", "txtTextBox(1)", "Standard", "GMT"),
-            setting::profileFlags("tEnabledProfiles", "lvwEnabledProfiles", "Enabled Profiles"),
+            setting::text("sDaylightSaving", "txtTextBox(0)", "Daylight Saving", "BST")
+                .explained("Names the time zone that is shown in summer."),
+            setting::text("sStandardTime", "txtTextBox(1)", "Standard", "GMT")
+                .explained("Names the time zone that is shown in winter."),
+            setting::profileFlags("tEnabledProfiles", "lvwEnabledProfiles", "Enabled Profiles")
+                .explained("Turns the clock on for the ticked profiles."),
         },
     };
     return file;

@@ -37,6 +37,18 @@ void rebuildMassMessage(const SettingsFiles& files, const HubProfiles& profiles)
     files.WriteSettingsFile(massMessageSettings().path, table.closed());
 }
 
+std::vector<PlacedText> placedTexts(const SettingsFiles& files, const HubProfiles& profiles)
+{
+    const std::string passive(passiveMessageFile);
+    std::vector<PlacedText> texts = {
+        {passive, "lvwPermissions", -1, "Passive File", files.ReadTextFile(passive)}};
+    const auto targets = static_cast<int>(profiles.count() + massMessageTargets().size());
+    for (std::size_t by = 0; by < profiles.count(); ++by)
+        texts.push_back({massMessageSettings().path, "lvwPermissions", static_cast<int>(by) * targets,
+                         "By Profile", profiles.names()[by]});
+    return texts;
+}
+
 } // namespace
 
 const TableFile& massMessageSettings()
@@ -45,7 +57,8 @@ const TableFile& massMessageSettings()
         R"(Communication\MassMessage\MassMessageSettings.tbl)",
         "tMassMessageSettings",
         {
-            setting::profileFlags("tEnabledPassiveProfiles", "lvwEnabledProfiles", "Immune Passive Profiles"),
+            setting::profileFlags("tEnabledPassiveProfiles", "lvwEnabledProfiles", "Immune Passive Profiles")
+                .explained("Spares the ticked profiles the passive mass messages."),
         },
     };
     return file;
@@ -94,10 +107,15 @@ FunctionDeclaration massMessageFunction()
                                   .caption = "Communication ~ MassMessage",
                                   .hasRestore = false,
                                   .reloadsAfterSave = true};
+    const OwnPart part = {
+        .kind = OwnPartKind::MassMessage,
+        .files = [] { return std::vector{massMessageSettings()}; },
+        .explanations =
+            {{"lvwPermissions",
+              "Lets users of the acting profile send mass messages to users of the target profile."}},
+        .texts = placedTexts};
     return {
-        .nodes = {{"Communication~MassMessage",
-                   "Mass Message",
-                   {{form, {OwnPart{OwnPartKind::MassMessage}}}}}},
+        .nodes = {{"Communication~MassMessage", "Mass Message", {{form, {part}}}}},
         .folders = {R"(Communication\MassMessage)"},
         .build = {rebuildMassMessage, EmptyTable{R"(Communication\MassMessage\MassMessagePassiveImmune.tbl)",
                                                  "tMassMessagePassiveImmune"}}};

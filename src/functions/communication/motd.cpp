@@ -38,6 +38,21 @@ void rebuildMotds(const SettingsFiles& files, const HubProfiles& profiles)
         writeIfMissing(files, motdTextFile(row, profiles), "");
 }
 
+std::vector<PlacedText> placedMotds(const SettingsFiles& files, const HubProfiles& profiles)
+{
+    std::vector<PlacedText> texts;
+    for (const CellRow& row : loadMotds(files, profiles)) {
+        const std::size_t place = texts.size() / 2;
+        const auto add = [&](const std::string& file, const std::string& text) {
+            texts.push_back({file, "lvwMOTD", static_cast<int>(place), "Profile Active", text});
+        };
+        const std::string file = motdTextFile(place, profiles);
+        add(std::string(motdFile), row.cells[0] + " | " + row.cells[1]);
+        add(file, files.ReadTextFile(file));
+    }
+    return texts;
+}
+
 } // namespace
 
 std::vector<CellRow> loadMotds(const SettingsFiles& files, const HubProfiles& profiles)
@@ -78,9 +93,14 @@ FunctionDeclaration motdFunction()
 {
     const FormDescription form = {
         .name = "frmCommunicationMOTD", .caption = "Communication ~ MOTD", .hasRestore = false};
-    return {.nodes = {{"Communication~MOTD",
-                       "Message Of The Day",
-                       {{form, {OwnPart{OwnPartKind::MessageOfTheDay}}}}}},
+    const OwnPart part = {
+        .kind = OwnPartKind::MessageOfTheDay,
+        .explanations =
+            {{"lvwMOTD",
+              "Each ticked row is a profile whose users get its message on login, in main chat or by private "
+              "message; the last is for everybody."}},
+        .texts = placedMotds};
+    return {.nodes = {{"Communication~MOTD", "Message Of The Day", {{form, {part}}}}},
             .folders = {R"(Communication\MOTD)", R"(Communication\MOTD\MOTDs)"},
             .build = {rebuildMotds}};
 }

@@ -16,7 +16,8 @@ RotatingMessages declared(const std::string& name, std::vector<Setting> profileT
         "t" + name + "Settings",
         {
             setting::flag("bRandomise", "chkRandomise", "Randomise", true),
-            setting::number("iDelay", "txtUpDown", "Delay", 120, 10, 720),
+            setting::number("iDelay", "txtUpDown", "Delay", 120, 10, 720)
+                .explained("Sets how often a message is shown."),
         },
         std::move(rebuildOrder),
     };
@@ -44,9 +45,11 @@ FunctionDeclaration rotatingFunction(const std::string& name, const RotatingMess
 
 const RotatingMessages& rotatingMainMessages()
 {
-    static const RotatingMessages messages = declared(
-        "RotatingMainMessage",
-        {setting::profileFlags("tEnabledAdProfiles", "lvwEnabledProfiles", "Enabled Ad Profiles")}, {});
+    static const RotatingMessages messages =
+        declared("RotatingMainMessage",
+                 {setting::profileFlags("tEnabledAdProfiles", "lvwEnabledProfiles", "Enabled Ad Profiles")
+                      .explained("Shows the messages for the ticked profiles.")},
+                 {});
     return messages;
 }
 
@@ -67,6 +70,7 @@ RowListDeclaration rotatingFiles(const RotatingMessages& messages)
     RowListDeclaration list;
     list.list = "lvwFiles";
     list.toolbar = "tlbFiles";
+    list.explanation = "Each row is a text that is shown in turn with the others while it is ticked.";
     list.columns = {"Filename"};
     list.ticks = true;
     list.menu = "mnuFirst";

@@ -3,8 +3,17 @@
 namespace quillfen {
 namespace {
 
-const ListFile hubsFile = {R"(Communication\WelcomeInfo\WelcomeInfoNetworkHubs.tbl)",
-                           "tWelcomeInfoNetworkHubs", ListFile::Form::Numbered};
+ListFile hubsFile()
+{
+    return {R"(Communication\WelcomeInfo\WelcomeInfoNetworkHubs.tbl)", "tWelcomeInfoNetworkHubs",
+            ListFile::Form::Numbered};
+}
+
+setting::Field fact(const char* key, const char* control, const char* label)
+{
+    return setting::text(key, control, label, "")
+        .explained("Appears in the welcome information that users are shown.");
+}
 
 RowListDeclaration declaredHubs()
 {
@@ -12,11 +21,12 @@ RowListDeclaration declaredHubs()
     hubs.list = "lvwHubs";
     hubs.toolbar = "tlbHubs";
     hubs.label = "Network Hubs";
+    hubs.explanation = "Each row is a hub of the network, as users are shown it.";
     hubs.columns = {"HubName"};
     hubs.menu = "mnuFirst";
     hubs.deletion = deletionOf("Intro", "File"); // the words of other lists, which users know here
-    hubs.load = loadOf(hubsFile);
-    hubs.save = saveOf(hubsFile);
+    hubs.load = loadOf(hubsFile());
+    hubs.save = saveOf(hubsFile());
     hubs.restored = noRows;
     return hubs;
 }
@@ -29,17 +39,20 @@ const TableFile& welcomeInfoSettings()
         R"(Communication\WelcomeInfo\WelcomeInfoSettings.tbl)",
         "tWelcomeInfoSettings",
         {
-            setting::flag("bShowOps", "chkCheckBox(0)", "Show Operators", true),
-            setting::flag("bOnlyOnline", "chkCheckBox(1)", "Only Online Operators", true),
-            setting::text("sNetworkFounder", "txtTextBox(0)", "Network Founder", ""),
-            setting::text("sNetworkName", "txtTextBox(1)", "Network Name", ""),
-            setting::text("sNetworkFounded", "txtTextBox(2)", "Network Founded Date", ""),
-            setting::text("sHubOwner", "txtTextBox(3)", "Hub Owner", ""),
-            setting::text("sHubEmail", "txtTextBox(4)", "Hub Email", ""),
-            setting::text("sHublistAddress", "txtTextBox(5)", "Hublist Address", ""),
-            setting::text("sWebSite", "txtTextBox(6)", "Hub Web Site", ""),
+            setting::flag("bShowOps", "chkCheckBox(0)", "Show Operators", true)
+                .explained("Shows the operators in the welcome information."),
+            setting::flag("bOnlyOnline", "chkCheckBox(1)", "Only Online Operators", true)
+                .explained("Leaves operators who are not online out of the welcome information."),
+            fact("sNetworkFounder", "txtTextBox(0)", "Network Founder"),
+            fact("sNetworkName", "txtTextBox(1)", "Network Name"),
+            fact("sNetworkFounded", "txtTextBox(2)", "Network Founded Date"),
+            fact("sHubOwner", "txtTextBox(3)", "Hub Owner"),
+            fact("sHubEmail", "txtTextBox(4)", "Hub Email"),
+            fact("sHublistAddress", "txtTextBox(5)", "Hublist Address"),
+            fact("sWebSite", "txtTextBox(6)", "Hub Web Site"),
             setting::rebuiltText("sMinShare", ""), // a save drops it, a rebuild has it again
-            setting::profileFlags("tEnabledProfiles", "lvwEnabledProfiles", "Enabled Profiles"),
+            setting::profileFlags("tEnabledProfiles", "lvwEnabledProfiles", "Enabled Profiles")
+                .explained("Turns the welcome information on for the ticked profiles."),
         },
         {"sNetworkFounder", "sNetworkName", "sNetworkFounded", "sHubOwner", "sHubEmail", "sHublistAddress",
          "sWebSite", "sMinShare", "bShowOps", "bOnlyOnline", "tEnabledProfiles"},
@@ -67,7 +80,7 @@ FunctionDeclaration welcomeInfoFunction()
                                 networkHubs),
                        "Welcome Info ~ Network Hubs"}},
             .folders = {R"(Communication\WelcomeInfo)"},
-            .build = {RebuiltSettings{welcomeInfoSettings}, emptyTable(hubsFile)}};
+            .build = {RebuiltSettings{welcomeInfoSettings}, emptyTable(hubsFile())}};
 }
 
 } // namespace quillfen

@@ -9,7 +9,9 @@ const TableFile& whisperSettings()
         "tWhisperSettings",
         {
             // The label is the kick settings' own: users know the box by it.
-            setting::flag("bSendConfirmation", "chkCheckBox", "Announce Kicked Return", true),
+            setting::flag("bSendConfirmation", "chkCheckBox", "Announce Kicked Return", true)
+                .explained(
+                    "Switches the confirmation of whispers, although its caption is that of a kick setting."),
         },
     };
     return file;

@@ -6,9 +6,15 @@
 namespace quillfen {
 namespace {
 
-const ListFile usersFile = {R"(CustomiseUser\IntroOutro\AsciiIntro.tbl)", "tAsciiIntro",
-                            ListFile::Form::Keyed};
-const ListFile indexFile = {R"(CustomiseUser\IntroOutro\AsciiIntroIndex.tbl)", "tAsciiIntroIndex"};
+ListFile usersFile()
+{
+    return {R"(CustomiseUser\IntroOutro\AsciiIntro.tbl)", "tAsciiIntro", ListFile::Form::Keyed};
+}
+
+ListFile indexFile()
+{
+    return {R"(CustomiseUser\IntroOutro\AsciiIntroIndex.tbl)", "tAsciiIntroIndex"};
+}
 
 std::vector<CellRow> loadFiles(const SettingsFiles& files, const HubProfiles& /*profiles*/)
 {
@@ -25,6 +31,7 @@ RowListDeclaration declaredUsers()
     list.toolbar = "tlbAscii";
     list.toolTips = {"Add new user", "Delete user", "Edit user"};
     list.label = "Ascii Profiles";
+    list.explanation = "Each row is a user and the ascii art that announces this user's arrival.";
     list.columns = {"Username", "Filename"};
     list.menu = "mnuFirst";
     list.dialog.form = EditForm::TextCombo;
@@ -32,8 +39,8 @@ RowListDeclaration declaredUsers()
     list.dialog.labels = list.columns;
     list.editTitleOf = [](const CellRow& row) { return "Edit Ascii Intro for " + row.cells[0]; };
     list.deletion = deletionOf("Intro", "intro");
-    list.load = loadOf(usersFile);
-    list.save = saveOf(usersFile);
+    list.load = loadOf(usersFile());
+    list.save = saveOf(usersFile());
     list.restored = noRows;
     return list;
 }
@@ -45,13 +52,14 @@ RowListDeclaration declaredFiles()
     list.toolbar = "tlbFiles";
     list.toolTips = {"Add new file", "Delete file", "Edit file"};
     list.label = "Ascii Files";
+    list.explanation = "Each row is a piece of ascii art that can be given to users as their intro.";
     list.columns = {"Filename"};
     list.menu = "mnuSecond";
     list.dialog.addTitle = "Enter filename";
     list.dialog.labels = {"Enter filename for new Ascii Intro"};
     list.deletion = deletionOf("Ascii Intro", "Ascii Intro");
     list.load = loadFiles;
-    list.save = saveOf(indexFile);
+    list.save = saveOf(indexFile());
     return list;
 }
 
@@ -59,10 +67,11 @@ RowListDeclaration declaredFiles()
 
 const TableFile& asciiIntroSettings()
 {
-    static const TableFile file = {R"(CustomiseUser\IntroOutro\AsciiIntroSettings.tbl)",
-                                   "tAsciiIntroSettings",
-                                   {setting::flag("bNotifyOps", "chkNotifyOps", "Notify Ops", true),
-                                    enabledProfiles("Ascii Enabled Profiles")}};
+    static const TableFile file = {
+        R"(CustomiseUser\IntroOutro\AsciiIntroSettings.tbl)",
+        "tAsciiIntroSettings",
+        {setting::flag("bNotifyOps", "chkNotifyOps", "Notify Ops", true),
+         enabledProfiles("Ascii Enabled Profiles", "Turns ascii intros on for the ticked profiles.")}};
     return file;
 }
 
@@ -87,7 +96,7 @@ FunctionDeclaration asciiIntrosFunction()
                          {DeclaredSettings{asciiIntroSettings},
                           OwnPart{.kind = OwnPartKind::AsciiIntros, .lists = lists}}}},
                        "IntroOutro ~ Ascii"}},
-            .build = {RebuiltSettings{asciiIntroSettings}, emptyTable(usersFile), emptyTable(indexFile)}};
+            .build = {RebuiltSettings{asciiIntroSettings}, emptyTable(usersFile()), emptyTable(indexFile())}};
 }
 
 } // namespace quillfen

@@ -5,6 +5,7 @@
 #include "settings/tablewriter.h"
 
 #include <algorithm>
+#include <array>
 #include <charconv>
 #include <limits>
 #include <optional>
@@ -24,11 +25,10 @@ enum Cell
 };
 
 /// Where in the client's menus a line stands; the file counts them from 1.
-const std::vector<std::string> locations = {"Hub", "Users", "Hub & Users", "Search"};
+constexpr std::array<const char*, 4> locations = {"Hub", "Users", "Hub & Users", "Search"};
 
 /// Who sees a line, beside the profiles: as it is shown, and as it is stored.
-const std::vector<std::pair<std::string, std::string>> groups = {{"Operators Only", "ops"},
-                                                                 {"All Profiles", "all"}};
+constexpr std::pair<const char*, const char*> groups[] = {{"Operators Only", "ops"}, {"All Profiles", "all"}};
 
 /// The integer that a text is; nothing if it is another text.
 std::optional<long long> integer(const std::string& text)
@@ -74,7 +74,7 @@ std::string shownLocation(const std::string& stored)
 /// loading the file.
 std::string storedLocation(const std::string& shown)
 {
-    const auto place = std::find(locations.begin(), locations.end(), shown);
+    const auto* const place = std::find(locations.begin(), locations.end(), shown);
     if (place != locations.end())
         return std::to_string(place - locations.begin() + 1);
     return shown.empty() ? "0" : shown;
@@ -131,12 +131,15 @@ RowListDeclaration customRightClicks(const HubProfiles& profiles)
     list.toolbar = "tlbHubs";
     list.movement = "tlbListviewMovement";
     list.label = "Hub Settings"; // copied from the list of hubs, as the toolbar's name is
+    list.explanation =
+        "Each ticked row is a line that the users of its profile get in their right click menus, "
+        "in the order of this list.";
     list.columns = {"Right Click", "Profile", "Location"};
     list.ticks = true;
     list.menu = "mnuFirst";
     list.dialog.form = EditForm::OneTextTwoCombo;
     list.dialog.labels = list.columns;
-    list.dialog.entries = {whose, locations};
+    list.dialog.entries = {whose, std::vector<std::string>(locations.begin(), locations.end())};
     list.take = [](const std::vector<std::string>& fields, CellRow& row) {
         for (std::size_t at = 0; at < fields.size(); ++at) {
             if (!fields[at].empty()) // a stored profile or location that is none of the entries isn't shown

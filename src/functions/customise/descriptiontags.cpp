@@ -115,7 +115,11 @@ void rebuildDescriptionTags(const SettingsFiles& files, const HubProfiles& profi
 const TableFile& taggedProfiles()
 {
     static const TableFile file = {
-        path, table, {setting::profileFlags("tEnabledProfiles", "lvwEnabledProfiles", "Enabled Profiles")}};
+        path,
+        table,
+        {setting::profileFlags("tEnabledProfiles", "lvwEnabledProfiles", "Enabled Profiles")
+             .explained(
+                 "Puts the tag of their profile into the descriptions of users of the ticked profiles.")}};
     return file;
 }
 
@@ -124,6 +128,7 @@ RowListDeclaration descriptionTags()
     RowListDeclaration list;
     list.list = "lvwDescriptionTags";
     list.toolbar = "tlbListview";
+    list.explanation = "Each row is the tag that the descriptions of a profile's users get.";
     list.columns = {"Profile", "Tag"};
     list.menu = "mnuOnlyEdit";
     list.dialog.editTitle = "Edit File"; // copied from a list of files

@@ -6,9 +6,10 @@ namespace quillfen {
 
 const TableFile& hideShareSettings()
 {
-    static const TableFile file = {R"(CustomiseUser\HideShare\HideShareSettings.tbl)",
-                                   "tHideShareSettings",
-                                   {enabledProfiles("Enabled Profiles")}};
+    static const TableFile file = {
+        R"(CustomiseUser\HideShare\HideShareSettings.tbl)",
+        "tHideShareSettings",
+        {enabledProfiles("Enabled Profiles", "Hides the share of users of the ticked profiles.")}};
     return file;
 }
 

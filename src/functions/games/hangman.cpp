@@ -16,7 +16,8 @@ setting::Field quiz(const std::string& key, const std::string& control)
 /// A box that other games have is on this form too; the file has no such key.
 Setting idleBonusTime()
 {
-    return setting::Idle{arrowNumber("iBonusTime", "txtTextBoxUpDown(4)", "Bonus Time", 10, 0, 1000)};
+    return setting::Idle{arrowNumber("iBonusTime", "txtTextBoxUpDown(4)", "Bonus Time", 10, 0, 1000)
+                             .explained("Has no effect in this game: it is neither read nor saved.")};
 }
 
 } // namespace
@@ -60,12 +61,21 @@ std::string gallowsFile(int stage)
 
 FunctionDeclaration hangmanFunction()
 {
+    const OwnPart gallows = {
+        .kind = OwnPartKind::Gallows,
+        .explanations = {{"sldAscii", "Chooses the stage of the game whose picture is shown and edited."}},
+        .texts = [](const SettingsFiles& /*files*/, const HubProfiles&) {
+            std::vector<PlacedText> texts;
+            for (int stage = 0; stage <= lastGallowsStage; ++stage)
+                texts.push_back({gallowsFile(stage), "sldAscii", -1, "Ascii", ""});
+            return texts;
+        }};
     FunctionDeclaration function = quizFunction("Hangman", "Hangman", hangmanSettings);
     function.nodes = {{"Games~Hangman",
                        "Hangman",
                        {{{"frmGamesHangman", "Games ~ Hangman"},
                          {DeclaredSettings{hangmanSettings, SettingsPartKind::Hangman},
-                          listPart(hangmanWords, ListPartKind::Words), OwnPart{OwnPartKind::Gallows}}}}}};
+                          listPart(hangmanWords, ListPartKind::Words), gallows}}}}};
     function.folders.push_back(R"(Games\Hangman\Ascii)");
     function.build.emplace_back(FirstText{wordsPath, firstWord});
     for (int stage = 0; stage <= lastGallowsStage; ++stage)

@@ -15,6 +15,10 @@ constexpr const char* questionsPath = R"(Games\Numbers\NumbersQuestions.lst)";
 /// How many numbers a calculation has.
 constexpr std::size_t numberCount = 4;
 
+constexpr std::string_view calculationsExplained =
+    "Sets the ranges of the two numbers from which questions are made on the fly, for each type of "
+    "calculation.";
+
 setting::Field quiz(const std::string& key, const std::string& control)
 {
     return quizSetting(QuizGame::Numbers, key, control);
@@ -35,7 +39,8 @@ Setting calculations()
                                {{"sAddition", "0,10000,0,10000"},
                                 {"sSubtraction", "0,10000,0,10000"},
                                 {"sMultiplication", "0,20,0,100"},
-                                {"sDivision", "1,10,1,50"}}};
+                                {"sDivision", "1,10,1,50"}},
+                               calculationsExplained};
 }
 
 /// Only the first field is looked at, and any number will do, "1.5" too.
@@ -49,8 +54,6 @@ std::optional<RowRefusal> calculationRefusal(const std::vector<CellRow>& /*rows*
 
 } // namespace
 
-const std::vector<std::string> calculationOperators = {"+", "-", "*", "/"};
-
 const TableFile& numbersSettings()
 {
     static const TableFile file = {
@@ -61,8 +64,12 @@ const TableFile& numbersSettings()
             {
                 setting::flag("bCalculateOnFly", "chkCheckBox(6)", "Calculate Questions On Fly", true),
                 // Captions and keys cross over: each of the two boxes loads and saves the key of the other.
-                setting::flag("bReportCalc", "chkCheckBox(7)", "Prevent Calculator", true),
-                setting::flag("bPreventCalc", "chkCheckBox(8)", "Report Calculator", true),
+                setting::flag("bReportCalc", "chkCheckBox(7)", "Prevent Calculator", true)
+                    .explained("Switches the report of the calculator in the hub: the captions of the two "
+                               "calculator boxes have changed places."),
+                setting::flag("bPreventCalc", "chkCheckBox(8)", "Report Calculator", true)
+                    .explained("Switches the prevention of the calculator in the hub: the captions of the "
+                               "two calculator boxes have changed places."),
                 quiz("iArchiveScores", "txtTextBoxUpDown(9)"),
                 calculations(),
                 arrowNumber("iQuestionTime", "txtTextBoxUpDown(0)", "Question Time", 20, 0, 60),
@@ -90,6 +97,7 @@ const RowListDeclaration& numbersCalculationList()
         list.list = "lvwNumbers";
         list.toolbar = "tlbNumbers";
         list.toolTips = {"Edit question"};
+        list.explanation = calculationsExplained;
         list.columns = {"Type", "X Min", "X Max", "Y Min", "Y Max"};
         list.menu = "mnuNumbersNumbers";
         list.dialog.form = EditForm::FourFields;
@@ -132,6 +140,8 @@ const RowListDeclaration& numbersQuestions()
 {
     static const RowListDeclaration declared = [] {
         RowListDeclaration list = wordList("Question", questionsPath, WordLine::Question);
+        list.explanation = "Each row is a fixed question with its category and its answer, besides the "
+                           "questions that are calculated.";
         list.columns = {"Questions", "Answers"};
         list.menu = "mnuNumbers";
         list.dialog.form = EditForm::ThreeFields;

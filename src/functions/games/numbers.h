@@ -2,6 +2,7 @@
 
 #include "declarations/function.h"
 
+#include <array>
 #include <string>
 
 namespace quillfen {
@@ -17,7 +18,7 @@ CellRow calculationRow(const std::string& operatorSign, const std::string& text)
 std::string calculationText(const CellRow& row);
 
 /// The operators in the order of the calculations.
-extern const std::vector<std::string> calculationOperators;
+inline constexpr std::array<const char*, 4> calculationOperators = {"+", "-", "*", "/"};
 
 /// The list of fixed questions.
 const RowListDeclaration& numbersQuestions();

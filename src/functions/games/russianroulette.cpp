@@ -1,6 +1,7 @@
 #include "functions/games/russianroulette.h"
 
 #include "functions/games/shared/comments.h"
+#include "functions/games/shared/playinmain.h"
 
 namespace quillfen {
 namespace {
@@ -14,18 +15,27 @@ Setting chambers()
 }
 
 // The boxes speak of winning and losing, as three card monty's do.
-const CommentList live = {{R"(Games\RussianRoulette\RussianRouletteLive.tbl)", "tRussianRouletteLive"},
-                          "lvwLive",
-                          "tlbLive",
-                          "Live",
-                          "mnuFirst",
-                          "Win"};
-const CommentList die = {{R"(Games\RussianRoulette\RussianRouletteDie.tbl)", "tRussianRouletteDie"},
-                         "lvwDie",
-                         "tlbDie",
-                         "Die",
-                         "mnuSecond",
-                         "Lose"};
+CommentList live()
+{
+    return {{R"(Games\RussianRoulette\RussianRouletteLive.tbl)", "tRussianRouletteLive"},
+            "lvwLive",
+            "tlbLive",
+            "Live",
+            "mnuFirst",
+            "Win",
+            "Each row is a comment on a player who survives."};
+}
+
+CommentList die()
+{
+    return {{R"(Games\RussianRoulette\RussianRouletteDie.tbl)", "tRussianRouletteDie"},
+            "lvwDie",
+            "tlbDie",
+            "Die",
+            "mnuSecond",
+            "Lose",
+            "Each row is a comment on a player who dies."};
+}
 
 } // namespace
 
@@ -34,20 +44,21 @@ const TableFile& russianRouletteSettings()
     static const TableFile file = {
         R"(Games\RussianRoulette\RussianRouletteSettings.tbl)",
         "tRussianRouletteSettings",
-        {setting::flag("bInMain", "chkPlayInMain", "Play In Main", true), chambers()},
+        {setting::flag("bInMain", "chkPlayInMain", "Play In Main", true).explained(playsInMainChat),
+         chambers()},
     };
     return file;
 }
 
 const RowListDeclaration& russianRouletteLive()
 {
-    static const RowListDeclaration declared = commentList(live);
+    static const RowListDeclaration declared = commentList(live());
     return declared;
 }
 
 const RowListDeclaration& russianRouletteDie()
 {
-    static const RowListDeclaration declared = commentList(die);
+    static const RowListDeclaration declared = commentList(die());
     return declared;
 }
 
@@ -60,8 +71,8 @@ FunctionDeclaration russianRouletteFunction()
                           listPart(russianRouletteDie)}}}}},
             .folders = {R"(Games\RussianRoulette)"},
             .build = {RebuiltSettings{russianRouletteSettings},
-                      firstRows(live.file, {{"You have survived... for now"}}),
-                      firstRows(die.file, {{"You're dead, now whose gonna clean up this mess?"}})}};
+                      firstRows(live().file, {{"You have survived... for now"}}),
+                      firstRows(die().file, {{"You're dead, now whose gonna clean up this mess?"}})}};
 }
 
 } // namespace quillfen

@@ -7,7 +7,10 @@
 namespace quillfen {
 namespace {
 
-const ListFile clearers = {R"(Games\Globals\ScoreClearers.tbl)", "tScoreClearers", ListFile::Form::Presence};
+ListFile clearers()
+{
+    return {R"(Games\Globals\ScoreClearers.tbl)", "tScoreClearers", ListFile::Form::Presence};
+}
 
 bool isClearer(const std::vector<CellRow>& rows, std::string_view nick)
 {
@@ -32,12 +35,13 @@ const RowListDeclaration& scoreClearers()
         RowListDeclaration list = listOf("User", Fewest::None);
         list.list = "lvwUsers";
         list.toolbar = "tlbListview";
+        list.explanation = "Each row is the nick of a user who may clear the scores of the games.";
         list.columns = {"Users"};
         list.menu = "mnuFirst";
         list.deletion.title = "Delete Exempt User?"; // that of the exempt users' lists
         list.refusal = refusal;
-        list.load = loadOf(clearers);
-        list.save = saveOf(clearers);
+        list.load = loadOf(clearers());
+        list.save = saveOf(clearers());
         return list;
     }();
     return declared;
@@ -50,7 +54,7 @@ FunctionDeclaration scoreClearersFunction()
                        {{{"frmGamesGlobalsScoreClearers", "Games ~ Score Clearers"},
                          {listPart(scoreClearers)}}}}},
             .folders = {R"(Games\Globals)"},
-            .build = {emptyTable(clearers)}};
+            .build = {emptyTable(clearers())}};
 }
 
 } // namespace quillfen

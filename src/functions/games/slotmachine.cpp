@@ -1,5 +1,7 @@
 #include "functions/games/slotmachine.h"
 
+#include "functions/games/shared/playinmain.h"
+
 namespace quillfen {
 namespace {
 
@@ -17,7 +19,7 @@ const TableFile& slotMachineSettings()
         R"(Games\SlotMachine\SlotMachineSettings.tbl)",
         "tSlotMachineSettings",
         {
-            setting::flag("bInMain", "chkCheckBox(0)", "Play In Main", true),
+            setting::flag("bInMain", "chkCheckBox(0)", "Play In Main", true).explained(playsInMainChat),
             credit("iCredit", "txtUpDown(0)", "Credit - Start", 50, 50, 5000, 5),
             credit("iCreditPlay", "txtUpDown(1)", "Credit - Play", 2, 1, 100, 1),
             credit("iCreditLoan", "txtUpDown(2)", "Credit - Loan", 1000, 50, 50000, 5),

@@ -1,6 +1,7 @@
 #include "functions/games/threecardmonty.h"
 
 #include "functions/games/shared/comments.h"
+#include "functions/games/shared/playinmain.h"
 
 namespace quillfen {
 namespace {
@@ -13,18 +14,27 @@ Setting deal()
                                  {R"("Ace Of Spades")", R"("Queen Of Hearts")", R"("Ace Of Clubs")"}};
 }
 
-const CommentList win = {{R"(Games\ThreeCardMonty\ThreeCardMontyWin.tbl)", "tThreeCardMontyWin"},
-                         "lvwWin",
-                         "tlbWin",
-                         "Win",
-                         "mnuFirst",
-                         "Win"};
-const CommentList lose = {{R"(Games\ThreeCardMonty\ThreeCardMontyLose.tbl)", "tThreeCardMontyLose"},
-                          "lvwLose",
-                          "tlbLose",
-                          "Lose",
-                          "mnuSecond",
-                          "Lose"};
+CommentList win()
+{
+    return {{R"(Games\ThreeCardMonty\ThreeCardMontyWin.tbl)", "tThreeCardMontyWin"},
+            "lvwWin",
+            "tlbWin",
+            "Win",
+            "mnuFirst",
+            "Win",
+            "Each row is a comment on a player who wins."};
+}
+
+CommentList lose()
+{
+    return {{R"(Games\ThreeCardMonty\ThreeCardMontyLose.tbl)", "tThreeCardMontyLose"},
+            "lvwLose",
+            "tlbLose",
+            "Lose",
+            "mnuSecond",
+            "Lose",
+            "Each row is a comment on a player who loses."};
+}
 
 } // namespace
 
@@ -33,7 +43,7 @@ const TableFile& threeCardMontySettings()
     static const TableFile file = {
         R"(Games\ThreeCardMonty\ThreeCardMontySettings.tbl)",
         "tThreeCardMontySettings",
-        {setting::flag("bPlayInMain", "chkPlayInMain", "Play In Main", true),
+        {setting::flag("bPlayInMain", "chkPlayInMain", "Play In Main", true).explained(playsInMainChat),
          setting::number("iWager", "txtUpDown(0)", "Wager", 1, 1, 50),
          setting::number("iMarker", "txtUpDown(1)", "Marker", 25, 10, 500), deal()},
     };
@@ -42,13 +52,13 @@ const TableFile& threeCardMontySettings()
 
 const RowListDeclaration& threeCardMontyWin()
 {
-    static const RowListDeclaration declared = commentList(win);
+    static const RowListDeclaration declared = commentList(win());
     return declared;
 }
 
 const RowListDeclaration& threeCardMontyLose()
 {
-    static const RowListDeclaration declared = commentList(lose);
+    static const RowListDeclaration declared = commentList(lose());
     return declared;
 }
 
@@ -61,8 +71,8 @@ FunctionDeclaration threeCardMontyFunction()
                           listPart(threeCardMontyLose)}}}}},
             .folders = {R"(Games\ThreeCardMonty)"},
             .build = {RebuiltSettings{threeCardMontySettings},
-                      firstRows(win.file, {{"The Gods smile upon you, this day"}}),
-                      firstRows(lose.file, {{"You lost. Play again, what else have you got going?"}})}};
+                      firstRows(win().file, {{"The Gods smile upon you, this day"}}),
+                      firstRows(lose().file, {{"You lost. Play again, what else have you got going?"}})}};
 }
 
 } // namespace quillfen

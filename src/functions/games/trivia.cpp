@@ -1,9 +1,11 @@
 #include "functions/games/trivia.h"
 
+#include "declarations/oddfiles.h"
 #include "functions/games/shared/questions.h"
 #include "functions/games/shared/quizpattern.h"
 #include "functions/games/shared/wordlist.h"
 #include "settings/codepage.h"
+#include "settings/filename.h"
 #include "settings/tablewriter.h"
 
 #include <algorithm>
@@ -30,6 +32,27 @@ Setting optionsFrom(int firstButton, const char* key, const char* label, int def
 bool comesBefore(const std::string& one, const std::string& other)
 {
     return codepage::lowered(one) < codepage::lowered(other);
+}
+
+std::vector<PlacedText> placedQuestions(const SettingsFiles& files, const HubProfiles& /*profiles*/)
+{
+    const auto known = loadTriviaQuestionFiles(files);
+    const std::string list(questionFilesPath);
+    std::vector<PlacedText> texts = {
+        {list, "cboQuestionFileDefault", -1, "Default Question File", known.defaultFile}};
+    for (std::size_t file = 0; file < known.names.size(); ++file) {
+        PlacedText text = {list, "lvwQuestionFiles", static_cast<int>(file), "Available Question Files",
+                           known.names[file]};
+        texts.push_back(text);
+        if (!leavingNameFault(known.names[file]).empty())
+            continue; // the form doesn't open it either
+        text.file = triviaQuestionFile(known.names[file]);
+        for (const CellRow& row : loadTriviaQuestions(files, known.names[file])) {
+            text.text = row.cells[0] + " | " + row.cells[1];
+            texts.push_back(text);
+        }
+    }
+    return texts;
 }
 
 /// Only together with its table: an owner who deleted the file but kept the table doesn't get it back.
@@ -84,6 +107,7 @@ ListedFiles triviaQuestionLists()
     ListedFiles files;
     files.names.list = "lvwQuestionFiles";
     files.names.toolbar = "tlbQuestionFiles";
+    files.names.explanation = "Each row is a file of questions that the game can ask.";
     files.names.columns = {"Available Question Files"};
     files.names.menu = "mnuFirst";
     files.names.dialog.addTitle = "Enter filename";
@@ -92,6 +116,7 @@ ListedFiles triviaQuestionLists()
                             "There must be a minimum of one Question File"};
     files.rows.list = "lvwQuestions";
     files.rows.toolbar = "tlbQuestions";
+    files.rows.explanation = "Each row is a question with its category and its answer.";
     files.rows.columns = {"Questions", "Answers"};
     files.rows.menu = "mnuTriviaQuestions";
     files.rows.dialog.form = EditForm::ThreeFields;
@@ -171,17 +196,25 @@ FunctionDeclaration triviaFunction()
                                        .minimumSize = {12000, 7500},
                                        .hasRestore = false,
                                        .isLoadedOnce = true};
+    const auto lists = [] {
+        const ListedFiles files = triviaQuestionLists();
+        return std::vector{files.names, files.rows};
+    };
     FunctionDeclaration function = quizFunction("Trivia", "Trivia", triviaSettings);
-    function.nodes = {{"Games~Trivia", "Trivia"},
-                      {"Games~Trivia~Settings", "Settings",
-                       settingsForm({"frmGamesTrivia", "Games ~ Trivia ~ Settings"}, triviaSettings),
-                       "Trivia ~ Settings"},
-                      {"Games~Trivia~Questions",
-                       "Questions",
-                       {{questions,
-                         {OwnPart{.kind = OwnPartKind::TriviaQuestions,
-                                  .lists = [] { return std::vector{triviaQuestionLists().rows}; }}}}},
-                       "Trivia ~ Questions"}};
+    function.nodes = {
+        {"Games~Trivia", "Trivia"},
+        {"Games~Trivia~Settings", "Settings",
+         settingsForm({"frmGamesTrivia", "Games ~ Trivia ~ Settings"}, triviaSettings), "Trivia ~ Settings"},
+        {"Games~Trivia~Questions",
+         "Questions",
+         {{questions,
+           {OwnPart{
+               .kind = OwnPartKind::TriviaQuestions,
+               .lists = lists,
+               .explanations =
+                   {{"cboQuestionFileDefault", {}, std::string(questionFilesPath), std::string(defaultKey)}},
+               .texts = placedQuestions}}}},
+         "Trivia ~ Questions"}};
     function.folders.push_back(R"(Games\Trivia\QuestionFiles)");
     function.build.emplace_back(makeFirstQuestions);
     return function;

@@ -39,10 +39,6 @@ void saveTriviaQuestions(const SettingsFiles& files, std::string_view name, cons
 /// A new question file with its one row. Throws StoreError.
 void createTriviaQuestions(const SettingsFiles& files, std::string_view name);
 
-/// The line that a first build writes. It ends in "t", so that no form ever shows it.
-inline constexpr std::string_view firstTriviaQuestion =
-    "Misc:Which short word is the title of a novel in Tavis Orlemon's series?*mort";
-
 FunctionDeclaration triviaFunction();
 
 } // namespace quillfen

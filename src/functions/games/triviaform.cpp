@@ -38,6 +38,7 @@ public:
 
     void load() override;
     void save() override;
+    void saveOpenFile() override;
 
 protected:
     void startFile(const std::string& name) override;
@@ -92,6 +93,12 @@ void QuestionsPart::save()
     for (const CellRow& row : names().rows())
         questionFiles.names.push_back(row.cells[0]);
     saveTriviaQuestionFiles(context().files, questionFiles);
+}
+
+void QuestionsPart::saveOpenFile()
+{
+    if (!rows().rows().empty() && !selectedName().empty())
+        saveTriviaQuestions(context().files, selectedName(), rows().rows());
 }
 
 /// In the order of the toolbar: SAVE, CLOSE, NEW, EDIT, DELETE.

@@ -99,6 +99,7 @@ RowListDeclaration declaredBots()
     RowListDeclaration list;
     list.list = "lvwBots";
     list.toolbar = "tlbBots";
+    list.explanation = "Each row is a function and the bot through which it talks to users.";
     list.columns = {"Function", "Nick", "Description", "Email"};
     list.menu = "mnuBots";
     list.dialog.form = EditForm::ThreeFields;
@@ -136,7 +137,8 @@ const TableFile& botSettings()
         "tBotSettings",
         {
             setting::flag("bNotifyOps", "chkNotifyOps", "Notify Ops of change", false),
-            setting::profileFlags("tEnabledProfiles", "lvwAllowedProfiles", "Enabled Profiles"),
+            setting::profileFlags("tEnabledProfiles", "lvwAllowedProfiles", "Enabled Profiles")
+                .explained("Lets the ticked profiles use this function."),
         },
     };
     return file;

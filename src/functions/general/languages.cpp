@@ -1,5 +1,6 @@
 #include "functions/general/languages.h"
 
+#include "settings/filename.h"
 #include "settings/tablewriter.h"
 
 namespace quillfen {
@@ -23,6 +24,8 @@ constexpr LanguageSet sets[] = {
         .deleteRefusal = "DEFAULT Command File cannot be deleted",
         .editTitle = "Edit Command",
         .editLabel = "Command",
+        .namesExplained = "Each row is a language for the command words, and the ticked one is in use.",
+        .textsExplained = "Each row is a command and the word for it in the open language.",
     },
     {
         .form = "frmLanguageRightClick",
@@ -39,6 +42,8 @@ constexpr LanguageSet sets[] = {
         .deleteRefusal = "DEFAULT RightClick cannot be deleted",
         .editTitle = "Edit RightClick",
         .editLabel = "RightClick",
+        .namesExplained = "Each row is a language for the right click menus, and the ticked one is in use.",
+        .textsExplained = "Each row is a text of the right click menus in the open language.",
     },
     {
         .form = "frmLanguageMessages",
@@ -55,6 +60,8 @@ constexpr LanguageSet sets[] = {
         .deleteRefusal = "DEFAULT Command File cannot be deleted",
         .editTitle = "Edit Message",
         .editLabel = "Message",
+        .namesExplained = "Each row is a language for the messages to users, and the ticked one is in use.",
+        .textsExplained = "Each row is a message to users in the open language.",
     },
 };
 
@@ -70,15 +77,36 @@ std::vector<ListRow> referenceList(const SettingsFiles& files, const LanguageSet
     return list;
 }
 
+std::vector<PlacedText> placedTexts(const LanguageSet& set, const SettingsFiles& files)
+{
+    std::vector<PlacedText> texts;
+    int place = 0;
+    for (const CellRow& language : loadLanguages(files, set)) {
+        const std::string& name = language.cells[0];
+        const bool isReadable = leavingNameFault(name).empty(); // as the form has it
+        for (const CellRow& text : isReadable ? loadLanguageTexts(files, set, name) : std::vector<CellRow>())
+            texts.push_back({pathOf(set, name), "lvwFiles", place, std::string(set.textColumn),
+                             name + ": " + text.cells[0] + " | " + text.cells[1]});
+        ++place;
+    }
+    return texts;
+}
+
 Node languageNode(const std::string& key, const std::string& caption, std::size_t set)
 {
     FormDescription form = {std::string(sets[set].form), std::string(sets[set].caption), {10500, 6000}};
     form.isLoadedOnce = true;
-    return {.key = key,
-            .caption = caption,
-            .form = {{form, {OwnPart{OwnPartKind::Languages, set}}}},
-            .dropDown = "Language~" + caption,
-            .above = "General~Language"}; // the keys came before their heading
+    const auto texts = [set](const SettingsFiles& files, const HubProfiles&) {
+        return placedTexts(sets[set], files);
+    };
+    const auto lists = [set] { return std::vector{languageLists(sets[set]).names}; };
+    return {
+        .key = key,
+        .caption = caption,
+        .form = {{form,
+                  {OwnPart{.kind = OwnPartKind::Languages, .which = set, .lists = lists, .texts = texts}}}},
+        .dropDown = "Language~" + caption,
+        .above = "General~Language"}; // the keys came before their heading
 }
 
 } // namespace
@@ -93,6 +121,7 @@ ListedFiles languageLists(const LanguageSet& set)
     ListedFiles files;
     files.names.list = "lvwFiles";
     files.names.toolbar = "tlbFiles";
+    files.names.explanation = set.namesExplained;
     files.names.columns = {"Languages"};
     files.names.ticks = true;
     files.names.menu = "mnuFirst";
@@ -105,6 +134,7 @@ ListedFiles languageLists(const LanguageSet& set)
     };
     files.rows.list = "lvwTexts";
     files.rows.toolbar = "tlbTexts";
+    files.rows.explanation = set.textsExplained;
     files.rows.columns = {std::string(set.keyColumn), std::string(set.textColumn)};
     files.rows.dialog.editTitle = set.editTitle;
     files.rows.dialog.labels = {std::string(set.editLabel)};

@@ -27,6 +27,8 @@ struct LanguageSet
     std::string_view deleteRefusal;
     std::string_view editTitle;
     std::string_view editLabel;
+    std::string_view namesExplained;
+    std::string_view textsExplained;
 };
 
 /// Commands, right clicks and messages.

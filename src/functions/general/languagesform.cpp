@@ -29,6 +29,8 @@ class LanguagesPart : public ListedFilesPart
 public:
     LanguagesPart(const LanguageSet& set, const FormContext& context);
 
+    void saveOpenFile() override;
+
 protected:
     void startFile(const std::string& name) override;
     bool mayJoin(const std::string& name) override;
@@ -62,6 +64,7 @@ LanguagesPart::LanguagesPart(const LanguageSet& set, const FormContext& context)
       m_set(set)
 {
     rows().list().setAccessibleName(fromBytes(set.textColumn));
+    names().setTicksTogether(false); // one language is current
     connect(&names(), &RowList::tickChanged, this, &LanguagesPart::choose);
     connect(&rows().list(), &RowList::editAsked, this, &LanguagesPart::editText);
     rows().tools().connectButtons(this, {{"EDITALL", &LanguagesPart::editAllTexts}});
@@ -179,6 +182,12 @@ void LanguagesPart::saveFile()
     if (std::none_of(listed.begin(), listed.end(),
                      [&name](const CellRow& row) { return row.cells[0] == name; }))
         addName(name);
+}
+
+void LanguagesPart::saveOpenFile()
+{
+    if (!m_open.empty() && !m_readOnly)
+        saveLanguageTexts(context().files, m_set, m_open, rows().rows());
 }
 
 void LanguagesPart::closeFile()

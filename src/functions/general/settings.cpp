@@ -8,13 +8,19 @@ const TableFile& generalSettings()
         R"(General\Globals\GeneralSettings.tbl)",
         "tGeneralSettings",
         {
-            setting::flag("bAllowAllPrefixes", "chkCheckBox(0)", "Allow All Prefixes", true),
-            setting::flag("bFlatRC", "chkCheckBox(1)", "Flattened RC", false),
-            setting::flag("bUnregRCEnable", "chkCheckBox(2)", "Enable RC for Unreg", true),
-            setting::text("sBorder", "txtTextBox(0)", "Border", "\xBB\xAB"),
-            setting::text("sRightClickName", "txtTextBox(1)", "Right Click Name", ""),
+            setting::flag("bAllowAllPrefixes", "chkCheckBox(0)", "Allow All Prefixes", true)
+                .explained("Lets users begin a command with any of the prefixes."),
+            setting::flag("bFlatRC", "chkCheckBox(1)", "Flattened RC", false)
+                .explained("Gives users a flat right click menu."),
+            setting::flag("bUnregRCEnable", "chkCheckBox(2)", "Enable RC for Unreg", true)
+                .explained("Gives unregistered users right clicks too."),
+            setting::text("sBorder", "txtTextBox(0)", "Border", "\xBB\xAB")
+                .explained("Sets the two border characters."),
+            setting::text("sRightClickName", "txtTextBox(1)", "Right Click Name", "")
+                .explained("Sets the name of the right click menu."),
             setting::entry("sPrefix", "cboPrefixes", "Prefixes", "+",
-                           {"+", "-", "!", "#", "$", "\xA3", "?", "~", "="}),
+                           {"+", "-", "!", "#", "$", "\xA3", "?", "~", "="})
+                .explained("Sets the prefix that users type in front of a command."),
         },
         {"bAllowAllPrefixes", "sPrefix", "sRightClickName", "sBorder", "bFlatRC", "bUnregRCEnable"},
     };

@@ -1,5 +1,8 @@
 #include "functions/general/switches.h"
 
+#include "declarations/oddfiles.h"
+#include "settings/lines.h"
+
 #include <algorithm>
 #include <array>
 
@@ -87,10 +90,15 @@ void resetEnabledRightClicks(const SettingsFiles& files, const HubProfiles& /*pr
 }
 
 /// The script's functions with a tick each. A click on one shows its help.
-FormDeclaration switchesForm(const FormDescription& form, const ListFile& (*file)())
+FormDeclaration switchesForm(const FormDescription& form, const ListFile& (*file)(),
+                             std::string_view explanation)
 {
-    return {form, {DeclaredTicks{[file] {
-                return TickList{"lvwSwitches", "Functions", file(), switchHelp};
+    return {form, {DeclaredTicks{[file, explanation] {
+                return TickList{.control = "lvwSwitches",
+                                .caption = "Functions",
+                                .file = file(),
+                                .help = switchHelp,
+                                .explanation = explanation};
             }}}};
 }
 
@@ -109,9 +117,23 @@ std::string_view switchHelp(std::string_view name)
     return function == functions.end() ? std::string_view() : function->help;
 }
 
+std::string_view switchOf(std::string_view nodeKey)
+{
+    const auto group = splitOnce(nodeKey, '~');
+    std::string_view word = splitOnce(group.right, '~').left;
+    while (word.starts_with(' '))
+        word.remove_prefix(1);
+    if (word == "Flooder") // the tree and the hub script call it by two names
+        word = "Flood";
+    const auto* const function =
+        std::find_if(functions.begin(), functions.end(),
+                     [word](const SwitchedFunction& each) { return each.name == word; });
+    return function == functions.end() ? std::string_view() : function->name;
+}
+
 const ListFile& switchesFile()
 {
-    static const ListFile file = {R"(General\Globals\Switches.tbl)", "tSwitches", ListFile::Form::Flags};
+    static const ListFile file = {switchesPath, "tSwitches", ListFile::Form::Flags};
     return file;
 }
 
@@ -124,13 +146,14 @@ const ListFile& enabledRightClicksFile()
 
 FunctionDeclaration switchesFunction()
 {
-    return {
-        .nodes = {{"General~Switches", "Switches",
-                   switchesForm({"frmGeneralSwitches", "General ~ Switches", {3165, 3450}}, switchesFile)},
-                  {"General~EnabledRightClicks", "Enabled Right Clicks",
-                   switchesForm({"frmGeneralRightClicks", "General ~ Right Clicks", {3165, 3450}},
-                                enabledRightClicksFile)}},
-        .build = {resetSwitches, resetEnabledRightClicks}};
+    return {.nodes = {{"General~Switches", "Switches",
+                       switchesForm({"frmGeneralSwitches", "General ~ Switches", {3165, 3450}}, switchesFile,
+                                    "Turns the ticked functions of the hub script on and the others off.")},
+                      {"General~EnabledRightClicks", "Enabled Right Clicks",
+                       switchesForm({"frmGeneralRightClicks", "General ~ Right Clicks", {3165, 3450}},
+                                    enabledRightClicksFile,
+                                    "Gives users the right click entries of the ticked functions.")}},
+            .build = {resetSwitches, resetEnabledRightClicks}};
 }
 
 } // namespace quillfen

@@ -25,6 +25,9 @@ std::span<const SwitchedFunction> switchedFunctions();
 /// The help of the function of that name; empty for a name that isn't ours.
 std::string_view switchHelp(std::string_view name);
 
+/// The name of the switch for a node's function; empty if it has none.
+std::string_view switchOf(std::string_view nodeKey);
+
 /// The two files of switches; a row that was put in by hand shows and is saved like any other.
 const ListFile& switchesFile();
 const ListFile& enabledRightClicksFile();

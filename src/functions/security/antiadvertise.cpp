@@ -49,10 +49,12 @@ TableFile declaredSettings()
         {
             ipBlock,
             setting::flag("bSilentMode", "chkCheckBox(1)", "Enable Silent Mode", true),
-            setting::flag("bAllowToOps", "chkCheckBox(2)", "Allow In PM to Ops", true),
+            setting::flag("bAllowToOps", "chkCheckBox(2)", "Allow In PM to Ops", true)
+                .explained("Allows advertising in private messages to operators."),
             banTimeSetting("iTempBanTime"),
             actionSetting("TempBan"),
-            notRestored(setting::profileFlags("tBlockedProfiles", "lvwBlockedProfiles", "Blocked Profiles")),
+            notRestored(setting::profileFlags("tBlockedProfiles", "lvwBlockedProfiles", "Blocked Profiles")
+                            .explained("Has the check cover the ticked profiles.")),
         },
     };
 }
@@ -63,7 +65,8 @@ TickList actionTicks()
             .caption = {},
             .file = blockedActionsFile(),
             .label = "Blocked Actions",
-            .restoreTicks = false};
+            .restoreTicks = false,
+            .explanation = "Looks for advertising at the ticked places and in the ticked games."};
 }
 
 } // namespace
@@ -85,6 +88,7 @@ const RowListDeclaration& blockedAddresses()
 {
     static const RowListDeclaration list = [] {
         RowListDeclaration blocked = addressList("Blocked");
+        blocked.explanation = "Each row is a text that counts as advertising another hub.";
         blocked.menu = "mnuFirst";
         return blocked;
     }();
@@ -95,6 +99,7 @@ const RowListDeclaration& allowedAddresses()
 {
     static const RowListDeclaration list = [] {
         RowListDeclaration allowed = addressList("Allowed");
+        allowed.explanation = "Each row is a text that doesn't count as advertising.";
         allowed.menu = "mnuSecond";
         return allowed;
     }();

@@ -5,10 +5,17 @@
 namespace quillfen {
 namespace {
 
-const ListFile badNickFile = {R"(Security\BadNickBlocker\BadNickBlockerNickList.tbl)",
-                              "tBadNickBlockerNickList", ListFile::Form::Numbered};
-const ListFile exemptUserFile = {R"(Security\CloneBlocker\CloneBlockerExemptUsers.tbl)",
-                                 "tCloneBlockerExemptUsers", ListFile::Form::Presence};
+ListFile badNickFile()
+{
+    return {R"(Security\BadNickBlocker\BadNickBlockerNickList.tbl)", "tBadNickBlockerNickList",
+            ListFile::Form::Numbered};
+}
+
+ListFile exemptUserFile()
+{
+    return {R"(Security\CloneBlocker\CloneBlockerExemptUsers.tbl)", "tCloneBlockerExemptUsers",
+            ListFile::Form::Presence};
+}
 
 /// A list of one-word rows, worded by what a row is called.
 RowListDeclaration wordedList(const ListFile& file, const std::string& word)
@@ -22,28 +29,38 @@ RowListDeclaration wordedList(const ListFile& file, const std::string& word)
 
 RowListDeclaration declaredBadNicks()
 {
-    RowListDeclaration list = wordedList(badNickFile, "Bad Nick");
+    RowListDeclaration list = wordedList(badNickFile(), "Bad Nick");
     list.list = "lvwBadNickList";
     list.toolbar = "tlbListview";
     list.label = "Bad Nicks";
+    list.explanation = "Each row is a nick against which the action is taken.";
     list.columns = {"Nick"};
     return list;
 }
 
 RowListDeclaration declaredExemptUsers()
 {
-    RowListDeclaration list = wordedList(exemptUserFile, "Exempt User");
+    RowListDeclaration list = wordedList(exemptUserFile(), "Exempt User");
     list.list = "lvwExemptUsers";
     list.toolbar = "tlbListview";
     list.label = "Exempt Users";
+    list.explanation = "Each row is a user who is exempt from the action.";
     list.columns = {"User"};
     return list;
+}
+
+setting::Field exemptProfiles()
+{
+    return notRestored(setting::profileFlags("tExemptProfiles", "lvwExemptProfiles", "Exempt Profiles")
+                           .explained("Exempts the ticked profiles from the action."));
 }
 
 /// No key belongs to this check box: it only makes the form dirty.
 Setting idleNotification()
 {
-    return setting::Idle{setting::flag("bSendNotification", "chkCheckBox", "Send Notification", false)};
+    return setting::Idle{
+        setting::flag("bSendNotification", "chkCheckBox", "Send Notification", false)
+            .explained("Does nothing: this box is not saved, and the hub script is told nothing of it.")};
 }
 
 } // namespace
@@ -54,8 +71,7 @@ const TableFile& badNickSettings()
     static const TableFile file = {
         R"(Security\BadNickBlocker\BadNickBlockerSettings.tbl)",
         "tBadNickBlockerSettings",
-        {banTimeSetting("iTempBanTime"), actionSetting("TempBan"),
-         notRestored(setting::profileFlags("tExemptProfiles", "lvwExemptProfiles", "Exempt Profiles"))},
+        {banTimeSetting("iTempBanTime"), actionSetting("TempBan"), exemptProfiles()},
         {"sAction", "iTempBanTime", "tExemptProfiles"},
     };
     return file;
@@ -74,7 +90,7 @@ const TableFile& cloneSettings()
         "tCloneBlockerSettings",
         {banTimeSetting("iTempBanTime"), actionSetting("TempBan"),
          notRestored(setting::profileFlags("tEnabledProfiles", "lvwEnabledProfiles", "Enabled Profiles")),
-         notRestored(setting::profileFlags("tExemptProfiles", "lvwExemptProfiles", "Exempt Profiles"))},
+         exemptProfiles()},
         {"sAction", "iTempBanTime", "tExemptProfiles", "tEnabledProfiles"},
     };
     return file;
@@ -103,7 +119,7 @@ FunctionDeclaration badNickBlockerFunction()
                        settingsAndListForm({"frmSecurityBadNickBlocker", "Security ~ BadNickBlocker"},
                                            badNickSettings, badNicks)}},
             .folders = {R"(Security\BadNickBlocker)"},
-            .build = {RebuiltSettings{badNickSettings}, emptyTable(badNickFile)}};
+            .build = {RebuiltSettings{badNickSettings}, emptyTable(badNickFile())}};
 }
 
 FunctionDeclaration cloneBlockerFunction()
@@ -112,7 +128,7 @@ FunctionDeclaration cloneBlockerFunction()
                        settingsAndListForm({"frmSecurityCloneBlocker", "Security ~ CloneBlocker"},
                                            cloneSettings, cloneExemptUsers)}},
             .folders = {R"(Security\CloneBlocker)"},
-            .build = {RebuiltSettings{cloneSettings}, emptyTable(exemptUserFile)}};
+            .build = {RebuiltSettings{cloneSettings}, emptyTable(exemptUserFile())}};
 }
 
 FunctionDeclaration antiVirusFunction()

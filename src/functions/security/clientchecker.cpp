@@ -1,12 +1,16 @@
 #include "functions/security/clientchecker.h"
 
+#include "declarations/oddfiles.h"
 #include "functions/security/shared/actions.h"
 #include "settings/lines.h"
 
 namespace quillfen {
 namespace {
 
-const ListFile versionsFile = {clientVersionsFile, "tClientVersions", ListFile::Form::Keyed};
+ListFile versionsFile()
+{
+    return {clientVersionsFile, "tClientVersions", ListFile::Form::Keyed};
+}
 
 /// The cells of a row.
 enum Cell
@@ -20,7 +24,7 @@ enum Cell
 std::vector<CellRow> loadVersions(const SettingsFiles& files, const HubProfiles& /*profiles*/)
 {
     std::vector<CellRow> rows;
-    for (const ListRow& row : loadList(files, versionsFile)) {
+    for (const ListRow& row : loadList(files, versionsFile())) {
         const auto [allow, version, found] = splitInPieces(row.second, '^');
         rows.push_back({{row.text, std::string(version), isOne(allow) ? "True" : "False"}});
     }
@@ -35,7 +39,7 @@ void saveVersions(const SettingsFiles& files, const HubProfiles& /*profiles*/,
     for (const CellRow& row : rows)
         list.push_back(
             {row.cells[Client], (row.cells[Allow] == "True" ? "1^" : "0^") + row.cells[MinVersion]});
-    saveList(files, versionsFile, list);
+    saveList(files, versionsFile(), list);
 }
 
 std::vector<std::string> trimmed(const std::vector<std::string>& texts)
@@ -52,6 +56,8 @@ RowListDeclaration declaredVersions()
     RowListDeclaration list = listOf("Client", Fewest::One);
     list.list = "lvwClients";
     list.toolbar = "tlbClients";
+    list.explanation =
+        "Each row is a client program, the version that it needs, and whether it may enter the hub.";
     list.columns = {"Client", "Min Version", "Allow"};
     list.menu = "mnuFirst";
     list.dialog.form = EditForm::TwoTextCombo;
@@ -76,7 +82,8 @@ RowListDeclaration declaredVersions()
 TableFile declaredSettings()
 {
     auto types = notRestored(setting::namedFlags("tBlock", "lvwBlockedTypes", "Blocked Connection Types",
-                                                 {"Sockets", "Passive", "Active", "Undeclared"}));
+                                                 {"Sockets", "Passive", "Active", "Undeclared"})
+                                 .explained("Refuses users who connect in a ticked way."));
     types.rebuild.resets = true; // a rebuild opens the hub to every kind of connection again
     return {
         R"(Security\ClientChecker\ClientCheckerSettings.tbl)",
@@ -85,7 +92,8 @@ TableFile declaredSettings()
             banTimeSetting("iBanTime"),
             actionSetting("TempBan"),
             // The key says enabled and the label says exempt: one list, and both words stay.
-            notRestored(setting::profileFlags("tEnabledProfiles", "lvwEnabledProfiles", "Exempt Profiles")),
+            notRestored(setting::profileFlags("tEnabledProfiles", "lvwEnabledProfiles", "Exempt Profiles")
+                            .explained("Sets whom the check covers, by profile.")),
             types,
         },
         {"sAction", "iBanTime", "tBlock", "tEnabledProfiles"},
@@ -112,7 +120,7 @@ FunctionDeclaration clientCheckerFunction()
                        settingsAndListForm({"frmSecurityClientCheckerSettings", "Security ~ ClientChecker"},
                                            clientCheckerSettings, clientVersions)}},
             .folders = {R"(Security\ClientChecker)"},
-            .build = {RebuiltSettings{clientCheckerSettings}, emptyTable(versionsFile)}};
+            .build = {RebuiltSettings{clientCheckerSettings}, emptyTable(versionsFile())}};
 }
 
 } // namespace quillfen

@@ -6,14 +6,16 @@ namespace {
 /// The text that is shown after a cleaning.
 constexpr const char* mainCleanerText = R"(Security\MainCleaner\MainCleaner.asc)";
 
-Setting enabledProfiles()
+Setting enabledProfiles(std::string_view explanation)
 {
-    return setting::profileFlags("tEnabledProfiles", "lvwEnabledProfiles", "Enabled Profiles");
+    return setting::profileFlags("tEnabledProfiles", "lvwEnabledProfiles", "Enabled Profiles")
+        .explained(explanation);
 }
 
-Setting exemptProfiles()
+Setting exemptProfiles(std::string_view explanation)
 {
-    return setting::profileFlags("tExemptProfiles", "lvwExemptProfiles", "Exempt Profiles");
+    return setting::profileFlags("tExemptProfiles", "lvwExemptProfiles", "Exempt Profiles")
+        .explained(explanation);
 }
 
 } // namespace
@@ -23,8 +25,10 @@ const TableFile& mainBlockSettings()
     static const TableFile file = {
         R"(Security\MainBlock\MainBlockSettings.tbl)",
         "tMainBlockSettings",
-        {setting::number("iBlockTime", "txtUpDown", "Temporary Block Time", 10, 5, 1440, setting::asTyped),
-         enabledProfiles(), exemptProfiles()},
+        {setting::number("iBlockTime", "txtUpDown", "Temporary Block Time", 10, 5, 1440, setting::asTyped)
+             .explained("Sets how long a temporary block of main chat lasts."),
+         enabledProfiles("Lets the ticked profiles block main chat for a time."),
+         exemptProfiles("Exempts the ticked profiles from a block of main chat.")},
         {"tEnabledProfiles", "tExemptProfiles", "iBlockTime"},
     };
     return file;
@@ -34,14 +38,16 @@ const TableFile& mainLockSettings()
 {
     static const TableFile file = {R"(Security\MainLock\MainLockSettings.tbl)",
                                    "tMainLockSettings",
-                                   {enabledProfiles(), exemptProfiles()}};
+                                   {enabledProfiles("Lets the ticked profiles lock main chat."),
+                                    exemptProfiles("Exempts the ticked profiles from a lock of main chat.")}};
     return file;
 }
 
 const TableFile& mainCleanerSettings()
 {
-    static const TableFile file = {
-        R"(Security\MainCleaner\MainCleanerSettings.tbl)", "tMainCleanerSettings", {enabledProfiles()}};
+    static const TableFile file = {R"(Security\MainCleaner\MainCleanerSettings.tbl)",
+                                   "tMainCleanerSettings",
+                                   {enabledProfiles("Lets the ticked profiles clean main chat.")}};
     return file;
 }
 
@@ -59,7 +65,8 @@ FunctionDeclaration mainCleanerFunction()
                        "Main Cleaner",
                        {{{"frmSecurityMainCleaner", "Security ~ MainCleaner"},
                          {DeclaredSettings{mainCleanerSettings},
-                          DeclaredText{"tlbListview", "Cleaner Text", mainCleanerText}}}}}},
+                          DeclaredText{"tlbListview", "Cleaner Text", mainCleanerText,
+                                       "Holds the text that is shown after main chat was cleaned."}}}}}},
             .folders = {R"(Security\MainCleaner)"},
             .build = {RebuiltSettings{mainCleanerSettings}, FirstText{mainCleanerText, "Cleaned"}}};
 }

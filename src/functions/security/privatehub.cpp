@@ -18,9 +18,11 @@ setting::Field restriction(setting::Field field)
 }
 
 /// The label says disabled and the heading says enabled; a ticked row is a 1 in `tDisabled`.
-Setting disabled(const std::string& word, const std::string& label, const std::string& heading)
+Setting disabled(const std::string& word, const std::string& label, const std::string& heading,
+                 std::string_view explanation)
 {
-    auto flags = setting::profileFlags("t" + word, "lvwDisabled" + word, label, heading);
+    auto flags =
+        setting::profileFlags("t" + word, "lvwDisabled" + word, label, heading).explained(explanation);
     flags.nest = "tDisabled";
     return flags;
 }
@@ -31,15 +33,23 @@ TableFile declared()
         R"(Security\PrivateHub\PrivateHubSettings.tbl)",
         "tPrivateHubSettings",
         {
-            reset(setting::text("sRedirectAddress", "txtTextBox", "Redirect Address", "")),
-            restriction(setting::number("iPreventPMTime", "txtUpDown", "Delay Before PM", 5, 1, 720)),
-            restriction(setting::flag("bRegBeforePM", "chkCheckBox", "Reg Before PM", true,
-                                      {.tickedAboveZero = true})),
-            disabled("Downloads", "Disabled Downloads", "Enabled Downloads"),
-            disabled("Main", "Disabled Main", "Enabled Main"),
-            disabled("PMs", "Disabled PM", "Enabled PMs"),
-            disabled("Profiles", "Disabled Profiles", "Enabled Profiles"),
-            disabled("Searches", "Disabled Searches", "Enabled Searches"),
+            reset(setting::text("sRedirectAddress", "txtTextBox", "Redirect Address", "")
+                      .explained("Sets where users go who are refused entry.")),
+            restriction(setting::number("iPreventPMTime", "txtUpDown", "Delay Before PM", 5, 1, 720)
+                            .explained("Sets how long new users are held back from private messages.")),
+            restriction(
+                setting::flag("bRegBeforePM", "chkCheckBox", "Reg Before PM", true, {.tickedAboveZero = true})
+                    .explained("Holds new users back from private messages until they are registered.")),
+            disabled("Downloads", "Disabled Downloads", "Enabled Downloads",
+                     "Takes downloads away from the ticked profiles."),
+            disabled("Main", "Disabled Main", "Enabled Main",
+                     "Takes main chat away from the ticked profiles."),
+            disabled("PMs", "Disabled PM", "Enabled PMs",
+                     "Takes private messages away from the ticked profiles."),
+            disabled("Profiles", "Disabled Profiles", "Enabled Profiles",
+                     "Refuses the ticked profiles entry to the hub."),
+            disabled("Searches", "Disabled Searches", "Enabled Searches",
+                     "Takes searches away from the ticked profiles."),
         },
         {"sRedirectAddress", "iPreventPMTime", "bRegBeforePM", "tProfiles", "tMain", "tPMs", "tDownloads",
          "tSearches"},

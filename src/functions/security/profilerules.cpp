@@ -11,7 +11,10 @@
 namespace quillfen {
 namespace {
 
-const ListFile rulesFile = {R"(Security\ProfileRules\ProfileRules.tbl)", "tProfileRules"};
+ListFile rulesFile()
+{
+    return {R"(Security\ProfileRules\ProfileRules.tbl)", "tProfileRules"};
+}
 
 /// A rule, named without the letter of its key.
 struct Rule
@@ -91,7 +94,7 @@ bool isCount(std::string_view share)
 
 std::vector<CellRow> loadPermissions(const SettingsFiles& files, const HubProfiles& profiles)
 {
-    const auto index = files.index(rulesFile.path);
+    const auto index = files.index(rulesFile().path);
     std::vector<CellRow> rows;
     for (std::size_t profile = 0; profile < profiles.count(); ++profile) {
         const std::string key = HubProfiles::key(profile);
@@ -125,7 +128,7 @@ void writeTexts(TableWriter& table, std::string_view key, const std::vector<Cell
 
 void saveRules(const SettingsFiles& files, const std::vector<std::vector<CellRow>>& lists)
 {
-    TableWriter table(rulesFile.table);
+    TableWriter table(rulesFile().table);
     writeTexts(table, "tMessages", lists.at(1));
     writeTexts(table, "tRedirects", lists.at(2));
     std::size_t place = 0;
@@ -138,7 +141,7 @@ void saveRules(const SettingsFiles& files, const std::vector<std::vector<CellRow
         if (place == 0)
             table.close();
     }
-    files.WriteSettingsFile(rulesFile.path, table.closed());
+    files.WriteSettingsFile(rulesFile().path, table.closed());
 }
 
 RowDialog dialogOf(const CellRow& row)
@@ -191,6 +194,7 @@ RowListDeclaration permissions()
     list.list = "lvwPermissions";
     list.toolbar = "tlbPermissions";
     list.label = "Permissions";
+    list.explanation = "Each row is a limit that the hub script checks on each user of the profile.";
     list.columns = {"Profile", "Setting", "Data", "iProfile"};
     list.hiddenColumns = 1;
     list.menu = "mnuOnlyEdit";
@@ -201,17 +205,19 @@ RowListDeclaration permissions()
     return list;
 }
 
-RowListDeclaration textList(const std::string& word, const std::string& menu, const std::string& titleEnd)
+RowListDeclaration textList(const std::string& word, const std::string& menu, const std::string& titleEnd,
+                            std::string_view explanation)
 {
     RowListDeclaration list;
     list.list = "lvw" + word;
     list.toolbar = "tlb" + word;
     list.label = word;
+    list.explanation = explanation;
     list.columns = {"Setting", "Data"};
     list.menu = menu;
     list.load = [table = "t" + word](const SettingsFiles& files, const HubProfiles&) {
         std::vector<ListRow> texts;
-        files.ReadTableToList(rulesFile.path, texts, "=", table);
+        files.ReadTableToList(rulesFile().path, texts, "=", table);
         std::vector<CellRow> rows;
         rows.reserve(texts.size());
         for (const ListRow& text : texts)
@@ -251,8 +257,8 @@ TableFile declaredSettings()
 
 void rebuildRules(const SettingsFiles& files, const HubProfiles& profiles)
 {
-    const auto index = files.index(rulesFile.path);
-    TableWriter table(rulesFile.table);
+    const auto index = files.index(rulesFile().path);
+    TableWriter table(rulesFile().table);
     for (const char* texts : {"tMessages", "tRedirects"}) {
         table.open(texts);
         for (const Rule& rule : rules()) {
@@ -269,7 +275,7 @@ void rebuildRules(const SettingsFiles& files, const HubProfiles& profiles)
         }
         table.close();
     }
-    files.WriteSettingsFile(rulesFile.path, table.closed());
+    files.WriteSettingsFile(rulesFile().path, table.closed());
 }
 
 /// Each rebuild starts the counters anew, and the ratio's key has another letter here than in the rules.
@@ -291,9 +297,12 @@ const TableFile& profileRuleSettings()
 
 const RowListGroup& profileRules()
 {
-    static const RowListGroup group = {{permissions(), textList("Messages", "mnuOnlyEditTwo", " Message"),
-                                        textList("Redirects", "mnuOnlyEditThree", " Redirect Address")},
-                                       saveRules};
+    static const RowListGroup group = {
+        {permissions(),
+         textList("Messages", "mnuOnlyEditTwo", " Message", "Each row is a rule and its message to a user."),
+         textList("Redirects", "mnuOnlyEditThree", " Redirect Address",
+                  "Each row is a rule and the address that it redirects a user to.")},
+        saveRules};
     return group;
 }
 

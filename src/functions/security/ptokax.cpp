@@ -7,8 +7,10 @@ const TableFile& ptokaXSettings()
     static const TableFile file = {
         R"(Security\PtokaX\PtokaXSettings.tbl)",
         "tPtokaXSettings",
-        {setting::profileFlags("tEnabledGetProfiles", "lvwEnabledGetProfiles", "Enabled Get Profiles"),
-         setting::profileFlags("tEnabledSetProfiles", "lvwEnabledSetProfiles", "Enabled Set Profiles")}};
+        {setting::profileFlags("tEnabledGetProfiles", "lvwEnabledGetProfiles", "Enabled Get Profiles")
+             .explained("Lets the ticked profiles read hub settings."),
+         setting::profileFlags("tEnabledSetProfiles", "lvwEnabledSetProfiles", "Enabled Set Profiles")
+             .explained("Lets the ticked profiles set hub settings.")}};
     return file;
 }
 

@@ -28,6 +28,9 @@ GridWords gridWords()
     words.columns[3] = "Allow";
     words.yes = "True";
     words.no = "False";
+    words.targetLink = "of";
+    words.explanation =
+        "Sets whose registrations a profile may add and delete, and whose passwords it may get and change.";
     return words;
 }
 
@@ -39,10 +42,12 @@ const TableFile& registrationSettings()
         R"(Security\Registration\RegistrationSettings.tbl)",
         "tRegistrationSettings",
         {
-            setting::flag("bAllowRegme", "chkCheckBox(0)", "Enable Regme", true),
+            setting::flag("bAllowRegme", "chkCheckBox(0)", "Enable Regme", true)
+                .explained("Lets users give the regme command."),
             setting::flag("bKeepLog", "chkCheckBox(1)", "Keep Log", true),
             setting::text("sPrefix", "txtTextBox(0)", "Prefix", ""),
-            notRestored(setting::profileKey("iRegProfile", "cboComboBox", "Registration Profile")),
+            notRestored(setting::profileKey("iRegProfile", "cboComboBox", "Registration Profile")
+                            .explained("Sets the profile that a newly registered user gets.")),
         },
     };
     return file;

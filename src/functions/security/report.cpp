@@ -7,7 +7,8 @@ const TableFile& reportSettings()
     static const TableFile file = {
         R"(Security\Report\ReportSettings.tbl)",
         "tReportSettings",
-        {setting::profileFlags("tEnabledProfiles", "lvwEnabledProfiles", "Enabled Profiles")}};
+        {setting::profileFlags("tEnabledProfiles", "lvwEnabledProfiles", "Enabled Profiles")
+             .explained("Lets the ticked profiles use the report command.")}};
     return file;
 }
 

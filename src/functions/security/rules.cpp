@@ -11,6 +11,15 @@ void makeRules(const SettingsFiles& files, const HubProfiles& profiles)
         writeIfMissing(files, rulesFile(row), "");
 }
 
+std::vector<PlacedText> placedRules(const SettingsFiles& files, const HubProfiles& profiles)
+{
+    std::vector<PlacedText> texts;
+    for (std::size_t row = 0; row < profiles.count(); ++row)
+        texts.push_back({rulesFile(row), "lvwRules", static_cast<int>(row), "Profiles",
+                         profiles.names()[row] + '\n' + files.ReadTextFile(rulesFile(row))});
+    return texts;
+}
+
 } // namespace
 
 std::string rulesFile(std::size_t row)
@@ -20,9 +29,11 @@ std::string rulesFile(std::size_t row)
 
 FunctionDeclaration rulesFunction()
 {
-    return {.nodes = {{"Security~Rules",
-                       "Rules",
-                       {{{"frmSecurityRules", "Security ~ Rules"}, {OwnPart{OwnPartKind::Rules}}}}}},
+    const OwnPart part = {
+        .kind = OwnPartKind::Rules,
+        .explanations = {{"lvwRules", "Each row is a profile with a rules text of its own."}},
+        .texts = placedRules};
+    return {.nodes = {{"Security~Rules", "Rules", {{{"frmSecurityRules", "Security ~ Rules"}, {part}}}}},
             .folders = {R"(Security\Rules)", R"(Security\Rules\Ascii)"},
             .build = {makeRules}};
 }

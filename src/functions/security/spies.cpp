@@ -5,8 +5,10 @@
 namespace quillfen {
 namespace {
 
-const ListFile termsFile = {R"(Security\SearchSpy\SearchSpyFiles.tbl)", "tSearchSpyFiles",
-                            ListFile::Form::Keyed};
+ListFile termsFile()
+{
+    return {R"(Security\SearchSpy\SearchSpyFiles.tbl)", "tSearchSpyFiles", ListFile::Form::Keyed};
+}
 
 /// The actions against a search: a ban for a time is none of them.
 const std::vector<std::string>& searchActions()
@@ -25,7 +27,7 @@ enum Cell
 std::vector<CellRow> loadTerms(const SettingsFiles& files, const HubProfiles& /*profiles*/)
 {
     std::vector<CellRow> rows;
-    for (const ListRow& row : loadList(files, termsFile))
+    for (const ListRow& row : loadList(files, termsFile()))
         rows.push_back({{row.text, actionWord(searchActions(), row.second)}});
     return rows;
 }
@@ -36,7 +38,7 @@ void saveTerms(const SettingsFiles& files, const HubProfiles& /*profiles*/, cons
     list.reserve(rows.size());
     for (const CellRow& row : rows)
         list.push_back({row.cells[Term], setting::letterOf(row.cells[Action])});
-    saveList(files, termsFile, list);
+    saveList(files, termsFile(), list);
 }
 
 RowListDeclaration declaredTerms()
@@ -45,6 +47,7 @@ RowListDeclaration declaredTerms()
     list.list = "lvwFiles";
     list.toolbar = "tlbFiles";
     list.label = "Forbidden Files";
+    list.explanation = "Each row is a forbidden search term and the action against it.";
     list.columns = {"File", "Action"};
     list.menu = "mnuFirst";
     list.dialog.form = EditForm::TextCombo;
@@ -67,7 +70,8 @@ const TableFile& commandSpySettings()
     static const TableFile file = {
         R"(Security\CommandSpy\CommandSpySettings.tbl)",
         "tCommandSpySettings",
-        {setting::profileFlags("tEnabledProfiles", "lvwEnabledProfiles", "Enabled Profiles")}};
+        {setting::profileFlags("tEnabledProfiles", "lvwEnabledProfiles", "Enabled Profiles")
+             .explained("Lets the ticked profiles spy on commands.")}};
     return file;
 }
 
@@ -106,7 +110,7 @@ FunctionDeclaration searchSpyFunction()
     return {.nodes = {{"Security~SearchSpy", "Search Spy",
                        settingsAndListForm(form, searchSpySettings, forbiddenFiles)}},
             .folders = {R"(Security\SearchSpy)"},
-            .build = {RebuiltSettings{searchSpySettings}, emptyTable(termsFile)}};
+            .build = {RebuiltSettings{searchSpySettings}, emptyTable(termsFile())}};
 }
 
 } // namespace quillfen

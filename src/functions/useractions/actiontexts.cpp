@@ -3,23 +3,58 @@
 namespace quillfen {
 namespace {
 
-const ListFile insultsFile = {R"(UserActions\Insults\Insults.tbl)", "tInsults"};
-const ListFile attacksFile = {R"(UserActions\Attacks\Attacks.tbl)", "tAttacks"};
-const ListFile doActionsFile = {R"(UserActions\DoAction\DoAction.tbl)", "tDoAction", ListFile::Form::Keyed};
+ListFile insultsFile()
+{
+    return {R"(UserActions\Insults\Insults.tbl)", "tInsults"};
+}
 
-const NestedListsFile medievalFile = {
-    R"(UserActions\Insults\InsultsMedieval.tbl)", "tInsultsMedieval", {"tOne", "tTwo", "tThree"}};
-const NestedListsFile modernFile = {
-    R"(UserActions\Insults\InsultsModern.tbl)", "tInsultsModern", {"tOne", "tTwo", "tThree", "tFour"}};
+ListFile attacksFile()
+{
+    return {R"(UserActions\Attacks\Attacks.tbl)", "tAttacks"};
+}
+
+ListFile doActionsFile()
+{
+    return {R"(UserActions\DoAction\DoAction.tbl)", "tDoAction", ListFile::Form::Keyed};
+}
+
+NestedListsFile medievalFile()
+{
+    return {R"(UserActions\Insults\InsultsMedieval.tbl)", "tInsultsMedieval", {"tOne", "tTwo", "tThree"}};
+}
+
+NestedListsFile modernFile()
+{
+    return {
+        R"(UserActions\Insults\InsultsModern.tbl)", "tInsultsModern", {"tOne", "tTwo", "tThree", "tFour"}};
+}
 
 // The rows of a fresh file, which RESTORE shows again.
-const std::vector<ListRow> firstInsults = {
-    {"*** !username! Says 'People can't say that !victim! has absolutely nothing!"
-     " After all, they have inferiority!'"}};
-const std::vector<ListRow> firstAttacks = {{"*** !username! blows !victim!'s brains out"}};
-const std::vector<ListRow> firstDoActions = {{"beer", "*** !username! drinks an ice cold beer"}};
-const std::vector<std::string> firstMedievalWords = {"artless", "boil brained", "hedge-pig"};
-const std::vector<std::string> firstModernWords = {"amorphous", "blob of", "fly-covered", "kangaroo vomit"};
+std::vector<ListRow> firstInsults()
+{
+    return {{"*** !username! Says 'People can't say that !victim! has absolutely nothing!"
+             " After all, they have inferiority!'"}};
+}
+
+std::vector<ListRow> firstAttacks()
+{
+    return {{"*** !username! blows !victim!'s brains out"}};
+}
+
+std::vector<ListRow> firstDoActions()
+{
+    return {{"beer", "*** !username! drinks an ice cold beer"}};
+}
+
+std::vector<std::string> firstMedievalWords()
+{
+    return {"artless", "boil brained", "hedge-pig"};
+}
+
+std::vector<std::string> firstModernWords()
+{
+    return {"amorphous", "blob of", "fly-covered", "kangaroo vomit"};
+}
 
 using Restored = std::function<std::vector<CellRow>(const HubProfiles&)>;
 
@@ -46,11 +81,12 @@ RowListDeclaration listOf(const ListWords& words)
 }
 
 RowListDeclaration listOfFile(const ListFile& file, const std::vector<ListRow>& first, const ListWords& words,
-                              const std::string& plural)
+                              const std::string& plural, std::string_view explanation)
 {
     RowListDeclaration list = listOf(words);
     list.list = "lvw" + plural;
     list.toolbar = "tlb" + plural;
+    list.explanation = explanation;
     list.columns = {plural};
     list.menu = "mnuFirst";
     list.load = loadOf(file);
@@ -71,6 +107,7 @@ RowListGroup wordLists(const NestedListsFile& file, const std::vector<std::strin
         RowListDeclaration list = listOf(words[place]);
         list.list = "lvwInsults" + places[place];
         list.toolbar = "tlbInsults" + places[place];
+        list.explanation = "Each row is a word from which the hub script composes an insult.";
         list.columns = {labels[place]};
         list.menu = menus[place];
         list.load = loadOf(file, place);
@@ -97,23 +134,26 @@ constexpr Twips formSize = {9000, 5400};
 
 const RowListDeclaration& insults()
 {
-    static const RowListDeclaration list =
-        listOfFile(insultsFile, firstInsults, {"Insult", "Insult", "Insult", "Insult"}, "Insults");
+    static const RowListDeclaration list = listOfFile(
+        insultsFile(), firstInsults(), {"Insult", "Insult", "Insult", "Insult"}, "Insults",
+        "Each row is a text with which one user insults another; !username! and !victim! stand for the two.");
     return list;
 }
 
 const RowListDeclaration& attacks()
 {
-    static const RowListDeclaration list =
-        listOfFile(attacksFile, firstAttacks, {"Attack", "Intro", "Intro", "intro"}, "Attacks");
+    static const RowListDeclaration list = listOfFile(
+        attacksFile(), firstAttacks(), {"Attack", "Intro", "Intro", "intro"}, "Attacks",
+        "Each row is a text with which one user attacks another; !username! and !victim! stand for the two.");
     return list;
 }
 
 const RowListDeclaration& doActions()
 {
     static const RowListDeclaration declared = [] {
-        RowListDeclaration list = listOfFile(doActionsFile, firstDoActions,
-                                             {"DoAction", "Intro", "DoAction", "intro"}, "DoActions");
+        RowListDeclaration list = listOfFile(
+            doActionsFile(), firstDoActions(), {"DoAction", "Intro", "DoAction", "intro"}, "DoActions",
+            "Each row is a command and the action that it sends, in which !username! stands for the user.");
         list.columns = {"Command", "Action"};
         list.dialog.form = EditForm::TwoFields;
         list.dialog.labels = {"Command", "Action"};
@@ -126,7 +166,7 @@ const RowListGroup& medievalInsults()
 {
     static const ListWords words = {"Medieval Insult", "Medieval Insult", "Medieval Insult",
                                     "Medieval Insult"};
-    static const RowListGroup group = wordLists(medievalFile, firstMedievalWords, {words, words, words});
+    static const RowListGroup group = wordLists(medievalFile(), firstMedievalWords(), {words, words, words});
     return group;
 }
 
@@ -134,7 +174,7 @@ const RowListGroup& modernInsults()
 {
     static const std::string modern = "Modern Insult";
     static const std::string medieval = "Medieval Insult";
-    static const RowListGroup group = wordLists(modernFile, firstModernWords,
+    static const RowListGroup group = wordLists(modernFile(), firstModernWords(),
                                                 {
                                                     {modern, modern, modern, medieval},
                                                     {modern, modern, modern, modern},
@@ -148,7 +188,7 @@ FunctionDeclaration insultsFunction()
 {
     // The build misspells the third table, which no form reads: the list stays empty until a first save
     // writes the table by its name.
-    NestedListsFile fresh = medievalFile;
+    NestedListsFile fresh = medievalFile();
     fresh.tables.back() = "tThreee";
     return {
         .nodes = {{"UserActions~Insults", "Insults"},
@@ -165,9 +205,9 @@ FunctionDeclaration insultsFunction()
                              modernInsults),
                    "Insults ~ Modern"}},
         .folders = {R"(UserActions\Insults)"},
-        .build = {firstRows(insultsFile, firstInsults),
-                  FirstText{medievalFile.path, oneWordEach(fresh, firstMedievalWords)},
-                  FirstText{modernFile.path, oneWordEach(modernFile, firstModernWords)}}};
+        .build = {firstRows(insultsFile(), firstInsults()),
+                  FirstText{medievalFile().path, oneWordEach(fresh, firstMedievalWords())},
+                  FirstText{modernFile().path, oneWordEach(modernFile(), firstModernWords())}}};
 }
 
 FunctionDeclaration attacksFunction()
@@ -175,7 +215,7 @@ FunctionDeclaration attacksFunction()
     return {.nodes = {{"UserActions~Attacks", "Attacks",
                        listForm({"frmUserActionsAttacks", "UserActions ~ Attacks", formSize}, attacks)}},
             .folders = {R"(UserActions\Attacks)"},
-            .build = {firstRows(attacksFile, firstAttacks)}};
+            .build = {firstRows(attacksFile(), firstAttacks())}};
 }
 
 FunctionDeclaration doActionsFunction()
@@ -183,7 +223,7 @@ FunctionDeclaration doActionsFunction()
     return {.nodes = {{"UserActions~DoAction", "DoAction",
                        listForm({"frmUserActionsDoAction", "UserActions ~ DoAction", formSize}, doActions)}},
             .folders = {R"(UserActions\DoAction)"},
-            .build = {firstRows(doActionsFile, firstDoActions)}};
+            .build = {firstRows(doActionsFile(), firstDoActions())}};
 }
 
 } // namespace quillfen

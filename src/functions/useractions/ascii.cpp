@@ -50,8 +50,10 @@ const TableFile& asciiSettings()
             setting::flag("bInMain", "chkCheckBox(0)", "Show In Main", true),
             setting::flag("bInMainGlobal", "chkCheckBox(1)", "Show In Main To All", true),
             setting::flag("bEnableNoCommand", "chkCheckBox(2)", "Enable No Command", true),
-            notRestored(setting::profileFlags("tEnabledProfiles", "lvwEnabledProfiles", "Enabled Profiles")),
-            notRestored(setting::profileFlags("tEnabledRC", "lvwEnabledRCs", "Enabled Right Clicks")),
+            notRestored(setting::profileFlags("tEnabledProfiles", "lvwEnabledProfiles", "Enabled Profiles")
+                            .explained("Lets the ticked profiles show pictures.")),
+            notRestored(setting::profileFlags("tEnabledRC", "lvwEnabledRCs", "Enabled Right Clicks")
+                            .explained("Lets the ticked profiles show pictures by right click.")),
         },
         {"bInMain", "bInMainGlobal", "bEnableNoCommand", "tEnabledRC", "tEnabledProfiles"},
     };
@@ -64,6 +66,7 @@ const RowListDeclaration& asciiPictures()
         RowListDeclaration list = listOf("Ascii", Fewest::None);
         list.list = "lvwAscii";
         list.toolbar = "tlbFiles";
+        list.explanation = "Each row is a picture that users can show by command or right click.";
         list.columns = {"Filename", "Display Name", "Right Click Menu"};
         list.menu = "mnuFirst";
         list.dialog.form = EditForm::ThreeFields;

@@ -20,11 +20,14 @@ Collection collection(const std::string& word, int delay)
                        "t" + word + "Settings",
                        {setting::flag("bManualControl", "chkManualControl", "Manual Control", false),
                         setting::flag("bSendToAll", "chkSendToAll", "Send To All", true),
-                        setting::number("iDelay", "txtDelay(0)", "Delay", delay, 10, 720)},
+                        setting::number("iDelay", "txtDelay(0)", "Delay", delay, 10, 720)
+                            .explained("Sets the timer on which the texts are sent.")},
                        {"bManualControl", "iDelay", "bSendToAll"}};
     RowListDeclaration& texts = result.texts = listOf(word, Fewest::One);
     texts.list = "lvw" + word + "s";
     texts.toolbar = "tlb" + word + "s";
+    texts.explanation =
+        "Each row is a text that is sent by command or on a timer; a | in it begins a new line.";
     texts.columns = {word + "s"};
     texts.menu = "mnuFirst";
     texts.load = loadOf(textsFile(word));

@@ -1,6 +1,7 @@
 #include "functions/useractions/spells.h"
 
 #include "settings/codepage.h"
+#include "settings/filename.h"
 #include "settings/profiles.h"
 
 #include <algorithm>
@@ -8,7 +9,10 @@
 namespace quillfen {
 namespace {
 
-const ListFile wardsFile = {R"(UserActions\Spells\SpellWards.tbl)", "tSpellWards", ListFile::Form::Presence};
+ListFile wardsFile()
+{
+    return {R"(UserActions\Spells\SpellWards.tbl)", "tSpellWards", ListFile::Form::Presence};
+}
 
 ListFile bookFile(const SpellBook& book)
 {
@@ -27,7 +31,8 @@ Setting timeout()
 
 Setting enabledProfiles()
 {
-    return setting::profileFlags("tEnabledProfiles", "lvwEnabledProfiles", "Enabled Profiles");
+    return setting::profileFlags("tEnabledProfiles", "lvwEnabledProfiles", "Enabled Profiles")
+        .explained("Lets the ticked profiles cast these spells.");
 }
 
 std::vector<std::string> pieces(const std::string& text)
@@ -56,10 +61,29 @@ std::vector<ListRow> phrasesToWrite(const CellRow& spell)
     return rows;
 }
 
+std::vector<PlacedText> placedPhrases(const SpellBook& book, const SettingsFiles& files,
+                                      const HubProfiles& profiles)
+{
+    std::vector<PlacedText> texts;
+    int place = 0;
+    for (const CellRow& spell : spellList(book).load(files, profiles)) {
+        const std::string& name = spell.cells[SpellName];
+        const bool isReadable = leavingNameFault(name).empty(); // as the form has it
+        for (const CellRow& phrase : isReadable ? loadPhrases(book, name, files) : std::vector<CellRow>())
+            texts.push_back({phraseFile(book, name).path, "lvwSpells", place, "Spell Phrase",
+                             name + ": " + phrase.cells[0]});
+        ++place;
+    }
+    return texts;
+}
+
 FormDeclaration bookForm(const char* name, const char* caption, OwnPartKind kind, const SpellBook& (*book)())
 {
     const auto lists = [book] { return std::vector{spellList(book()), phraseList()}; };
-    return {{name, caption, {10500, 6000}}, {OwnPart{.kind = kind, .lists = lists}}};
+    const auto texts = [book](const SettingsFiles& files, const HubProfiles& profiles) {
+        return placedPhrases(book(), files, profiles);
+    };
+    return {{name, caption, {10500, 6000}}, {OwnPart{.kind = kind, .lists = lists, .texts = texts}}};
 }
 
 } // namespace
@@ -80,11 +104,12 @@ const SpellBook& nickSpellBook()
 
 const TableFile& spellSettings()
 {
-    static const TableFile file = {
-        R"(UserActions\Spells\SpellSettings.tbl)",
-        "tSpellSettings",
-        {setting::flag("bEnableWards", "chkCheckBox(0)", "Enable Wards", true), timeout(), enabledProfiles()},
-        {"iDelay", "bEnableWards", "tEnabledProfiles"}};
+    static const TableFile file = {R"(UserActions\Spells\SpellSettings.tbl)",
+                                   "tSpellSettings",
+                                   {setting::flag("bEnableWards", "chkCheckBox(0)", "Enable Wards", true)
+                                        .explained("Protects the warded users from spells."),
+                                    timeout(), enabledProfiles()},
+                                   {"iDelay", "bEnableWards", "tEnabledProfiles"}};
     return file;
 }
 
@@ -103,11 +128,12 @@ const RowListDeclaration& spellWards()
         list.list = "lvwWards";
         list.toolbar = "tlbWards";
         list.label = "Warded Users";
+        list.explanation = "Each row is a user who is protected from spells while wards are on.";
         list.remark = "Allows IPs beginning with 0 (such as 0.3.6.0)";
         list.columns = {"Warded User"};
         list.menu = "mnuFirst";
-        list.load = loadOf(wardsFile);
-        list.save = saveOf(wardsFile);
+        list.load = loadOf(wardsFile());
+        list.save = saveOf(wardsFile());
         return list;
     }();
     return declared;
@@ -118,6 +144,7 @@ RowListDeclaration spellList(const SpellBook& book)
     RowListDeclaration list = listOf("Spell", Fewest::One);
     list.list = "lvwSpells";
     list.toolbar = "tlbSpells";
+    list.explanation = "Each row is a spell that users can cast.";
     list.columns = {"Spell Name", "Spell Description", "Spell Phrases", "Spell LInes"};
     list.hiddenColumns = 2;
     list.menu = "mnuFirst";
@@ -139,6 +166,7 @@ RowListDeclaration phraseList()
     RowListDeclaration list = listOf("Spell Phrase", Fewest::One);
     list.list = "lvwSpellPhrases";
     list.toolbar = "tlbSpellPhrases";
+    list.explanation = "Each row is a phrase of the spell that is being amended.";
     list.columns = {"Spell Phrase"};
     list.menu = "mnuSecond";
     list.dialog.addTitle = "Add New Spell Phrase";
@@ -180,19 +208,19 @@ void saveSpellBook(const SpellBook& book, const std::vector<CellRow>& spells, co
 
 FunctionDeclaration spellsFunction()
 {
-    return {
-        .nodes = {{"UserActions~Spells", "Spells"},
-                  {"UserActions~Spells~Settings",
-                   "Settings",
-                   {{{"frmUserActionsSpellSettings", "UserActions ~ Spells ~ Settings", {7500, 7500}},
-                     {DeclaredSettings{spellSettings}, listPart(spellWards)}}},
-                   "Spells ~ Settings"},
-                  {"UserActions~Spells~SpellBook", "Spell Book",
-                   bookForm("frmUserActionsSpellsSpellBook", "UserActions ~ Spells ~ SpellBook",
-                            OwnPartKind::SpellBook, spellBook),
-                   "Spells ~ Spell Book"}},
-        .folders = {R"(UserActions\Spells)", R"(UserActions\Spells\Spells)"},
-        .build = {RebuiltSettings{spellSettings}, emptyTable(bookFile(spellBook())), emptyTable(wardsFile)}};
+    return {.nodes = {{"UserActions~Spells", "Spells"},
+                      {"UserActions~Spells~Settings",
+                       "Settings",
+                       {{{"frmUserActionsSpellSettings", "UserActions ~ Spells ~ Settings", {7500, 7500}},
+                         {DeclaredSettings{spellSettings}, listPart(spellWards)}}},
+                       "Spells ~ Settings"},
+                      {"UserActions~Spells~SpellBook", "Spell Book",
+                       bookForm("frmUserActionsSpellsSpellBook", "UserActions ~ Spells ~ SpellBook",
+                                OwnPartKind::SpellBook, spellBook),
+                       "Spells ~ Spell Book"}},
+            .folders = {R"(UserActions\Spells)", R"(UserActions\Spells\Spells)"},
+            .build = {RebuiltSettings{spellSettings}, emptyTable(bookFile(spellBook())),
+                      emptyTable(wardsFile())}};
 }
 
 FunctionDeclaration nickSpellsFunction()

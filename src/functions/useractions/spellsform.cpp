@@ -15,10 +15,10 @@ namespace quillfen {
 namespace {
 
 /// A new name is also a new file's.
-bool hasGoodName(QWidget* parent, const CellRow& spell, const CellRow* before)
+std::optional<RowRefusal> nameRefusal(const CellRow& spell, const CellRow* before)
 {
     const std::string& name = spell.cells[SpellName];
-    return (before && before->cells[SpellName] == name) || !refuseNewFile(parent->window(), name);
+    return before && before->cells[SpellName] == name ? std::nullopt : newFileRefusal(name);
 }
 
 /// A spell book: its spells, and the phrases of the one that is being amended.
@@ -56,7 +56,7 @@ SpellBookPart::SpellBookPart(const SpellBook& book, const FormContext& context)
       m_spells(new RowListPart(spellList(book), context,
                                {.builders = {BuildListToolbar, AddAmendButton},
                                 .activates = "AMEND",
-                                .accept = hasGoodName,
+                                .refusal = nameRefusal,
                                 .note = [this] { followSpells(); }})),
       m_phrases(new RowListPart(phraseList(), context, {.note = [this] { gather(); }})),
       m_widget(new QWidget)

@@ -60,6 +60,7 @@ std::unique_ptr<EditorForm> makeForm(const FormDeclaration& declaration, const P
     auto form = std::make_unique<EditorForm>(declaration.form, context.files.store());
     for (const PartDeclaration& part : declaration.parts)
         form->add(std::visit(PartMaker{makers, context}, part));
+    form->explainBy(declaration, context);
     return form;
 }
 

@@ -74,6 +74,12 @@ Mode modeOf(const EditRequest& request)
     return mode < modes.size() ? modes[mode] : Mode{""};
 }
 
+bool isRequired(const EditRequest& request, std::size_t number)
+{
+    const std::string_view required = modeOf(request).required;
+    return required.find(static_cast<char>('0' + number)) != std::string_view::npos;
+}
+
 template <typename Value>
 Value valueAt(const std::vector<Value>& values, std::size_t at, const Value& otherwise = {})
 {
@@ -117,6 +123,7 @@ EditDialog::EditDialog(const EditRequest& request, QWidget* parent)
         addField(request, number++, *input);
     addButtons();
     setMinimumWidth(420);
+    fitTexts();
     follow();
     m_fields.front().input->setFocus();
 }
@@ -127,8 +134,7 @@ void EditDialog::addField(const EditRequest& request, std::size_t number, char k
     Field field = kind == 'T'   ? textField(value)
                   : kind == 'N' ? numberField(request, value)
                                 : comboField(request, value);
-    const std::string required = modeOf(request).required;
-    field.required = required.find(static_cast<char>('0' + number)) != std::string::npos;
+    field.required = isRequired(request, number);
     if (field.required)
         colourAsRequired(*field.input);
 
@@ -146,6 +152,7 @@ EditDialog::Field EditDialog::textField(const std::string& value)
     auto* box = new QLineEdit(fromBytes(value));
     box->setObjectName(QStringLiteral("txtTextBox(%1)").arg(m_texts++));
     limitToOneLine(*box);
+    box->home(false); // a long text shows its beginning
     connect(box, &QLineEdit::textChanged, this, &EditDialog::follow);
     return {box, [box] { return toBytes(box->text()); }, false};
 }
@@ -170,6 +177,19 @@ EditDialog::Field EditDialog::comboField(const EditRequest& request, const std::
     box->setCurrentIndex(box->findText(fromBytes(value), Qt::MatchExactly | Qt::MatchCaseSensitive));
     connect(box, &QComboBox::currentTextChanged, this, &EditDialog::follow);
     return {box, [box] { return toBytes(box->currentText()); }, false};
+}
+
+/// As wide as the texts need, where the window behind has that room.
+void EditDialog::fitTexts()
+{
+    int wanted = minimumWidth();
+    for (const auto* box : findChildren<QLineEdit*>()) {
+        const int text =
+            box->fontMetrics().horizontalAdvance(box->text()) + 4 * box->fontMetrics().averageCharWidth();
+        wanted = std::max(wanted, sizeHint().width() - box->sizeHint().width() + text);
+    }
+    const int room = parentWidget() ? parentWidget()->window()->width() : minimumWidth();
+    resize(std::clamp(wanted, minimumWidth(), std::max(room, minimumWidth())), sizeHint().height());
 }
 
 void EditDialog::addButtons()
@@ -231,6 +251,26 @@ void addRows(QWidget* parent, const EditRequest& request,
         if (answer.gEditResult != EditResult::None)
             take(answer.gEditValues);
     }
+}
+
+std::string fieldsFault(const EditRequest& request, const std::vector<std::string>& values)
+{
+    const std::string_view inputs = inputsOf(request.form);
+    if (values.size() > inputs.size())
+        return "there are more cells than fields, which are " + std::to_string(inputs.size());
+    std::size_t combos = 0;
+    for (std::size_t number = 0; number < inputs.size(); ++number) {
+        const std::string value = valueAt(values, number);
+        const std::string label = valueAt(request.labels, number);
+        if (value.empty() && (number == 0 || isRequired(request, number)))
+            return label + " is missing";
+        if (inputs[number] != 'C')
+            continue;
+        const auto entries = valueAt(request.entries, combos++);
+        if (!value.empty() && std::find(entries.begin(), entries.end(), value) == entries.end())
+            return label + " can't be \"" + value + '"';
+    }
+    return {};
 }
 
 std::string_view inputsOf(EditForm form)

@@ -68,6 +68,7 @@ private:
     Field numberField(const EditRequest& request, const std::string& value);
     Field comboField(const EditRequest& request, const std::string& value);
     void addButtons();
+    void fitTexts();
     void follow();
     void finish(EditResult result);
 
@@ -88,6 +89,9 @@ EditAnswer showEditDialog(QWidget* parent, const EditRequest& request);
 /// `take`.
 void addRows(QWidget* parent, const EditRequest& request,
              const std::function<void(const std::vector<std::string>&)>& take);
+
+/// Why the dialog of a request would not take these values, in words; empty if it would.
+std::string fieldsFault(const EditRequest& request, const std::vector<std::string>& values);
 
 /// The inputs of a dialog in field order: T a text, N a number with up-down, C a combo box.
 std::string_view inputsOf(EditForm form);

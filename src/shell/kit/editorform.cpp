@@ -1,7 +1,13 @@
 #include "shell/kit/editorform.h"
 
+#include "shell/kit/changemarks.h"
 #include "shell/kit/codepagetext.h"
+#include "shell/kit/controlvalue.h"
+#include "shell/kit/formadvice.h"
+#include "shell/kit/listview.h"
+#include "shell/kit/longtext.h"
 #include "shell/kit/messages.h"
+#include "shell/kit/settingcards.h"
 #include "shell/kit/toolbars.h"
 #include "shell/kit/units.h"
 #include "store/draft.h"
@@ -12,8 +18,8 @@
 #include <QLabel>
 #include <QScopedValueRollback>
 #include <QScrollArea>
+#include <QShortcut>
 #include <QStatusBar>
-#include <QTextDocument>
 #include <QToolButton>
 #include <QVBoxLayout>
 
@@ -48,6 +54,7 @@ EditorForm::EditorForm(const FormDescription& description, DraftStore& store)
       m_store(store),
       m_toolbar(new QToolBar),
       m_frame(new QFrame),
+      m_scroller(new FrameScroller(m_frame)),
       m_statusBar(new QStatusBar)
 {
     setObjectName(fromBytes(description.name));
@@ -66,16 +73,21 @@ EditorForm::EditorForm(const FormDescription& description, DraftStore& store)
     if (!description.hasRestore)
         removeButton(*m_toolbar, "RESTORE");
     PlaceChildForm(*m_statusBar);
+    secondPanel()->installEventFilter(this);
     addAction(button(*m_toolbar, "SAVE")); // its shortcut works in the whole form
     connect(button(*m_toolbar, "SAVE"), &QAction::triggered, this, &EditorForm::save);
     connectButton(*m_toolbar, "DISCARD", this, &EditorForm::discard);
     connectButton(*m_toolbar, "RESTORE", this, &EditorForm::restore);
 
+    connect(new QShortcut(Qt::CTRL | Qt::SHIFT | Qt::Key_F, this, nullptr, nullptr,
+                          Qt::WidgetWithChildrenShortcut),
+            &QShortcut::activated, this, [this] { openNearestFilter(*m_frame); });
+
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins({});
     layout->setSpacing(0);
     layout->addWidget(m_toolbar);
-    layout->addWidget(new FrameScroller(m_frame), 1);
+    layout->addWidget(m_scroller, 1);
     layout->addWidget(m_statusBar);
 }
 
@@ -130,15 +142,88 @@ QString EditorForm::secondPanelText() const
 {
     if (!m_changedFile.isEmpty())
         return m_changedFile + " changed on disk; SAVE replaces it, DISCARD reads it";
-    return m_versionFault.isEmpty() ? m_note : "No version was kept: " + m_versionFault;
+    if (!m_versionFault.isEmpty())
+        return "No version was kept: " + m_versionFault;
+    const QString advice = m_advice ? m_advice->words() : QString();
+    if (!advice.isEmpty())
+        return advice;
+    return m_rowWords.isEmpty() || m_note.isEmpty() ? m_rowWords + m_note : m_rowWords + ". " + m_note;
+}
+
+QLabel* EditorForm::secondPanel() const
+{
+    return m_statusBar->findChildren<QLabel*>(Qt::FindDirectChildrenOnly).at(1);
 }
 
 void EditorForm::fillSecondPanel()
 {
     const QString text = secondPanelText();
-    auto* panel = m_statusBar->findChildren<QLabel*>(Qt::FindDirectChildrenOnly).at(1);
+    auto* panel = secondPanel();
     panel->setText(text);
-    panel->setToolTip(text.isEmpty() ? QString() : Qt::convertFromPlainText(text));
+    panel->setToolTip(toolTipOf(text));
+    const bool leads = m_advice && !text.isEmpty() && text == m_advice->words();
+    panel->setCursor(leads ? Qt::PointingHandCursor : Qt::ArrowCursor);
+}
+
+void EditorForm::explainBy(const FormDeclaration& declaration, const FormContext& context)
+{
+    m_marks = new ChangeMarks(*m_frame);
+    m_cards = new SettingCards(*m_frame, *m_marks);
+    for (const PartDeclaration& part : declaration.parts) {
+        for (const SettingCard& card : cardsOf(part, context.profiles)) {
+            m_cards->add(card);
+            auto* control = controlNamed(*m_frame, fromBytes(card.control));
+            if (control && card.defaultValue)
+                m_marks->offerDefault(*control, fromBytes(*card.defaultValue));
+        }
+    }
+    m_advice = new FormAdvice(declaration, context, *this);
+    connect(m_advice, &FormAdvice::looked, this, [this] {
+        m_rowWords = m_marks->rowWords();
+        fillSecondPanel();
+    });
+    for (FormPart* part : m_parts)
+        connect(part, &FormPart::openFileChanged, m_advice, &FormAdvice::lookSoon);
+    addKey(Qt::Key_F8, [this] { m_advice->goToNext(); });
+    addKey(Qt::Key_F1, [this] { showCard(); });
+}
+
+void EditorForm::addKey(int key, const std::function<void()>& pressed)
+{
+    auto* action = new QAction(this);
+    action->setShortcut(key);
+    action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+    addAction(action);
+    connect(action, &QAction::triggered, this, pressed);
+}
+
+void EditorForm::showCard()
+{
+    if (!m_cards || m_cards->isShown() || !m_cards->show())
+        emit guideAsked(objectName());
+}
+
+bool EditorForm::eventFilter(QObject* watched, QEvent* event)
+{
+    if (m_advice && watched == secondPanel() && event->type() == QEvent::MouseButtonRelease)
+        m_advice->goToNext();
+    return QWidget::eventFilter(watched, event);
+}
+
+void EditorForm::goTo(QWidget& control, int row)
+{
+    m_scroller->ensureWidgetVisible(&control);
+    if (auto* list = qobject_cast<ListView*>(&control); list && row >= 0) {
+        list->select(row);
+        list->scrollTo(list->currentIndex());
+    }
+    control.setFocus(Qt::OtherFocusReason);
+}
+
+void EditorForm::goTo(const QString& control, int row)
+{
+    if (auto* found = m_frame->findChild<QWidget*>(control))
+        goTo(*found, row);
 }
 
 void EditorForm::open()
@@ -146,7 +231,7 @@ void EditorForm::open()
     letKeysReachButtons(*this);
     focusFirstControl();
     load();
-    bDirty = SetControlsClean(*m_toolbar, *m_statusBar);
+    setDirty(false);
 }
 
 QSize EditorForm::leastSize() const
@@ -170,10 +255,35 @@ void EditorForm::focusFirstControl()
     }
 }
 
+void EditorForm::setDirty(bool dirty)
+{
+    bDirty = dirty ? SetControlsDirty(*m_toolbar, *m_statusBar) : SetControlsClean(*m_toolbar, *m_statusBar);
+    emit dirtyChanged();
+}
+
+/// The files hold what the form shows.
+void EditorForm::remember()
+{
+    tellChangedFile({});
+    if (m_marks)
+        m_marks->remember();
+    adviseSoon();
+}
+
+void EditorForm::adviseSoon()
+{
+    if (m_advice)
+        m_advice->lookSoon();
+}
+
 void EditorForm::markDirty()
 {
-    if (!m_loading)
-        bDirty = SetControlsDirty(*m_toolbar, *m_statusBar);
+    if (m_loading)
+        return;
+    setDirty(true);
+    if (m_marks)
+        m_marks->follow();
+    adviseSoon();
 }
 
 void EditorForm::load()
@@ -189,7 +299,7 @@ void EditorForm::load()
         notify(this, caption(), m_notLoaded, QMessageBox::Critical);
     }
     m_files = record.files();
-    tellChangedFile({});
+    remember();
     emit loaded();
 }
 
@@ -198,7 +308,7 @@ void EditorForm::loadAnew()
     if (m_description.isLoadedOnce)
         return;
     load();
-    bDirty = SetControlsClean(*m_toolbar, *m_statusBar);
+    setDirty(false);
 }
 
 bool EditorForm::maySave()
@@ -233,10 +343,10 @@ void EditorForm::save()
     // After a failure the form stays dirty and complete, so that nothing typed is lost.
     if (!attempt(this, saving(caption()), [this] { commitParts(); }))
         return;
-    tellChangedFile({});
+    remember();
     if (m_description.reloadsAfterSave)
         load();
-    bDirty = SetControlsClean(*m_toolbar, *m_statusBar);
+    setDirty(false);
 }
 
 bool EditorForm::confirmDiscard()
@@ -250,7 +360,7 @@ void EditorForm::discard()
         return;
     load();
     if (m_description.afterDiscard == FormDescription::AfterDiscard::Clean)
-        bDirty = SetControlsClean(*m_toolbar, *m_statusBar);
+        setDirty(false);
 }
 
 void EditorForm::restore()

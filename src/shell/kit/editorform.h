@@ -15,10 +15,16 @@
 #include <vector>
 
 class QFrame;
+class QLabel;
+class QScrollArea;
 class QStatusBar;
 class QToolBar;
 
 namespace quillfen {
+
+class ChangeMarks;
+class FormAdvice;
+class SettingCards;
 
 /// An editor form: its toolbar, its parts in a frame that scrolls where there is too little room for them,
 /// its status bar, and the cycle of load, change, save, discard, restore and close. It alone knows whether
@@ -58,6 +64,31 @@ public:
     /// Shows in the second status panel why no version of what was replaced last was kept; empty if one was.
     void tellVersionFault(const QString& fault);
 
+    /// From now on says what is wrong with what it would save, marks what differs from the files, and
+    /// explains its settings. All parts are there by then.
+    void explainBy(const FormDeclaration& declaration, const FormContext& context);
+
+    /// What it says; null for a form that was not told to.
+    FormAdvice* advice() const { return m_advice; }
+
+    /// Shows the card of the setting that has the focus; asks for the guide where it shows already, or there
+    /// is none.
+    void showCard();
+
+    const std::vector<FormPart*>& parts() const { return m_parts; }
+
+    /// Brings a control into sight and gives it the focus; of a list, a row too, which is counted from 0.
+    void goTo(QWidget& control, int row = -1);
+
+    /// The same by the control's name. Nothing happens where there is none of it.
+    void goTo(const QString& control, int row = -1);
+
+    /// Whether all of it was loaded.
+    bool isWhole() const { return !m_loading && m_notLoaded.isEmpty(); }
+
+    /// What its SAVE does.
+    void save();
+
     bool isDirty() const { return bDirty; }
     QString caption() const { return windowTitle(); }
 
@@ -71,8 +102,15 @@ signals:
     /// Other files may be the form's from now on.
     void loaded();
 
+    /// Whether there is something to save may be otherwise now.
+    void dirtyChanged();
+
+    /// The user wants to read more than a card of this form, which is called by its name.
+    void guideAsked(const QString& form);
+
 protected:
     void closeEvent(QCloseEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     QSize leastSize() const;
@@ -80,22 +118,31 @@ private:
     void load();
     bool maySave();
     void commitParts();
-    void save();
     void discard();
     void restore();
     void markDirty();
+    void setDirty(bool dirty);
+    void remember();
+    void adviseSoon();
+    void addKey(int key, const std::function<void()>& pressed);
     void showNote(const QString& text);
     void tellChangedFile(const QString& name);
     QString secondPanelText() const;
+    QLabel* secondPanel() const;
     void fillSecondPanel();
     bool confirmDiscard();
 
     FormDescription m_description;
     DraftStore& m_store;
+    FormAdvice* m_advice = nullptr;
+    ChangeMarks* m_marks = nullptr;
+    SettingCards* m_cards = nullptr;
+    QString m_rowWords; ///< how many rows came, went and changed
     std::map<std::string, FileMark> m_files;
     QString m_tag;
     QToolBar* m_toolbar;
     QFrame* m_frame;
+    QScrollArea* m_scroller;
     QStatusBar* m_statusBar;
     std::vector<FormPart*> m_parts;
     RoutineTable m_routines;

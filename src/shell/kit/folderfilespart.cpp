@@ -32,6 +32,7 @@ RowListHooks withRefusal(RowListHooks hooks, const std::function<std::string(con
 RowListHooks fileHooks(const FormContext& context, const std::string& folder)
 {
     RowListHooks hooks;
+    hooks.takesText = false;
     hooks.refuse = [](const CellRow& row) {
         const std::string fault = leavingNameFault(row.cells[0]);
         return fault.empty() ? fault : row.cells[0] + "\n\n" + fault;
@@ -60,6 +61,14 @@ void FolderFilesPart::load()
     emit note(unlisted.isEmpty()
                   ? QString()
                   : "Not listed: " + unlisted.join(", ") + " (the hub script can't read such a name)");
+}
+
+std::vector<EditedText> FolderFilesPart::editedTexts()
+{
+    std::vector<EditedText> all;
+    for (const CellRow& row : rows())
+        all.push_back({textFile(m_folder, row.cells[0]), &list(), static_cast<int>(all.size())});
+    return all;
 }
 
 bool FolderFilesPart::isGoodName(const std::string& name)

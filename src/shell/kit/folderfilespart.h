@@ -21,6 +21,7 @@ public:
                     const std::function<std::string(const CellRow&)>& refuse = {});
 
     void load() override;
+    std::vector<EditedText> editedTexts() override;
 
 protected:
     void add() override;

@@ -15,6 +15,7 @@ void FormPart::adopt(FormPart& part)
     part.setParent(this);
     connect(&part, &FormPart::changed, this, &FormPart::changed);
     connect(&part, &FormPart::note, this, &FormPart::note);
+    connect(&part, &FormPart::openFileChanged, this, &FormPart::openFileChanged);
 }
 
 } // namespace quillfen

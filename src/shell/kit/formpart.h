@@ -1,5 +1,6 @@
 #pragma once
 
+#include "declarations/function.h"
 #include "shell/kit/routines.h"
 
 #include <QObject>
@@ -7,6 +8,8 @@
 
 #include <functional>
 #include <stdexcept>
+#include <string>
+#include <vector>
 
 class QMenu;
 class QWidget;
@@ -25,6 +28,8 @@ struct FormContext
     /// The borrowed right-click menu of a name; null where there is no main window.
     std::function<QMenu*(const QString&)> popUpMenu = [](const QString&) { return nullptr; };
 
+    FunctionFacts facts{};
+
     /// Shows that menu, if there is one of the name.
     void showMenu(const QString& name, const QPoint& at) const;
 };
@@ -34,6 +39,14 @@ class LoadError : public std::runtime_error
 {
 public:
     using std::runtime_error::runtime_error;
+};
+
+/// A file that is edited by a button or a row of its own.
+struct EditedText
+{
+    std::string file; ///< a told path
+    QWidget* control;
+    int row = -1; ///< of a list; -1 for none
 };
 
 /// A piece of an editor form that loads, restores and saves files of its own. The form owns it and runs the
@@ -58,6 +71,16 @@ public:
     /// Controls to files. Throws StoreError.
     virtual void save() = 0;
 
+    /// Saves what is open in the part and has a SAVE of its own, if anything is. Asks and tells nothing.
+    /// Throws StoreError.
+    virtual void saveOpenFile() {}
+
+    /// Whether that has changes which the form's SAVE doesn't save.
+    virtual bool hasUnsavedFile() const { return false; }
+
+    /// The texts that are edited and saved one by one from here.
+    virtual std::vector<EditedText> editedTexts() { return {}; }
+
     /// What it serves to the borrowed right-click menus.
     virtual RoutineTable routines() { return {}; }
 
@@ -69,6 +92,9 @@ protected:
     void adopt(FormPart& part);
 
 signals:
+    /// What is open and saved by itself came, went or changed.
+    void openFileChanged();
+
     /// The user changed a control.
     void changed();
 

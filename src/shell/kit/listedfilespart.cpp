@@ -61,12 +61,17 @@ ListedFilesPart::ListedFilesPart(ListedFiles files, const FormContext& context, 
       m_widget(sideBySide(below(above, m_nameTools), m_rows->widget()))
 {
     m_rows->setParent(this);
+    m_rows->list().setSavedByItself();
+    m_names->setSelectionMode(QAbstractItemView::SingleSelection); // it tells which file is meant
     m_nameTools->connectButtons(this, {{"NEW", &ListedFilesPart::askName},
                                        {"OPEN", &ListedFilesPart::chooseFile},
                                        {"DELETE", &ListedFilesPart::removeName},
                                        {"EDIT", &ListedFilesPart::openSelected}});
     m_rows->tools().connectButtons(
         this, {{"SAVE", &ListedFilesPart::saveFile}, {"CLOSE", &ListedFilesPart::closeFile}});
+    connect(&rowTool("SAVE"), &QAction::changed, this, &FormPart::openFileChanged);
+    connect(&m_rows->list(), &RowList::countChanged, this, &FormPart::openFileChanged);
+    connect(m_rows->list().model(), &QAbstractItemModel::dataChanged, this, &FormPart::openFileChanged);
 }
 
 void ListedFilesPart::load()
@@ -77,6 +82,11 @@ void ListedFilesPart::load()
 void ListedFilesPart::save()
 {
     m_files.names.save(m_context.files, m_context.profiles, m_names->rows());
+}
+
+bool ListedFilesPart::hasUnsavedFile() const
+{
+    return !m_rows->rows().empty() && rowTool("SAVE").isEnabled();
 }
 
 RoutineTable ListedFilesPart::routines()

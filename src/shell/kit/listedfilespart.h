@@ -16,6 +16,7 @@ public:
     void load() override;
     void restore() override {} ///< the names have no defaults
     void save() override;
+    bool hasUnsavedFile() const override;
     RoutineTable routines() override;
 
 protected:

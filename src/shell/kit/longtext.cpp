@@ -8,6 +8,7 @@
 #include <QPlainTextEdit>
 #include <QRegularExpression>
 #include <QScreen>
+#include <QTextDocument>
 
 #include <algorithm>
 
@@ -63,6 +64,11 @@ QString shownPart(const QString& text)
 QString shownPart(std::string_view bytes)
 {
     return shownPart(fromBytes(bytes.substr(0, mostShown + 1)));
+}
+
+QString toolTipOf(const QString& text)
+{
+    return text.isEmpty() ? QString() : Qt::convertFromPlainText(text, Qt::WhiteSpaceNormal);
 }
 
 bool isLong(const QString& text)

@@ -15,6 +15,9 @@ QString shownPart(const QString& text);
 /// The same of code page bytes.
 QString shownPart(std::string_view bytes);
 
+/// A text for a tool tip: shown to the letter, in lines as wide as tool tips are. Empty for no text.
+QString toolTipOf(const QString& text);
+
 /// Whether a message box would grow beyond the screen with this text, or cut it off.
 bool isLong(const QString& text);
 

@@ -1,5 +1,6 @@
 #include "shell/kit/messages.h"
 
+#include "declarations/listdeclaration.h"
 #include "settings/filename.h"
 #include "shell/kit/codepagetext.h"
 #include "shell/kit/longtext.h"
@@ -42,11 +43,19 @@ QMessageBox::StandardButton show(QWidget* parent, const QString& title, const QS
     return static_cast<QMessageBox::StandardButton>(box.exec());
 }
 
-bool refuse(QWidget* parent, const QString& title, std::string_view name, const std::string& fault)
+std::optional<RowRefusal> nameRefusal(const std::string& title, std::string_view name,
+                                      const std::string& fault)
 {
-    if (!fault.empty())
-        notify(parent, title, fromBytes(name) + "\n\n" + fromBytes(fault), QMessageBox::Warning);
-    return !fault.empty();
+    if (fault.empty())
+        return {};
+    return RowRefusal{title, std::string(name) + "\n\n" + fault};
+}
+
+bool tellIfRefused(QWidget* parent, const std::optional<RowRefusal>& refusal)
+{
+    if (refusal)
+        notify(parent, *refusal);
+    return refusal.has_value();
 }
 
 } // namespace
@@ -66,6 +75,11 @@ bool askYesNo(QWidget* parent, const QString& title, const QString& text)
 void notify(QWidget* parent, const QString& title, const QString& text, QMessageBox::Icon icon)
 {
     show(parent, title, text, icon, QMessageBox::Ok);
+}
+
+void notify(QWidget* parent, const RowRefusal& refusal)
+{
+    notify(parent, fromBytes(refusal.title), fromBytes(refusal.text), QMessageBox::Warning);
 }
 
 FailureWords saving(const QString& what)
@@ -103,14 +117,19 @@ void tellFailure(QWidget* parent, const QString& title, const FailureWords& word
            QMessageBox::Critical);
 }
 
+std::optional<RowRefusal> newFileRefusal(std::string_view name)
+{
+    return nameRefusal("Cannot create file", name, fileNameFault(name));
+}
+
 bool refuseNewFile(QWidget* parent, std::string_view name)
 {
-    return refuse(parent, "Cannot create file", name, fileNameFault(name));
+    return tellIfRefused(parent, newFileRefusal(name));
 }
 
 bool refuseListedFile(QWidget* parent, const QString& title, std::string_view name)
 {
-    return refuse(parent, title, name, leavingNameFault(name));
+    return tellIfRefused(parent, nameRefusal(toBytes(title), name, leavingNameFault(name)));
 }
 
 } // namespace quillfen

@@ -4,6 +4,7 @@
 #include <QString>
 
 #include <functional>
+#include <optional>
 #include <string_view>
 
 class QWidget;
@@ -11,6 +12,7 @@ class QWidget;
 namespace quillfen {
 
 class StoreError;
+struct RowRefusal;
 
 /// A box with OK and Cancel; true for OK. Like every box of ours it shows its text as plain text, and a long
 /// one in a view that scrolls.
@@ -23,6 +25,9 @@ bool askYesNo(QWidget* parent, const QString& title, const QString& text);
 
 /// A box with OK only.
 void notify(QWidget* parent, const QString& title, const QString& text, QMessageBox::Icon icon);
+
+/// Tells why a row is not taken.
+void notify(QWidget* parent, const RowRefusal& refusal);
 
 /// What a box says around the file and the reason of a failed write: what failed, and what to do about it.
 struct FailureWords
@@ -41,6 +46,9 @@ bool attempt(QWidget* parent, const FailureWords& words, const std::function<voi
 
 /// Tells which file or folder could not be written, and why.
 void tellFailure(QWidget* parent, const QString& title, const FailureWords& words, const StoreError& error);
+
+/// Why a name typed for a new file can't be had, or would leave its folder.
+std::optional<RowRefusal> newFileRefusal(std::string_view name);
 
 /// Tells why a name typed for a new file can't be had, or would leave its folder; true if it is refused so.
 bool refuseNewFile(QWidget* parent, std::string_view name);

@@ -6,13 +6,31 @@
 #include "shell/kit/toolbarlist.h"
 
 #include <QAbstractTableModel>
+#include <QApplication>
 #include <QHeaderView>
 #include <QMenu>
+#include <QScrollBar>
+#include <QShortcut>
 #include <QToolButton>
 
 #include <algorithm>
 
 namespace quillfen {
+namespace {
+
+/// A command's word inside a sentence: "TimeBan" is "time ban" there.
+QString spoken(const QString& word)
+{
+    QString text;
+    for (const QChar character : word) {
+        if (character.isUpper() && !text.isEmpty() && text.back().isLower())
+            text += u' ';
+        text += character;
+    }
+    return text.toLower();
+}
+
+} // namespace
 
 /// The cells that pass the filters, each worded as it is painted: 64 profiles make 24,576 rows.
 class PermissionModel : public QAbstractTableModel
@@ -40,6 +58,9 @@ public:
         filter();
     }
 
+    const QString& commandFilter() const { return m_commandFilter; }
+    const QString& profileFilter() const { return m_profileFilter; }
+
     void setCommandFilter(const QString& command)
     {
         m_commandFilter = command;
@@ -54,11 +75,38 @@ public:
 
     bool isAllowed(int row) const { return shown(row).allowed; }
 
-    void toggle(int row)
+    /// Gives rows, which stand in order, one answer.
+    void allow(const std::vector<int>& rows, bool allowed)
     {
-        PermissionCell& cell = m_cells[m_shown[static_cast<std::size_t>(row)]];
-        cell.allowed = !cell.allowed;
-        emit dataChanged(index(row, 0), index(row, columnCount() - 1));
+        for (const int row : rows)
+            m_cells[m_shown[static_cast<std::size_t>(row)]].allowed = allowed;
+        emit dataChanged(index(rows.front(), 0), index(rows.back(), columnCount() - 1));
+    }
+
+    /// A row in words: "Operator may ban VIP: No".
+    QString sentence(int row) const
+    {
+        const PermissionCell& cell = shown(row);
+        const QString command = spoken(m_commands[cell.command]);
+        if (!m_words.targets) // the words of such grids are no verbs
+            return command.left(1).toUpper() + command.mid(1) + " for " + profile(cell.by) + ": " +
+                   answer(cell);
+        QStringList words = {profile(cell.by), "may", command};
+        if (!m_words.targetLink.empty())
+            words.append(fromBytes(m_words.targetLink));
+        words.append(target(cell.on));
+        return words.join(u' ') + ": " + answer(cell);
+    }
+
+    /// What the filters let through; empty where that is everything.
+    QString filterWords() const
+    {
+        QStringList words;
+        if (!m_commandFilter.isEmpty())
+            words.append(m_commandFilter);
+        if (!m_profileFilter.isEmpty())
+            words.append("by " + m_profileFilter);
+        return words.join(u' ');
     }
 
     int rowCount(const QModelIndex& parent = {}) const override
@@ -73,7 +121,16 @@ public:
 
     QVariant data(const QModelIndex& index, int role) const override
     {
-        return role == Qt::DisplayRole ? text(index.row(), index.column()) : QVariant();
+        switch (role) {
+        case Qt::DisplayRole:
+            return text(index.row(), index.column());
+        case WholeText:
+            return wholeText(shown(index.row()), index.column());
+        case Qt::AccessibleTextRole: // blank cells would tell a listener nothing
+            return sentence(index.row());
+        default:
+            return {};
+        }
     }
 
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override
@@ -92,7 +149,7 @@ private:
     const PermissionCell& shown(int row) const { return m_cells[m_shown[static_cast<std::size_t>(row)]]; }
 
     /// A command or profile is named where it is another than in the row above, so that groups can be seen.
-    QString text(int row, int column) const
+    bool isNamed(int row, int column) const
     {
         const PermissionCell& cell = shown(row);
         const PermissionCell* above = row > 0 ? &shown(row - 1) : nullptr;
@@ -100,14 +157,30 @@ private:
         const bool newProfile = newCommand || above->by != cell.by;
         switch (column) {
         case 0:
-            return newCommand || (newProfile && m_words.namesCommandByProfile) ? m_commands[cell.command]
-                                                                               : QString();
+            return newCommand || (newProfile && m_words.namesCommandByProfile);
         case 1:
-            return newProfile ? profile(cell.by) : QString();
+            return newProfile;
         case 2:
-            if (!m_words.targets)
-                return answer(cell);
-            return m_words.namesTarget || !above || above->on != cell.on ? target(cell.on) : QString();
+            return !m_words.targets || m_words.namesTarget || !above || above->on != cell.on;
+        default:
+            return true;
+        }
+    }
+
+    QString text(int row, int column) const
+    {
+        return isNamed(row, column) ? wholeText(shown(row), column) : QString();
+    }
+
+    QString wholeText(const PermissionCell& cell, int column) const
+    {
+        switch (column) {
+        case 0:
+            return m_commands[cell.command];
+        case 1:
+            return profile(cell.by);
+        case 2:
+            return m_words.targets ? target(cell.on) : answer(cell);
         case 3:
             return answer(cell);
         default:
@@ -119,13 +192,13 @@ private:
 
     QString profile(std::size_t row) const { return fromBytes(m_profiles.names()[row]); }
 
-    bool isNamed(std::size_t target) const { return target >= m_profiles.count(); }
+    bool isNoProfile(std::size_t target) const { return target >= m_profiles.count(); }
     QString named(std::size_t target) const { return m_named.at(target - m_profiles.count()); }
-    QString target(std::size_t place) const { return isNamed(place) ? named(place) : profile(place); }
+    QString target(std::size_t place) const { return isNoProfile(place) ? named(place) : profile(place); }
 
     QString keyOf(std::size_t place) const
     {
-        return isNamed(place) ? named(place) : fromBytes(HubProfiles::key(place));
+        return isNoProfile(place) ? named(place) : fromBytes(HubProfiles::key(place));
     }
 
     void filter()
@@ -155,8 +228,38 @@ private:
 
 namespace {
 
+/// A row whose cells leave command and profiles to the rows above it names them where those aren't in sight:
+/// on top of a scrolled grid, and behind rows that a filter hides.
+class GroupNamesDelegate : public RowDelegate
+{
+public:
+    using RowDelegate::RowDelegate;
+
+protected:
+    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override
+    {
+        RowDelegate::initStyleOption(option, index);
+        const auto* list = qobject_cast<const QTreeView*>(option->widget);
+        if (!option->text.isEmpty() || !list || !isFirstInSight(*list, index.row()))
+            return;
+        option->text = index.data(WholeText).toString();
+        option->features |= QStyleOptionViewItem::HasDisplay;
+        option->palette.setBrush(QPalette::Text, option->palette.placeholderText());
+    }
+
+private:
+    static bool isFirstInSight(const QTreeView& list, int row)
+    {
+        return list.indexAt({0, 0}).row() == row || (row > 0 && list.isRowHidden(row - 1, {}));
+    }
+};
+
 /// What tells a command's entry from a profile's: its key begins so.
 const QString commandMark = QStringLiteral("C*");
+
+/// The buttons that take their filter off when they are pressed.
+const QString commandButton = QStringLiteral("COMMAND");
+const QString profileButton = QStringLiteral("PROFILE");
 
 } // namespace
 
@@ -175,6 +278,9 @@ PermissionGridPart::PermissionGridPart(GridSource source, GridWords words, const
       m_tools(new ToolbarList(m_list, {fromBytes(m_words.toolbar), "Permissions"}, {AddEditButton}, context))
 {
     m_list->setModel(m_model);
+    m_list->setItemDelegate(new GroupNamesDelegate(m_list));
+    connect(m_list->verticalScrollBar(), &QScrollBar::valueChanged, m_list->viewport(),
+            qOverload<>(&QWidget::update)); // a scroll paints only what it brings into sight
     fitColumns();
     for (int column = 4; column < m_model->columnCount(); ++column)
         m_list->setColumnHidden(column, true);
@@ -183,7 +289,11 @@ PermissionGridPart::PermissionGridPart(GridSource source, GridWords words, const
         addFilters();
     m_list->setDoubleClickEdits(!m_words.clickToggles);
     if (m_words.clickToggles)
-        connect(m_list, &QTreeView::clicked, this, &PermissionGridPart::toggle);
+        connect(m_list, &QTreeView::clicked, this, &PermissionGridPart::toggleByClick);
+    connect(new QShortcut(Qt::Key_Space, m_list, nullptr, nullptr, Qt::WidgetShortcut), &QShortcut::activated,
+            &m_tools->tool("EDIT"), &QAction::trigger);
+    connect(m_list->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+            &PermissionGridPart::tellRow);
     connect(m_list, &ListView::menuAsked, this, &PermissionGridPart::showMenu);
 }
 
@@ -223,7 +333,7 @@ void PermissionGridPart::addFilters()
         const QString word = fromBytes(command);
         commands->menu()->addAction(word)->setObjectName(commandMark + word);
     }
-    auto* profiles = addFilter(index, "PROFILE", "View By Profile", "profile");
+    auto* profiles = addFilter(index, profileButton, "View By Profile", "profile");
     for (const std::string& name : m_context.profiles.names()) {
         const QString word = fromBytes(name);
         profiles->menu()->addAction(withoutKeys(word))->setObjectName(word);
@@ -251,19 +361,37 @@ void PermissionGridPart::choose(QAction* filter, const QString& entry)
     else
         m_model->setProfileFilter(entry);
     filter->setChecked(true);
+    tellRow();
 }
 
 void PermissionGridPart::release(QAction* filter)
 {
-    if (filter->objectName() == "COMMAND") {
+    if (filter->objectName() == commandButton) {
         m_model->setCommandFilter(QString());
-    } else if (filter->objectName() == "PROFILE") {
+    } else if (filter->objectName() == profileButton) {
         m_model->setProfileFilter(QString());
     } else {
         filter->setChecked(!filter->isChecked()); // the press changes nothing, so it looks as before
         return;
     }
     filter->setChecked(false);
+    tellRow();
+}
+
+GridFilter PermissionGridPart::filter() const
+{
+    GridFilter filter{{}, m_model->profileFilter()};
+    if (button(m_tools->toolbar(), commandButton))
+        filter.command = m_model->commandFilter();
+    return filter;
+}
+
+void PermissionGridPart::setFilter(const GridFilter& filter)
+{
+    if (!filter.command.isEmpty())
+        choose(&m_tools->tool(commandButton), commandMark + filter.command);
+    if (!filter.profile.isEmpty())
+        choose(&m_tools->tool(profileButton), filter.profile);
 }
 
 void PermissionGridPart::load()
@@ -279,6 +407,7 @@ void PermissionGridPart::save()
 void PermissionGridPart::show(std::vector<PermissionCell> cells)
 {
     m_model->setCells(std::move(cells));
+    tellRow();
 }
 
 const std::vector<PermissionCell>& PermissionGridPart::cells() const
@@ -295,11 +424,38 @@ RoutineTable PermissionGridPart::routines()
 
 void PermissionGridPart::toggle()
 {
-    const int row = m_list->currentRow();
-    if (row < 0)
+    const std::vector<int> rows = m_list->selectedRows();
+    if (rows.empty())
         return;
-    m_model->toggle(row);
+    m_model->allow(rows, !m_model->isAllowed(rows.front()));
+    tellRow();
     emit changed();
+}
+
+/// A click with Shift or Ctrl chooses rows.
+void PermissionGridPart::toggleByClick()
+{
+    if ((QApplication::keyboardModifiers() & (Qt::ShiftModifier | Qt::ControlModifier)) == 0)
+        toggle();
+}
+
+void PermissionGridPart::tellRow()
+{
+    QStringList said;
+    if (const QString row = rowSentence(); !row.isEmpty())
+        said.append(row);
+    if (const QString filter = m_model->filterWords(); !filter.isEmpty())
+        said.append("shown: " + filter);
+    emit note(said.join("; "));
+}
+
+QString PermissionGridPart::rowSentence() const
+{
+    const std::vector<int> rows = m_list->selectedRows();
+    if (rows.empty())
+        return {};
+    const QString first = m_model->sentence(rows.front());
+    return rows.size() == 1 ? first : QString("%1 rows, the first: %2").arg(rows.size()).arg(first);
 }
 
 void PermissionGridPart::showMenu(const QPoint& at, bool onRow)

@@ -12,8 +12,17 @@ class ListView;
 class PermissionModel;
 class ToolbarList;
 
+/// What a grid shows of its rows; empty: all.
+struct GridFilter
+{
+    QString command{};
+    QString profile{};
+};
+
 /// A permission grid: one row per command, acting profile and target profile, toggled between yes and no, and
-/// filtered by command and by acting profile. What a filter hides is saved all the same.
+/// filtered by command and by acting profile. What a filter hides is saved all the same. Of several selected
+/// rows each gets the answer that a toggle gives to the first. The second status panel tells the first in a
+/// sentence.
 class PermissionGridPart : public FormPart
 {
     Q_OBJECT
@@ -32,6 +41,10 @@ public:
     void show(std::vector<PermissionCell> cells);
     const std::vector<PermissionCell>& cells() const;
 
+    /// What is filtered now, as far as a press of the filter's button takes it off again.
+    GridFilter filter() const;
+    void setFilter(const GridFilter& filter);
+
     ToolbarList& tools() const { return *m_tools; }
 
 private:
@@ -40,6 +53,9 @@ private:
     void choose(QAction* filter, const QString& entry);
     void release(QAction* filter);
     void toggle();
+    void toggleByClick();
+    void tellRow();
+    QString rowSentence() const;
     void showMenu(const QPoint& at, bool onRow);
     void fitColumns();
 

@@ -1,9 +1,15 @@
 #include "shell/kit/rowlist.h"
 
+#include "shell/kit/codepagetext.h"
 #include "shell/kit/longtext.h"
 
 #include <QAbstractTableModel>
+#include <QAction>
+#include <QContextMenuEvent>
 #include <QHeaderView>
+#include <QKeyEvent>
+#include <QMenu>
+#include <QMetaMethod>
 
 #include <algorithm>
 
@@ -82,8 +88,12 @@ public:
         const auto column = static_cast<std::size_t>(index.column());
         if (role == Qt::DisplayRole)
             return column < row.cells.size() ? shownPart(row.cells[column]) : QString();
+        if (role == WholeText)
+            return column < row.cells.size() ? fromBytes(row.cells[column]) : QString();
         if (role == Qt::CheckStateRole && m_ticks && column == 0)
             return row.checked ? Qt::Checked : Qt::Unchecked;
+        if (role == Qt::AccessibleDescriptionRole)
+            return m_list.signOf(index.row());
         if (role == Qt::FontRole && row.bold) {
             QFont font = m_list.font();
             font.setBold(true);
@@ -129,6 +139,8 @@ RowList::RowList(const QString& name, const QStringList& columns, bool ticks, QW
     setModel(m_rows);
     header()->setVisible(!columns.isEmpty());
     header()->setDefaultSectionSize(fontMetrics().averageCharWidth() * 24);
+    if (ticks)
+        addTickActions();
     connect(m_rows, &QAbstractItemModel::modelReset, this, &RowList::countChanged);
     connect(m_rows, &QAbstractItemModel::rowsInserted, this, &RowList::countChanged);
     connect(m_rows, &QAbstractItemModel::rowsRemoved, this, &RowList::countChanged);
@@ -157,6 +169,77 @@ void RowList::replace(int row, CellRow cells)
 void RowList::remove(int row)
 {
     m_rows->removeRows(row, 1);
+}
+
+void RowList::addTickActions()
+{
+    const auto add = [this](const char* name, const QString& text, const QKeySequence& keys,
+                            const std::function<bool(const CellRow&)>& ticked) {
+        auto* action = new QAction(text, this);
+        action->setObjectName(name);
+        action->setShortcut(keys);
+        action->setShortcutContext(Qt::WidgetShortcut);
+        connect(action, &QAction::triggered, this, [this, ticked] { tick(shownRows(), ticked); });
+        addAction(action);
+        m_tickActions.append(action);
+    };
+    add("TickAll", "&All", Qt::CTRL | Qt::Key_A, [](const CellRow&) { return true; });
+    add("TickNone", "&None", Qt::CTRL | Qt::SHIFT | Qt::Key_A, [](const CellRow&) { return false; });
+    add("TickInvert", "&Invert", Qt::CTRL | Qt::Key_I, [](const CellRow& row) { return !row.checked; });
+}
+
+void RowList::setTicksTogether(bool together)
+{
+    for (QAction* action : m_tickActions)
+        action->setEnabled(together);
+}
+
+/// Ticks or unticks rows as each row tells; those that are so already haven't changed.
+void RowList::tick(const std::vector<int>& rows, const std::function<bool(const CellRow&)>& ticked)
+{
+    for (const int row : rows) {
+        const CellRow& each = m_rows->rows()[static_cast<std::size_t>(row)];
+        const bool on = ticked(each);
+        if (on != each.checked)
+            m_rows->setData(m_rows->index(row, 0), on ? Qt::Checked : Qt::Unchecked, Qt::CheckStateRole);
+    }
+}
+
+/// Space gives several selected rows the tick that the first one gets.
+void RowList::keyPressEvent(QKeyEvent* event)
+{
+    const std::vector<int> selected = selectedRows();
+    if (event->key() != Qt::Key_Space || event->modifiers() != Qt::NoModifier || selected.size() < 2 ||
+        m_tickActions.isEmpty() || !m_tickActions.first()->isEnabled()) {
+        ListView::keyPressEvent(event);
+        return;
+    }
+    const bool on = !rows()[static_cast<std::size_t>(selected.front())].checked;
+    tick(selected, [on](const CellRow&) { return on; });
+}
+
+void RowList::contextMenuEvent(QContextMenuEvent* event)
+{
+    ListView::contextMenuEvent(event);
+    const bool hasMenu = isSignalConnected(QMetaMethod::fromSignal(&ListView::menuAsked));
+    if (hasMenu || m_tickActions.isEmpty() || !m_tickActions.first()->isEnabled())
+        return;
+    auto* menu = new QMenu(this);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    menu->addActions(m_tickActions);
+    menu->popup(event->globalPos());
+}
+
+/// Run by run from the last, as those before it keep their places.
+void RowList::remove(const std::vector<int>& rows)
+{
+    for (std::size_t end = rows.size(); end > 0;) {
+        std::size_t begin = end - 1;
+        while (begin > 0 && rows[begin - 1] + 1 == rows[begin])
+            --begin;
+        m_rows->removeRows(rows[begin], static_cast<int>(end - begin));
+        end = begin;
+    }
 }
 
 void RowList::move(int row, int place)

@@ -3,6 +3,7 @@
 #include "shell/kit/codepagetext.h"
 #include "shell/kit/labels.h"
 #include "shell/kit/messages.h"
+#include "shell/kit/pastedrows.h"
 #include "shell/kit/rowlist.h"
 #include "shell/kit/toolbarlist.h"
 
@@ -37,6 +38,18 @@ std::vector<ToolbarBuilder> buildersOf(const RowListDeclaration& list, const Row
     return {list.dialog.addTitle.empty() ? AddEditButton : BuildListToolbar};
 }
 
+/// What belongs into an empty list, and which button puts it there.
+QString emptyTextOf(const RowListDeclaration& list, const QToolBar& toolbar)
+{
+    QStringList sentences(fromBytes(list.explanation));
+    if (button(toolbar, "OPEN"))
+        sentences.append("Open reads the rows of the file.");
+    else if (const auto* add = button(toolbar, "NEW"))
+        sentences.append(add->toolTip() + ": the first button, or the Insert key.");
+    sentences.removeAll(QString());
+    return sentences.join('\n');
+}
+
 } // namespace
 
 RowListPart::RowListPart(RowListDeclaration declaration, const FormContext& context, RowListHooks hooks)
@@ -54,6 +67,7 @@ RowListPart::RowListPart(RowListDeclaration declaration, const FormContext& cont
     for (int hidden = 1; hidden <= m_declaration.hiddenColumns; ++hidden)
         m_list->setColumnHidden(columns - hidden, true);
     tellInToolTips();
+    m_list->setEmptyText(emptyTextOf(m_declaration, m_tools->toolbar()));
     if (!m_declaration.remark.empty())
         m_tools->addRemark(fromBytes(m_declaration.remark));
     if (m_movement)
@@ -64,6 +78,8 @@ RowListPart::RowListPart(RowListDeclaration declaration, const FormContext& cont
     connect(m_list, &RowList::tickChanged, this, &FormPart::changed);
     if (m_hooks.rowsLightButtons)
         m_tools->letRowsLightButtons();
+    if (m_hooks.takesText && !m_declaration.dialog.addTitle.empty() && button(m_tools->toolbar(), "NEW"))
+        letRowsBePasted();
 }
 
 QWidget* RowListPart::widget()
@@ -87,13 +103,16 @@ void RowListPart::buildMovement()
     m_list->addActions(m_movement->actions());
     m_list->setSelectsFirst(false); // the buttons tell by their states whether a row is selected
     connectButton(*m_movement, "MoveTop", this, [this] { moveSelected(0); });
-    connectButton(*m_movement, "MoveUp", this, [this] { moveSelected(m_list->currentRow() - 1); });
-    connectButton(*m_movement, "MoveDown", this, [this] { moveSelected(m_list->currentRow() + 1); });
+    connectButton(*m_movement, "MoveUp", this,
+                  [this] { moveSelected(m_list->shownRow(m_list->currentRow(), -1)); });
+    connectButton(*m_movement, "MoveDown", this,
+                  [this] { moveSelected(m_list->shownRow(m_list->currentRow(), 1)); });
     connectButton(*m_movement, "MoveBottom", this,
                   [this] { moveSelected(static_cast<int>(m_list->rows().size()) - 1); });
     connect(m_list->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &RowListPart::followSelection);
     connect(m_list, &RowList::countChanged, this, &RowListPart::followSelection);
+    connect(m_list, &RowList::filterChanged, this, &RowListPart::followSelection);
     followSelection();
 }
 
@@ -126,11 +145,44 @@ RowDialog RowListPart::dialog() const
 void RowListPart::add()
 {
     addRows(m_list, requestOf(dialog()), [this](const std::vector<std::string>& fields) {
-        const CellRow empty{std::vector<std::string>(std::max(m_declaration.columns.size(), fields.size()))};
-        CellRow row = taken(fields, empty);
+        CellRow row = newRow(fields);
         if (mayTake(row, nullptr))
             append(std::move(row));
     });
+}
+
+CellRow RowListPart::newRow(const std::vector<std::string>& fields) const
+{
+    return taken(fields, {std::vector<std::string>(std::max(m_declaration.columns.size(), fields.size()))});
+}
+
+/// A row is copied as its dialog's fields, so that what is copied can be pasted.
+void RowListPart::letRowsBePasted()
+{
+    m_list->setCopiedCells([this](int row) {
+        std::vector<std::string> fields = fieldsOf(rows()[static_cast<std::size_t>(row)]);
+        fields.resize(inputsOf(m_declaration.dialog.form).size()); // a row may hold more than its dialog
+        return texts(fields);
+    });
+    connect(m_list, &RowList::pasteAsked, this, &RowListPart::paste);
+}
+
+void RowListPart::paste()
+{
+    if (!m_tools->tool("NEW").isEnabled())
+        return;
+    const bool isTaken =
+        pasteRows(m_list, requestOf(dialog()), [this](const std::vector<std::string>& fields) {
+            CellRow row = newRow(fields);
+            const auto refused = refusalOf(row, nullptr);
+            if (!refused)
+                m_list->append(std::move(row));
+            return refused ? refused->text : std::string();
+        });
+    if (!isTaken)
+        return;
+    m_list->select(static_cast<int>(m_list->rows().size()) - 1);
+    touch();
 }
 
 void RowListPart::append(CellRow row)
@@ -173,8 +225,13 @@ EditRequest RowListPart::editRequest(const CellRow& row) const
     request.title = m_declaration.editTitleOf ? m_declaration.editTitleOf(row) : offered.editTitle;
     if (m_declaration.labelsOf)
         request.labels = m_declaration.labelsOf(row);
-    request.values = m_declaration.fieldsOf ? m_declaration.fieldsOf(row) : row.cells;
+    request.values = fieldsOf(row);
     return request;
+}
+
+std::vector<std::string> RowListPart::fieldsOf(const CellRow& row) const
+{
+    return m_declaration.fieldsOf ? m_declaration.fieldsOf(row) : row.cells;
 }
 
 /// The row with what was typed into the fields.
@@ -187,11 +244,16 @@ CellRow RowListPart::taken(const std::vector<std::string>& fields, CellRow row) 
     return row;
 }
 
+std::optional<RowRefusal> RowListPart::refusalOf(const CellRow& row, const CellRow* before) const
+{
+    auto refused = m_declaration.refusal ? m_declaration.refusal(rows(), row, before) : std::nullopt;
+    return refused || !m_hooks.refusal ? refused : m_hooks.refusal(row, before);
+}
+
 bool RowListPart::mayTake(const CellRow& row, const CellRow* before)
 {
-    const auto refused = m_declaration.refusal ? m_declaration.refusal(rows(), row, before) : std::nullopt;
-    if (refused) {
-        notify(m_list, fromBytes(refused->title), fromBytes(refused->text), QMessageBox::Warning);
+    if (const auto refused = refusalOf(row, before)) {
+        notify(m_list, *refused);
         return false;
     }
     return !m_hooks.accept || m_hooks.accept(m_list, row, before);
@@ -208,27 +270,45 @@ void RowListPart::touch()
 void RowListPart::removeSelected()
 {
     const bool isOnly = m_list->rows().size() == 1; // then it is clear which, also when none is selected
-    const int at = isOnly ? 0 : m_list->currentRow();
-    if (at < 0 || !mayDelete(m_list->rows()[static_cast<std::size_t>(at)]))
+    const std::vector<int> selected = isOnly ? m_list->shownRows() : m_list->selectedRows();
+    if (selected.empty() || !mayDelete(selected))
         return;
-    m_list->remove(at);
-    if (m_declaration.selectsFirst)
-        m_list->select(0);
+    const std::vector<int> gone = released(selected);
+    if (gone.empty())
+        return;
+    m_list->remove(gone);
+    if (const int first = m_list->shownRow(-1, 1); m_declaration.selectsFirst && first >= 0)
+        m_list->select(first);
     touch();
 }
 
-bool RowListPart::mayDelete(const CellRow& row)
+/// Asks once, however many rows are to go; all of them go or, where one of them may not, none.
+bool RowListPart::mayDelete(const std::vector<int>& selected)
 {
     const DeleteWords& words = m_declaration.deletion;
-    std::string refused = m_hooks.refuse ? m_hooks.refuse(row) : std::string();
-    if (refused.empty() && m_list->rows().size() == 1)
+    std::string refused;
+    for (const int row : selected) {
+        if (m_hooks.refuse && refused.empty())
+            refused = m_hooks.refuse(rows()[static_cast<std::size_t>(row)]);
+    }
+    if (refused.empty() && selected.size() == rows().size())
         refused = words.minimum;
     if (!refused.empty()) {
         notify(m_list, "Cannot delete", fromBytes(refused), QMessageBox::Critical);
         return false;
     }
-    return confirm(m_list, fromBytes(words.title), fromBytes(words.text)) &&
-           (!m_hooks.release || m_hooks.release(m_list, row));
+    return confirm(m_list, fromBytes(words.title), fromBytes(words.text));
+}
+
+/// Those of the rows, up to the first that has to stay, whose belongings could be let go.
+std::vector<int> RowListPart::released(const std::vector<int>& selected)
+{
+    if (!m_hooks.release)
+        return selected;
+    const auto stays = [this](int row) {
+        return !m_hooks.release(m_list, rows()[static_cast<std::size_t>(row)]);
+    };
+    return {selected.begin(), std::find_if(selected.begin(), selected.end(), stays)};
 }
 
 void RowListPart::moveSelected(int place)
@@ -239,14 +319,17 @@ void RowListPart::moveSelected(int place)
     touch();
 }
 
+/// One row is moved at a time, and over those that a filter hides to the next in sight.
 void RowListPart::followSelection()
 {
-    const int row = m_list->currentRow();
+    const std::vector<int> selected = m_list->selectedRows();
+    const bool isOne = selected.size() == 1;
+    const int row = isOne ? selected.front() : -1;
     const int last = static_cast<int>(m_list->rows().size()) - 1;
-    for (const char* key : {"MoveTop", "MoveUp"})
-        button(*m_movement, key)->setEnabled(row > 0);
-    for (const char* key : {"MoveDown", "MoveBottom"})
-        button(*m_movement, key)->setEnabled(row >= 0 && row < last);
+    button(*m_movement, "MoveTop")->setEnabled(row > 0);
+    button(*m_movement, "MoveUp")->setEnabled(isOne && m_list->shownRow(row, -1) >= 0);
+    button(*m_movement, "MoveDown")->setEnabled(isOne && m_list->shownRow(row, 1) >= 0);
+    button(*m_movement, "MoveBottom")->setEnabled(isOne && row < last);
 }
 
 const std::vector<CellRow>& RowListPart::rows() const

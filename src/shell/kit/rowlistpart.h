@@ -25,9 +25,15 @@ struct RowListHooks
     /// The dialog as it is offered at this moment.
     std::function<RowDialog(RowDialog)> offer{};
 
-    /// Whether a row is taken after all; `before` is the row that was edited, null where one is added. Boxes
-    /// and dialogs show over `parent`.
+    /// Why a row is not taken, beyond what its list declares; `before` is the row that was edited, null where
+    /// one is added.
+    std::function<std::optional<RowRefusal>(const CellRow& row, const CellRow* before)> refusal{};
+
+    /// Whether a row is taken after all. Boxes and dialogs show over `parent`.
     std::function<bool(QWidget* parent, const CellRow& row, const CellRow* before)> accept{};
+
+    /// Off where a row is more than its texts, so that none can be pasted.
+    bool takesText = true;
 
     /// Why a row can't go, told before anything is asked; empty if it can.
     std::function<std::string(const CellRow&)> refuse{};
@@ -79,8 +85,14 @@ private:
     RowDialog dialog() const;
     EditRequest editRequest(const CellRow& row) const;
     CellRow taken(const std::vector<std::string>& fields, CellRow row) const;
+    std::optional<RowRefusal> refusalOf(const CellRow& row, const CellRow* before) const;
     bool mayTake(const CellRow& row, const CellRow* before);
-    bool mayDelete(const CellRow& row);
+    CellRow newRow(const std::vector<std::string>& fields) const;
+    void letRowsBePasted();
+    void paste();
+    bool mayDelete(const std::vector<int>& selected);
+    std::vector<int> released(const std::vector<int>& selected);
+    std::vector<std::string> fieldsOf(const CellRow& row) const;
     void touch();
 
     RowListDeclaration m_declaration;

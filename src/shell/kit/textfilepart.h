@@ -22,6 +22,7 @@ public:
     void load() override {}
     void restore() override {}
     void save() override {}
+    std::vector<EditedText> editedTexts() override { return {{m_path, widget()}}; }
 
 private:
     void edit();

@@ -3,6 +3,7 @@
 #include "shell/kit/labels.h"
 #include "shell/kit/listview.h"
 
+#include <QShortcut>
 #include <QVBoxLayout>
 
 namespace quillfen {
@@ -27,6 +28,8 @@ ToolbarList::ToolbarList(ListView* list, const ToolbarListNames& names,
 
     connect(m_list, &ListView::editAsked, this, [this, key = names.activates] { press(key); });
     connect(m_list, &ListView::deleteAsked, this, [this] { press("DELETE"); });
+    addKey(Qt::Key_F2, "EDIT");
+    addKey(Qt::Key_Insert, "NEW");
     if (!m_menu.isEmpty())
         connect(m_list, &ListView::menuAsked, this,
                 [this, context](const QPoint& at) { context.showMenu(m_menu, at); });
@@ -42,6 +45,12 @@ void ToolbarList::press(const QString& key)
     auto* pressed = key.isEmpty() ? nullptr : button(*m_toolbar, key);
     if (pressed)
         pressed->trigger();
+}
+
+void ToolbarList::addKey(Qt::Key pressed, const QString& key)
+{
+    connect(new QShortcut(pressed, m_list, nullptr, nullptr, Qt::WidgetShortcut), &QShortcut::activated, this,
+            [this, key] { press(key); });
 }
 
 void ToolbarList::letRowsLightButtons()

@@ -25,8 +25,8 @@ struct ToolbarListNames
     QString activates = "EDIT"; ///< the button that a double click or Enter presses; empty: none
 };
 
-/// A list below its toolbar. Its keys, its double clicks and its borrowed menu press the buttons, so that
-/// they do no more than those.
+/// A list below its toolbar. Its keys (F2 edits, Insert adds), its double clicks and its borrowed menu press
+/// the buttons, so that they do no more than those.
 class ToolbarList : public QWidget
 {
     Q_OBJECT
@@ -63,6 +63,7 @@ public:
 
 private:
     void press(const QString& key);
+    void addKey(Qt::Key pressed, const QString& key);
     void followRows();
 
     ListView* m_list;

@@ -199,7 +199,8 @@ void BuildMovementToolbar(QToolBar& toolbar, int& index)
         auto* action = addButton(toolbar, index, key, toolTip, icon);
         action->setShortcut(QKeySequence(Qt::ALT | pressed));
         action->setShortcutContext(Qt::WidgetShortcut);
-        action->setToolTip(toolTip);
+        action->setToolTip(QString(toolTip) + " (" + action->shortcut().toString(QKeySequence::NativeText) +
+                           ')');
     };
     addMove("MoveTop", "Move to the top", "movetop", Qt::Key_Home);
     addMove("MoveUp", "Move up", "moveup", Qt::Key_Up);

@@ -1,15 +1,20 @@
 #include "shell/window/mainwindow.h"
 
+#include "declarations/oddfiles.h"
 #include "settings/lines.h"
 #include "settings/tablefile.h"
 #include "shell/icons/icons.h"
 #include "shell/kit/codepagetext.h"
+#include "shell/kit/formadvice.h"
 #include "shell/kit/hourglass.h"
+#include "shell/kit/listview.h"
 #include "shell/kit/messages.h"
 #include "shell/kit/toolbars.h"
 #include "shell/kit/units.h"
 #include "shell/window/aboutbox.h"
+#include "shell/window/changedicon.h"
 #include "shell/window/filewatch.h"
+#include "shell/window/guide.h"
 #include "shell/window/navigator.h"
 #include "shell/window/popupmenus.h"
 #include "shell/window/rootmenu.h"
@@ -19,15 +24,18 @@
 
 #include <QCloseEvent>
 #include <QDesktopServices>
+#include <QLabel>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMenuBar>
+#include <QScopedValueRollback>
 #include <QScreen>
 #include <QScrollBar>
 #include <QSplitter>
 #include <QStatusBar>
 #include <QStyle>
 #include <QUrl>
+#include <QVBoxLayout>
 
 #include <algorithm>
 #include <utility>
@@ -38,7 +46,7 @@ namespace {
 /// No routine writes this switch: the owner puts it into the file by hand.
 bool isPortalOn(const SettingsFiles& files)
 {
-    return isOne(files.ReadTableValue(R"(General\Globals\Switches.tbl)", "bPortal"));
+    return isOne(files.ReadTableValue(switchesPath, "bPortal"));
 }
 
 QAction* addItem(QMenu& menu, const QString& name, const QString& caption)
@@ -123,7 +131,10 @@ MainWindow::MainWindow(const ProgramInfo& program, const FormContext& context, c
 
     const bool portalShown = isPortalOn(context.files);
     addToolbar(portalShown);
-    m_navigator = new Navigator(m_table, portalShown);
+    m_finder.setPortalShown(portalShown);
+    m_navigator = new Navigator(m_table, m_finder, portalShown);
+    connect(m_navigator, &Navigator::found, this, &MainWindow::openFound);
+    connect(m_rootMenu, &RootMenu::findingChosen, this, &MainWindow::goToFinding);
     connect(m_navigator, &Navigator::rootMenuAsked, m_rootMenu, &RootMenu::popUp);
     connect(m_navigator, &Navigator::chosen, this, [this] { OpenFunctionForm(QString()); });
     buildMenus();
@@ -132,6 +143,7 @@ MainWindow::MainWindow(const ProgramInfo& program, const FormContext& context, c
     m_area->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     m_area->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     connect(m_area, &QMdiArea::subWindowActivated, this, &MainWindow::formActivated);
+    showHowToBegin();
     auto* splitter = new QSplitter;
     splitter->addWidget(m_navigator);
     splitter->addWidget(m_area);
@@ -166,6 +178,30 @@ void MainWindow::offerVersions(History& history)
     m_rootMenu->offerVersions(history);
 }
 
+void MainWindow::offerCheck(SettingsCheck check)
+{
+    m_rootMenu->offerCheck(std::move(check));
+}
+
+void MainWindow::goToFinding(const QString& node, const Finding& finding)
+{
+    OpenFunctionForm(node);
+    activateWindow();
+    if (auto* form = activeForm(); form && form->advice())
+        form->advice()->goTo(finding);
+}
+
+void MainWindow::goToRow(const QString& node, const QString& list, const QString& row)
+{
+    OpenFunctionForm(node);
+    auto* view = activeForm()->findChild<ListView*>(list);
+    if (!view)
+        return;
+    const auto found = view->model()->match(view->model()->index(0, 0), Qt::DisplayRole, row, 1,
+                                            Qt::MatchExactly | Qt::MatchCaseSensitive);
+    activeForm()->goTo(*view, found.isEmpty() ? -1 : found.constFirst().row());
+}
+
 QList<EditorForm*> MainWindow::openForms() const
 {
     QList<EditorForm*> forms;
@@ -186,16 +222,30 @@ void MainWindow::followFiles()
     m_fileWatch->follow(files);
 }
 
+void MainWindow::showHowToBegin()
+{
+    m_howToBegin =
+        new QLabel("Choose a function in the tree to open its form,\nor press Ctrl+F and type a word of "
+                   "what you look for.");
+    m_howToBegin->setObjectName("lblHowToBegin");
+    m_howToBegin->setTextFormat(Qt::PlainText);
+    m_howToBegin->setAlignment(Qt::AlignCenter);
+    m_howToBegin->setWordWrap(true);
+    m_howToBegin->setForegroundRole(QPalette::PlaceholderText);
+    auto* layout = new QVBoxLayout(m_area->viewport());
+    layout->addWidget(m_howToBegin);
+}
+
 /// What is written outside of a form's save, a text or a deletion, is the active form's doing.
 void MainWindow::followStore()
 {
     StoreListener listener;
     listener.cause = [this] {
-        const auto* form = activeForm();
+        const auto* form = writingForm();
         return Cause{form ? form->caption().toStdString() : m_program.product.toStdString()};
     };
     listener.versionKept = [this](const std::string& fault) {
-        if (auto* form = activeForm())
+        if (auto* form = writingForm())
             form->tellVersionFault(QString::fromStdString(fault));
     };
     m_context.files.store().hear(std::move(listener));
@@ -249,7 +299,26 @@ void MainWindow::OpenFunctionForm(const QString& key)
     EditorForm* form = formOf(wanted);
     if (form && !m_openWindows.contains(wanted) && !(fromTree && m_navigator->headingSelected()))
         m_openWindows.Add(wanted);
+    if (form)
+        m_navigator->noteOpened(m_table.keyOfForm(form->objectName()));
     m_windowMenu->RebuildWindowMenu(m_openWindows);
+}
+
+/// A text that has an editor of its own is opened by a button, which is as far as we go.
+void MainWindow::openFound(const QString& key, const QString& control, int row)
+{
+    OpenFunctionForm(key);
+    auto* form = activeForm();
+    if (!form)
+        return;
+    if (auto* entry = entryOf(*form))
+        entry->setFocus(Qt::OtherFocusReason);
+    if (control.isEmpty())
+        return;
+    if (const auto* toolbar = form->findChild<QToolBar*>(control))
+        form->goTo(*toolbar->widgetForAction(toolbar->actions().constFirst()));
+    else
+        form->goTo(control, row);
 }
 
 EditorForm* MainWindow::formOf(const QString& key)
@@ -281,17 +350,27 @@ QMdiSubWindow* MainWindow::subWindowOf(const QString& name) const
 void MainWindow::showForm(EditorForm* form)
 {
     auto* before = m_area->currentSubWindow();
-    const bool maximised = before && before->isMaximized();
+    const bool maximised = before ? before->isMaximized() : m_places.wasMaximised(form->objectName());
     form->open();
-    if (maximised)
+    if (before && maximised)
         before->showNormal(); // else Qt hands its state on to the new window before that has got its size
+    delete m_howToBegin;
+    delete m_area->viewport()->layout();
     auto* window = m_area->addSubWindow(form);
     connect(form, &EditorForm::loaded, this, &MainWindow::followFiles);
+    connect(form, &EditorForm::guideAsked, this, [this](const QString& name) {
+        openGuide(m_program, guidePage(m_table, m_table.keyOfForm(name)), this);
+    });
+    if (form->advice())
+        connect(form->advice(), &FormAdvice::elsewhereAsked, this, &MainWindow::goToRow);
     followFiles();
     window->setWindowIcon(themedIcon("quillfen"));
+    connect(form, &EditorForm::dirtyChanged, this, [this, form] { showChanged(*form, form->isDirty()); });
     window->setAttribute(Qt::WA_DeleteOnClose);
-    connect(form, &EditorForm::closed, this,
-            [this, form] { FindOpenWindow(form->tag().isEmpty() ? form->caption() : form->tag()); });
+    connect(form, &EditorForm::closed, this, [this, form] {
+        showChanged(*form, false);
+        FindOpenWindow(form->tag().isEmpty() ? form->caption() : form->tag());
+    });
     const int caption =
         window->fontMetrics().horizontalAdvance(form->caption()) + twips(2400); // and its buttons
     window->resize(window->sizeHint()
@@ -299,9 +378,20 @@ void MainWindow::showForm(EditorForm* form)
                        .boundedTo(m_area->viewport()->size()) // what is more scrolls inside
                        .expandedTo(window->minimumSizeHint()));
     window->show();
+    m_places.putBack(*window);
+    m_places.follow(*window);
     if (maximised)
         window->showMaximized();
     bringIntoSight(*window, *m_area);
+}
+
+void MainWindow::showChanged(const EditorForm& form, bool isChanged)
+{
+    const QIcon icon = themedIcon("quillfen");
+    const QString key = m_table.keyOfForm(form.objectName());
+    form.parentWidget()->setWindowIcon(isChanged ? withChangedDot(icon) : icon);
+    m_navigator->markChanged(key, isChanged);
+    m_windowMenu->markChanged(key, isChanged);
 }
 
 void MainWindow::bringForward(QMdiSubWindow& window)
@@ -350,11 +440,30 @@ void MainWindow::addKeys()
     };
     add(QKeySequence::keyBindings(QKeySequence::Find), [this] { findFunction(); });
     // Qt's own goes there when Ctrl is let go, and tells of it by a frame that other forms hide.
-    add(QKeySequence::keyBindings(QKeySequence::NextChild), [this] { m_area->activateNextSubWindow(); });
-    add(QKeySequence::keyBindings(QKeySequence::PreviousChild),
+    add(QKeySequence::keyBindings(QKeySequence::NextChild) + QList<QKeySequence>{Qt::CTRL | Qt::Key_PageDown},
+        [this] { m_area->activateNextSubWindow(); });
+    add(QKeySequence::keyBindings(QKeySequence::PreviousChild) +
+            QList<QKeySequence>{Qt::CTRL | Qt::Key_PageUp},
         [this] { m_area->activatePreviousSubWindow(); });
+    add({Qt::CTRL | Qt::SHIFT | Qt::Key_S}, [this] { saveAll(); });
     add({Qt::Key_F6}, [this] { goToPane(1); });
     add({Qt::SHIFT | Qt::Key_F6}, [this] { goToPane(-1); });
+}
+
+/// Each form tells what it has to tell, and what one couldn't save keeps no other from it.
+void MainWindow::saveAll()
+{
+    EditorForm* unsaved = nullptr;
+    for (auto* form : openForms()) {
+        if (!form->isDirty())
+            continue;
+        const QScopedValueRollback saved(m_saved, form);
+        form->save();
+        if (form->isDirty() && !unsaved)
+            unsaved = form;
+    }
+    if (unsaved)
+        bringForward(*subWindowOf(unsaved->objectName()));
 }
 
 void MainWindow::goToPane(int step)

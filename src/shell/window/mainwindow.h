@@ -1,6 +1,8 @@
 #pragma once
 
 #include "shell/kit/declaredforms.h"
+#include "shell/window/finder.h"
+#include "shell/window/formplaces.h"
 #include "shell/window/navigatortable.h"
 #include "shell/window/openwindows.h"
 #include "shell/window/programinfo.h"
@@ -9,12 +11,15 @@
 #include <QMainWindow>
 #include <QPointer>
 
+class QLabel;
 class QMdiArea;
 class QMdiSubWindow;
 class QToolBar;
 
 namespace quillfen {
 
+struct Finding;
+struct SettingsCheck;
 class FileWatch;
 class History;
 class Navigator;
@@ -42,6 +47,9 @@ public:
     /// From now on offers the earlier versions of the settings.
     void offerVersions(History& history);
 
+    /// From now on offers the check of all settings.
+    void offerCheck(SettingsCheck check);
+
     const COpenWindows& openWindows() const { return m_openWindows; }
 
     /// The borrowed right-click menu of a name.
@@ -54,15 +62,21 @@ private:
     void buildMenus();
     void followStore();
     void followFiles();
+    void showHowToBegin();
     QList<EditorForm*> openForms() const;
     void addToolbar(bool portalShown);
+    void showChanged(const EditorForm& form, bool isChanged);
+    void goToFinding(const QString& node, const Finding& finding);
+    void goToRow(const QString& node, const QString& list, const QString& row);
     EditorForm* formOf(const QString& key);
+    void openFound(const QString& key, const QString& control, int row);
     QMdiSubWindow* subWindowOf(const QString& name) const;
     void showForm(EditorForm* form);
     void bringForward(QMdiSubWindow& window);
     void formActivated(QMdiSubWindow* window);
     void addKeys();
     void goToPane(int step);
+    void saveAll();
     void FindOpenWindow(const QString& caption);
     void ToggleSideBar();
     void findFunction();
@@ -71,15 +85,20 @@ private:
     void openDonationPage() { openWebPage("scripts/donate/" + m_program.word + '/'); }
     void openWebPage(const QString& path);
     EditorForm* activeForm() const;
+    EditorForm* writingForm() const { return m_saved ? m_saved : activeForm(); }
 
     ProgramInfo m_program;
     NavigatorTable m_table;
     FormContext m_context;
     QHash<QString, FormDeclaration> m_forms;
+    Finder m_finder{m_table, m_forms, m_context};
     PartMakers m_makers;
     COpenWindows m_openWindows;
     Navigator* m_navigator;
     QMdiArea* m_area;
+    QPointer<QLabel> m_howToBegin; ///< in the empty area, until the first form opens
+    FormPlaces m_places;
+    EditorForm* m_saved = nullptr; ///< the one of all that is being saved
     QToolBar* m_toolbar = nullptr;
     QPointer<QMdiSubWindow> m_followed; ///< the form that the tree has followed last
     WindowMenu* m_windowMenu;

@@ -1,19 +1,25 @@
 #include "shell/window/navigator.h"
 
+#include "shell/kit/codepagetext.h"
 #include "shell/kit/listview.h"
 #include "shell/kit/toolbars.h"
+#include "shell/window/changedicon.h"
+#include "shell/window/finder.h"
+#include "shell/window/findresults.h"
 #include "shell/window/navigatortable.h"
 
+#include <QApplication>
 #include <QHash>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QListView>
+#include <QStackedWidget>
 #include <QToolBar>
 #include <QTreeWidget>
 #include <QTreeWidgetItemIterator>
 #include <QVBoxLayout>
 
 #include <algorithm>
-#include <utility>
 
 namespace quillfen {
 namespace {
@@ -41,29 +47,20 @@ bool isExpandedGroup(const QString& key)
     return groups.contains(key);
 }
 
-/// Leaves the nodes whose words, with those of the headings above, hold all that are sought, and the headings
-/// of such nodes. Returns whether the node is left.
-bool narrowed(QTreeWidgetItem& item, const QString& above, const QStringList& sought)
-{
-    const QString words = above + ' ' + item.text(0);
-    bool left = std::all_of(sought.begin(), sought.end(), [&words](const QString& word) {
-        return words.contains(word, Qt::CaseInsensitive);
-    });
-    for (int child = 0; child < item.childCount(); ++child)
-        left = narrowed(*item.child(child), words, sought) || left;
-    item.setHidden(!left);
-    item.setExpanded(left);
-    return left;
-}
+/// So many functions that were opened last are offered.
+constexpr qsizetype mostOpened = 12;
 
 } // namespace
 
-Navigator::Navigator(const NavigatorTable& table, bool portalShown, QWidget* parent)
+Navigator::Navigator(const NavigatorTable& table, Finder& finder, bool portalShown, QWidget* parent)
     : QWidget(parent),
       m_table(table),
+      m_finder(finder),
       m_toolbar(new QToolBar),
       m_find(new QLineEdit),
-      m_tree(new QTreeWidget)
+      m_pages(new QStackedWidget),
+      m_tree(new QTreeWidget),
+      m_results(new FindResults)
 {
     setObjectName("picSideBar");
     buildToolbar();
@@ -74,9 +71,12 @@ Navigator::Navigator(const NavigatorTable& table, bool portalShown, QWidget* par
     layout->setSpacing(0);
     layout->addWidget(m_toolbar);
     layout->addWidget(m_find);
-    layout->addWidget(m_tree, 1);
+    layout->addWidget(m_pages, 1);
+    m_pages->addWidget(m_tree);
+    m_pages->addWidget(m_results);
     connect(m_tree, &QTreeWidget::itemClicked, this, &Navigator::chosen);
     connect(m_tree, &QTreeWidget::itemActivated, this, &Navigator::chosen);
+    connect(m_results, &FindResults::chosen, this, &Navigator::found);
 }
 
 void Navigator::buildToolbar()
@@ -93,13 +93,15 @@ void Navigator::buildToolbar()
 void Navigator::buildFindBox()
 {
     m_find->setObjectName("txtFind");
-    m_find->setAccessibleName("Find a function");
-    m_find->setPlaceholderText("Find a function (" +
+    m_find->setAccessibleName("Find");
+    m_find->setPlaceholderText("Find any setting (" +
                                QKeySequence(QKeySequence::Find).toString(QKeySequence::NativeText) + ')');
     m_find->setClearButtonEnabled(true);
+    limitToOneLine(*m_find);
     m_find->installEventFilter(this);
-    connect(m_find, &QLineEdit::textChanged, this, &Navigator::narrow);
-    connect(m_find, &QLineEdit::returnPressed, this, &Navigator::chooseMatch);
+    m_results->list().installEventFilter(this);
+    connect(m_find, &QLineEdit::textChanged, this, &Navigator::search);
+    connect(m_find, &QLineEdit::returnPressed, this, &Navigator::choose);
 }
 
 void Navigator::buildTree(bool portalShown)
@@ -155,12 +157,21 @@ QTreeWidgetItem* Navigator::nodeOf(const QString& key) const
 
 void Navigator::follow(const QString& key)
 {
-    auto* item = nodeOf(key);
-    m_missed = nullptr;
-    if (item && item->isHidden())
-        m_missed = item;
-    else if (item)
+    if (auto* item = nodeOf(key))
         m_tree->setCurrentItem(item); // opens the closed groups above it, and no other
+}
+
+void Navigator::markChanged(const QString& key, bool isChanged)
+{
+    if (auto* item = nodeOf(key))
+        item->setIcon(0, isChanged ? changedDot() : QIcon());
+}
+
+void Navigator::noteOpened(const QString& key)
+{
+    m_opened.removeAll(key);
+    m_opened.prepend(key);
+    m_opened = m_opened.first(std::min(m_opened.size(), mostOpened));
 }
 
 void Navigator::find()
@@ -171,69 +182,90 @@ void Navigator::find()
 
 bool Navigator::eventFilter(QObject* watched, QEvent* event)
 {
-    if (watched == m_find && event->type() == QEvent::KeyPress) {
-        const int key = static_cast<QKeyEvent*>(event)->key();
-        if (key == Qt::Key_Escape)
-            m_find->clear();
-        else if (key == Qt::Key_Down)
-            m_tree->setFocus(Qt::OtherFocusReason);
-        if (key == Qt::Key_Escape || key == Qt::Key_Down)
+    switch (event->type()) {
+    case QEvent::KeyPress:
+        if (takesKey(*watched, *static_cast<QKeyEvent*>(event)))
             return true;
+        break;
+    case QEvent::FocusIn:
+        if (watched == m_find)
+            search();
+        break;
+    case QEvent::FocusOut:
+        leaveFindBox();
+        break;
+    default:
+        break;
     }
     return QWidget::eventFilter(watched, event);
 }
 
-void Navigator::narrow(const QString& text)
+bool Navigator::showsResults() const
 {
-    const QStringList sought = text.split(' ', Qt::SkipEmptyParts);
-    if (sought.isEmpty()) {
-        showWholeTree();
-        return;
-    }
-    if (!m_expanded) {
-        m_expanded.emplace();
-        for (QTreeWidgetItemIterator item(m_tree); *item; ++item) {
-            if ((*item)->isExpanded())
-                m_expanded->insert(*item);
-        }
-    }
-    auto* root = m_tree->topLevelItem(0);
-    root->setExpanded(true);
-    for (int group = 0; group < root->childCount(); ++group)
-        narrowed(*root->child(group), QString(), sought);
-    selectFirstMatch();
+    return m_pages->currentWidget() == m_results;
 }
 
-void Navigator::showWholeTree()
+/// Escape brings the tree back. The arrow down leads from the box to what stands below it, and the arrow up
+/// from the first result back.
+bool Navigator::takesKey(const QObject& watched, QKeyEvent& event)
 {
-    if (!m_expanded)
-        return;
-    for (QTreeWidgetItemIterator item(m_tree); *item; ++item) {
-        (*item)->setHidden(false);
-        (*item)->setExpanded(m_expanded->contains(*item));
+    QListView& list = m_results->list();
+    const bool isInBox = &watched == m_find;
+    if (event.key() == Qt::Key_Escape) {
+        m_find->setFocus(Qt::OtherFocusReason);
+        m_find->clear();
+        showTree();
+        return true;
     }
-    m_expanded.reset();
-    if (m_missed)
-        m_tree->setCurrentItem(std::exchange(m_missed, nullptr));
-    if (auto* current = m_tree->currentItem())
-        m_tree->scrollToItem(current);
+    if (isInBox && event.key() == Qt::Key_Down) {
+        QWidget* below = m_tree;
+        if (showsResults())
+            below = &list;
+        below->setFocus(Qt::OtherFocusReason);
+        if (showsResults())
+            QApplication::sendEvent(&list, &event); // the first one was current already
+        return true;
+    }
+    if (!isInBox && event.key() == Qt::Key_Up && list.currentIndex().row() <= 0) {
+        m_find->setFocus(Qt::OtherFocusReason);
+        return true;
+    }
+    return false;
 }
 
-void Navigator::selectFirstMatch()
+/// What was found stays for the next look at it; what was opened last goes with the focus. So does the index:
+/// files may be saved until the box is entered again.
+void Navigator::leaveFindBox()
 {
-    m_missed = nullptr;
-    for (QTreeWidgetItemIterator item(m_tree, QTreeWidgetItemIterator::NotHidden); *item; ++item) {
-        if (!m_table.formName(keyOf(**item)).isEmpty()) {
-            m_tree->setCurrentItem(*item);
-            return;
-        }
-    }
-    m_tree->setCurrentItem(nullptr);
+    m_finder.forget();
+    const auto* focused = QApplication::focusWidget();
+    if (focused && focused != m_find && focused != &m_results->list() && m_find->text().trimmed().isEmpty())
+        showTree();
 }
 
-void Navigator::chooseMatch()
+void Navigator::search()
 {
-    if (!selectedKey().isEmpty())
+    const QString typed = m_find->text().trimmed();
+    if (!typed.isEmpty())
+        m_results->show(m_finder.find(typed));
+    else if (!m_opened.isEmpty() && m_find->hasFocus())
+        m_results->showOpened(m_opened, [this](const QString& key) { return m_finder.captionOf(key); });
+    else
+        return showTree();
+    m_pages->setCurrentWidget(m_results);
+}
+
+void Navigator::showTree()
+{
+    m_pages->setCurrentWidget(m_tree);
+}
+
+/// Enter in the box.
+void Navigator::choose()
+{
+    if (showsResults())
+        m_results->choose();
+    else if (!selectedKey().isEmpty())
         emit chosen();
 }
 

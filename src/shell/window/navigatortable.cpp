@@ -2,6 +2,9 @@
 
 #include "shell/kit/codepagetext.h"
 
+#include <algorithm>
+#include <iterator>
+
 namespace quillfen {
 namespace {
 
@@ -18,7 +21,7 @@ NavigatorTable::NavigatorTable(const std::vector<Node>& nodes)
     for (const Node& node : nodes) {
         const QString key = fromBytes(node.key);
         const QString form = node.form ? fromBytes(node.form->form.name) : QString();
-        m_places.insert(key, {keyAbove(node), form});
+        m_places.insert(key, {keyAbove(node), form, fromBytes(node.caption)});
         m_headings.insert(keyAbove(node));
         if (node.inTree)
             m_rows.append({key, fromBytes(node.caption),
@@ -29,6 +32,13 @@ NavigatorTable::NavigatorTable(const std::vector<Node>& nodes)
         m_keys.insert(form, key);
     }
     m_formKeys += withoutNode;
+}
+
+bool isArchive(const QString& group)
+{
+    constexpr const char* others[] = {"General", "Communication", "CustomiseUser",
+                                      "Games",   "Security",      "UserActions"};
+    return std::ranges::find(others, group) == std::end(others);
 }
 
 QString captionOfKey(const QString& key)

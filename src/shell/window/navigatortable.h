@@ -42,6 +42,9 @@ public:
     /// Every key with a form behind it: rows in their order, then the forms that no node reaches.
     const QStringList& formKeys() const { return m_formKeys; }
 
+    /// A node's caption.
+    QString caption(const QString& key) const { return m_places.value(key).caption; }
+
     /// The form behind a key; empty if there is none.
     QString formName(const QString& key) const { return m_places.value(key).form; }
 
@@ -54,6 +57,7 @@ private:
     {
         QString above; ///< the key of the node above
         QString form;
+        QString caption;
     };
 
     QList<NavigatorRow> m_rows;
@@ -62,6 +66,9 @@ private:
     QStringList m_formKeys;
     QHash<QString, QString> m_keys; ///< by the form's name
 };
+
+/// Whether a group is one of the archive's members, which are alike.
+bool isArchive(const QString& group);
 
 /// "General~Settings" as it is shown: "General ~ Settings".
 QString captionOfKey(const QString& key);

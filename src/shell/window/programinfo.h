@@ -13,6 +13,7 @@ struct ProgramInfo
     QString word{"Quillfen"}; ///< the product as the maker's web folders name it
     QString newsBase{};       ///< the maker's news folder, with its last slash; may be empty
     QString updatesBase{};    ///< the same of the version texts
+    QString guideFolder{};    ///< where the guide's pages lie
 };
 
 } // namespace quillfen

@@ -25,7 +25,9 @@ RootMenu::RootMenu(const FormContext& context, std::function<QList<EditorForm*>(
     m_versions->setObjectName("mnuRootVersions");
     m_backUp->setObjectName("mnuRootBackUp");
     addAction("&Open the settings folder", this, &RootMenu::openFolder)->setObjectName("mnuRootFolder");
-    for (auto* action : {m_versions, m_backUp})
+    m_check = addAction("&Check the settings", this, &RootMenu::showFindings);
+    m_check->setObjectName("mnuRootCheck");
+    for (auto* action : {m_versions, m_backUp, m_check})
         action->setEnabled(false);
 }
 
@@ -34,6 +36,27 @@ void RootMenu::offerVersions(History& history)
     m_history = &history;
     for (auto* action : {m_versions, m_backUp})
         action->setEnabled(true);
+}
+
+void RootMenu::offerCheck(SettingsCheck check)
+{
+    m_settingsCheck = std::move(check);
+    m_check->setEnabled(true);
+}
+
+/// The list stays beside the forms that its rows lead to, so that it is gone through row by row.
+void RootMenu::showFindings()
+{
+    if (m_findings) {
+        m_findings->look();
+    } else {
+        m_findings = new CheckDialog(m_settingsCheck, parentWidget());
+        m_findings->setAttribute(Qt::WA_DeleteOnClose);
+        connect(m_findings, &CheckDialog::chosen, this, &RootMenu::findingChosen);
+    }
+    m_findings->show();
+    m_findings->raise();
+    m_findings->activateWindow();
 }
 
 QList<EditorForm*> RootMenu::formsOf(const std::vector<std::string>& paths) const

@@ -1,8 +1,10 @@
 #pragma once
 
 #include "shell/kit/formpart.h"
+#include "shell/window/checkdialog.h"
 
 #include <QMenu>
+#include <QPointer>
 
 #include <functional>
 #include <string>
@@ -28,8 +30,16 @@ public:
     /// From now on offers the earlier versions of the settings.
     void offerVersions(History& history);
 
+    /// From now on offers the check of all settings.
+    void offerCheck(SettingsCheck check);
+
+signals:
+    /// In the list of findings one was chosen, whose file the form of this node shows.
+    void findingChosen(const QString& node, const Finding& finding);
+
 private:
     void showVersions();
+    void showFindings();
     void backUp();
     void openFolder();
     QList<EditorForm*> formsOf(const std::vector<std::string>& paths) const;
@@ -39,6 +49,9 @@ private:
     History* m_history = nullptr;
     QAction* m_versions;
     QAction* m_backUp;
+    SettingsCheck m_settingsCheck;
+    QPointer<CheckDialog> m_findings;
+    QAction* m_check;
 };
 
 } // namespace quillfen

@@ -10,10 +10,6 @@
 namespace quillfen {
 namespace {
 
-/// The groups whose button walks through its drop-down; on the archive's buttons only the arrow works.
-constexpr const char* walkingGroups[] = {"General", "Communication", "CustomiseUser",
-                                         "Games",   "Security",      "UserActions"};
-
 QMenu* dropDown(const NavigatorTable& table, const QString& group, bool portalShown, QWidget* parent)
 {
     auto* menu = new QMenu(parent);
@@ -63,7 +59,7 @@ void TopToolbar::insertGroup(const NavigatorTable& table, const NavigatorRow& ro
     action->setMenu(menu);
     qobject_cast<QToolButton*>(widgetForAction(action))->setPopupMode(QToolButton::MenuButtonPopup);
     connect(menu, &QMenu::triggered, this, [this](QAction* entry) { emit formChosen(entry->objectName()); });
-    if (std::ranges::find(walkingGroups, group) != std::end(walkingGroups))
+    if (!isArchive(group)) // on its members' buttons only the arrow works
         connect(action, &QAction::triggered, this, [this, group] { walk(group); });
 }
 

@@ -1,5 +1,6 @@
 #include "shell/window/windowmenu.h"
 
+#include "shell/window/changedicon.h"
 #include "shell/window/openwindows.h"
 
 namespace quillfen {
@@ -46,9 +47,22 @@ void WindowMenu::RebuildWindowMenu(const COpenWindows& windows)
         auto* entry = m_entries.at(place - 1);
         entry->setText(numbered(place) + QStringLiteral(". ") + window.Caption());
         entry->setData(window.Key());
+        entry->setIcon(m_changed.contains(window.Key()) ? changedDot() : QIcon());
         entry->setVisible(true);
         m_splitter->setVisible(true);
         m_close->setVisible(true);
+    }
+}
+
+void WindowMenu::markChanged(const QString& key, bool isChanged)
+{
+    if (isChanged)
+        m_changed.insert(key);
+    else
+        m_changed.remove(key);
+    for (auto* entry : m_entries) {
+        if (entry->data().toString() == key)
+            entry->setIcon(isChanged ? changedDot() : QIcon());
     }
 }
 

@@ -2,6 +2,7 @@
 
 #include <QList>
 #include <QMenu>
+#include <QSet>
 
 namespace quillfen {
 
@@ -17,12 +18,16 @@ public:
 
     void RebuildWindowMenu(const COpenWindows& windows);
 
+    /// Shows by a dot at its entry that a form has something to save, or takes the dot away.
+    void markChanged(const QString& key, bool isChanged);
+
 signals:
     void formChosen(const QString& key);
     void showAllChosen();
 
 private:
     QList<QAction*> m_entries;
+    QSet<QString> m_changed; ///< the keys of forms with something to save
     QAction* m_splitter;
     QAction* m_showAll;
     QAction* m_close;

@@ -5,6 +5,9 @@
 #include "support/lua.h"
 
 #include <gtest/gtest.h>
+#include <map>
+#include <string>
+#include <string_view>
 
 namespace quillfen {
 namespace {
@@ -26,6 +29,17 @@ protected:
 TEST_F(Numbers, AreDeclaredWithoutFault)
 {
     EXPECT_EQ(numbersSettings().settings.size(), 20U);
+}
+
+TEST_F(Numbers, EachCalculatorBoxIsExplainedByItsKeyAndNotByItsCaption)
+{
+    std::map<std::string, std::string_view> sentences;
+    for (const Setting& each : numbersSettings().settings) {
+        if (const auto* field = std::get_if<setting::Field>(&each))
+            sentences[field->label] = field->explanation;
+    }
+    EXPECT_TRUE(sentences["Prevent Calculator"].starts_with("Switches the report of the calculator"));
+    EXPECT_TRUE(sentences["Report Calculator"].starts_with("Switches the prevention of the calculator"));
 }
 
 TEST_F(Numbers, AFreshBuildWritesTheSettingsInItsOwnOrderWithOneBlankEach)

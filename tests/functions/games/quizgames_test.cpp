@@ -8,6 +8,9 @@
 #include "support/lua.h"
 
 #include <gtest/gtest.h>
+#include <map>
+#include <string>
+#include <string_view>
 
 namespace quillfen {
 namespace {
@@ -82,6 +85,24 @@ TEST_P(QuizGames, TheHubScriptSeesWhatTheReadersSee)
         for (const auto& [key, value] : seen)
             EXPECT_EQ(value, TableIndex(bytes).value(key.substr(key.find('.') + 1))) << key;
     }
+}
+
+/// What a game's settings say of themselves, by key.
+std::map<std::string, std::string_view> sentencesOf(const TableFile& file)
+{
+    std::map<std::string, std::string_view> sentences;
+    for (const Setting& each : file.settings) {
+        if (const auto* field = std::get_if<setting::Field>(&each))
+            sentences[field->key] = field->explanation;
+    }
+    return sentences;
+}
+
+TEST_P(QuizGames, ExplainsTheCountsOfScoresByTheirKeysWhateverTheirCaptionsSay)
+{
+    auto sentences = sentencesOf(game.settings());
+    EXPECT_EQ(sentences["iScores"], "Sets how many scores are shown at the end of a game.");
+    EXPECT_EQ(sentences["iTopScores"], "Sets how many top scores are shown.");
 }
 
 class QuizWords : public testing::Test

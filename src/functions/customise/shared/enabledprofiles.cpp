@@ -2,9 +2,10 @@
 
 namespace quillfen {
 
-Setting enabledProfiles(const std::string& label)
+Setting enabledProfiles(const std::string& label, std::string_view explanation)
 {
-    return setting::profileFlags("tEnabledProfiles", "lvwEnabledProfiles", label, "Enabled Profiles");
+    return setting::profileFlags("tEnabledProfiles", "lvwEnabledProfiles", label, "Enabled Profiles")
+        .explained(explanation);
 }
 
 } // namespace quillfen

@@ -8,6 +8,7 @@ RowListDeclaration commentList(const CommentList& comments)
     list.list = comments.list;
     list.toolbar = comments.toolbar;
     list.label = comments.label;
+    list.explanation = comments.explanation;
     list.columns = {comments.label};
     list.menu = comments.menu;
     list.load = loadOf(comments.file);

@@ -4,6 +4,7 @@
 #include "settings/listfile.h"
 
 #include <string>
+#include <string_view>
 
 namespace quillfen {
 
@@ -15,7 +16,8 @@ struct CommentList
     std::string toolbar;
     std::string label;
     std::string menu;
-    std::string word; ///< "Win" or "Lose"
+    std::string word;             ///< "Win" or "Lose"
+    std::string_view explanation; ///< what its rows are for, in a sentence
 };
 
 RowListDeclaration commentList(const CommentList& comments);

@@ -1,11 +1,13 @@
 #include "functions/games/shared/quizpattern.h"
 
+#include "functions/games/shared/playinmain.h"
 #include "settings/listfile.h"
 #include "settings/tablewriter.h"
 
 #include <algorithm>
 #include <array>
 #include <iterator>
+#include <string_view>
 
 namespace quillfen {
 namespace {
@@ -17,12 +19,16 @@ struct QuizFlag
     const char* key;
     const char* caption;
     bool defaultValue;
+    std::string_view explanation{};
 };
 
 constexpr QuizFlag flags[] = {
-    {"bManualStart", "Manual Start Only", false},    {"bOpOnlyStart", "Operator Start", false},
-    {"bOpOnlyStop", "Operator Stop", false},         {"bPlayInMain", "Play Game In Main", true},
-    {"bAutoClearScores", "Auto Clear Scores", true}, {"bArchiveScores", "Auto Archive Scores", true},
+    {"bManualStart", "Manual Start Only", false, "Starts the game only on command."},
+    {"bOpOnlyStart", "Operator Start", false, "Lets only operators start the game."},
+    {"bOpOnlyStop", "Operator Stop", false, "Lets only operators stop the game."},
+    {"bPlayInMain", "Play Game In Main", true, playsInMainChat},
+    {"bAutoClearScores", "Auto Clear Scores", true},
+    {"bArchiveScores", "Auto Archive Scores", true},
 };
 
 /// A game's default and range; the game's writer does not write a key without one.
@@ -38,27 +44,35 @@ struct QuizNumber
     const char* key;
     const char* caption;
     std::array<Range, games> ranges; ///< Trivia, Numbers, Hangman, Anagrams, CodeBreaker, GuessTheNumber
+    std::string_view explanation{};
 };
 
 constexpr QuizNumber numbers[] = {
     {"iArchiveScores",
      "ScoresTo Archive",
-     {{{5, 0, 250}, {5, 0, 1000}, {5, 0, 1000}, {5, 0, 1000}, {5, 0, 1000}, {5, 0, 1000}}}},
+     {{{5, 0, 250}, {5, 0, 1000}, {5, 0, 1000}, {5, 0, 1000}, {5, 0, 1000}, {5, 0, 1000}}},
+     "Sets how many scores are archived."},
     {"iQuestions",
      "Questions",
-     {{{15, 0, 999}, {20, 0, 999}, {10, 0, 999}, {20, 0, 999}, {20, 0, 999}, {12, 0, 999}}}},
+     {{{15, 0, 999}, {20, 0, 999}, {10, 0, 999}, {20, 0, 999}, {20, 0, 999}, {12, 0, 999}}},
+     "Sets how many questions a game has."},
     {"iQuestionsPause",
      "Pause Between Questions",
      {{{10, 0, 60}, {10, 0, 1000}, {10, 0, 1000}, {10, 0, 1000}, {10, 0, 1000}, {10, 0, 60}}}},
     {"iTimeOut", "Timeout", {{{5, 0, 1000}, {3, 0, 60}, {3, 0, 60}, {3, 0, 60}, {3, 0, 60}, {3, 0, 1000}}}},
     {"iBonusTime", "Bonus Time", {{{45, 0, 100}, {10, 0, 1000}, {}, {10, 0, 1000}, {}, {}}}},
-    {"iPoints", "Points", {{{1, 0, 100}, {1, 0, 100}, {6, 0, 100}, {1, 0, 100}, {1, 0, 100}, {}}}},
+    {"iPoints",
+     "Points",
+     {{{1, 0, 100}, {1, 0, 100}, {6, 0, 100}, {1, 0, 100}, {1, 0, 100}, {}}},
+     "Sets how many points a question is worth."},
     {"iScores",
      "End Of Game Scores",
-     {{{25, 0, 200}, {25, 0, 100}, {25, 0, 100}, {25, 0, 100}, {25, 0, 100}, {25, 0, 100}}}},
+     {{{25, 0, 200}, {25, 0, 100}, {25, 0, 100}, {25, 0, 100}, {25, 0, 100}, {25, 0, 100}}},
+     "Sets how many scores are shown at the end of a game."},
     {"iTopScores",
      "Top Scores",
-     {{{10, 0, 100}, {10, 0, 200}, {10, 0, 200}, {10, 0, 200}, {10, 0, 200}, {10, 0, 100}}}},
+     {{{10, 0, 100}, {10, 0, 200}, {10, 0, 200}, {10, 0, 200}, {10, 0, 200}, {10, 0, 100}}},
+     "Sets how many top scores are shown."},
     {"iAutoStartDelay",
      "Auto Start Delay",
      {{{93, 1, 1440}, {73, 1, 1440}, {67, 1, 1440}, {73, 1, 1440}, {73, 1, 1440}, {111, 1, 1440}}}},
@@ -83,7 +97,8 @@ setting::Field quizSetting(QuizGame game, const std::string& key, const std::str
                                            [&key](const QuizNumber& each) { return each.key == key; });
     const Range& range = found->ranges.at(static_cast<std::size_t>(game));
     return arrowNumber(key, control, captionOf(game, *found), range.defaultValue, range.minimum,
-                       range.maximum);
+                       range.maximum)
+        .explained(found->explanation);
 }
 
 std::vector<Setting> withQuizFlags(const std::string& checkBoxes, std::vector<Setting> further)
@@ -91,7 +106,8 @@ std::vector<Setting> withQuizFlags(const std::string& checkBoxes, std::vector<Se
     std::vector<Setting> settings;
     for (const QuizFlag& each : flags) {
         const std::string control = checkBoxes + "(" + std::to_string(settings.size()) + ")";
-        settings.emplace_back(setting::flag(each.key, control, each.caption, each.defaultValue));
+        settings.emplace_back(
+            setting::flag(each.key, control, each.caption, each.defaultValue).explained(each.explanation));
     }
     settings.insert(settings.end(), std::make_move_iterator(further.begin()),
                     std::make_move_iterator(further.end()));

@@ -44,6 +44,7 @@ RowListDeclaration wordList(const std::string& noun, const std::string& path, Wo
 RowListDeclaration guessedWords(const std::string& path, const std::string& menu)
 {
     RowListDeclaration words = wordList("Word", path, WordLine::Word);
+    words.explanation = "Each row is a word that the game has its players find.";
     words.columns = {"Word"};
     words.menu = menu;
     return words;

@@ -22,9 +22,10 @@ WordListPart::WordListPart(const RowListDeclaration& words, const FormContext& c
     : m_words(new RowListPart(words, context,
                               {.builders = {addFileButtons, BuildListToolbar},
                                .rowsLightButtons = false, // they follow what was done with the file
-                               .note = [] {}}))
+                               .note = [this] { setChanges(true); }}))
 {
     m_words->setParent(this);
+    m_words->list().setSavedByItself();
     m_words->tools().connectButtons(this, {{"OPEN", &WordListPart::openFile},
                                            {"SAVE", &WordListPart::saveFile},
                                            {"CLOSE", &WordListPart::closeFile}});
@@ -35,6 +36,7 @@ void WordListPart::openFile()
 {
     const Hourglass hourglass;
     m_words->load();
+    setChanges(false);
     setButtons(false, true);
 }
 
@@ -49,6 +51,19 @@ void WordListPart::saveFile()
     bool bDiscardNow = true; // what is shown is in the file: nothing to ask
     ConfirmDiscard(m_words->list(), m_words->tools().toolbar(),
                    bDiscardNow); // leaves the sixth button, EDIT, lit
+    setChanges(false);
+}
+
+void WordListPart::saveOpenFile()
+{
+    if (isOpen())
+        m_words->save();
+}
+
+void WordListPart::setChanges(bool hasChanges)
+{
+    m_hasChanges = hasChanges;
+    emit openFileChanged();
 }
 
 void WordListPart::closeFile()
@@ -58,6 +73,7 @@ void WordListPart::closeFile()
     // Also after Cancel: the rows stay in sight, and only OPEN, which reads the file again, goes on from
     // there.
     setButtons(true, false);
+    emit openFileChanged();
 }
 
 void WordListPart::setButtons(bool open, bool others)

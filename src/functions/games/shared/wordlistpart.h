@@ -17,9 +17,13 @@ public:
     void load() override {}    ///< waits for OPEN
     void restore() override {} ///< the words are no settings
     void save() override {}    ///< waits for the list's own SAVE
+    void saveOpenFile() override;
+    bool hasUnsavedFile() const override { return m_hasChanges && isOpen(); }
     RoutineTable routines() override { return m_words->routines(); }
 
 private:
+    bool isOpen() const { return !m_words->rows().empty(); }
+    void setChanges(bool hasChanges);
     void openFile();
     void saveFile();
     void closeFile();
@@ -28,6 +32,7 @@ private:
     void setButtons(bool open, bool others);
 
     RowListPart* m_words;
+    bool m_hasChanges = false; ///< the rows were edited since they were read
 };
 
 } // namespace quillfen

@@ -21,12 +21,14 @@ std::string actionWord(const std::vector<std::string>& words, std::string_view l
 Setting actionSetting(const std::string& defaultWord)
 {
     // Where a file holds no action the combo box stands at "Kick", as it does before a load.
-    return setting::letter("sAction", "cboComboBox", "Action", defaultWord, actionWords(), "Kick");
+    return setting::letter("sAction", "cboComboBox", "Action", defaultWord, actionWords(), "Kick")
+        .explained("Sets what is done to an offender.");
 }
 
 Setting banTimeSetting(const std::string& key)
 {
-    return setting::number(key, "txtUpDown", "TimeBan", 60, 5, 1440);
+    return setting::number(key, "txtUpDown", "TimeBan", 60, 5, 1440)
+        .explained("Sets how long a ban by the action TempBan lasts.");
 }
 
 } // namespace quillfen

@@ -1,5 +1,6 @@
-#include "advice/checkcommand.h"
-#include "advice/treecheck.h"
+#include "check/checkcommand.h"
+#include "check/nodeoffile.h"
+#include "check/treecheck.h"
 #include "declarations/rebuild.h"
 #include "functions/catalogue.h"
 #include "store/diskstore.h"
@@ -158,6 +159,34 @@ TEST_F(TreeCheck, EndsWithTwoWhereThereIsNoTree)
     EXPECT_EQ(check({}), (Answer{"", "There is no settings tree in " + hub.root + '\n', 2}));
     EXPECT_EQ(check({"/elsewhere"}), (Answer{"", "There is no settings tree in /elsewhere\n", 2}));
     EXPECT_EQ(check({"/a", "/b"}), (Answer{"", "One settings folder at a time, please.\n", 2}));
+}
+
+TEST_F(TreeCheck, TellsWhereAGridHasMoreLinesThanItsReadersLookAt)
+{
+    build(70);
+    const Lines lines = found();
+    EXPECT_EQ(std::count(
+                  lines.begin(), lines.end(),
+                  "Security\\Kick\\KickCanBan.tbl:5001: the editor reads no further than line 5,000, and its "
+                  "next save loses what stands below"),
+              1);
+}
+
+/// The form of each file, by its node.
+TEST_F(TreeCheck, KnowsTheNodeWhoseFormShowsAFile)
+{
+    build(2);
+    const auto node = [this](const char* file) { return nodeOfFile(hub.files, hub.profiles, file); };
+    EXPECT_EQ(node(R"(Security\Kick\KickSettings.tbl)"), "Security~Kicks~Settings");
+    EXPECT_EQ(node(R"(Security\Kick\KickAscii.asc)"), "Security~Kicks~Settings");
+    EXPECT_EQ(node(R"(Security\Kick\KickCanBan.tbl)"), "Security~Kicks~Permissions");
+    EXPECT_EQ(node(R"(General\Globals\Switches.tbl)"), "General~Switches");
+    EXPECT_EQ(node(R"(Communication\WelcomeInfo\WelcomeInfoNetworkHubs.tbl)"),
+              "Communication~WelcomeInfo~NetworkHubs");
+    EXPECT_EQ(node(R"(Communication\Portal\PortalSettings.tbl)"), "Communication~Portal");
+    EXPECT_EQ(node(R"(CustomiseUser\IntroOutro\AsciiIntroIndex.tbl)"), "CustomiseUser~IntroOutro~Ascii");
+    EXPECT_EQ(node(R"(No\Such.tbl)"), "");
+    EXPECT_EQ(node(R"(Games\Anagrams\AnagramScores.tbl)"), "") << "the hub script's own";
 }
 
 TEST_F(TreeCheck, WritesNothing)

@@ -1,4 +1,4 @@
-#include "advice/treecheck.h"
+#include "check/treecheck.h"
 
 #include "advice/filefindings.h"
 #include "advice/settingfindings.h"
@@ -8,39 +8,10 @@
 #include <algorithm>
 #include <iterator>
 #include <map>
+#include <set>
 
 namespace quillfen {
 namespace {
-
-constexpr const char* unreadableWords =
-    "the file can't be read, and the editor shows zeros and empty texts for it. See to who may read it.";
-constexpr const char* missingWords =
-    "the file is missing, and the editor shows zeros and empty texts for it. Restore it and save its form.";
-
-/// The file that a step of the build makes; empty for a routine, which may make several or none.
-struct PathOf
-{
-    std::string operator()(const RebuiltSettings& step) const { return step.file().path; }
-    std::string operator()(const RebuiltGrid& step) const { return step.command.path; }
-    std::string operator()(const EmptyTable& step) const { return step.path; }
-    std::string operator()(const FirstText& step) const { return step.path; }
-    std::string operator()(BuildRoutine /*step*/) const { return {}; }
-};
-
-/// The declared settings files of a form's part.
-struct FilesOf
-{
-    std::vector<TableFile> operator()(const DeclaredSettings& part) const { return {part.file()}; }
-    std::vector<TableFile> operator()(const OwnPart& part) const
-    {
-        return part.files ? part.files() : std::vector<TableFile>();
-    }
-    template <typename Other>
-    std::vector<TableFile> operator()(const Other& /*part*/) const
-    {
-        return {};
-    }
-};
 
 /// The settings files of all forms by their paths.
 std::map<std::string, TableFile> settingsFilesOfForms()
@@ -48,23 +19,24 @@ std::map<std::string, TableFile> settingsFilesOfForms()
     std::map<std::string, TableFile> all;
     for (const FormDeclaration& form : formCatalogue()) {
         for (const PartDeclaration& part : form.parts) {
-            for (TableFile& file : std::visit(FilesOf(), part))
+            for (TableFile& file : settingsFilesOf(part))
                 all.emplace(file.path, std::move(file));
         }
     }
     return all;
 }
 
-/// Adds what is found in lines of which nothing is told yet, and keeps the order of the lines.
-void addToOtherLines(std::vector<Finding>& findings, std::vector<Finding> others)
+/// The files of the permission grids.
+std::set<std::string> gridFiles()
 {
-    for (Finding& other : others) {
-        const auto place =
-            std::lower_bound(findings.begin(), findings.end(), other.line,
-                             [](const Finding& finding, std::size_t line) { return finding.line < line; });
-        if (place == findings.end() || place->line != other.line)
-            findings.insert(place, std::move(other));
+    std::set<std::string> files;
+    for (const FunctionDeclaration& function : folderCatalogue()) {
+        for (const BuildStep& step : function.build) {
+            if (std::holds_alternative<RebuiltGrid>(step))
+                files.insert(builtFile(step));
+        }
     }
+    return files;
 }
 
 /// Looks at one settings tree.
@@ -91,6 +63,7 @@ private:
 
     const SettingsFiles& m_files;
     const std::map<std::string, TableFile> m_settings = settingsFilesOfForms();
+    const std::set<std::string> m_grids = gridFiles();
     std::vector<Finding> m_findings{};
 };
 
@@ -114,19 +87,21 @@ void TreeCheck::takeFile(const std::string& file)
 {
     const auto bytes = m_files.store().read(m_files.paths().inSettings(file));
     if (!bytes)
-        return add({{file, 0, unreadableWords}});
+        return add({unreadableFile(file)});
     auto findings = fileFindings(file, *bytes);
     if (const auto settings = m_settings.find(file); settings != m_settings.end())
         addToOtherLines(findings, settingFindings(settings->second, *bytes));
+    else if (m_grids.count(file) > 0)
+        addToOtherLines(findings, unreadFindings(file, *bytes));
     add(std::move(findings));
 }
 
 void TreeCheck::takeMissing(const FunctionDeclaration& function)
 {
     for (const BuildStep& step : function.build) {
-        std::string file = std::visit(PathOf(), step);
+        const std::string file = builtFile(step);
         if (!file.empty() && !exists(file))
-            m_findings.push_back({std::move(file), 0, missingWords});
+            m_findings.push_back(missingFile(file));
     }
 }
 

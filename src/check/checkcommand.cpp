@@ -1,6 +1,6 @@
-#include "advice/checkcommand.h"
+#include "check/checkcommand.h"
 
-#include "advice/treecheck.h"
+#include "check/treecheck.h"
 #include "settings/codepage.h"
 #include "settings/tablefile.h"
 #include "store/nativepath.h"
