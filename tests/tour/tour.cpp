@@ -13,6 +13,7 @@
 #include "support/navigatornames.h"
 
 #include <QAction>
+#include <QCheckBox>
 #include <QDir>
 #include <QLineEdit>
 #include <QMdiArea>
@@ -189,6 +190,45 @@ void showFound(quillfen::MainWindow& window, Tour& tour)
     box->clear();
 }
 
+/// A list behind its filter, and a grid that is scrolled, with rows chosen in both.
+void showLists(quillfen::MainWindow& window, Tour& tour)
+{
+    auto* area = window.findChild<QMdiArea*>();
+    closeForms(*area);
+    for (const char* key : {"Security~Kicks~Permissions", "General~Switches"})
+        window.OpenFunctionForm(key);
+    area->tileSubWindows();
+    auto* switches = formOf(window, "frmGeneralSwitches")->findChild<quillfen::ListView*>("lvwSwitches");
+    switches->openFilter();
+    QTest::keyClicks(switches->findChild<QLineEdit*>("txtFilter"), "block");
+    auto* grid =
+        formOf(window, "frmSecurityKickPermissions")->findChild<quillfen::ListView*>("lvwPermissions");
+    grid->scrollTo(grid->model()->index(grid->model()->rowCount() / 2, 0), QTreeView::PositionAtTop);
+    grid->select(grid->model()->rowCount() / 2 + 2);
+    tour.portrait(window, "lists");
+}
+
+/// What differs from the files. The form stays dirty.
+void showChanges(quillfen::MainWindow& window, Tour& tour)
+{
+    auto* area = window.findChild<QMdiArea*>();
+    closeForms(*area);
+    for (const char* key : {"Security~BadNickBlocker", "Security~Kicks~Settings"})
+        window.OpenFunctionForm(key);
+    area->tileSubWindows();
+    auto* kicks = formOf(window, "frmSecurityKickSettings");
+    kicks->findChild<QLineEdit*>("txtUpDown(1)")->setText("7");
+    kicks->findChild<QCheckBox*>("chkCheckBox(2)")->click();
+    auto* nicks =
+        formOf(window, "frmSecurityBadNickBlocker")->findChild<quillfen::RowList*>("lvwBadNickList");
+    nicks->append({{"advert"}});
+    emit nicks->tickChanged(0); // a change by hand
+    for (const auto* form : area->subWindowList())
+        qobject_cast<EditorForm*>(form->widget())->advice()->look();
+    tour.portrait(window, "changes");
+    quillfen::test::answering(QMessageBox::Ok, [&] { closeForms(*area); });
+}
+
 /// Three forms with something wrong in each. They stay dirty, so this comes last.
 void showAdvice(quillfen::MainWindow& window, Tour& tour)
 {
@@ -262,6 +302,8 @@ int main(int argc, char** argv)
         showFound(window, tour);
         showForms(window, tour);
         showDialogs(window, {disk, quillfen::SettingsPaths(scripts.toStdString())}, tour);
+        showLists(window, tour);
+        showChanges(window, tour);
         showAdvice(window, tour);
     }
     return tour.complete() ? 0 : 1;
