@@ -53,7 +53,8 @@ private:
     {
         constexpr int size = 6;
         const QRect place(m_anchor.mapTo(&m_frame, QPoint()), m_anchor.size());
-        const int middle = place.top() + std::min(place.height(), m_anchor.sizeHint().height()) / 2;
+        const int line = m_anchor.sizeHint().height(); // what is much taller begins with its words
+        const int middle = place.top() + (place.height() < 2 * line ? place.height() : line) / 2;
         setGeometry(std::max(0, place.left() - size - 2), middle - size / 2, size, size);
         setVisible(m_anchor.isVisibleTo(&m_frame));
         raise();
