@@ -3,7 +3,6 @@
 #include "shell/kit/changemarks.h"
 #include "shell/kit/codepagetext.h"
 #include "shell/kit/controlvalue.h"
-#include "shell/kit/formadvice.h"
 #include "shell/kit/listview.h"
 #include "shell/kit/longtext.h"
 #include "shell/kit/messages.h"
@@ -177,7 +176,7 @@ void EditorForm::explainBy(const FormDeclaration& declaration, const FormContext
                 m_marks->offerDefault(*control, fromBytes(*card.defaultValue));
         }
     }
-    m_advice = new FormAdvice(declaration, context, *this);
+    m_advice = new FormAdvice(declaration, context, *this, this);
     connect(m_advice, &FormAdvice::looked, this, [this] {
         m_rowWords = m_marks->rowWords();
         fillSecondPanel();

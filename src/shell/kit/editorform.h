@@ -1,6 +1,7 @@
 #pragma once
 
 #include "declarations/formdeclaration.h"
+#include "shell/kit/formadvice.h"
 #include "shell/kit/formpart.h"
 #include "store/draft.h"
 
@@ -23,13 +24,12 @@ class QToolBar;
 namespace quillfen {
 
 class ChangeMarks;
-class FormAdvice;
 class SettingCards;
 
 /// An editor form: its toolbar, its parts in a frame that scrolls where there is too little room for them,
 /// its status bar, and the cycle of load, change, save, discard, restore and close. It alone knows whether
 /// the controls differ from the files.
-class EditorForm : public QWidget
+class EditorForm : public QWidget, public AdvisedForm
 {
     Q_OBJECT
 
@@ -49,8 +49,7 @@ public:
     /// clean form loads anew, and a dirty one says so in its second status panel.
     void lookAtFiles();
 
-    /// The files that the last load asked for, also those that weren't there.
-    const std::map<std::string, FileMark>& files() const { return m_files; }
+    const std::map<std::string, FileMark>& files() const override { return m_files; }
 
     /// What it opens with where there is room: all of its parts, and no less than its own least size.
     QSize sizeHint() const override;
@@ -75,21 +74,19 @@ public:
     /// is none.
     void showCard();
 
-    const std::vector<FormPart*>& parts() const { return m_parts; }
+    const std::vector<FormPart*>& parts() const override { return m_parts; }
 
-    /// Brings a control into sight and gives it the focus; of a list, a row too, which is counted from 0.
-    void goTo(QWidget& control, int row = -1);
+    void goTo(QWidget& control, int row) override;
 
     /// The same by the control's name. Nothing happens where there is none of it.
     void goTo(const QString& control, int row = -1);
 
-    /// Whether all of it was loaded.
-    bool isWhole() const { return !m_loading && m_notLoaded.isEmpty(); }
+    bool isWhole() const override { return !m_loading && m_notLoaded.isEmpty(); }
 
     /// What its SAVE does.
     void save();
 
-    bool isDirty() const { return bDirty; }
+    bool isDirty() const override { return bDirty; }
     QString caption() const { return windowTitle(); }
 
     /// The caption under which the open-window registry knows the form, where it isn't the form's own.

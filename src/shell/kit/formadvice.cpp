@@ -8,7 +8,6 @@
 #include "shell/kit/codepagetext.h"
 #include "shell/kit/controlsign.h"
 #include "shell/kit/controlvalue.h"
-#include "shell/kit/editorform.h"
 #include "shell/kit/rowlist.h"
 
 #include <QLineEdit>
@@ -121,8 +120,9 @@ QString wordsOf(const Advice& advice)
 
 } // namespace
 
-FormAdvice::FormAdvice(const FormDeclaration& declaration, const FormContext& context, EditorForm& form)
-    : QObject(&form),
+FormAdvice::FormAdvice(const FormDeclaration& declaration, const FormContext& context, AdvisedForm& form,
+                       QObject* parent)
+    : QObject(parent),
       m_declaration(declaration),
       m_context(context),
       m_form(form)

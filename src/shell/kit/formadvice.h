@@ -4,7 +4,7 @@
 #include "declarations/formdeclaration.h"
 #include "shell/kit/controlsign.h"
 #include "shell/kit/formpart.h"
-#include "store/filestore.h"
+#include "store/draft.h"
 
 #include <QPointer>
 #include <QTimer>
@@ -16,7 +16,6 @@
 
 namespace quillfen {
 
-class EditorForm;
 class FormPart;
 class ListView;
 
@@ -29,6 +28,27 @@ struct Advice
     QString elsewhere{};         ///< the key of another form's node that it leads to
 };
 
+/// What advice asks of the form that it is given to.
+class AdvisedForm
+{
+public:
+    virtual const std::vector<FormPart*>& parts() const = 0;
+
+    /// The files that its last load asked for, also those that weren't there.
+    virtual const std::map<std::string, FileMark>& files() const = 0;
+
+    virtual bool isDirty() const = 0;
+
+    /// Whether all of it was loaded.
+    virtual bool isWhole() const = 0;
+
+    /// Brings a control into sight and gives it the focus; of a list, a row too, which is counted from 0.
+    virtual void goTo(QWidget& control, int row) = 0;
+
+protected:
+    ~AdvisedForm() = default;
+};
+
 /// Looks at what a form would save and says what is wrong with it: its parts are saved into a draft that is
 /// thrown away, and whatever those bytes tell is shown by signs at the controls and rows, and one by one in
 /// words. It never keeps anybody from anything.
@@ -37,8 +57,8 @@ class FormAdvice : public QObject
     Q_OBJECT
 
 public:
-    /// The form owns it.
-    FormAdvice(const FormDeclaration& declaration, const FormContext& context, EditorForm& form);
+    FormAdvice(const FormDeclaration& declaration, const FormContext& context, AdvisedForm& form,
+               QObject* parent);
 
     /// Looks when the keys rest.
     void lookSoon() { m_rest.start(); }
@@ -86,7 +106,7 @@ private:
 
     FormDeclaration m_declaration;
     FormContext m_context;
-    EditorForm& m_form;
+    AdvisedForm& m_form;
     QTimer m_rest;
     std::optional<std::vector<TableFile>> m_settings; ///< the form's, asked for at the first look
     std::vector<Advice> m_all;

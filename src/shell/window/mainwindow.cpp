@@ -320,7 +320,7 @@ void MainWindow::openFound(const QString& key, const QString& control, int row)
     if (control.isEmpty())
         return;
     if (const auto* toolbar = form->findChild<QToolBar*>(control))
-        form->goTo(*toolbar->widgetForAction(toolbar->actions().constFirst()));
+        form->goTo(*toolbar->widgetForAction(toolbar->actions().constFirst()), -1);
     else
         form->goTo(control, row);
 }
