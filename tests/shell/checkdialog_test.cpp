@@ -68,6 +68,14 @@ TEST_F(CheckOfTheSettings, ListsEachFinding)
     EXPECT_EQ(summary(dialog), "1 finding. Enter or a double click opens its form.");
 }
 
+TEST_F(CheckOfTheSettings, LiesAtTheWindowsLowerEdgeAndHidesNoFormsBeginning)
+{
+    const auto& dialog = look();
+    const QSize room = window().size() - dialog.size();
+    EXPECT_EQ(dialog.pos(), window().mapToGlobal(QPoint(room.width(), room.height())));
+    EXPECT_LT(dialog.height(), window().height() / 2);
+}
+
 TEST_F(CheckOfTheSettings, ARowOpensItsFormAtTheControlAndTheListStays)
 {
     breakKicks();

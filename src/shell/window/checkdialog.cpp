@@ -51,7 +51,10 @@ CheckDialog::CheckDialog(SettingsCheck check, QWidget* parent)
     layout->addWidget(m_summary);
     layout->addWidget(m_list, 1);
     layout->addWidget(buttons);
-    resize(860, 420);
+    resize(860, 260);
+    // At the lower edge, where it hides least of the forms that its rows open.
+    if (parent)
+        move(parent->mapToGlobal(QPoint(parent->width() - width(), parent->height() - height())));
     connect(again, &QPushButton::clicked, this, &CheckDialog::look);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     connect(m_list, &QTreeWidget::itemActivated, this, &CheckDialog::choose);
