@@ -84,6 +84,20 @@ TEST_P(SweepOfAdvice, TheNodeOfEachFormsFileIsKnown)
     });
 }
 
+/// A hub of so many profiles that a grid's file has more lines than its readers look at.
+class AdviceOfALargeHub : public Sweep
+{
+protected:
+    AdviceOfALargeHub() { setProfiles(72); }
+};
+
+TEST_F(AdviceOfALargeHub, NamesTheLinesBehindThe5000thOfAGrid)
+{
+    auto& form = open("Security~Kicks~Permissions");
+    form.advice()->look();
+    EXPECT_TRUE(form.advice()->words().contains("the editor reads no further than line 5,000"));
+}
+
 /// The text boxes of a form that a user can write anything into.
 QList<QLineEdit*> textBoxes(EditorForm& form, bool (*isOfTheForm)(const QWidget&))
 {
