@@ -13,9 +13,13 @@ namespace {
 class SweepOfAdvice : public SweepOfAHub
 {
 protected:
-    static const std::vector<Advice>& adviceOf(EditorForm& form)
+    const std::vector<Advice>& adviceOf(EditorForm& form)
     {
+        hub.store.log.clear();
+        const Shown before = shownBy(form);
         form.advice()->look();
+        EXPECT_EQ(hub.store.log, std::vector<std::string>()) << "it only looks";
+        EXPECT_EQ(shownBy(form), before);
         return form.advice()->all();
     }
 
@@ -32,13 +36,13 @@ protected:
     }
 
     /// Whether the form says anything of its files.
-    bool warns(EditorForm& form) const
+    bool warns(EditorForm& form)
     {
         const auto& all = adviceOf(form);
         return std::any_of(all.begin(), all.end(), [this](const Advice& each) { return !isOfTheHub(each); });
     }
 
-    void expectNoFalseAlarm(EditorForm& form) const
+    void expectNoFalseAlarm(EditorForm& form)
     {
         for (const Advice& advice : adviceOf(form))
             EXPECT_TRUE(isOfTheHub(advice))

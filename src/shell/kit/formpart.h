@@ -68,7 +68,7 @@ public:
     /// Whether the controls hold what can be saved; tells why if not.
     virtual bool maySave() { return true; }
 
-    /// Controls to files. Throws StoreError.
+    /// Controls to files and nothing else, as it also shows what would be saved. Throws StoreError.
     virtual void save() = 0;
 
     /// Saves what is open in the part and has a SAVE of its own, if anything is. Asks and tells nothing.
