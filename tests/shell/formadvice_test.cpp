@@ -266,6 +266,18 @@ TEST_F(FormAdviceTest, MarksTheControlAndNotByItsColourAlone)
     EXPECT_EQ(box.textMargins().right(), 0);
 }
 
+TEST_F(FormAdviceTest, ASignGivesBackWhatWasSaidOfItsControl)
+{
+    auto& form = welcome();
+    auto& box = find<QLineEdit>(form, "txtTextBox(1)");
+    box.setAccessibleDescription("the name");
+    box.setText("a\"b");
+    EXPECT_EQ(box.accessibleDescription(), said(form));
+    box.setText("ab");
+    said(form);
+    EXPECT_EQ(box.accessibleDescription(), "the name");
+}
+
 TEST_F(FormAdviceTest, ASignFollowsItsControl)
 {
     auto& form = welcome();

@@ -57,7 +57,8 @@ void drawSign(QPainter& painter, const QRect& place)
 
 ControlSign::ControlSign(QWidget& control, const QString& words)
     : QWidget(control.parentWidget()),
-      m_control(&control)
+      m_control(&control),
+      m_before(control.accessibleDescription())
 {
     setObjectName("SIGN");
     setToolTip(toolTipOf(words));
@@ -71,7 +72,7 @@ ControlSign::~ControlSign()
 {
     if (!m_control)
         return;
-    m_control->setAccessibleDescription({});
+    m_control->setAccessibleDescription(m_before);
     leaveRoom(m_control, 0);
 }
 

@@ -36,6 +36,7 @@ private:
     QRect signPlace() const;
 
     QPointer<QWidget> m_control;
+    QString m_before; ///< what screen readers were told of the control
 };
 
 } // namespace quillfen
