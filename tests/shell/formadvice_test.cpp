@@ -375,6 +375,13 @@ TEST_F(AdviceOnRows, MarksTheRow)
     EXPECT_EQ(list.signOf(1), "");
 }
 
+TEST_F(AdviceOnRows, OfManyTheFirstHundredAreTold)
+{
+    for (int row = 0; row < 300; ++row)
+        append(" a");
+    EXPECT_TRUE(said(form).startsWith("1 of 100. "));
+}
+
 TEST_F(AdviceOnRows, EqualRowsHaveASignEach)
 {
     append(" a");

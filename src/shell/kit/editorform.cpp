@@ -2,7 +2,6 @@
 
 #include "shell/kit/changemarks.h"
 #include "shell/kit/codepagetext.h"
-#include "shell/kit/controlvalue.h"
 #include "shell/kit/listview.h"
 #include "shell/kit/longtext.h"
 #include "shell/kit/messages.h"
@@ -170,8 +169,7 @@ void EditorForm::explainBy(const FormDeclaration& declaration, const FormContext
     m_cards = new SettingCards(*m_frame, *m_marks);
     for (const PartDeclaration& part : declaration.parts) {
         for (const SettingCard& card : cardsOf(part, context.profiles)) {
-            m_cards->add(card);
-            auto* control = controlNamed(*m_frame, fromBytes(card.control));
+            const auto* control = m_cards->add(card);
             if (control && card.defaultValue)
                 m_marks->offerDefault(*control, fromBytes(*card.defaultValue));
         }

@@ -21,6 +21,9 @@ namespace {
 /// Until the keys rest for so long nothing is looked at.
 constexpr int restMilliseconds = 300;
 
+/// Nobody goes through more at once; and each costs a look at all rows.
+constexpr std::size_t mostAdvice = 100;
+
 /// Where the switches are.
 constexpr const char* switchesNode = "General~Switches";
 constexpr const char* switchesList = "lvwSwitches";
@@ -196,8 +199,10 @@ void FormAdvice::findIn(FormPart& part, const StoreChange& change, std::vector<A
     } else if (part.widget()->findChild<ListView*>() && !part.widget()->findChild<RowList*>()) {
         addToOtherLines(findings, unreadFindings(*file, *bytes)); // a grid
     }
-    for (const Finding& finding : findings)
-        found.push_back(placed(finding, *bytes, part, found));
+    for (const Finding& finding : findings) {
+        if (found.size() < mostAdvice)
+            found.push_back(placed(finding, *bytes, part, found));
+    }
 }
 
 Advice FormAdvice::placed(const Finding& finding, const std::string& bytes, FormPart& part,

@@ -22,20 +22,21 @@ SettingCards::SettingCards(QWidget& frame, const ChangeMarks& marks)
 {
 }
 
-void SettingCards::add(const SettingCard& card)
+QWidget* SettingCards::add(const SettingCard& card)
 {
     auto* control = controlNamed(m_frame, fromBytes(card.control));
     if (!control)
-        return;
+        return nullptr;
     m_cards[control] = card;
     control->setWhatsThis(textOf(*control));
     if (auto* list = qobject_cast<ListView*>(control)) {
         list->header()->viewport()->installEventFilter(this); // its rows have tips of their own
-        return;
+        return control;
     }
     control->installEventFilter(this);
     if (auto* line = control->findChild<QLineEdit*>())
         line->installEventFilter(this);
+    return control;
 }
 
 QString SettingCards::textOf(const QWidget& control) const

@@ -23,8 +23,8 @@ public:
     /// The marks tell what the files hold. `frame` owns the cards.
     SettingCards(QWidget& frame, const ChangeMarks& marks);
 
-    /// From now on the control of its name has this card. Nothing happens where there is none.
-    void add(const SettingCard& card);
+    /// From now on the control of its name has this card. Returns that control, null where there is none.
+    QWidget* add(const SettingCard& card);
 
     /// Shows the card of the control that has the focus, or of the nearest around it. False where there is
     /// none.
