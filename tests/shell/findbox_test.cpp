@@ -6,6 +6,7 @@
 #include <QAccessible>
 #include <QLineEdit>
 #include <QListView>
+#include <QProxyStyle>
 #include <QTreeWidget>
 
 namespace quillfen {
@@ -364,6 +365,33 @@ TEST_F(FindBox, WhatWasSoughtStandsOutInLightAndDarkPalettes)
         EXPECT_GT(fewer, 0);
         EXPECT_GT(more, fewer);
     }
+}
+
+/// Draws selected rows on white, as the style of Windows nearly does.
+class PaleStyle : public QProxyStyle
+{
+public:
+    void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                     const QWidget* widget) const override
+    {
+        if (element == CE_ItemViewItem)
+            painter->fillRect(option->rect, Qt::white);
+        else
+            QProxyStyle::drawControl(element, option, painter, widget);
+    }
+};
+
+TEST_F(FindBox, ASelectedRowHasTheGroundOfItsLettersInEveryStyle)
+{
+    PaleStyle pale;
+    list().setStyle(&pale);
+    type("iWarnsMakeKick");
+    QTest::keyClick(&box(), Qt::Key_Down);
+    ASSERT_TRUE(list().selectionModel()->isSelected(list().model()->index(0, 0)));
+    const QRect row = list().visualRect(list().model()->index(0, 0));
+    EXPECT_EQ(list().viewport()->grab().toImage().pixelColor(row.bottomRight()),
+              list().palette().color(QPalette::Highlight));
+    list().setStyle(nullptr);
 }
 
 TEST_F(FindBox, TextsOfFilesAreShownToTheLetter)

@@ -92,8 +92,11 @@ public:
     {
         QStyleOptionViewItem option = given;
         initStyleOption(&option, index);
-        option.text.clear(); // the style draws the row, and we the text
-        option.widget->style()->drawControl(QStyle::CE_ItemViewItem, &option, painter, option.widget);
+        option.text.clear();                              // the style draws the row, and we the text
+        if ((option.state & QStyle::State_Selected) != 0) // on its own ground; a style may have a paler one
+            painter->fillRect(option.rect, option.palette.brush(QPalette::Highlight));
+        else
+            option.widget->style()->drawControl(QStyle::CE_ItemViewItem, &option, painter, option.widget);
         const QRect place = option.rect.adjusted(margin, margin, -margin, -margin);
         painter->save();
         painter->setClipRect(place);
