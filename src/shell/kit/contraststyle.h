@@ -4,8 +4,8 @@
 
 namespace quillfen {
 
-/// The platform's style, with edges that can be seen: in a dark palette those of tick boxes, text boxes,
-/// number boxes, combo boxes and lists, which Fusion draws darker than the window, which is as good as not at
+/// Fusion, Qt's own style, with edges that can be seen: in a dark palette those of tick boxes, text boxes,
+/// number boxes, combo boxes and lists, which it draws darker than the window, which is as good as not at
 /// all on a dark one; and in any palette that of a list that has the focus, which nothing else tells while it
 /// is empty.
 class ContrastStyle : public QProxyStyle
@@ -13,7 +13,9 @@ class ContrastStyle : public QProxyStyle
     Q_OBJECT
 
 public:
-    /// Gives the application this style where its own needs it.
+    ContrastStyle() : QProxyStyle(QStringLiteral("fusion")) {}
+
+    /// Gives the application this style where that has Fusion.
     static void install();
 
     void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
