@@ -369,16 +369,18 @@ TEST_F(ProgramStart, TellsWhatFailedAndWhatToDoAndEnds)
     hub.file("General/Globals/Version.tbl").clear();
     hub.store.failingCall = static_cast<int>(hub.store.log.size());
     const std::string rebuild = told();
-    EXPECT_TRUE(rebuild.starts_with("The settings couldn't be rebuilt. " + hub.root + "/")) << rebuild;
+    EXPECT_TRUE(rebuild.starts_with(test::native("The settings couldn't be rebuilt. " + hub.root + "/")))
+        << rebuild;
     EXPECT_TRUE(rebuild.ends_with(full +
                                   "What was written by then stays, and the next start asks again: mend it "
                                   "and start the program again."))
         << rebuild;
     hub.store.folders.erase("/hub/scripts/Morvaleth's Scripts/News");
-    EXPECT_EQ(told(), "The folder of the news couldn't be made. /hub/scripts/Morvaleth's Scripts/News" +
-                          full + "Your settings are untouched: mend it and start the program again.");
+    EXPECT_EQ(told(),
+              test::native("The folder of the news couldn't be made. /hub/scripts/Morvaleth's Scripts/News") +
+                  full + "Your settings are untouched: mend it and start the program again.");
     hub.store.folders.erase(hub.script);
-    EXPECT_EQ(told(), "Quillfen doesn't lie beside the hub script. " + hub.script +
+    EXPECT_EQ(told(), "Quillfen doesn't lie beside the hub script. " + test::native(hub.script) +
                           ": The hub script's folder is missing. Nothing was made: move the program into the "
                           "hub's scripts folder and start it again.");
 }

@@ -92,7 +92,7 @@ protected:
         timer.start(0);
         one.say("$Hello bot|$NickList " + list + "|$OpList " + list + '|');
         const bool loggedIn = QTest::qWaitFor(
-            [this] { return links().isLoggedIn(Link::One) && links().isLoggedIn(Link::Two); }, 3000);
+            [this] { return links().isLoggedIn(Link::One) && links().isLoggedIn(Link::Two); }, 30000);
         form().parentWidget()->close();
         EXPECT_TRUE(QTest::qWaitFor([this] { return !one.isConnected() && !two.isConnected(); }));
         return loggedIn;

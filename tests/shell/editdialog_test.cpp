@@ -561,9 +561,9 @@ TEST_F(TextEdit, AFailedSaveKeepsItOpenDirtyAndComplete)
     const auto boxes = test::answering(QMessageBox::Ok, [&] { tool(dialog, "SAVE").trigger(); });
     ASSERT_EQ(boxes.size(), 1);
     EXPECT_EQ(
-        boxes[0].text,
-        "The text couldn't be saved. /hub/scripts/Morvaleth's Quillfen/Settings/Gone/A.txt: No such file or "
-        "directory. Nothing that you typed is lost: mend it and save again.");
+        boxes[0].text.toStdString(),
+        test::native("The text couldn't be saved. /hub/scripts/Morvaleth's Quillfen/Settings/Gone/A.txt: "
+                     "No such file or directory. Nothing that you typed is lost: mend it and save again."));
     EXPECT_EQ(panel(dialog), "Controls = Dirty");
     EXPECT_EQ(box(dialog).toPlainText(), "x");
     EXPECT_FALSE(dialog.isSaved());

@@ -79,11 +79,12 @@ TEST_F(VersionsOfForms, ASaveThatStopsHalfWayTellsWhatIsNewAndWhatIsOld)
     hub.store.failingCall = 1;
     const auto boxes = test::answering(QMessageBox::Ok, [&form] { button(form, "SAVE").trigger(); });
     ASSERT_EQ(boxes.size(), 1);
-    EXPECT_EQ(boxes[0].text,
-              form.caption() + " couldn't be saved. " + QString::fromStdString(hub.root) +
-                  "/Security/AntiAdvertise/AntiAdvertiseBlockedActions.tbl: No space left on device. "
-                  "Nothing that you typed is lost: mend it and save again. New already: "
-                  "AntiAdvertiseSettings.tbl. Still as before: AntiAdvertiseBlockedActions.tbl.");
+    EXPECT_EQ(
+        boxes[0].text.toStdString(),
+        form.caption().toStdString() + " couldn't be saved. " +
+            test::native(hub.root + "/Security/AntiAdvertise/AntiAdvertiseBlockedActions.tbl") +
+            ": No space left on device. Nothing that you typed is lost: mend it and save again. New already: "
+            "AntiAdvertiseSettings.tbl. Still as before: AntiAdvertiseBlockedActions.tbl.");
     EXPECT_TRUE(isDirty(form));
 }
 

@@ -24,6 +24,12 @@ struct SeenBox
     QMessageBox::StandardButton preset = QMessageBox::NoButton; ///< what Enter presses
 };
 
+/// A text in which paths stand as the platform's people write them.
+inline std::string native(const std::string& text)
+{
+    return QDir::toNativeSeparators(QString::fromStdString(text)).toStdString();
+}
+
 /// Runs an action that opens modal windows, and acts on each as a user would: `use` is called once for every
 /// one.
 inline void withModal(const std::function<void()>& action, const std::function<void(QWidget&)>& use)

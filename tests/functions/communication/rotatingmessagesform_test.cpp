@@ -239,9 +239,10 @@ TEST_P(RotatingForms, AFileThatCannotBeDeletedStaysInTheListAndIsTold)
     ASSERT_EQ(boxes.size(), 2);
     EXPECT_EQ(boxes[1].icon, QMessageBox::Critical);
     EXPECT_EQ(boxes[1].title, window().windowTitle());
-    EXPECT_EQ(boxes[1].text.toStdString(),
-              "one couldn't be deleted. " + hub.root + "/" + texts +
-                  "one.asc: No space left on device. It stays in the list: mend it and delete it again.");
+    EXPECT_EQ(
+        boxes[1].text.toStdString(),
+        test::native("one couldn't be deleted. " + hub.root + "/" + texts +
+                     "one.asc: No space left on device. It stays in the list: mend it and delete it again."));
     EXPECT_EQ(list(form).rows().size(), 3U);
     EXPECT_FALSE(isDirty(form));
 }

@@ -116,9 +116,10 @@ TEST_F(WhisperForms, AFolderThatCannotBeMadeIsToldAndTheFormStaysDirty)
     hub.store.failingCall = static_cast<int>(hub.store.log.size());
     const auto boxes = answering(QMessageBox::Ok, [&form] { button(form, "SAVE").trigger(); });
     ASSERT_EQ(boxes.size(), 1);
-    EXPECT_EQ(boxes[0].text, "Communication ~ HubEmail couldn't be saved. /hub/scripts/Morvaleth's "
-                             "Quillfen/Settings/Communication/HubEmail: No space left on device. Nothing "
-                             "that you typed is lost: mend it and save again.");
+    EXPECT_EQ(boxes[0].text.toStdString(),
+              test::native("Communication ~ HubEmail couldn't be saved. /hub/scripts/Morvaleth's "
+                           "Quillfen/Settings/Communication/HubEmail: No space left on device. Nothing "
+                           "that you typed is lost: mend it and save again."));
     EXPECT_EQ(inbox(form).text(), "20");
     EXPECT_TRUE(isDirty(form));
 }

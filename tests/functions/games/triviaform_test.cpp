@@ -501,9 +501,10 @@ TEST_F(TriviaQuestions, ANewFileThatCantBeWrittenIsToldAndNotListed)
     const auto boxes = newFile(form, "foo");
     ASSERT_EQ(boxes.size(), 1);
     EXPECT_EQ(boxes[0].text.toStdString(),
-              "foo couldn't be made. " + hub.root +
+              test::native(
+                  "foo couldn't be made. " + hub.root +
                   "/Games/Trivia/QuestionFiles/foo.lst: No space left on device. It doesn't join the list: "
-                  "mend it and make it again.");
+                  "mend it and make it again."));
     EXPECT_EQ(files(form).rows().size(), 3U);
     EXPECT_FALSE(isDirty(form));
 }

@@ -191,9 +191,10 @@ TEST_F(GeneralForms, AFailedSaveTellsTheFileAndKeepsTheFormDirtyAndComplete)
     const auto boxes = answering(QMessageBox::Ok, [&form] { button(form, "SAVE").trigger(); });
     ASSERT_EQ(boxes.size(), 1);
     EXPECT_EQ(boxes[0].icon, QMessageBox::Critical);
-    EXPECT_EQ(boxes[0].text, "General ~ Settings couldn't be saved. /hub/scripts/Morvaleth's "
-                             "Quillfen/Settings/General/Globals/GeneralSettings.tbl: No space left on "
-                             "device. Nothing that you typed is lost: mend it and save again.");
+    EXPECT_EQ(boxes[0].text.toStdString(),
+              test::native("General ~ Settings couldn't be saved. /hub/scripts/Morvaleth's "
+                           "Quillfen/Settings/General/Globals/GeneralSettings.tbl: No space left on "
+                           "device. Nothing that you typed is lost: mend it and save again."));
     EXPECT_EQ(boxes[0].format, Qt::PlainText);
     EXPECT_TRUE(isDirty(form));
     EXPECT_EQ(box(form, "txtTextBox(1)").text(), "Quill");
