@@ -2,6 +2,9 @@
 #include "app/start.h"
 #include "check/checkcommand.h"
 #include "store/diskstore.h"
+#ifdef _WIN32
+#include "app/darkdesktop.h"
+#endif
 
 #include <QApplication>
 
@@ -13,7 +16,14 @@ int main(int argc, char** argv)
     if (argc > 1 && std::string_view(argv[1]) == "--check") // needs no display
         return quillfen::runCheck(disk, quillfen::programFolderOf(argv[0]), {argv + 2, argv + argc},
                                   std::cout, std::cerr);
+#ifdef _WIN32
+    const bool isDark = quillfen::askForDarkWindows();
+#endif
     const QApplication application(argc, argv);
+#ifdef _WIN32
+    if (isDark)
+        quillfen::mendDarkColours();
+#endif
     QCoreApplication::setApplicationName("quillfen"); // whatever the owner calls the file
     const QString folder = QCoreApplication::applicationDirPath();
     quillfen::HubData data(disk, folder);

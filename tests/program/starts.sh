@@ -11,6 +11,7 @@ export DISPLAY=:$number
 export QT_QPA_PLATFORM=xcb
 export XDG_DATA_HOME=$work/data
 scripts=$work/hub/scripts
+start=("$scripts/quillfen") # how the program is called
 tree="$scripts/Morvaleth's Quillfen/Settings"
 version_box="Morvaleth's Quillfen: Version Change Detected"
 main_window="Morvaleth's Quillfen $version"
@@ -24,7 +25,7 @@ fail() {
 
 begin() {
   echo "- $*"
-  "$scripts/quillfen" &
+  "${start[@]}" &
   pid=$!
 }
 
