@@ -1,5 +1,6 @@
 // The check of a settings tree alone, for machines without a display and without Qt.
 #include "check/checkcommand.h"
+#include "check/programcall.h"
 #include "store/diskstore.h"
 
 #include <iostream>
@@ -7,6 +8,6 @@
 int main(int count, char** arguments)
 {
     quillfen::DiskStore disk;
-    return quillfen::runCheck(disk, quillfen::programFolderOf(arguments[0]),
-                              {arguments + 1, arguments + count}, std::cout, std::cerr);
+    const auto call = quillfen::programCall(count, arguments);
+    return quillfen::runCheck(disk, call.folder, call.arguments, std::cout, std::cerr);
 }

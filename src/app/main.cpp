@@ -1,6 +1,7 @@
 #include "app/hubdata.h"
 #include "app/start.h"
 #include "check/checkcommand.h"
+#include "check/programcall.h"
 #include "store/diskstore.h"
 #ifdef _WIN32
 #include "app/darkdesktop.h"
@@ -13,9 +14,11 @@
 int main(int argc, char** argv)
 {
     quillfen::DiskStore disk;
-    if (argc > 1 && std::string_view(argv[1]) == "--check") // needs no display
-        return quillfen::runCheck(disk, quillfen::programFolderOf(argv[0]), {argv + 2, argv + argc},
-                                  std::cout, std::cerr);
+    if (argc > 1 && std::string_view(argv[1]) == "--check") { // needs no display
+        auto call = quillfen::programCall(argc, argv);
+        call.arguments.erase(call.arguments.begin());
+        return quillfen::runCheck(disk, call.folder, call.arguments, std::cout, std::cerr);
+    }
 #ifdef _WIN32
     const bool isDark = quillfen::askForDarkWindows();
 #endif

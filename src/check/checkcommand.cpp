@@ -3,7 +3,6 @@
 #include "check/treecheck.h"
 #include "settings/codepage.h"
 #include "settings/tablefile.h"
-#include "store/nativepath.h"
 
 #include <algorithm>
 #include <ostream>
@@ -38,15 +37,6 @@ CheckResult runCheck(FileStore& store, const std::string& programFolder,
     for (const Finding& finding : findings)
         out << lineOf(files, finding) << '\n';
     return findings.empty() ? AllLoads : HasFindings;
-}
-
-std::string programFolderOf(const std::string& calledBy)
-{
-    std::error_code unknown;
-    auto program = std::filesystem::read_symlink("/proc/self/exe", unknown);
-    if (unknown)
-        program = std::filesystem::absolute(calledBy, unknown);
-    return pathText(program.parent_path());
 }
 
 } // namespace quillfen

@@ -21,7 +21,4 @@ enum CheckResult
 CheckResult runCheck(FileStore& store, const std::string& programFolder,
                      const std::vector<std::string>& arguments, std::ostream& out, std::ostream& problems);
 
-/// The folder of this program, as the platform tells it; else by the name that it was called by.
-std::string programFolderOf(const std::string& calledBy);
-
 } // namespace quillfen
