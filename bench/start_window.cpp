@@ -6,6 +6,8 @@
 #include "formopening.h"
 #include "store/diskstore.h"
 
+#include <QTimer>
+
 #include <cstdlib>
 
 namespace {
@@ -34,7 +36,6 @@ int main(int argc, char** argv)
     DiskStore disk;
     const auto folder = QString::fromLocal8Bit(argv[1]);
     HubData data(disk, folder, folder + "/../data");
-    data.sweep();
     Program program(disk, folder, {QUILLFEN_VERSION});
     program.use(data);
     if (const auto exitCode = program.start())
@@ -46,5 +47,6 @@ int main(int argc, char** argv)
         bench::endProgram();
     });
     program.window().show();
+    QTimer::singleShot(std::chrono::seconds(1), [&data] { data.sweep(); });
     return QApplication::exec();
 }

@@ -8,6 +8,7 @@
 #endif
 
 #include <QApplication>
+#include <QTimer>
 
 #include <iostream>
 
@@ -30,15 +31,18 @@ int main(int argc, char** argv)
     QCoreApplication::setApplicationName("quillfen"); // whatever the owner calls the file
     const QString folder = QCoreApplication::applicationDirPath();
     quillfen::HubData data(disk, folder);
-    data.sweep();
     quillfen::ProgramInfo info{QUILLFEN_VERSION, QStringLiteral(QUILLFEN_WEB_BASE)};
     info.newsBase = QStringLiteral(QUILLFEN_NEWS_BASE);
     info.updatesBase = QStringLiteral(QUILLFEN_UPDATES_BASE);
     info.guideFolder = folder + "/quillfen-docs";
     quillfen::Program program(disk, folder, std::move(info));
     program.use(data);
-    if (const auto exitCode = program.start())
+    const auto exitCode = program.start();
+    if (exitCode) {
+        data.sweep();
         return *exitCode;
+    }
     program.window().show();
+    QTimer::singleShot(std::chrono::seconds(1), [&data] { data.sweep(); }); // the window comes first
     return QApplication::exec();
 }

@@ -39,7 +39,7 @@ QSize StatusPanel::sizeHint() const
 
 QSize StatusPanel::minimumSizeHint() const
 {
-    return {0, sizeHint().height()};
+    return {0, fontMetrics().height() + 4}; // asked for often, and a width would cost its text's measure
 }
 
 void StatusPanel::paintEvent(QPaintEvent* /*event*/)

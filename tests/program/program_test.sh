@@ -67,8 +67,12 @@ check "$work/nowhere" || result=$?
 [ "$result" -eq 2 ] || fail "it ended with $result where there is no tree"
 
 sed -i 's|^</Profiles>|<Profile>\r\n<Name>Guest</Name>\r\n</Profile>\r\n</Profiles>|' "$work/hub/cfg/Profiles.xml"
+echo left > "$tree/General/.quillfen-1-2.aside"
 begin "more profiles rebuild"
 press "$profile_box" Return
+await "$main_window" >/dev/null
+for _ in $(seq 50); do [ -e "$tree/General/.quillfen-1-2.aside" ] || break; sleep 0.1; done
+[ ! -e "$tree/General/.quillfen-1-2.aside" ] || fail "what a crash left was not swept up behind the window"
 close_main
 grep -q "<Name>Guest</Name>" "$tree/General/PtokaX/Profiles.xml" || fail "the profile copy is old"
 

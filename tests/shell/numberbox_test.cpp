@@ -121,6 +121,40 @@ TEST(NumberBoxTest, ANumberForArrowsOnlyLooksReadOnlyAndTellsHowItIsChanged)
     EXPECT_EQ(typed.toolTip(), "");
 }
 
+/// A box whose look can be asked for.
+class SeenBox : public NumberBox
+{
+public:
+    SeenBox() : NumberBox("txtUpDown", 1, 720) {}
+    QPalette seenPalette() const
+    {
+        QStyleOptionSpinBox option;
+        initStyleOption(&option);
+        return option.palette;
+    }
+};
+
+TEST(NumberBoxTest, NumbersForArrowsOnlyShareThePicturesOfTheStyle)
+{
+    SeenBox one;
+    SeenBox two;
+    SeenBox disabled;
+    for (SeenBox* box : {&one, &two, &disabled})
+        box->setOnlyArrows();
+    disabled.setEnabled(false);
+    EXPECT_NE(one.palette().cacheKey(), two.palette().cacheKey());
+    EXPECT_EQ(one.seenPalette().cacheKey(), two.seenPalette().cacheKey());
+    EXPECT_EQ(disabled.seenPalette().cacheKey(), two.seenPalette().cacheKey());
+    EXPECT_EQ(disabled.seenPalette().currentColorGroup(), QPalette::Disabled);
+    EXPECT_EQ(one.seenPalette(), one.palette());
+
+    QPalette other = one.palette();
+    other.setColor(QPalette::Base, Qt::green);
+    one.setPalette(other);
+    EXPECT_EQ(one.seenPalette().color(QPalette::Base), QColor(Qt::green));
+    EXPECT_EQ(two.seenPalette(), two.palette());
+}
+
 TEST(NumberBoxTest, TheWheelDoesNothingWithoutFocus)
 {
     NumberBox box("txtUpDown", 1, 720);

@@ -4,6 +4,7 @@
 #include "shell/kit/codepagetext.h"
 
 #include <QKeyEvent>
+#include <QStyleOption>
 #include <QWheelEvent>
 
 #include <algorithm>
@@ -55,6 +56,21 @@ QSize NumberBox::sizeHint() const
     return {std::max(base.width(),
                      fontMetrics().horizontalAdvance(QStringLiteral("00000000")) + base.height() * 2),
             base.height()};
+}
+
+/// The style keeps a picture of a box for each palette, by which palette it is and not by its colours. Boxes
+/// for arrows only have one each, and so are shown as if they had the same.
+void NumberBox::initStyleOption(QStyleOptionSpinBox* option) const
+{
+    QAbstractSpinBox::initStyleOption(option);
+    if (!lineEdit()->isReadOnly())
+        return;
+    static QPalette shown;
+    if (option->palette != shown)
+        shown = option->palette;
+    const auto group = option->palette.currentColorGroup();
+    option->palette = shown;
+    option->palette.setCurrentColorGroup(group);
 }
 
 QAbstractSpinBox::StepEnabled NumberBox::stepEnabled() const

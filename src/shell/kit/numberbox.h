@@ -33,6 +33,7 @@ signals:
     void textChanged(const QString& text);
 
 protected:
+    void initStyleOption(QStyleOptionSpinBox* option) const override;
     StepEnabled stepEnabled() const override;
     void wheelEvent(QWheelEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
