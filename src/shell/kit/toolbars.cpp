@@ -1,6 +1,7 @@
 #include "shell/kit/toolbars.h"
 
 #include "shell/icons/icons.h"
+#include "shell/kit/elidedlabel.h"
 #include "shell/kit/messages.h"
 #include "shell/kit/units.h"
 
@@ -226,9 +227,8 @@ void PlaceChildForm(QStatusBar& statusBar)
     state->setMinimumWidth(twips(1500));
     state->setTextFormat(Qt::PlainText);
     statusBar.addWidget(state);
-    auto* note = new QLabel(&statusBar);
+    auto* note = new ElidedLabel(0, &statusBar);
     note->setMinimumWidth(1); // a long text is cut, and doesn't widen the form
-    note->setTextFormat(Qt::PlainText);
     statusBar.addWidget(note, 1);
 }
 
