@@ -11,11 +11,6 @@ namespace {
 class ChangedFiles : public test::FormTest
 {
 protected:
-    static QString secondPanel(EditorForm& form)
-    {
-        return find<QStatusBar>(form, "stsStatusBar").findChildren<QLabel*>().at(1)->text();
-    }
-
     std::string& file() { return hub.file("Games/SlotMachine/SlotMachineSettings.tbl"); }
 
     std::string otherBytes()
@@ -41,7 +36,7 @@ TEST_F(ChangedFiles, AreLoadedByACleanForm)
     form.lookAtFiles();
     EXPECT_EQ(number(form).text(), "7");
     EXPECT_FALSE(isDirty(form));
-    EXPECT_EQ(secondPanel(form), "");
+    EXPECT_EQ(secondPanel(form).text(), "");
 }
 
 TEST_F(ChangedFiles, AreToldByADirtyFormUntilItReadsOrReplacesThem)
@@ -55,13 +50,13 @@ TEST_F(ChangedFiles, AreToldByADirtyFormUntilItReadsOrReplacesThem)
         form.lookAtFiles();
         EXPECT_EQ(number(form).text(), "3");
         EXPECT_TRUE(isDirty(form));
-        EXPECT_EQ(secondPanel(form),
+        EXPECT_EQ(secondPanel(form).text(),
                   "SlotMachineSettings.tbl changed on disk; SAVE replaces it, DISCARD reads it");
         test::answering(QMessageBox::Ok, [this, key] { button(form, key).trigger(); });
-        EXPECT_EQ(secondPanel(form), "") << key;
+        EXPECT_EQ(secondPanel(form).text(), "") << key;
         EXPECT_EQ(number(form).text(), QString(key) == "SAVE" ? "3" : "7");
         form.lookAtFiles();
-        EXPECT_EQ(secondPanel(form), "") << key;
+        EXPECT_EQ(secondPanel(form).text(), "") << key;
     }
 }
 
@@ -70,10 +65,10 @@ TEST_F(ChangedFiles, ThatHoldTheSameAgainAreNotTold)
     number(form).setText("3");
     file() = other;
     form.lookAtFiles();
-    ASSERT_NE(secondPanel(form), "");
+    ASSERT_NE(secondPanel(form).text(), "");
     file() = mine;
     form.lookAtFiles();
-    EXPECT_EQ(secondPanel(form), "");
+    EXPECT_EQ(secondPanel(form).text(), "");
 }
 
 TEST_F(ChangedFiles, OfAFormWhoseLoadAddsAreToldAndNotRead)
@@ -84,7 +79,7 @@ TEST_F(ChangedFiles, OfAFormWhoseLoadAddsAreToldAndNotRead)
     questions.lookAtFiles();
     EXPECT_EQ(shown(find<RowList>(questions, "lvwQuestionFiles")), rows);
     EXPECT_TRUE(secondPanel(questions).startsWith("TriviaQuestionFiles.tbl changed on disk;"))
-        << secondPanel(questions).toStdString();
+        << secondPanel(questions).toStdString().text();
 }
 
 TEST_F(ChangedFiles, AFormsOwnSaveIsNoChange)
@@ -93,7 +88,7 @@ TEST_F(ChangedFiles, AFormsOwnSaveIsNoChange)
     button(form, "SAVE").trigger();
     number(form).setText("10");
     form.lookAtFiles();
-    EXPECT_EQ(secondPanel(form), "");
+    EXPECT_EQ(secondPanel(form).text(), "");
     EXPECT_EQ(number(form).text(), "10");
 }
 

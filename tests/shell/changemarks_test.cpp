@@ -29,10 +29,11 @@ protected:
         return count;
     }
 
-    static QString secondPanel(EditorForm& form)
+    /// What the second panel says of the form as it stands.
+    static QString noteOf(EditorForm& form)
     {
         form.advice()->look();
-        return find<QStatusBar>(form, "stsStatusBar").findChildren<QLabel*>().at(1)->text();
+        return secondPanel(form).text();
     }
 
     /// The menu of a right click on a control's line of text, or on the control.
@@ -106,14 +107,14 @@ TEST_F(ChangeMarksTest, RowsThatCameWentAndChangedAreCounted)
     enter("NEW", "one");
     enter("NEW", "two");
     enter("NEW", "three");
-    EXPECT_EQ(secondPanel(form), "3 added");
+    EXPECT_EQ(noteOf(form), "3 added");
     button(form, "SAVE").trigger();
-    EXPECT_EQ(secondPanel(form), "");
+    EXPECT_EQ(noteOf(form), "");
     list.select(0);
     enter("EDIT", "four");
-    EXPECT_EQ(secondPanel(form), "1 changed");
+    EXPECT_EQ(noteOf(form), "1 changed");
     list.remove(1);
-    EXPECT_EQ(secondPanel(form), "1 changed, 1 deleted");
+    EXPECT_EQ(noteOf(form), "1 changed, 1 deleted");
 }
 
 TEST_F(ChangeMarksTest, ARightClickOffersTheDefaultAndWhatTheFileHolds)

@@ -19,11 +19,6 @@ namespace {
 class FormAdviceTest : public test::FormTest
 {
 protected:
-    static QLabel& secondPanel(EditorForm& form)
-    {
-        return *find<QStatusBar>(form, "stsStatusBar").findChildren<QLabel*>().at(1);
-    }
-
     /// What is said of the form as it stands.
     static QString said(EditorForm& form)
     {

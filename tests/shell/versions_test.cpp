@@ -17,11 +17,6 @@ protected:
         hub.files.store().keepVersionsIn(&history);
     }
 
-    static QString secondPanel(EditorForm& form)
-    {
-        return find<QStatusBar>(form, "stsStatusBar").findChildren<QLabel*>().at(1)->text();
-    }
-
     void changeAndSave(EditorForm& form)
     {
         find<NumberBox>(form, "updUpDown(0)").stepBy(1);
@@ -60,15 +55,16 @@ TEST_F(VersionsOfForms, ADeletionAtOnceIsKeptUnderTheFormInFront)
 TEST_F(VersionsOfForms, ThatNoVersionWasKeptShowsInTheSecondPanelUntilOneIs)
 {
     auto& form = open("Games~SlotMachine");
-    EXPECT_EQ(secondPanel(form), "");
+    EXPECT_EQ(secondPanel(form).text(), "");
     versionDisk.failingCall = 0;
     changeAndSave(form);
     EXPECT_FALSE(isDirty(form));
-    EXPECT_TRUE(secondPanel(form).startsWith("No version was kept: ")) << secondPanel(form).toStdString();
-    EXPECT_TRUE(secondPanel(form).contains("No space left on device"));
+    EXPECT_TRUE(secondPanel(form).text().startsWith("No version was kept: "))
+        << secondPanel(form).text().toStdString();
+    EXPECT_TRUE(secondPanel(form).text().contains("No space left on device"));
     versionDisk.failingCall = -1;
     changeAndSave(form);
-    EXPECT_EQ(secondPanel(form), "");
+    EXPECT_EQ(secondPanel(form).text(), "");
 }
 
 TEST_F(VersionsOfForms, ASaveThatStopsHalfWayTellsWhatIsNewAndWhatIsOld)

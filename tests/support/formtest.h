@@ -138,10 +138,8 @@ protected:
         return rows;
     }
 
-    static QString state(EditorForm& form)
-    {
-        return find<QStatusBar>(form, "stsStatusBar").findChildren<QLabel*>().constFirst()->text();
-    }
+    static QString state(EditorForm& form) { return panel(form, 0).text(); }
+    static QLabel& secondPanel(EditorForm& form) { return panel(form, 1); }
 
     static bool isDirty(EditorForm& form)
     {
