@@ -4,6 +4,7 @@ install(TARGETS quillfen RUNTIME DESTINATION .)
 install(FILES LICENSE docs/guide.md DESTINATION quillfen-docs)
 install(DIRECTORY docs/pictures DESTINATION quillfen-docs)
 if(WIN32) # where no system package brings Qt along; scripts/windows makes the archive
+  install(TARGETS quillfen_check RUNTIME DESTINATION .) # a program with windows can't speak on a console there
   foreach(library Core Gui Network Widgets)
     install(FILES $<TARGET_FILE:Qt6::${library}> DESTINATION .)
   endforeach()

@@ -10,7 +10,7 @@
 namespace quillfen {
 namespace {
 
-constexpr const char* downloadOffer = "Click to download new version";
+constexpr QLatin1String downloadOffer("Click to download new version");
 
 } // namespace
 

@@ -4,8 +4,6 @@
 
 #include <QKeyEvent>
 #include <QMouseEvent>
-#include <QPainter>
-#include <QStyleOptionFocusRect>
 
 #include <algorithm>
 
@@ -18,10 +16,11 @@ constexpr int widest = 360; ///< what a panel asks for at most; a text from the 
 
 } // namespace
 
-StatusPanel::StatusPanel(const QString& key, const QString& text, QWidget* parent) : QLabel(text, parent)
+StatusPanel::StatusPanel(const QString& key, const QString& text, QWidget* parent)
+    : ElidedLabel(inset, parent)
 {
     setObjectName(key);
-    setTextFormat(Qt::PlainText);
+    setText(text);
 }
 
 void StatusPanel::setLine(const QString& text)
@@ -42,20 +41,6 @@ QSize StatusPanel::minimumSizeHint() const
     return {0, fontMetrics().height() + 4}; // asked for often, and a width would cost its text's measure
 }
 
-void StatusPanel::paintEvent(QPaintEvent* /*event*/)
-{
-    QPainter painter(this);
-    const QRect room = rect().adjusted(inset, 0, -inset, 0);
-    style()->drawItemText(&painter, room, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, palette(),
-                          isEnabled(), fontMetrics().elidedText(text(), Qt::ElideRight, room.width()),
-                          foregroundRole());
-    if (hasFocus()) {
-        QStyleOptionFocusRect focus;
-        focus.initFrom(this);
-        style()->drawPrimitive(QStyle::PE_FrameFocusRect, &focus, &painter, this);
-    }
-}
-
 void StatusPanel::mouseReleaseEvent(QMouseEvent* event)
 {
     if (event->button() == Qt::LeftButton && rect().contains(event->position().toPoint()))
@@ -67,7 +52,7 @@ void StatusPanel::keyPressEvent(QKeyEvent* event)
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter || event->key() == Qt::Key_Space)
         emit clicked();
     else
-        QLabel::keyPressEvent(event);
+        ElidedLabel::keyPressEvent(event);
 }
 
 } // namespace quillfen

@@ -1,11 +1,11 @@
 #pragma once
 
-#include <QLabel>
+#include "shell/kit/elidedlabel.h"
 
 namespace quillfen {
 
-/// A panel of the main status bar: one line of plain text, cut with an ellipsis where the room ends.
-class StatusPanel : public QLabel
+/// A panel of the main status bar.
+class StatusPanel : public ElidedLabel
 {
     Q_OBJECT
 
@@ -22,7 +22,6 @@ signals:
     void clicked();
 
 protected:
-    void paintEvent(QPaintEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 };

@@ -23,7 +23,7 @@
 namespace quillfen {
 namespace {
 
-constexpr const char* caption = "Communication ~ Portal";
+constexpr QLatin1String caption("Communication ~ Portal");
 constexpr std::size_t fullHubList = 2;
 
 /// A row of the hub list keeps its columns in this order.
@@ -172,10 +172,10 @@ QWidget* PortalPart::identity()
     for (std::size_t at = 0; at < m_fields.size(); ++at) {
         auto* field = new QLineEdit;
         field->setObjectName(QStringLiteral("txtTextBox(%1)").arg(at));
-        field->setAccessibleName(portalLabels[at]);
+        field->setAccessibleName(fromBytes(portalLabels[at]));
         limitToOneLine(*field);
         connect(field, &QLineEdit::textChanged, this, &FormPart::changed);
-        auto* label = labelFor(portalLabels[at], field);
+        auto* label = labelFor(fromBytes(portalLabels[at]), field);
         label->setObjectName(QStringLiteral("lblLabel(%1)").arg(at));
         layout->addRow(label, field);
         m_fields[at] = field;

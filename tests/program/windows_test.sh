@@ -41,6 +41,8 @@ while read -r library; do
     [ -e "$WINEPREFIX/drive_c/windows/system32/$library" ] ||
     [ -n "$(find "$scripts" -maxdepth 1 -iname "$library")" ] || fail "$library is missing"
 done <"$work/imported"
+resources=$(wrestool -l "$scripts/quillfen.exe" | sed -n 's/^--type=\([0-9]*\).*/\1/p' | sort -un | paste -sd ' ')
+[ "$resources" = "3 14 16 24" ] || fail "not icons, version and manifest, but resources of the types $resources"
 for library in "$scripts"/*.dll; do
   grep -qixF "$(basename "$library")" "$work/imported" || fail "nobody needs $library"
 done
@@ -109,12 +111,15 @@ picture windows-dark
 close_main
 
 echo "- check"
-"${wine[@]}" "$scripts/quillfen.exe" --check >"$work/check.txt" || fail "findings: $(cat "$work/check.txt")"
+check() { "${wine[@]}" "$scripts/$1.exe" "${@:2}" >"$work/check.txt"; }
+check quillfen --check || fail "findings: $(cat "$work/check.txt")"
 sed -i 's/bFlatRC = 0/bFlatRC = /' "$tree/General/Globals/GeneralSettings.tbl"
-result=0
-"${wine[@]}" "$scripts/quillfen.exe" --check >"$work/check.txt" || result=$?
-[ "$result" -eq 1 ] || fail "it ended with $result for a broken file"
-grep -q "GeneralSettings.tbl:3: the file won't load" "$work/check.txt" || fail "not told: $(cat "$work/check.txt")"
+for call in "quillfen --check" quillfen-check; do
+  result=0
+  check $call || result=$?
+  [ "$result" -eq 1 ] || fail "$call ended with $result for a broken file"
+  grep -q "GeneralSettings.tbl:3: the file won't load" "$work/check.txt" || fail "not told: $(cat "$work/check.txt")"
+done
 
 # Wine's server is the one that opens files.
 wineserver -k

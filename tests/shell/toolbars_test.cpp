@@ -1,4 +1,5 @@
 #include "shell/icons/icons.h"
+#include "shell/kit/elidedlabel.h"
 #include "shell/kit/toolbars.h"
 #include "support/formtest.h"
 
@@ -233,6 +234,25 @@ TEST(Toolbars, TheStatusBarHasTwoPanels)
     EXPECT_EQ(panels[0]->text(), "Controls = Clean");
     EXPECT_EQ(panels[0]->minimumWidth(), 1500 / 15);
     EXPECT_EQ(panels[1]->text(), "");
+}
+
+TEST(Toolbars, ANoteThatHasNoRoomInTheStatusBarEndsInAnEllipsis)
+{
+    QStatusBar bar;
+    PlaceChildForm(bar);
+    EXPECT_TRUE(qobject_cast<ElidedLabel*>(bar.findChildren<QLabel*>()[1]));
+
+    ElidedLabel note(0);
+    const QString whole =
+        "Enabled Profiles: no profile is ticked, so that nobody has any use of this function";
+    note.setText(whole);
+    note.resize(100, 20);
+    const QImage shown = note.grab().toImage();
+    const QString cut = note.fontMetrics().elidedText(whole, Qt::ElideRight, 100);
+    ASSERT_TRUE(cut.endsWith(QChar(0x2026)));
+    EXPECT_EQ(note.text(), whole);
+    note.setText(cut);
+    EXPECT_EQ(shown, note.grab().toImage());
 }
 
 TEST(Toolbars, DirtyAndCleanFollowButtonTwoAndTakeButtonThreeOut)

@@ -180,7 +180,7 @@ QString ChangeMarks::rowWords() const
     for (const WatchedRows& watched : m_lists)
         counts.add(watched.stored, watched.list->rows());
     QStringList words;
-    const auto tell = [&words](int count, const char* what) {
+    const auto tell = [&words](int count, const QString& what) {
         if (count > 0)
             words.append(QString::number(count) + ' ' + what);
     };

@@ -25,8 +25,8 @@ constexpr int restMilliseconds = 300;
 constexpr std::size_t mostAdvice = 100;
 
 /// Where the switches are.
-constexpr const char* switchesNode = "General~Switches";
-constexpr const char* switchesList = "lvwSwitches";
+constexpr QLatin1String switchesNode("General~Switches");
+constexpr QLatin1String switchesList("lvwSwitches");
 
 std::string_view lineAt(std::string_view bytes, std::size_t number)
 {

@@ -18,7 +18,8 @@ QString routineName(const QString& menu, const QString& item)
 RoutineTable buttonRoutines(const QString& menu, const QToolBar& toolbar)
 {
     RoutineTable routines;
-    for (const auto& [item, key] : {std::pair{"Add", "NEW"}, {"Delete", "DELETE"}, {"Edit", "EDIT"}}) {
+    for (const auto& [item, key] :
+         {std::pair<QString, QString>{"Add", "NEW"}, {"Delete", "DELETE"}, {"Edit", "EDIT"}}) {
         if (auto* pressed = button(toolbar, key))
             routines.insert(routineName(menu, item), {[pressed] { pressed->trigger(); }, pressed});
     }

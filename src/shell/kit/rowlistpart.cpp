@@ -90,7 +90,8 @@ QWidget* RowListPart::widget()
 void RowListPart::tellInToolTips()
 {
     std::size_t place = 0;
-    for (const char* key : {"NEW", "DELETE", "EDIT"}) {
+    const QStringList keys = {"NEW", "DELETE", "EDIT"};
+    for (const QString& key : keys) {
         auto* action = button(m_tools->toolbar(), key);
         if (action && place < m_declaration.toolTips.size())
             action->setToolTip(fromBytes(m_declaration.toolTips[place++]));

@@ -65,7 +65,8 @@ void ToolbarList::letRowsLightButtons()
 void ToolbarList::followRows()
 {
     const bool areThere = m_list->model()->rowCount() > 0;
-    for (const char* key : {"DELETE", "EDIT", "AMEND"}) {
+    const QStringList keys = {"DELETE", "EDIT", "AMEND"};
+    for (const QString& key : keys) {
         if (auto* needsRow = button(*m_toolbar, key))
             needsRow->setEnabled(areThere);
     }

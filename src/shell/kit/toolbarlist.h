@@ -43,7 +43,7 @@ public:
 
     /// Calls members of `part` at a press of the buttons of those keys.
     template <typename Part>
-    void connectButtons(Part* part, std::initializer_list<std::pair<const char*, void (Part::*)()>> members)
+    void connectButtons(Part* part, std::initializer_list<std::pair<QString, void (Part::*)()>> members)
     {
         for (const auto& [key, member] : members)
             connectButton(*m_toolbar, key, part, member);

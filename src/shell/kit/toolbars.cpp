@@ -1,6 +1,7 @@
 #include "shell/kit/toolbars.h"
 
 #include "shell/icons/icons.h"
+#include "shell/kit/elidedlabel.h"
 #include "shell/kit/messages.h"
 #include "shell/kit/units.h"
 
@@ -183,7 +184,7 @@ void BuildFileListToolbar(QToolBar& toolbar, int& index)
 
 void BuildFileEditToolbar(QToolBar& toolbar, int& index)
 {
-    const auto addDisabled = [&](const char* key, const char* toolTip, const char* icon) {
+    const auto addDisabled = [&](const QString& key, const QString& toolTip, const QString& icon) {
         addButton(toolbar, index, key, toolTip, icon)->setEnabled(false);
     };
     addDisabled("SAVE", "Save changes", "save");
@@ -195,12 +196,12 @@ void BuildFileEditToolbar(QToolBar& toolbar, int& index)
 
 void BuildMovementToolbar(QToolBar& toolbar, int& index)
 {
-    const auto addMove = [&](const char* key, const char* toolTip, const char* icon, Qt::Key pressed) {
+    const auto addMove = [&](const QString& key, const QString& toolTip, const QString& icon,
+                             Qt::Key pressed) {
         auto* action = addButton(toolbar, index, key, toolTip, icon);
         action->setShortcut(QKeySequence(Qt::ALT | pressed));
         action->setShortcutContext(Qt::WidgetShortcut);
-        action->setToolTip(QString(toolTip) + " (" + action->shortcut().toString(QKeySequence::NativeText) +
-                           ')');
+        action->setToolTip(toolTip + " (" + action->shortcut().toString(QKeySequence::NativeText) + ')');
     };
     addMove("MoveTop", "Move to the top", "movetop", Qt::Key_Home);
     addMove("MoveUp", "Move up", "moveup", Qt::Key_Up);
@@ -226,9 +227,8 @@ void PlaceChildForm(QStatusBar& statusBar)
     state->setMinimumWidth(twips(1500));
     state->setTextFormat(Qt::PlainText);
     statusBar.addWidget(state);
-    auto* note = new QLabel(&statusBar);
+    auto* note = new ElidedLabel(0, &statusBar);
     note->setMinimumWidth(1); // a long text is cut, and doesn't widen the form
-    note->setTextFormat(Qt::PlainText);
     statusBar.addWidget(note, 1);
 }
 

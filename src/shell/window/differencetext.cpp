@@ -34,9 +34,9 @@ std::vector<bool> nearDifferences(const std::vector<DiffLine>& lines)
 
 QString signedLine(const DiffLine& line)
 {
-    const char* sign = line.kind == DiffLine::Kind::Old   ? "- "
-                       : line.kind == DiffLine::Kind::New ? "+ "
-                                                          : "  ";
+    const QString sign = line.kind == DiffLine::Kind::Old   ? "- "
+                         : line.kind == DiffLine::Kind::New ? "+ "
+                                                            : "  ";
     return sign + shownPart(line.text);
 }
 

@@ -36,9 +36,9 @@ NavigatorTable::NavigatorTable(const std::vector<Node>& nodes)
 
 bool isArchive(const QString& group)
 {
-    constexpr const char* others[] = {"General", "Communication", "CustomiseUser",
-                                      "Games",   "Security",      "UserActions"};
-    return std::ranges::find(others, group) == std::end(others);
+    static const QStringList others = {"General", "Communication", "CustomiseUser",
+                                       "Games",   "Security",      "UserActions"};
+    return !others.contains(group);
 }
 
 QString captionOfKey(const QString& key)

@@ -22,7 +22,7 @@ struct NavigatorRow
 };
 
 /// The node that needs its switch in the settings tree: it is left out unless the owner put it there by hand.
-inline constexpr const char* portalKey = "Communication~Portal";
+inline constexpr QLatin1String portalKey("Communication~Portal");
 
 /// What the main window knows of the functions' nodes.
 class NavigatorTable

@@ -37,12 +37,13 @@ PopUpMenus::PopUpMenus(std::function<EditorForm*()> activeForm, QWidget* parent)
       m_activeForm(std::move(activeForm)),
       m_owner(parent)
 {
+    const QStringList items = {"Add", "Delete", "Edit"};
     for (const EditMenu& each : editMenus) {
-        auto* menu = addMenu(each.name);
-        for (const char* item : {"Add", "Delete", "Edit"}) {
-            if (!each.editOnly || QString(item) == "Edit")
-                addItem(*menu, menu->objectName() + item, QStringLiteral("&") + item,
-                        routineName(each.name, item));
+        auto* menu = addMenu(QLatin1String(each.name));
+        for (const QString& item : items) {
+            if (!each.editOnly || item == "Edit")
+                addItem(*menu, menu->objectName() + item, '&' + item,
+                        routineName(QLatin1String(each.name), item));
         }
     }
     auto* trueFalse = addMenu("mnuTrueFalse");
@@ -51,8 +52,8 @@ PopUpMenus::PopUpMenus(std::function<EditorForm*()> activeForm, QWidget* parent)
     addItem(*trueFalse, "mnuTrueFalseFalse", "&False", "gMenuTrueFalseTrueClick");
 
     auto* questions = addMenu("mnuTriviaQuestions"); // its items have no handlers and do nothing
-    for (const char* item : {"Add", "Delete", "Edit"}) {
-        auto* action = questions->addAction(QStringLiteral("&") + item);
+    for (const QString& item : items) {
+        auto* action = questions->addAction('&' + item);
         action->setObjectName(questions->objectName() + item);
         action->setData(routineName(questions->objectName(), item));
     }
