@@ -109,12 +109,6 @@ const std::string& keyInSave(const Setting& setting)
     return field && !field->keyInSave.empty() ? field->keyInSave : keyOf(setting);
 }
 
-std::string_view nestOf(const Setting& setting)
-{
-    const auto* const field = std::get_if<setting::Field>(&setting);
-    return field ? std::string_view(field->nest) : std::string_view();
-}
-
 } // namespace
 
 std::vector<Finding> useFindings(const TableFile& file, std::string_view bytes)

@@ -12,13 +12,13 @@ namespace quillfen {
 namespace {
 
 /// A value of a setting: its key as the readers know it, and its default.
-struct Row
+struct ValueRow
 {
     std::string key;
     std::string defaultText;
 };
 
-using Rows = std::vector<Row>;
+using ValueRows = std::vector<ValueRow>;
 
 template <typename Kind>
 bool isA(const setting::FieldKind& kind)
@@ -46,10 +46,10 @@ struct RowsOf
 {
     const HubProfiles& profiles;
 
-    Rows operator()(const setting::Field& field) const
+    ValueRows operator()(const setting::Field& field) const
     {
         const std::string byDefault = setting::defaultText(field.kind);
-        Rows rows;
+        ValueRows rows;
         if (const auto* profileFlags = std::get_if<setting::ProfileFlags>(&field.kind)) {
             rows.reserve(profiles.count());
             for (std::size_t row = profileFlags->firstProfile; row < profiles.count(); ++row)
@@ -63,38 +63,31 @@ struct RowsOf
         return rows;
     }
 
-    Rows operator()(const setting::NamedTexts& named) const
+    ValueRows operator()(const setting::NamedTexts& named) const
     {
-        Rows rows;
+        ValueRows rows;
         for (const setting::NamedText& text : named.texts)
             rows.push_back({text.name, text.defaultValue});
         return rows;
     }
 
-    Rows operator()(const setting::ConstantText& constant) const { return {{constant.key, {}}}; }
-    Rows operator()(const setting::RebuiltOnly& only) const { return {{only.key, only.defaultText}}; }
-    Rows operator()(const auto& /*is never read*/) const { return {}; }
+    ValueRows operator()(const setting::ConstantText& constant) const { return {{constant.key, {}}}; }
+    ValueRows operator()(const setting::RebuiltOnly& only) const { return {{only.key, only.defaultText}}; }
+    ValueRows operator()(const auto& /*is never read*/) const { return {}; }
 };
 
 /// The nested table of a setting's rows, which bears its key; empty for a setting without one.
-std::string_view tableOf(const Setting& setting)
+std::string_view nestedTableOf(const Setting& setting)
 {
     const auto* const field = fieldOf(setting);
     const bool nested = field ? isNested(field->kind) : std::holds_alternative<setting::NamedTexts>(setting);
     return nested ? std::string_view(keyOf(setting)) : std::string_view();
 }
 
-/// The nested table that a setting shares with its neighbours; empty for none.
-std::string_view nestOf(const Setting& setting)
-{
-    const auto* const field = fieldOf(setting);
-    return field ? std::string_view(field->nest) : std::string_view();
-}
-
 /// The table in which a rebuild looks for a setting's rows.
 std::string_view homeOf(const Setting& setting, const TableFile& file)
 {
-    for (const std::string_view table : {tableOf(setting), nestOf(setting)}) {
+    for (const std::string_view table : {nestedTableOf(setting), nestOf(setting)}) {
         if (!table.empty())
             return table;
     }
@@ -107,7 +100,7 @@ bool isKeptByRestore(const Setting& setting)
     return field && field->keptByRestore;
 }
 
-const setting::RebuildRule& ruleOf(const Setting& setting)
+const setting::RebuildRule& rebuildRuleOf(const Setting& setting)
 {
     static const setting::RebuildRule usual;
     const auto* const field = fieldOf(setting);
@@ -135,15 +128,15 @@ SettingValues gathered(const std::vector<Setting>& settings, const HubProfiles& 
     SettingValues values;
     std::string name;
     for (const Setting& each : settings) {
-        const std::string_view table = tableOf(each);
-        for (const Row& row : std::visit(RowsOf{profiles}, each))
+        const std::string_view table = nestedTableOf(each);
+        for (const ValueRow& row : std::visit(RowsOf{profiles}, each))
             values.insert_or_assign(table.empty() ? row.key : nameRow(name, table, row.key),
                                     valueOf(each, row));
     }
     return values;
 }
 
-std::string filled(const std::string& value, const std::string& defaultText)
+std::string valueOrDefault(const std::string& value, const std::string& defaultText)
 {
     return value.empty() ? defaultText : value;
 }
@@ -159,10 +152,10 @@ std::string shown(const Setting& setting, const std::string& stored)
             return flag.details.tickedAboveZero ? (leadingNumber(stored) > 0 ? "1" : "0") : stored;
         },
         [&stored](const setting::Letter& letter) {
-            return filled(stored, setting::letterOf(letter.wordWhereNone));
+            return valueOrDefault(stored, setting::letterOf(letter.wordWhereNone));
         },
-        [&stored](const setting::ProfileFlags&) { return filled(stored, "0"); },
-        [&stored](const setting::NamedFlags&) { return filled(stored, "0"); },
+        [&stored](const setting::ProfileFlags&) { return valueOrDefault(stored, "0"); },
+        [&stored](const setting::NamedFlags&) { return valueOrDefault(stored, "0"); },
         [&stored](const auto&) { return stored; },
     };
     return std::visit(texts, field->kind);
@@ -215,11 +208,11 @@ struct Writer
             table.row(key, value);
     }
 
-    void writeTable(const std::string& key, const Rows& rows, bool bracketsKeys, bool quoted)
+    void writeTable(const std::string& key, const ValueRows& rows, bool bracketsKeys, bool quoted)
     {
         table.open(key);
         std::string name;
-        for (const Row& row : rows)
+        for (const ValueRow& row : rows)
             write(bracketsKeys ? bracketed(row.key) : row.key, values.at(nameRow(name, key, row.key)),
                   quoted);
         table.close();
@@ -280,8 +273,8 @@ std::string profileRow(const std::string& key, std::size_t row)
 
 SettingValues loaded(const TableFile& file, const TableIndex& index, const HubProfiles& profiles)
 {
-    return gathered(file.settings, profiles, [&index](const Setting& setting, const Row& row) {
-        return shown(setting, index.value(row.key, tableOf(setting)));
+    return gathered(file.settings, profiles, [&index](const Setting& setting, const ValueRow& row) {
+        return shown(setting, index.value(row.key, nestedTableOf(setting)));
     });
 }
 
@@ -289,15 +282,15 @@ SettingValues restored(const TableFile& file, const HubProfiles& profiles)
 {
     std::vector<Setting> settings = file.settings;
     std::erase_if(settings, isKeptByRestore);
-    return gathered(settings, profiles, [](const Setting&, const Row& row) { return row.defaultText; });
+    return gathered(settings, profiles, [](const Setting&, const ValueRow& row) { return row.defaultText; });
 }
 
 SettingValues rebuilt(const TableFile& file, const TableIndex& index, const HubProfiles& profiles)
 {
-    return gathered(file.settings, profiles, [&](const Setting& setting, const Row& row) {
-        const setting::RebuildRule& rule = ruleOf(setting);
+    return gathered(file.settings, profiles, [&](const Setting& setting, const ValueRow& row) {
+        const setting::RebuildRule& rule = rebuildRuleOf(setting);
         const std::string stored = rule.resets ? "" : index.value(row.key, homeOf(setting, file));
-        return filled(stored, rule.defaultText.value_or(row.defaultText));
+        return valueOrDefault(stored, rule.defaultText.value_or(row.defaultText));
     });
 }
 

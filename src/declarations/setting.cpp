@@ -62,6 +62,16 @@ Field hubProfileFlags(std::string key, std::string control, std::string label, s
     return {std::move(key), std::move(control), std::move(label), ProfileFlags{std::move(heading), 1}};
 }
 
+Field enabledProfiles()
+{
+    return profileFlags("tEnabledProfiles", "lvwEnabledProfiles", "Enabled Profiles");
+}
+
+Field exemptProfiles()
+{
+    return profileFlags("tExemptProfiles", "lvwExemptProfiles", "Exempt Profiles");
+}
+
 Field namedFlags(std::string key, std::string control, std::string label, std::vector<std::string> names)
 {
     return {std::move(key), std::move(control), std::move(label), NamedFlags{std::move(names)}};
@@ -111,6 +121,12 @@ const std::string& keyOf(const Setting& setting)
         [](const auto& each) -> const std::string& { return each.key; },
     };
     return std::visit(keys, setting);
+}
+
+std::string_view nestOf(const Setting& setting)
+{
+    const auto* const field = std::get_if<setting::Field>(&setting);
+    return field ? std::string_view(field->nest) : std::string_view();
 }
 
 } // namespace quillfen

@@ -200,6 +200,11 @@ Field profileFlags(std::string key, std::string control, std::string label, std:
 /// Profile flags without "Unregistered".
 Field hubProfileFlags(std::string key, std::string control, std::string label, std::string heading = {});
 
+/// The profiles for which a function is on, and those that it spares, under the names that most functions
+/// have for them.
+Field enabledProfiles();
+Field exemptProfiles();
+
 Field namedFlags(std::string key, std::string control, std::string label, std::vector<std::string> names);
 Field profileKey(std::string key, std::string control, std::string label);
 Field letter(std::string key, std::string control, std::string label, std::string defaultWord,
@@ -220,5 +225,8 @@ using Setting = std::variant<setting::Field, setting::NamedTexts, setting::Const
 
 /// The setting's key; that of an idle one stands in no file.
 const std::string& keyOf(const Setting& setting);
+
+/// The nested table that a setting shares with its neighbours; empty for none.
+std::string_view nestOf(const Setting& setting);
 
 } // namespace quillfen

@@ -23,7 +23,7 @@ void addAll(Texts& texts, const std::vector<std::string>& others)
 }
 
 /// Without the empty ones.
-Texts filled(Texts texts)
+Texts withoutEmpty(Texts texts)
 {
     std::erase_if(texts, [](std::string_view each) { return each.empty(); });
     return texts;
@@ -62,7 +62,7 @@ Texts detailsOf(const setting::Field& field, const HubProfiles& profiles)
         details.emplace_back(flags->heading);
     const Texts entries = entriesOf(field, profiles);
     details.insert(details.end(), entries.begin(), entries.end());
-    return filled(details);
+    return withoutEmpty(details);
 }
 
 Texts detailsOf(const RowListDeclaration& list)
@@ -74,7 +74,7 @@ Texts detailsOf(const RowListDeclaration& list)
     addAll(details, list.dialog.labels);
     for (const auto& entries : list.dialog.entries)
         addAll(details, entries);
-    return filled(details);
+    return withoutEmpty(details);
 }
 
 Texts explanationsOf(const OwnPart& own, const std::string& control)
@@ -260,7 +260,7 @@ void FormWalk::take(const DeclaredTicks& declared)
     const TickList ticks = declared.ticks();
     const std::string& label = ticks.label.empty() ? ticks.caption : ticks.label;
     const auto entry = add(fileEntry(ticks.file.path), FindKind::Control, {{}, ticks.control}, label, {},
-                           filled({ticks.caption, ticks.explanation}));
+                           withoutEmpty({ticks.caption, ticks.explanation}));
     std::size_t place = 0;
     for (const CellRow& row : loadOf(ticks.file)(m_files, m_profiles)) {
         const std::string& name = row.cells.front();
@@ -272,7 +272,7 @@ void FormWalk::take(const DeclaredTicks& declared)
 void FormWalk::take(const DeclaredText& text)
 {
     const auto entry = add(fileEntry(text.path), FindKind::Control, {{}, text.toolbar}, text.caption, {},
-                           filled({text.explanation}));
+                           withoutEmpty({text.explanation}));
     takeLines(entry, {{}, text.toolbar}, m_files.ReadTextFile(text.path));
 }
 
@@ -284,7 +284,7 @@ void FormWalk::take(const DeclaredGrid& declared)
     Texts details = {declared.words.explanation};
     addAll(details, declared.words.columns);
     const auto entry = add(parentOf(reading.files()), FindKind::Control, {{}, declared.words.list},
-                           declared.words.columns.front(), {}, filled(details));
+                           declared.words.columns.front(), {}, withoutEmpty(details));
     takeCells(entry, declared.words.list, grid, declared.words, cells);
 }
 

@@ -37,7 +37,7 @@ std::vector<std::string> loadIgnoreNicks(const SettingsFiles& files)
 }
 
 /// All but the passwords, which no other place than the form's own shows.
-std::vector<PlacedText> placedTexts(const SettingsFiles& files, const HubProfiles& /*profiles*/)
+std::vector<PlacedText> placedPortalSettings(const SettingsFiles& files, const HubProfiles& /*profiles*/)
 {
     const PortalSettings settings = loadPortalSettings(files);
     const std::string path(file);
@@ -139,7 +139,7 @@ FunctionDeclaration portalFunction()
                  "Each row is a hub whose main chat is passed on to the other; a tick logs in to it."},
                 {"lvwNicks", "Each row is a nick whose words are not passed on to the other hub."},
             },
-        .texts = placedTexts};
+        .texts = placedPortalSettings};
     const FormDescription form = {.name = "frmCommunicationPortal",
                                   .caption = "Communication ~ Portal",
                                   .minimumSize = {6000, 6600},

@@ -14,9 +14,9 @@ constexpr std::string_view communication[] = {"ChatRooms", "MassMessage",       
                                               "Mute",      "RotatingMainMessage", "RotatingPrivateMessage",
                                               "Talk",      "WelcomeInfo",         "Whisper"};
 constexpr std::string_view customiseUser[] = {"DescriptionTags", "IntroOutro"};
-constexpr std::string_view games[] = {"Anagrams",    "CodeBreaker",    "GuessTheNumber",
-                                      "Hangman",     "Numbers",        "RussianRoulette",
-                                      "SlotMachine", "ThreeCardMonty", "Trivia"};
+constexpr std::string_view gameFunctions[] = {"Anagrams",    "CodeBreaker",    "GuessTheNumber",
+                                              "Hangman",     "Numbers",        "RussianRoulette",
+                                              "SlotMachine", "ThreeCardMonty", "Trivia"};
 // The groups are as the hub script has them, odd cases included: HideShare under Security, and AutoCorrect,
 // Clock and ProfileRules under UserAction.
 constexpr std::string_view security[] = {
@@ -29,9 +29,9 @@ constexpr std::string_view userAction[] = {"Ascii",        "Attacks",  "AutoCorr
 constexpr std::string_view theArchive[] = {"Bookshelf", "DVDRack", "Jukebox",
                                            "Songbook",  "Arcade",  "Hyperlink"};
 
-constexpr BotGroup groups[] = {
+constexpr BotGroup botGroups[] = {
     {"Main", mainFunctions},    {"Communication", communication}, {"CustomiseUser", customiseUser},
-    {"Games", games},           {"Security", security},           {"UserAction", userAction},
+    {"Games", gameFunctions},   {"Security", security},           {"UserAction", userAction},
     {"TheArchive", theArchive},
 };
 
@@ -39,7 +39,7 @@ constexpr BotGroup groups[] = {
 
 std::span<const std::string_view> botFunctions(std::string_view group)
 {
-    for (const BotGroup& each : groups) {
+    for (const BotGroup& each : botGroups) {
         if (each.word == group)
             return each.functions;
     }
@@ -49,7 +49,7 @@ std::span<const std::string_view> botFunctions(std::string_view group)
 std::vector<std::string_view> botFunctions()
 {
     std::vector<std::string_view> all;
-    for (const BotGroup& each : groups)
+    for (const BotGroup& each : botGroups)
         all.insert(all.end(), each.functions.begin(), each.functions.end());
     return all;
 }

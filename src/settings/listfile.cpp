@@ -11,13 +11,13 @@ TableWriter& writeRow(TableWriter& table, ListFile::Form form, const ListRow& ro
 {
     switch (form) {
     case ListFile::Form::Plain:
-        return table.row(quoted(row.text));
+        return table.row(inQuotes(row.text));
     case ListFile::Form::Keyed:
-        return table.text(bracketed(quoted(row.text)), row.second);
+        return table.text(bracketed(inQuotes(row.text)), row.second);
     case ListFile::Form::Numbered:
         return table.text(bracketed(std::to_string(number)), row.text);
     case ListFile::Form::Presence:
-        return table.row(bracketed(quoted(row.text)), "1");
+        return table.row(bracketed(inQuotes(row.text)), "1");
     case ListFile::Form::Flags:
         return table.row("b" + row.text, row.checked ? "1" : "0");
     }
@@ -71,7 +71,7 @@ std::string composedNestedLists(const NestedListsFile& file,
     for (std::size_t list = 0; list < lists.size(); ++list) {
         table.open(file.tables.at(list));
         for (const std::string& each : lists[list])
-            table.row(quoted(each));
+            table.row(inQuotes(each));
         table.close();
     }
     return table.closed();

@@ -7,7 +7,7 @@
 namespace quillfen {
 namespace {
 
-constexpr char separator = '/'; // on Windows too, which takes both
+constexpr char pathSeparator = '/'; // on Windows too, which takes both
 
 #ifdef _WIN32
 constexpr bool rootIsAbsolute = false; // it is that of whichever drive is the present one
@@ -18,7 +18,7 @@ constexpr bool rootIsAbsolute = true;
 std::string platformPath(std::string_view told)
 {
     std::string path = codepage::toUtf8(told);
-    std::replace(path.begin(), path.end(), '\\', separator);
+    std::replace(path.begin(), path.end(), '\\', pathSeparator);
     return path;
 }
 
@@ -27,7 +27,7 @@ std::string platformPath(std::string_view told)
 bool isAbsolutePath(std::string_view told)
 {
     return told.substr(std::min<std::size_t>(told.size(), 1), 2) == ":\\" ||
-           (rootIsAbsolute && told.starts_with(separator));
+           (rootIsAbsolute && told.starts_with(pathSeparator));
 }
 
 SettingsPaths::SettingsPaths(std::string programFolder)
@@ -38,7 +38,7 @@ SettingsPaths::SettingsPaths(std::string programFolder)
 
 SettingsPaths SettingsPaths::ofSettings(std::string settingsRoot)
 {
-    SettingsPaths paths(settingsRoot + separator + ".." + separator + "..");
+    SettingsPaths paths(settingsRoot + pathSeparator + ".." + pathSeparator + "..");
     paths.m_settingsRoot = std::move(settingsRoot);
     return paths;
 }
@@ -52,28 +52,28 @@ std::string SettingsPaths::resolve(std::string_view told, bool bAppRelative) con
 
 std::string SettingsPaths::inSettings(std::string_view told) const
 {
-    return settingsRoot() + separator + platformPath(told);
+    return settingsRoot() + pathSeparator + platformPath(told);
 }
 
 std::optional<std::string> SettingsPaths::toldInSettings(std::string_view path) const
 {
-    const std::string root = settingsRoot() + separator;
+    const std::string root = settingsRoot() + pathSeparator;
     if (!path.starts_with(root))
         return std::nullopt;
     auto told = codepage::fromUtf8(path.substr(root.size()));
     if (told)
-        std::replace(told->begin(), told->end(), separator, '\\');
+        std::replace(told->begin(), told->end(), pathSeparator, '\\');
     return told;
 }
 
 std::string SettingsPaths::inProgramFolder(std::string_view told) const
 {
-    return m_programFolder + separator + platformPath(told);
+    return m_programFolder + pathSeparator + platformPath(told);
 }
 
 std::string SettingsPaths::inHubFolder(std::string_view told) const
 {
-    const auto last = m_programFolder.rfind(separator);
+    const auto last = m_programFolder.rfind(pathSeparator);
     return m_programFolder.substr(0, last == std::string::npos ? 0 : last + 1) + platformPath(told);
 }
 

@@ -39,7 +39,7 @@ std::string xmlLine(std::string name)
     return std::string(lineEnd).append(tag).append(name).append("</Name>");
 }
 
-std::vector<std::string> namesIn(std::string_view text)
+std::vector<std::string> profileNamesIn(std::string_view text)
 {
     std::vector<std::string> names;
     LineCursor cursor(text);
@@ -129,7 +129,7 @@ std::vector<ProfileNotice> profileNotices(const FileStore& store, const Settings
     if (hub.text.empty()) // no file at all says nothing of any profile
         return notices;
     // Both as the copy bears them, so that a name which the copy can't bear has not changed.
-    auto now = namesIn(hub.text);
+    auto now = profileNamesIn(hub.text);
     now.insert(now.begin(), HubProfiles().names().front());
     const auto moves = movesFrom(readSavedProfiles(store, paths).names(), now);
     if (!moves.empty())

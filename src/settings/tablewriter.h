@@ -12,7 +12,7 @@
 namespace quillfen {
 
 /// A text as a table holds it: `"text"`.
-inline std::string quoted(std::string_view text)
+inline std::string inQuotes(std::string_view text)
 {
     return std::string(1, '"').append(text).append(1, '"');
 }

@@ -229,7 +229,7 @@ void carryOutAll(DiskCalls& calls, Access access, Durable durable, const std::ve
 
 /// The names of what is in a folder and of the kind that is asked for, in the order of their bytes.
 template <typename IsWanted>
-std::vector<std::string> namesIn(const std::string& folder, const IsWanted& isWanted)
+std::vector<std::string> entryNamesIn(const std::string& folder, const IsWanted& isWanted)
 {
     std::vector<std::string> names;
     std::error_code error;
@@ -276,7 +276,7 @@ private:
     void sweepBeside(const fs::path& target)
     {
         const auto folder = pathText(target.parent_path());
-        for (const std::string& name : namesIn(folder, [](const auto&) { return true; })) {
+        for (const std::string& name : entryNamesIn(folder, [](const auto&) { return true; })) {
             if (isAsideName(name))
                 remove(pathText(target.parent_path() / nativePath(name)));
         }
@@ -335,7 +335,7 @@ bool DiskStore::exists(const std::string& path) const
 
 std::vector<std::string> DiskStore::list(const std::string& folder) const
 {
-    return namesIn(folder, [](const fs::directory_entry& entry) {
+    return entryNamesIn(folder, [](const fs::directory_entry& entry) {
         std::error_code unreadable;
         return entry.is_regular_file(unreadable) && !isAsideName(pathText(entry.path().filename()));
     });
@@ -343,7 +343,7 @@ std::vector<std::string> DiskStore::list(const std::string& folder) const
 
 std::vector<std::string> DiskStore::listFolders(const std::string& folder) const
 {
-    return namesIn(folder, [](const fs::directory_entry& entry) {
+    return entryNamesIn(folder, [](const fs::directory_entry& entry) {
         std::error_code unreadable;
         return entry.is_directory(unreadable);
     });

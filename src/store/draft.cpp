@@ -11,10 +11,11 @@
 namespace quillfen {
 namespace {
 
-using Kind = StoreChange::Kind;
+using ChangeKind = StoreChange::Kind;
 
 /// A name in a folder's listing after a change below that folder.
-void follow(std::vector<std::string>& names, const std::string& folder, const StoreChange& change, Kind added)
+void follow(std::vector<std::string>& names, const std::string& folder, const StoreChange& change,
+            ChangeKind added)
 {
     if (folderOf(change.path) != pathText(nativePath(folder)))
         return;
@@ -23,7 +24,7 @@ void follow(std::vector<std::string>& names, const std::string& folder, const St
     const bool isThere = place != names.end() && *place == name;
     if (change.kind == added && !isThere)
         names.insert(place, name);
-    else if (change.kind == Kind::Remove && isThere)
+    else if (change.kind == ChangeKind::Remove && isThere)
         names.erase(place);
 }
 
@@ -32,10 +33,10 @@ std::vector<ReplacedFile> replacedBy(const std::vector<StoreChange>& changes, co
 {
     std::vector<ReplacedFile> replaced;
     for (const StoreChange& change : changes) {
-        if (change.kind == Kind::MakeFolder)
+        if (change.kind == ChangeKind::MakeFolder)
             continue;
         auto old = disk.read(change.path);
-        const bool stays = change.kind == Kind::Write ? old == change.bytes : !disk.exists(change.path);
+        const bool stays = change.kind == ChangeKind::Write ? old == change.bytes : !disk.exists(change.path);
         if (!stays)
             replaced.push_back({change.path, std::move(old)});
     }
@@ -97,9 +98,9 @@ const StoreChange* DraftStore::drafted(const std::string& path) const
 std::optional<std::string> DraftStore::read(const std::string& path) const
 {
     const StoreChange* change = drafted(path);
-    auto bytes = !change                       ? m_disk.read(path)
-                 : change->kind == Kind::Write ? std::optional(change->bytes)
-                                               : std::nullopt;
+    auto bytes = !change                             ? m_disk.read(path)
+                 : change->kind == ChangeKind::Write ? std::optional(change->bytes)
+                                                     : std::nullopt;
     if (m_record)
         m_record->m_files[path] = markOf(bytes);
     return bytes;
@@ -115,13 +116,14 @@ std::optional<std::uintmax_t> DraftStore::size(const std::string& path) const
     const StoreChange* change = drafted(path);
     if (!change)
         return m_disk.size(path);
-    return change->kind == Kind::Write ? std::optional<std::uintmax_t>(change->bytes.size()) : std::nullopt;
+    return change->kind == ChangeKind::Write ? std::optional<std::uintmax_t>(change->bytes.size())
+                                             : std::nullopt;
 }
 
 bool DraftStore::exists(const std::string& path) const
 {
     const StoreChange* change = drafted(path);
-    return change ? change->kind != Kind::Remove : m_disk.exists(path);
+    return change ? change->kind != ChangeKind::Remove : m_disk.exists(path);
 }
 
 std::vector<std::string> DraftStore::list(const std::string& folder) const
@@ -129,7 +131,7 @@ std::vector<std::string> DraftStore::list(const std::string& folder) const
     auto names = m_disk.list(folder);
     if (m_draft) {
         for (const StoreChange& change : m_draft->m_changes)
-            follow(names, folder, change, Kind::Write);
+            follow(names, folder, change, ChangeKind::Write);
     }
     return names;
 }
@@ -139,24 +141,24 @@ std::vector<std::string> DraftStore::listFolders(const std::string& folder) cons
     auto names = m_disk.listFolders(folder);
     if (m_draft) {
         for (const StoreChange& change : m_draft->m_changes)
-            follow(names, folder, change, Kind::MakeFolder);
+            follow(names, folder, change, ChangeKind::MakeFolder);
     }
     return names;
 }
 
 void DraftStore::write(const std::string& path, std::string_view bytes)
 {
-    take({Kind::Write, path, std::string(bytes)});
+    take({ChangeKind::Write, path, std::string(bytes)});
 }
 
 void DraftStore::makeFolder(const std::string& path)
 {
-    take({Kind::MakeFolder, path});
+    take({ChangeKind::MakeFolder, path});
 }
 
 void DraftStore::remove(const std::string& path)
 {
-    take({Kind::Remove, path});
+    take({ChangeKind::Remove, path});
 }
 
 void DraftStore::take(StoreChange change)
@@ -220,7 +222,7 @@ void DraftStore::carryOutOneByOne(std::vector<StoreChange> changes, const Cause&
     const auto replaced = replacedBy(changes, m_disk);
     KeptVersion version(m_history, cause, replaced);
     std::erase_if(changes, [&replaced](const StoreChange& change) {
-        return change.kind != Kind::MakeFolder &&
+        return change.kind != ChangeKind::MakeFolder &&
                std::none_of(replaced.begin(), replaced.end(),
                             [&change](const ReplacedFile& file) { return file.path == change.path; });
     });

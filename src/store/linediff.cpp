@@ -7,9 +7,9 @@ namespace quillfen {
 namespace {
 
 using Lines = std::vector<std::string_view>;
-using Kind = DiffLine::Kind;
+using LineKind = DiffLine::Kind;
 
-Lines linesOf(std::string_view text)
+Lines splitLines(std::string_view text)
 {
     Lines lines;
     while (!text.empty()) {
@@ -98,14 +98,14 @@ private:
         for (; differences >= 0; --differences) {
             const int from = start(differences, diagonal);
             while (line > from)
-                lines.push_back({Kind::Same, m_from[--line]});
+                lines.push_back({LineKind::Same, m_from[--line]});
             if (differences == 0)
                 break;
             if (comesFromAbove(m_reached[static_cast<std::size_t>(differences - 1)], differences, diagonal)) {
-                lines.push_back({Kind::New, m_to[line - diagonal - 1]});
+                lines.push_back({LineKind::New, m_to[line - diagonal - 1]});
                 ++diagonal;
             } else {
-                lines.push_back({Kind::Old, m_from[--line]});
+                lines.push_back({LineKind::Old, m_from[--line]});
                 --diagonal;
             }
         }
@@ -117,9 +117,9 @@ private:
     {
         std::vector<DiffLine> lines;
         for (int at = 0; at < m_fromSize; ++at)
-            lines.push_back({Kind::Old, m_from[at]});
+            lines.push_back({LineKind::Old, m_from[at]});
         for (int at = 0; at < m_toSize; ++at)
-            lines.push_back({Kind::New, m_to[at]});
+            lines.push_back({LineKind::New, m_to[at]});
         return lines;
     }
 
@@ -134,8 +134,8 @@ private:
 
 std::vector<DiffLine> lineDifference(std::string_view oldText, std::string_view newText)
 {
-    const Lines from = linesOf(oldText);
-    const Lines to = linesOf(newText);
+    const Lines from = splitLines(oldText);
+    const Lines to = splitLines(newText);
     const auto shorter = std::min(from.size(), to.size());
     std::size_t front = 0;
     while (front < shorter && from[front] == to[front])
@@ -146,13 +146,13 @@ std::vector<DiffLine> lineDifference(std::string_view oldText, std::string_view 
 
     std::vector<DiffLine> lines;
     for (std::size_t at = 0; at < front; ++at)
-        lines.push_back({Kind::Same, from[at]});
+        lines.push_back({LineKind::Same, from[at]});
     const auto middle = Middle(from.data() + front, static_cast<int>(from.size() - front - back),
                                to.data() + front, static_cast<int>(to.size() - front - back))
                             .difference();
     lines.insert(lines.end(), middle.begin(), middle.end());
     for (std::size_t at = from.size() - back; at < from.size(); ++at)
-        lines.push_back({Kind::Same, from[at]});
+        lines.push_back({LineKind::Same, from[at]});
     return lines;
 }
 

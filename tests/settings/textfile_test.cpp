@@ -125,7 +125,7 @@ TEST(TableWriter, NestedTablesOpenAndCloseAtTheirDepth)
 TEST(TableWriter, RowsMayHaveANumberATextOrNothingForAKey)
 {
     TableWriter table("tSample");
-    table.text(bracketed("1"), "one").row(bracketed(quoted("two")), "1").row(quoted("three")).row("4");
+    table.text(bracketed("1"), "one").row(bracketed(inQuotes("two")), "1").row(inQuotes("three")).row("4");
     EXPECT_EQ(table.closed(),
               "tSample = {\r\n\t[1] = \"one\",\r\n\t[\"two\"] = 1,\r\n\t\"three\",\r\n\t4,\r\n}");
 }
@@ -133,7 +133,7 @@ TEST(TableWriter, RowsMayHaveANumberATextOrNothingForAKey)
 TEST(TableWriter, EscapesNothing)
 {
     TableWriter table("tSample");
-    table.text("sOdd", "a\"b\\c\x80\r\n\t,}").row(quoted("]\"["));
+    table.text("sOdd", "a\"b\\c\x80\r\n\t,}").row(inQuotes("]\"["));
     EXPECT_EQ(table.closed(), "tSample = {\r\n\tsOdd = \"a\"b\\c\x80\r\n\t,}\",\r\n\t\"]\"[\",\r\n}");
 }
 

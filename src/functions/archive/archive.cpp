@@ -34,12 +34,12 @@ std::string dayName(std::string_view word)
     return day == days.end() ? std::string() : day->name;
 }
 
-std::string pathOf(const ArchiveMember& member, const std::string& file)
+std::string memberPath(const ArchiveMember& member, const std::string& file)
 {
     return "TheArchive\\" + member.word + "\\" + member.word + file + ".tbl";
 }
 
-std::string tableOf(const ArchiveMember& member, const std::string& file)
+std::string memberTable(const ArchiveMember& member, const std::string& file)
 {
     return "t" + member.word + file;
 }
@@ -58,7 +58,7 @@ void writeAnnouncement(TableWriter& table, int number, std::string_view time, st
     table.open(bracketed(std::to_string(number))).text("sTime", time).row("bInMain", bInMain).close();
 }
 
-enum Cell
+enum AnnouncementCell
 {
     Date,
     Time,
@@ -70,7 +70,7 @@ CellRow announcementOf(const std::vector<std::string>& fields)
     return {{fields.at(0), fields.at(1) + ":" + fields.at(2), fields.at(3) == "Main Chat" ? "Main" : "PM"}};
 }
 
-std::vector<std::string> fieldsOf(const CellRow& row)
+std::vector<std::string> announcementFields(const CellRow& row)
 {
     const std::string& time = row.cells.at(Time);
     return {row.cells.at(Date), time.substr(0, 2), time.size() > 3 ? time.substr(3, 2) : "",
@@ -86,14 +86,14 @@ const ArchiveMember& hyperlink()
 /// The file and the table of a command, and of Hyperlink's right clicks the two of the form.
 GridCommand commandOf(const ArchiveMember& member, const std::string& command)
 {
-    return {command, pathOf(member, "Enable" + command), tableOf(member, "Enable" + command)};
+    return {command, memberPath(member, "Enable" + command), memberTable(member, "Enable" + command)};
 }
 
 GridCommand rightClickOf(const std::string& word)
 {
     // The form's tables lack the "RC" that their files have: the form finds each value by its profile's key
     // alone.
-    return {word, pathOf(hyperlink(), "RCEnable" + word), tableOf(hyperlink(), "Enable" + word)};
+    return {word, memberPath(hyperlink(), "RCEnable" + word), memberTable(hyperlink(), "Enable" + word)};
 }
 
 std::vector<PermissionCell> loadCells(const std::vector<GridCommand>& commands, const SettingsFiles& files,
@@ -142,8 +142,8 @@ GridSource gridOf(const std::vector<GridCommand>& commands)
 
 void rebuildLinkOfTheWeek(const SettingsFiles& files, const HubProfiles& /*profiles*/)
 {
-    const std::string table = tableOf(hyperlink(), itemOfTheWeek);
-    const auto index = files.index(pathOf(hyperlink(), itemOfTheWeek));
+    const std::string table = memberTable(hyperlink(), itemOfTheWeek);
+    const auto index = files.index(memberPath(hyperlink(), itemOfTheWeek));
     const auto kept = [&](const std::string& key, const std::string& nested, const std::string& defaultText) {
         const auto value = index.value(key, nested);
         return value.empty() ? defaultText : value;
@@ -160,7 +160,7 @@ void rebuildLinkOfTheWeek(const SettingsFiles& files, const HubProfiles& /*profi
             break;
         writeAnnouncement(lines, number, time, kept("bInMain", nested, "0"));
     }
-    files.WriteSettingsFile(pathOf(hyperlink(), itemOfTheWeek), lines.closed());
+    files.WriteSettingsFile(memberPath(hyperlink(), itemOfTheWeek), lines.closed());
 }
 
 /// Each table's text goes to the file of the next table in the ring. So a table finds its own file
@@ -172,14 +172,14 @@ void rebuildPermissionRing(const SettingsFiles& files, const HubProfiles& profil
                                                   "EnableNewItems", "EnableSubmit",    "RCEnableCategory",
                                                   "RCEnableItem",   "RCEnablePending", "RCEnableVoting"};
     for (std::size_t place = 0; place < ring.size(); ++place) {
-        const std::string table = tableOf(hyperlink(), ring[place]);
-        const auto index = files.index(pathOf(hyperlink(), ring[place]));
+        const std::string table = memberTable(hyperlink(), ring[place]);
+        const auto index = files.index(memberPath(hyperlink(), ring[place]));
         TableWriter lines(table);
         for (const std::string& key : profiles.keys()) {
             const auto value = index.value(key, table);
             lines.text(bracketed(key), value.empty() ? "0" : value);
         }
-        files.WriteSettingsFile(pathOf(hyperlink(), ring[(place + 1) % ring.size()]), lines.closed());
+        files.WriteSettingsFile(memberPath(hyperlink(), ring[(place + 1) % ring.size()]), lines.closed());
     }
 }
 
@@ -206,9 +206,9 @@ GridWords rightClickWords()
     return words;
 }
 
-std::vector<PlacedText> placedTexts(const ArchiveMember& member, const SettingsFiles& files)
+std::vector<PlacedText> placedLinkOfTheWeek(const ArchiveMember& member, const SettingsFiles& files)
 {
-    const std::string path = pathOf(member, itemOfTheWeek);
+    const std::string path = memberPath(member, itemOfTheWeek);
     const LinkOfTheWeek link = loadLinkOfTheWeek(member, files);
     std::vector<PlacedText> texts = {
         {path, "chkCheckBox(0)", -1, "Enable Link of Week", link.enabled == "1" ? "on" : "off"},
@@ -224,8 +224,8 @@ std::vector<PlacedText> placedTexts(const ArchiveMember& member, const SettingsF
 /// Who voted is forgotten by each rebuild.
 void forgetVoters(const SettingsFiles& files, const HubProfiles& /*profiles*/)
 {
-    const std::string table = tableOf(hyperlink(), "VoteNick");
-    files.WriteSettingsFile(pathOf(hyperlink(), "VoteNick"), TableWriter(table).closed());
+    const std::string table = memberTable(hyperlink(), "VoteNick");
+    files.WriteSettingsFile(memberPath(hyperlink(), "VoteNick"), TableWriter(table).closed());
 }
 
 } // namespace
@@ -242,7 +242,7 @@ const std::vector<ArchiveMember>& archiveMembers()
 LinkOfTheWeek loadLinkOfTheWeek(const ArchiveMember& member, const SettingsFiles& files)
 {
     constexpr int mostAnnouncements = 500;
-    const auto index = files.index(pathOf(member, itemOfTheWeek));
+    const auto index = files.index(memberPath(member, itemOfTheWeek));
     // The form's own save leaves the day's full name, which no short word equals: so it shows without its
     // day.
     const auto change = index.value("sChangeTime");
@@ -263,7 +263,7 @@ LinkOfTheWeek loadLinkOfTheWeek(const ArchiveMember& member, const SettingsFiles
 
 void saveLinkOfTheWeek(const ArchiveMember& member, const LinkOfTheWeek& link, const SettingsFiles& files)
 {
-    TableWriter table(tableOf(member, itemOfTheWeek));
+    TableWriter table(memberTable(member, itemOfTheWeek));
     table.row("bEnabled", link.enabled);
     // Without quotes and with the day's full name, unlike the build's: Lua can't load it, and the form itself
     // reads it back without its day.
@@ -278,7 +278,7 @@ void saveLinkOfTheWeek(const ArchiveMember& member, const LinkOfTheWeek& link, c
         writeAnnouncement(table, ++number, word + " " + row.cells.at(Time),
                           row.cells.at(Location) == "Main" ? "1" : "0");
     }
-    files.WriteSettingsFile(pathOf(member, itemOfTheWeek), table.closed());
+    files.WriteSettingsFile(memberPath(member, itemOfTheWeek), table.closed());
 }
 
 LinkOfTheWeek restoredLinkOfTheWeek()
@@ -302,7 +302,7 @@ RowListDeclaration announcements()
     list.dialog.addMode = 6;  // a row without one of its parts could not be read back
     list.dialog.editMode = 7; // the same, without another round
     list.deletion = deletionOf("Announcement Time", "Announcement Time");
-    list.fieldsOf = fieldsOf;
+    list.fieldsOf = announcementFields;
     list.take = [](const std::vector<std::string>& fields, CellRow& row) { row = announcementOf(fields); };
     return list;
 }
@@ -335,8 +335,8 @@ const TableFile& newItems(const ArchiveMember& member)
         std::map<std::string, TableFile> all;
         for (const ArchiveMember& each : archiveMembers()) {
             all[each.word] = {
-                pathOf(each, "NewItems"),
-                tableOf(each, "NewItems"),
+                memberPath(each, "NewItems"),
+                memberTable(each, "NewItems"),
                 {setting::flag("bEnableNewItems", "chkCheckBox(0)", "Enable New " + each.items, true),
                  setting::number("iNumberOfNewItems", "txtUpDown(0)", "Max Number Of New " + each.items, 5, 1,
                                  50)}};
@@ -376,11 +376,11 @@ FunctionDeclaration archiveFunction(std::size_t member)
         .kind = OwnPartKind::LinkOfTheWeek,
         .which = member,
         .lists = [] { return std::vector{announcements()}; },
-        .explanations = {{"chkCheckBox(0)", {}, pathOf(each, itemOfTheWeek), "bEnabled"},
+        .explanations = {{"chkCheckBox(0)", {}, memberPath(each, itemOfTheWeek), "bEnabled"},
                          {"txtChangeTime", "Sets the day and time at which the link of the week changes.",
-                          pathOf(each, itemOfTheWeek), "sChangeTime"}},
+                          memberPath(each, itemOfTheWeek), "sChangeTime"}},
         .texts = [&each](const SettingsFiles& files,
-                         const HubProfiles&) { return placedTexts(each, files); }};
+                         const HubProfiles&) { return placedLinkOfTheWeek(each, files); }};
     return {
         .nodes = {
             {each.word, each.word},
@@ -407,7 +407,8 @@ FunctionDeclaration archiveFolders()
         .build = {rebuildLinkOfTheWeek, RebuiltSettings{[] { return newItems(hyperlink()); }},
                   rebuildPermissionRing}};
     for (const char* name : {"CategoryIndex", "Index", "Items", "PendingIndex", "PendingItems", "VoteIP"})
-        function.build.emplace_back(EmptyTable{pathOf(hyperlink(), name), tableOf(hyperlink(), name)});
+        function.build.emplace_back(
+            EmptyTable{memberPath(hyperlink(), name), memberTable(hyperlink(), name)});
     function.build.emplace_back(forgetVoters);
     return function;
 }

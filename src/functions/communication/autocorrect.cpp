@@ -51,8 +51,7 @@ const TableFile& autoCorrectSettings()
         "tAutoCorrectSettings",
         {
             setting::flag("bNotifyOps", "chkNotifyOps", "Notify Ops", true),
-            setting::profileFlags("tEnabledProfiles", "lvwEnabledProfiles", "Enabled Profiles")
-                .explained("Turns auto correct on for the ticked profiles."),
+            setting::enabledProfiles().explained("Turns auto correct on for the ticked profiles."),
         },
     };
     return file;

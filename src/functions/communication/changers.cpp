@@ -46,14 +46,14 @@ ChangerWords kickBarWords()
     };
 }
 
-std::string pathOf(const ChangerWords& words, const std::string& file)
+std::string changerPath(const ChangerWords& words, const std::string& file)
 {
     return "Communication\\" + words.name + "\\" + words.name + file;
 }
 
-ListFile textsFile(const ChangerWords& words)
+ListFile changerTexts(const ChangerWords& words)
 {
-    return {pathOf(words, "Topics.tbl"), "t" + words.name + "Topics"};
+    return {changerPath(words, "Topics.tbl"), "t" + words.name + "Topics"};
 }
 
 Changer changer(const ChangerWords& words)
@@ -65,10 +65,10 @@ Changer changer(const ChangerWords& words)
     texts.explanation = words.textsExplained;
     texts.columns = {words.column};
     texts.menu = "mnuFirst";
-    texts.load = loadOf(textsFile(words));
-    texts.save = saveOf(textsFile(words));
+    texts.load = loadOf(changerTexts(words));
+    texts.save = saveOf(changerTexts(words));
     texts.restored = noRows;
-    return {{pathOf(words, "Settings.tbl"),
+    return {{changerPath(words, "Settings.tbl"),
              "t" + words.name + "Settings",
              {setting::number("iDelay", "txtDelay", "Delay", 10, 1, 720).explained(words.delayExplained)}},
             texts};
@@ -84,7 +84,7 @@ FormDeclaration changerForm(const FormDescription& form, const Changer& (*change
 /// loses the owner's topics. The kick bar's build looks in the right place and keeps its texts.
 void emptyTopics(const SettingsFiles& files, const HubProfiles& /*profiles*/)
 {
-    const ListFile texts = textsFile(topicWords());
+    const ListFile texts = changerTexts(topicWords());
     if (!files.store().exists(
             files.paths().inSettings(R"(Communication\TopicChanger\TopicChanger\TopicChangerTopics.tbl)")))
         files.WriteSettingsFile(texts.path, TableWriter(texts.table).closed());
@@ -120,7 +120,7 @@ FunctionDeclaration kickBarChangerFunction()
                                    kickBarChanger)}},
             .folders = {R"(Communication\KickBarChanger)"},
             .build = {RebuiltSettings{[] { return kickBarChanger().settings; }},
-                      emptyTable(textsFile(kickBarWords()))}};
+                      emptyTable(changerTexts(kickBarWords()))}};
 }
 
 } // namespace quillfen

@@ -14,8 +14,7 @@ const TableFile& clockSettings()
                 .explained("Names the time zone that is shown in summer."),
             setting::text("sStandardTime", "txtTextBox(1)", "Standard", "GMT")
                 .explained("Names the time zone that is shown in winter."),
-            setting::profileFlags("tEnabledProfiles", "lvwEnabledProfiles", "Enabled Profiles")
-                .explained("Turns the clock on for the ticked profiles."),
+            setting::enabledProfiles().explained("Turns the clock on for the ticked profiles."),
         },
     };
     return file;

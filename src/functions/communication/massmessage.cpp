@@ -37,7 +37,7 @@ void rebuildMassMessage(const SettingsFiles& files, const HubProfiles& profiles)
     files.WriteSettingsFile(massMessageSettings().path, table.closed());
 }
 
-std::vector<PlacedText> placedTexts(const SettingsFiles& files, const HubProfiles& profiles)
+std::vector<PlacedText> placedMassMessage(const SettingsFiles& files, const HubProfiles& profiles)
 {
     const std::string passive(passiveMessageFile);
     std::vector<PlacedText> texts = {
@@ -94,7 +94,8 @@ void saveMassMessage(const MassMessage& message, const SettingsFiles& files, con
             table.open(bracketed(HubProfiles::key(cell.by)));
         // The form puts the named targets in quotes and leaves "Operator" out; the rebuild does neither.
         const std::string target = targetKey(cell.on, profiles);
-        table.row(bracketed(cell.on < profiles.count() ? target : quoted(target)), cell.allowed ? "1" : "0");
+        table.row(bracketed(cell.on < profiles.count() ? target : inQuotes(target)),
+                  cell.allowed ? "1" : "0");
         if (cell.on == last)
             table.close();
     }
@@ -113,7 +114,7 @@ FunctionDeclaration massMessageFunction()
         .explanations =
             {{"lvwPermissions",
               "Lets users of the acting profile send mass messages to users of the target profile."}},
-        .texts = placedTexts};
+        .texts = placedMassMessage};
     return {
         .nodes = {{"Communication~MassMessage", "Mass Message", {{form, {part}}}}},
         .folders = {R"(Communication\MassMessage)"},

@@ -7,8 +7,8 @@
 namespace quillfen {
 namespace {
 
-RotatingMessages declared(const std::string& name, std::vector<Setting> profileTables,
-                          std::vector<std::string> rebuildOrder)
+RotatingMessages declaredMessages(const std::string& name, std::vector<Setting> profileTables,
+                                  std::vector<std::string> rebuildOrder)
 {
     const std::string folder = "Communication\\" + name + "\\";
     TableFile settings = {
@@ -45,20 +45,20 @@ FunctionDeclaration rotatingFunction(const std::string& name, const RotatingMess
 
 const RotatingMessages& rotatingMainMessages()
 {
-    static const RotatingMessages messages =
-        declared("RotatingMainMessage",
-                 {setting::profileFlags("tEnabledAdProfiles", "lvwEnabledProfiles", "Enabled Ad Profiles")
-                      .explained("Shows the messages for the ticked profiles.")},
-                 {});
+    static const RotatingMessages messages = declaredMessages(
+        "RotatingMainMessage",
+        {setting::profileFlags("tEnabledAdProfiles", "lvwEnabledProfiles", "Enabled Ad Profiles")
+             .explained("Shows the messages for the ticked profiles.")},
+        {});
     return messages;
 }
 
 const RotatingMessages& rotatingPrivateMessages()
 {
-    static const RotatingMessages messages = declared(
+    static const RotatingMessages messages = declaredMessages(
         "RotatingPrivateMessage",
         {setting::profileFlags("tEnabledAdProfiles", "lvwEnabledAdProfiles", "Enabled Ad Profiles"),
-         setting::profileFlags("tEnabledProfiles", "lvwEnabledProfiles", "Enabled Profiles"),
+         setting::enabledProfiles(),
          setting::profileFlags("tEnabledMaintainProfiles", "lvwEnabledMaintainProfiles",
                                "Enabled Maintain Profiles")},
         {"bRandomise", "iDelay", "tEnabledProfiles", "tEnabledAdProfiles", "tEnabledMaintainProfiles"});

@@ -51,8 +51,7 @@ const TableFile& welcomeInfoSettings()
             fact("sHublistAddress", "txtTextBox(5)", "Hublist Address"),
             fact("sWebSite", "txtTextBox(6)", "Hub Web Site"),
             setting::rebuiltText("sMinShare", ""), // a save drops it, a rebuild has it again
-            setting::profileFlags("tEnabledProfiles", "lvwEnabledProfiles", "Enabled Profiles")
-                .explained("Turns the welcome information on for the ticked profiles."),
+            setting::enabledProfiles().explained("Turns the welcome information on for the ticked profiles."),
         },
         {"sNetworkFounder", "sNetworkName", "sNetworkFounded", "sHubOwner", "sHubEmail", "sHublistAddress",
          "sWebSite", "sMinShare", "bShowOps", "bOnlyOnline", "tEnabledProfiles"},

@@ -13,22 +13,23 @@
 namespace quillfen {
 namespace {
 
-constexpr std::string_view path = R"(CustomiseUser\CustomRightClick\CustomRightClick.tbl)";
-constexpr std::string_view table = "tCustomRightClick";
+constexpr std::string_view menuLinesPath = R"(CustomiseUser\CustomRightClick\CustomRightClick.tbl)";
+constexpr std::string_view menuLinesTable = "tCustomRightClick";
 
 /// The cells of a row.
-enum Cell
+enum MenuLineCell
 {
     RightClick,
-    Profile,
-    Location
+    SeenBy,
+    MenuPlace
 };
 
 /// Where in the client's menus a line stands; the file counts them from 1.
 constexpr std::array<const char*, 4> locations = {"Hub", "Users", "Hub & Users", "Search"};
 
 /// Who sees a line, beside the profiles: as it is shown, and as it is stored.
-constexpr std::pair<const char*, const char*> groups[] = {{"Operators Only", "ops"}, {"All Profiles", "all"}};
+constexpr std::pair<const char*, const char*> userGroups[] = {{"Operators Only", "ops"},
+                                                              {"All Profiles", "all"}};
 
 /// The integer that a text is; nothing if it is another text.
 std::optional<long long> integer(const std::string& text)
@@ -40,7 +41,7 @@ std::optional<long long> integer(const std::string& text)
 
 std::string shownProfile(const std::string& stored, const HubProfiles& profiles)
 {
-    for (const auto& [word, code] : groups) {
+    for (const auto& [word, code] : userGroups) {
         if (stored == code)
             return word;
     }
@@ -52,15 +53,15 @@ std::string shownProfile(const std::string& stored, const HubProfiles& profiles)
 /// The key of a profile that is gone is shown as it stands, and stays a bare number.
 std::string storedProfile(const std::string& shown, const HubProfiles& profiles)
 {
-    for (const auto& [word, code] : groups) {
+    for (const auto& [word, code] : userGroups) {
         if (shown == word)
-            return quoted(code);
+            return inQuotes(code);
     }
     const auto& names = profiles.names();
     const auto name = std::find(names.begin(), names.end(), shown);
     if (name != names.end())
         return HubProfiles::key(static_cast<std::size_t>(name - names.begin()));
-    return integer(shown) ? shown : quoted(shown);
+    return integer(shown) ? shown : inQuotes(shown);
 }
 
 std::string shownLocation(const std::string& stored)
@@ -84,12 +85,12 @@ std::string storedLocation(const std::string& shown)
 /// would be lost at the next save.
 std::vector<CellRow> loadRows(const SettingsFiles& files, const HubProfiles& profiles)
 {
-    std::string bytes = files.store().read(files.paths().resolve(path)).value_or(std::string());
+    std::string bytes = files.store().read(files.paths().resolve(menuLinesPath)).value_or(std::string());
     const auto most =
         static_cast<double>(bytes.size()); // no row is shorter than a byte, whatever the count says
     const TableIndex index(std::move(bytes), std::numeric_limits<std::size_t>::max());
     const auto count =
-        static_cast<int>(std::clamp(leadingNumber(index.value("iCommands", table)), 0.0, most));
+        static_cast<int>(std::clamp(leadingNumber(index.value("iCommands", menuLinesTable)), 0.0, most));
     std::vector<CellRow> rows;
     for (int number = 1; number <= count; ++number) {
         const std::string block = std::to_string(number);
@@ -103,19 +104,19 @@ std::vector<CellRow> loadRows(const SettingsFiles& files, const HubProfiles& pro
 
 void saveRows(const SettingsFiles& files, const HubProfiles& profiles, const std::vector<CellRow>& rows)
 {
-    TableWriter lines(table);
+    TableWriter lines(menuLinesTable);
     lines.row("iCommands", std::to_string(rows.size()));
     int number = 0;
     for (const CellRow& row : rows) {
         // The rows of a block stand two tabs deeper than its brace.
         lines.open(bracketed(std::to_string(++number))).indent(3);
         lines.row("bEnabled", row.checked ? "1" : "0");
-        lines.row("iWhere", storedLocation(row.cells[Location]));
-        lines.row("sProfile", storedProfile(row.cells[Profile], profiles));
+        lines.row("iWhere", storedLocation(row.cells[MenuPlace]));
+        lines.row("sProfile", storedProfile(row.cells[SeenBy], profiles));
         lines.text("sRightClick", row.cells[RightClick]);
         lines.indent(2).close();
     }
-    files.WriteSettingsFile(path, lines.closed());
+    files.WriteSettingsFile(menuLinesPath, lines.closed());
 }
 
 } // namespace
@@ -123,7 +124,7 @@ void saveRows(const SettingsFiles& files, const HubProfiles& profiles, const std
 RowListDeclaration customRightClicks(const HubProfiles& profiles)
 {
     std::vector<std::string> whose = profiles.names();
-    for (const auto& group : groups)
+    for (const auto& group : userGroups)
         whose.push_back(group.first);
 
     RowListDeclaration list = listOf("Right Click", Fewest::None);
@@ -157,12 +158,12 @@ FunctionDeclaration customRightClickFunction()
     const FormDescription form = {.name = "frmCustomiseUserCustomRightClick",
                                   .caption = "CustomiseUser ~ Custom Right Click",
                                   .hasRestore = false};
-    return {
-        .nodes = {{"CustomiseUser~CustomRightClick",
-                   "Custom Right Click",
-                   {{form, {DeclaredList{customRightClicks}}}}}},
-        .folders = {R"(CustomiseUser\CustomRightClick)"},
-        .build = {EmptyTable{std::string(path), std::string(table)}}}; // without a count, which reads as none
+    return {.nodes = {{"CustomiseUser~CustomRightClick",
+                       "Custom Right Click",
+                       {{form, {DeclaredList{customRightClicks}}}}}},
+            .folders = {R"(CustomiseUser\CustomRightClick)"},
+            .build = {EmptyTable{std::string(menuLinesPath),
+                                 std::string(menuLinesTable)}}}; // without a count, which reads as none
 }
 
 } // namespace quillfen

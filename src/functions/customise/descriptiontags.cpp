@@ -10,14 +10,15 @@
 namespace quillfen {
 namespace {
 
-constexpr const char* path = R"(CustomiseUser\DescriptionTags\DescriptionTagSettings.tbl)";
-constexpr const char* table = "tDescriptionTagSettings";
+constexpr const char* tagSettingsPath = R"(CustomiseUser\DescriptionTags\DescriptionTagSettings.tbl)";
+constexpr const char* tagSettingsTable = "tDescriptionTagSettings";
 constexpr const char* tagTable = "tProfiles";
 
 /// No control holds this flag: only the rebuild writes it, and each save of the form loses it again.
 const TableFile& rebuiltOnly()
 {
-    static const TableFile file = {path, table, {setting::rebuiltFlag("bNotifyOps", true)}};
+    static const TableFile file = {
+        tagSettingsPath, tagSettingsTable, {setting::rebuiltFlag("bNotifyOps", true)}};
     return file;
 }
 
@@ -30,7 +31,7 @@ std::string defaultTag(const std::string& profile)
 std::map<std::string, std::string> storedTags(const SettingsFiles& files)
 {
     std::vector<ListRow> rows;
-    files.ReadTableToList(path, rows, "=", tagTable);
+    files.ReadTableToList(tagSettingsPath, rows, "=", tagTable);
     std::map<std::string, std::string> tags;
     for (ListRow& row : rows)
         tags.try_emplace(std::move(row.text), std::move(row.second));
@@ -78,7 +79,7 @@ std::set<std::string, std::less<>> tagKeys(std::string_view bytes)
 
 std::vector<CellRow> rebuiltTags(const SettingsFiles& files, const HubProfiles& profiles)
 {
-    const auto bytes = files.store().read(files.paths().resolve(path)).value_or(std::string());
+    const auto bytes = files.store().read(files.paths().resolve(tagSettingsPath)).value_or(std::string());
     const auto keys = tagKeys(bytes);
     const TableIndex index(bytes);
     return tagRows(profiles, [&](std::size_t row) {
@@ -99,15 +100,15 @@ void writeTags(TableWriter& lines, const std::vector<CellRow>& tags)
 
 void rebuildDescriptionTags(const SettingsFiles& files, const HubProfiles& profiles)
 {
-    const auto index = files.index(path);
-    TableWriter lines(table);
+    const auto index = files.index(tagSettingsPath);
+    TableWriter lines(tagSettingsTable);
     const auto writeKept = [&](const TableFile& file) {
         writeRows(lines, file, rebuilt(file, index, profiles), RowOrder::Rebuild, profiles);
     };
     writeKept(rebuiltOnly());
     writeTags(lines, rebuiltTags(files, profiles));
     writeKept(taggedProfiles());
-    files.WriteSettingsFile(path, lines.closed());
+    files.WriteSettingsFile(tagSettingsPath, lines.closed());
 }
 
 } // namespace
@@ -115,11 +116,10 @@ void rebuildDescriptionTags(const SettingsFiles& files, const HubProfiles& profi
 const TableFile& taggedProfiles()
 {
     static const TableFile file = {
-        path,
-        table,
-        {setting::profileFlags("tEnabledProfiles", "lvwEnabledProfiles", "Enabled Profiles")
-             .explained(
-                 "Puts the tag of their profile into the descriptions of users of the ticked profiles.")}};
+        tagSettingsPath,
+        tagSettingsTable,
+        {setting::enabledProfiles().explained(
+            "Puts the tag of their profile into the descriptions of users of the ticked profiles.")}};
     return file;
 }
 
@@ -143,10 +143,10 @@ RowListDeclaration descriptionTags()
 void saveDescriptionTags(const SettingValues& tagged, const std::vector<CellRow>& tags,
                          const SettingsFiles& files, const HubProfiles& profiles)
 {
-    TableWriter lines(table);
+    TableWriter lines(tagSettingsTable);
     writeRows(lines, taggedProfiles(), tagged, RowOrder::Save, profiles);
     writeTags(lines, tags);
-    files.WriteSettingsFile(path, lines.closed());
+    files.WriteSettingsFile(tagSettingsPath, lines.closed());
 }
 
 FunctionDeclaration descriptionTagsFunction()

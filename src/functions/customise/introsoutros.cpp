@@ -105,7 +105,7 @@ Family custom()
     };
 }
 
-std::string pathOf(const std::string& name)
+std::string introOutroPath(const std::string& name)
 {
     return R"(CustomiseUser\IntroOutro\)" + name + ".tbl";
 }
@@ -113,13 +113,13 @@ std::string pathOf(const std::string& name)
 /// The file of the intros or of the outros.
 ListFile linesFile(const Family& family, const std::string& noun)
 {
-    return {pathOf(family.word + noun), "t" + family.word + noun,
+    return {introOutroPath(family.word + noun), "t" + family.word + noun,
             family.named ? ListFile::Form::Keyed : ListFile::Form::Plain};
 }
 
 /// `noun` is "Intro" or "Outro"; `asked` is the same in the question before a line goes.
-RowListDeclaration linesOf(const Family& family, const std::string& noun, const std::string& asked,
-                           std::vector<CellRow> (*restored)(), std::string_view explanation)
+RowListDeclaration announcedLines(const Family& family, const std::string& noun, const std::string& asked,
+                                  std::vector<CellRow> (*restored)(), std::string_view explanation)
 {
     RowListDeclaration list = listOf(noun, Fewest::One);
     list.list = "lvw" + noun;
@@ -145,8 +145,8 @@ RowListDeclaration linesOf(const Family& family, const std::string& noun, const 
 RowListGroup linesOf(const Family& family)
 {
     RowListGroup group;
-    group.lists = {linesOf(family, "Intro", "intro", family.intros, family.introsExplained),
-                   linesOf(family, "Outro", family.askedOutro, family.outros, family.outrosExplained)};
+    group.lists = {announcedLines(family, "Intro", "intro", family.intros, family.introsExplained),
+                   announcedLines(family, "Outro", family.askedOutro, family.outros, family.outrosExplained)};
     group.save = [family](const SettingsFiles& files, const std::vector<std::vector<CellRow>>& rows) {
         saveOf(linesFile(family, "Intro"))(files, {}, rows.at(0));
         saveOf(linesFile(family, "Outro"))(files, {}, rows.at(1));
@@ -157,7 +157,7 @@ RowListGroup linesOf(const Family& family)
 TableFile settingsOf(const Family& family, std::vector<Setting> settings)
 {
     settings.push_back(enabledProfiles(family.label + " Enabled Profiles", family.profilesExplained));
-    return {pathOf(family.word + "IntroOutroSettings"), "t" + family.word + "IntroOutroSettings",
+    return {introOutroPath(family.word + "IntroOutroSettings"), "t" + family.word + "IntroOutroSettings",
             std::move(settings)};
 }
 

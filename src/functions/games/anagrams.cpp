@@ -6,9 +6,9 @@
 namespace quillfen {
 namespace {
 
-constexpr const char* wordsPath = R"(Games\Anagrams\AnagramWords.lst)";
+constexpr const char* anagramWordsPath = R"(Games\Anagrams\AnagramWords.lst)";
 
-setting::Field quiz(const std::string& key, const std::string& control)
+setting::Field anagramQuiz(const std::string& key, const std::string& control)
 {
     return quizSetting(QuizGame::Anagrams, key, control);
 }
@@ -22,17 +22,17 @@ const TableFile& anagramSettings()
         "tAnagramSettings",
         withQuizFlags("chkCheckBox",
                       {
-                          quiz("iArchiveScores", "txtTextBoxUpDown(9)"),
+                          anagramQuiz("iArchiveScores", "txtTextBoxUpDown(9)"),
                           oneCharacter("sHintChar", "Hint Character", hintBullet),
                           arrowNumber("iHintTime", "txtTextBoxUpDown(0)", "Hint Time", 20, 0, 60),
-                          quiz("iQuestions", "txtTextBoxUpDown(1)"),
-                          quiz("iQuestionsPause", "txtTextBoxUpDown(2)"),
-                          quiz("iTimeOut", "txtTextBoxUpDown(3)"),
-                          quiz("iBonusTime", "txtTextBoxUpDown(4)"),
-                          quiz("iPoints", "txtTextBoxUpDown(5)"),
-                          quiz("iScores", "txtTextBoxUpDown(6)"),
-                          quiz("iTopScores", "txtTextBoxUpDown(7)"),
-                          quiz("iAutoStartDelay", "txtTextBoxUpDown(8)"),
+                          anagramQuiz("iQuestions", "txtTextBoxUpDown(1)"),
+                          anagramQuiz("iQuestionsPause", "txtTextBoxUpDown(2)"),
+                          anagramQuiz("iTimeOut", "txtTextBoxUpDown(3)"),
+                          anagramQuiz("iBonusTime", "txtTextBoxUpDown(4)"),
+                          anagramQuiz("iPoints", "txtTextBoxUpDown(5)"),
+                          anagramQuiz("iScores", "txtTextBoxUpDown(6)"),
+                          anagramQuiz("iTopScores", "txtTextBoxUpDown(7)"),
+                          anagramQuiz("iAutoStartDelay", "txtTextBoxUpDown(8)"),
                       }),
     };
     return file;
@@ -40,7 +40,7 @@ const TableFile& anagramSettings()
 
 const RowListDeclaration& anagramWords()
 {
-    static const RowListDeclaration declared = guessedWords(wordsPath, "mnuAnagrams");
+    static const RowListDeclaration declared = guessedWords(anagramWordsPath, "mnuAnagrams");
     return declared;
 }
 
@@ -56,7 +56,7 @@ FunctionDeclaration anagramsFunction()
         {"Games~Anagrams",
          "Anagrams",
          {{form, {DeclaredSettings{anagramSettings}, listPart(anagramWords, ListPartKind::Words)}}}}};
-    function.build.emplace_back(FirstText{wordsPath, firstWord});
+    function.build.emplace_back(FirstText{anagramWordsPath, firstWord});
     return function;
 }
 

@@ -5,9 +5,9 @@
 namespace quillfen {
 namespace {
 
-constexpr const char* digits = "0123456789";
+constexpr const char* allDigits = "0123456789";
 
-setting::Field quiz(const std::string& key, const std::string& control)
+setting::Field codeBreakerQuiz(const std::string& key, const std::string& control)
 {
     return quizSetting(QuizGame::CodeBreaker, key, control);
 }
@@ -22,20 +22,20 @@ const TableFile& codeBreakerSettings()
         withQuizFlags(
             "chkCheckBox",
             {
-                quiz("iArchiveScores", "txtTextBoxUpDown(9)"),
-                setting::text("sAllowedCharacters", "txtAllowedCharacters", "Allowed Characters", digits),
+                codeBreakerQuiz("iArchiveScores", "txtTextBoxUpDown(9)"),
+                setting::text("sAllowedCharacters", "txtAllowedCharacters", "Allowed Characters", allDigits),
                 // The bullet is the default of a hint character, which this game doesn't have: its hidden one
                 // is empty until its owner types it.
                 oneCharacter("sHiddenChar", "Hidden Character", ""),
                 arrowNumber("iQuestionLength", "txtTextBoxUpDown(0)", "Question Length", 3, 0, 60),
-                quiz("iQuestions", "txtTextBoxUpDown(1)"),
-                quiz("iQuestionsPause", "txtTextBoxUpDown(2)"),
-                quiz("iTimeOut", "txtTextBoxUpDown(3)"),
+                codeBreakerQuiz("iQuestions", "txtTextBoxUpDown(1)"),
+                codeBreakerQuiz("iQuestionsPause", "txtTextBoxUpDown(2)"),
+                codeBreakerQuiz("iTimeOut", "txtTextBoxUpDown(3)"),
                 arrowNumber("iQuestionsTime", "txtTextBoxUpDown(4)", "Question Time", 90, 0, 1000),
-                quiz("iPoints", "txtTextBoxUpDown(5)"),
-                quiz("iScores", "txtTextBoxUpDown(6)"),
-                quiz("iTopScores", "txtTextBoxUpDown(7)"),
-                quiz("iAutoStartDelay", "txtTextBoxUpDown(8)"),
+                codeBreakerQuiz("iPoints", "txtTextBoxUpDown(5)"),
+                codeBreakerQuiz("iScores", "txtTextBoxUpDown(6)"),
+                codeBreakerQuiz("iTopScores", "txtTextBoxUpDown(7)"),
+                codeBreakerQuiz("iAutoStartDelay", "txtTextBoxUpDown(8)"),
             }),
     };
     return file;

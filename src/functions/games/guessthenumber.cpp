@@ -5,7 +5,7 @@
 namespace quillfen {
 namespace {
 
-setting::Field quiz(const std::string& key, const std::string& control)
+setting::Field guessTheNumberQuiz(const std::string& key, const std::string& control)
 {
     return quizSetting(QuizGame::GuessTheNumber, key, control);
 }
@@ -27,19 +27,19 @@ const TableFile& guessTheNumberSettings()
         withQuizFlags(
             "chkCheckBox",
             {
-                quiz("iArchiveScores", "txtTextBoxUpDown(9)"),
-                quiz("iQuestions", "txtTextBoxUpDown(0)"),
-                quiz("iQuestionsPause", "txtTextBoxUpDown(1)"),
-                quiz("iTimeOut", "txtTextBoxUpDown(2)"),
+                guessTheNumberQuiz("iArchiveScores", "txtTextBoxUpDown(9)"),
+                guessTheNumberQuiz("iQuestions", "txtTextBoxUpDown(0)"),
+                guessTheNumberQuiz("iQuestionsPause", "txtTextBoxUpDown(1)"),
+                guessTheNumberQuiz("iTimeOut", "txtTextBoxUpDown(2)"),
                 arrowNumber("iHints", "txtTextBoxUpDown(3)", "Hint Delay", 5, 0, 60),
                 // The defaults of these two stand above what their arrows reach.
                 arrowNumber("iHintTime", "txtTextBoxUpDown(4)", "Hints", 20, 0, 10),
                 arrowNumber("iMaxHints", "txtTextBoxUpDown(5)", "Max User Hints", 20, 0, 10),
                 arrowNumber("iQuestionMin", "txtTextBoxUpDown(6)", "Min Question Value", 1, 0, 100),
                 arrowNumber("iQuestionMax", "txtTextBoxUpDown(7)", "Max Question Value", 500, 100, 5000),
-                captioned(quiz("iScores", "txtTextBoxUpDown(8)"), "Scores"),
-                captioned(quiz("iTopScores", "txtTextBoxUpDown(10)"), "End Of Game Scores"),
-                quiz("iAutoStartDelay", "txtTextBoxUpDown(11)"),
+                captioned(guessTheNumberQuiz("iScores", "txtTextBoxUpDown(8)"), "Scores"),
+                captioned(guessTheNumberQuiz("iTopScores", "txtTextBoxUpDown(10)"), "End Of Game Scores"),
+                guessTheNumberQuiz("iAutoStartDelay", "txtTextBoxUpDown(11)"),
             }),
     };
     return file;

@@ -6,9 +6,9 @@
 namespace quillfen {
 namespace {
 
-constexpr const char* wordsPath = R"(Games\Hangman\HangmanWords.lst)";
+constexpr const char* hangmanWordsPath = R"(Games\Hangman\HangmanWords.lst)";
 
-setting::Field quiz(const std::string& key, const std::string& control)
+setting::Field hangmanQuiz(const std::string& key, const std::string& control)
 {
     return quizSetting(QuizGame::Hangman, key, control);
 }
@@ -30,19 +30,19 @@ const TableFile& hangmanSettings()
         withQuizFlags("chkCheckBox",
                       {
                           setting::flag("bUseAscii", "chkCheckBox(6)", "Enable Ascii", true),
-                          quiz("iArchiveScores", "txtTextBoxUpDown(9)"),
+                          hangmanQuiz("iArchiveScores", "txtTextBoxUpDown(9)"),
                           oneCharacter("sHiddenChar", "Hint Character", hintBullet),
                           // A rebuild knows no default: the key stays empty until the form first saves.
                           setting::ConstantText{"sAllowedCharacters", "ABCDEFGHIJKLMNOPQRSTUVWXYZ-"},
                           arrowNumber("iLostLifeTime", "txtTextBoxUpDown(0)", "Lost Life Time", 30, 0, 60),
-                          quiz("iQuestions", "txtTextBoxUpDown(1)"),
-                          quiz("iQuestionsPause", "txtTextBoxUpDown(2)"),
-                          quiz("iTimeOut", "txtTextBoxUpDown(3)"),
+                          hangmanQuiz("iQuestions", "txtTextBoxUpDown(1)"),
+                          hangmanQuiz("iQuestionsPause", "txtTextBoxUpDown(2)"),
+                          hangmanQuiz("iTimeOut", "txtTextBoxUpDown(3)"),
                           idleBonusTime(),
-                          quiz("iPoints", "txtTextBoxUpDown(5)"),
-                          quiz("iScores", "txtTextBoxUpDown(6)"),
-                          quiz("iTopScores", "txtTextBoxUpDown(7)"),
-                          quiz("iAutoStartDelay", "txtTextBoxUpDown(8)"),
+                          hangmanQuiz("iPoints", "txtTextBoxUpDown(5)"),
+                          hangmanQuiz("iScores", "txtTextBoxUpDown(6)"),
+                          hangmanQuiz("iTopScores", "txtTextBoxUpDown(7)"),
+                          hangmanQuiz("iAutoStartDelay", "txtTextBoxUpDown(8)"),
                       }),
     };
     return file;
@@ -50,7 +50,7 @@ const TableFile& hangmanSettings()
 
 const RowListDeclaration& hangmanWords()
 {
-    static const RowListDeclaration declared = guessedWords(wordsPath, "mnuHangman");
+    static const RowListDeclaration declared = guessedWords(hangmanWordsPath, "mnuHangman");
     return declared;
 }
 
@@ -77,7 +77,7 @@ FunctionDeclaration hangmanFunction()
                          {DeclaredSettings{hangmanSettings, SettingsPartKind::Hangman},
                           listPart(hangmanWords, ListPartKind::Words), gallows}}}}};
     function.folders.push_back(R"(Games\Hangman\Ascii)");
-    function.build.emplace_back(FirstText{wordsPath, firstWord});
+    function.build.emplace_back(FirstText{hangmanWordsPath, firstWord});
     for (int stage = 0; stage <= lastGallowsStage; ++stage)
         function.build.emplace_back(FirstText{gallowsFile(stage), ""});
     return function;

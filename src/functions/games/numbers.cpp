@@ -19,14 +19,14 @@ constexpr std::string_view calculationsExplained =
     "Sets the ranges of the two numbers from which questions are made on the fly, for each type of "
     "calculation.";
 
-setting::Field quiz(const std::string& key, const std::string& control)
+setting::Field numbersQuiz(const std::string& key, const std::string& control)
 {
     return quizSetting(QuizGame::Numbers, key, control);
 }
 
 Setting questionCount()
 {
-    auto count = quiz("iQuestions", "txtTextBoxUpDown(1)");
+    auto count = numbersQuiz("iQuestions", "txtTextBoxUpDown(1)");
     count.keyInSave = "iQuestions "; // a save puts two blanks before the equals sign, a rebuild one
     return count;
 }
@@ -70,17 +70,17 @@ const TableFile& numbersSettings()
                 setting::flag("bPreventCalc", "chkCheckBox(8)", "Report Calculator", true)
                     .explained("Switches the prevention of the calculator in the hub: the captions of the "
                                "two calculator boxes have changed places."),
-                quiz("iArchiveScores", "txtTextBoxUpDown(9)"),
+                numbersQuiz("iArchiveScores", "txtTextBoxUpDown(9)"),
                 calculations(),
                 arrowNumber("iQuestionTime", "txtTextBoxUpDown(0)", "Question Time", 20, 0, 60),
                 questionCount(),
-                quiz("iQuestionsPause", "txtTextBoxUpDown(2)"),
-                quiz("iTimeOut", "txtTextBoxUpDown(3)"),
-                quiz("iBonusTime", "txtTextBoxUpDown(4)"),
-                quiz("iPoints", "txtTextBoxUpDown(5)"),
-                quiz("iScores", "txtTextBoxUpDown(6)"),
-                quiz("iTopScores", "txtTextBoxUpDown(7)"),
-                quiz("iAutoStartDelay", "txtTextBoxUpDown(8)"),
+                numbersQuiz("iQuestionsPause", "txtTextBoxUpDown(2)"),
+                numbersQuiz("iTimeOut", "txtTextBoxUpDown(3)"),
+                numbersQuiz("iBonusTime", "txtTextBoxUpDown(4)"),
+                numbersQuiz("iPoints", "txtTextBoxUpDown(5)"),
+                numbersQuiz("iScores", "txtTextBoxUpDown(6)"),
+                numbersQuiz("iTopScores", "txtTextBoxUpDown(7)"),
+                numbersQuiz("iAutoStartDelay", "txtTextBoxUpDown(8)"),
             }),
         {"iTimeOut",     "iBonusTime",  "iQuestions",       "iQuestionsPause", "iQuestionTime",
          "iTopScores",   "iScores",     "iPoints",          "iAutoStartDelay", "bManualStart",

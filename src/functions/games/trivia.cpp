@@ -17,7 +17,7 @@ constexpr std::string_view questionFilesPath = R"(Games\Trivia\TriviaQuestionFil
 constexpr std::string_view questionFilesTable = "tTriviaQuestionFiles";
 constexpr std::string_view defaultKey = "sDefaultQuestionFile";
 
-setting::Field quiz(const std::string& key, const std::string& control)
+setting::Field triviaQuiz(const std::string& key, const std::string& control)
 {
     return quizSetting(QuizGame::Trivia, key, control);
 }
@@ -61,7 +61,7 @@ void makeFirstQuestions(const SettingsFiles& files, const HubProfiles& /*profile
     if (files.store().exists(files.paths().inSettings(questionFilesPath)))
         return;
     TableWriter table(questionFilesTable);
-    table.indent(0).text(bracketed(quoted(defaultKey)), "TriviaQuestions");
+    table.indent(0).text(bracketed(inQuotes(defaultKey)), "TriviaQuestions");
     files.WriteSettingsFile(questionFilesPath, table.closed());
     writeIfMissing(files, triviaQuestionFile("TriviaQuestions"),
                    std::string(firstTriviaQuestion).append(lineEnd));
@@ -78,20 +78,20 @@ const TableFile& triviaSettings()
             "chkTrivia",
             {
                 setting::flag("bShowOnlyOneHint", "chkTrivia(6)", "Only Show One Hint", true),
-                quiz("iArchiveScores", "txtTextBoxUpDown(10)"),
+                triviaQuiz("iArchiveScores", "txtTextBoxUpDown(10)"),
                 optionsFrom(0, "iFormat", "Question Format:", 0, {"Standard", "Expanded", "Trivia Ex"}),
                 optionsFrom(3, "iScoring", "Scoring Type:", 1, {"Standard", "Hint Reduction"}),
                 oneCharacter("sHintChar", "Hint Character", hintBullet),
                 arrowNumber("iHintTime", "txtTextBoxUpDown(0)", "Hint Time", 30, 0, 60),
                 arrowNumber("iMaxHints", "txtTextBoxUpDown(1)", "Max Hints", 5, 0, 10),
-                quiz("iQuestions", "txtTextBoxUpDown(2)"),
-                quiz("iQuestionsPause", "txtTextBoxUpDown(3)"),
-                quiz("iTimeOut", "txtTextBoxUpDown(4)"),
-                quiz("iBonusTime", "txtTextBoxUpDown(5)"),
-                quiz("iPoints", "txtTextBoxUpDown(6)"),
-                quiz("iScores", "txtTextBoxUpDown(7)"),
-                quiz("iTopScores", "txtTextBoxUpDown(8)"),
-                quiz("iAutoStartDelay", "txtTextBoxUpDown(9)"),
+                triviaQuiz("iQuestions", "txtTextBoxUpDown(2)"),
+                triviaQuiz("iQuestionsPause", "txtTextBoxUpDown(3)"),
+                triviaQuiz("iTimeOut", "txtTextBoxUpDown(4)"),
+                triviaQuiz("iBonusTime", "txtTextBoxUpDown(5)"),
+                triviaQuiz("iPoints", "txtTextBoxUpDown(6)"),
+                triviaQuiz("iScores", "txtTextBoxUpDown(7)"),
+                triviaQuiz("iTopScores", "txtTextBoxUpDown(8)"),
+                triviaQuiz("iAutoStartDelay", "txtTextBoxUpDown(9)"),
             }),
         {"sHintChar",       "bManualStart", "bOpOnlyStart",     "bOpOnlyStop",     "iFormat",
          "iHintTime",       "iMaxHints",    "iQuestions",       "iQuestionsPause", "iTimeOut",
@@ -158,7 +158,7 @@ void saveTriviaQuestionFiles(const SettingsFiles& files, const TriviaQuestionFil
     table.text(defaultKey, questionFiles.defaultFile);
     for (const std::string& name : questionFiles.names) {
         if (name != questionFiles.defaultFile)
-            table.row(quoted(name));
+            table.row(inQuotes(name));
     }
     files.WriteSettingsFile(questionFilesPath, table.closed());
 }

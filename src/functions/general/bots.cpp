@@ -37,7 +37,7 @@ constexpr DefaultBot defaultBots[] = {
 };
 
 /// The cells of a row.
-enum Cell
+enum BotCell
 {
     Function,
     Name,

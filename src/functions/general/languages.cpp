@@ -65,7 +65,7 @@ constexpr LanguageSet sets[] = {
     },
 };
 
-std::string pathOf(const LanguageSet& set, std::string_view name)
+std::string languagePath(const LanguageSet& set, std::string_view name)
 {
     return std::string(set.folder).append(name).append(".tbl");
 }
@@ -73,11 +73,11 @@ std::string pathOf(const LanguageSet& set, std::string_view name)
 std::vector<ListRow> referenceList(const SettingsFiles& files, const LanguageSet& set)
 {
     std::vector<ListRow> list;
-    files.ReadTableToList(files.realFile(pathOf(set, referenceLanguage)), list, "=", set.textTable);
+    files.ReadTableToList(files.realFile(languagePath(set, referenceLanguage)), list, "=", set.textTable);
     return list;
 }
 
-std::vector<PlacedText> placedTexts(const LanguageSet& set, const SettingsFiles& files)
+std::vector<PlacedText> placedLanguageTexts(const LanguageSet& set, const SettingsFiles& files)
 {
     std::vector<PlacedText> texts;
     int place = 0;
@@ -85,7 +85,7 @@ std::vector<PlacedText> placedTexts(const LanguageSet& set, const SettingsFiles&
         const std::string& name = language.cells[0];
         const bool isReadable = leavingNameFault(name).empty(); // as the form has it
         for (const CellRow& text : isReadable ? loadLanguageTexts(files, set, name) : std::vector<CellRow>())
-            texts.push_back({pathOf(set, name), "lvwFiles", place, std::string(set.textColumn),
+            texts.push_back({languagePath(set, name), "lvwFiles", place, std::string(set.textColumn),
                              name + ": " + text.cells[0] + " | " + text.cells[1]});
         ++place;
     }
@@ -97,7 +97,7 @@ Node languageNode(const std::string& key, const std::string& caption, std::size_
     FormDescription form = {std::string(sets[set].form), std::string(sets[set].caption), {10500, 6000}};
     form.isLoadedOnce = true;
     const auto texts = [set](const SettingsFiles& files, const HubProfiles&) {
-        return placedTexts(sets[set], files);
+        return placedLanguageTexts(sets[set], files);
     };
     const auto lists = [set] { return std::vector{languageLists(sets[set]).names}; };
     return {
@@ -178,7 +178,7 @@ std::vector<CellRow> loadLanguageTexts(const SettingsFiles& files, const Languag
                                        std::string_view name)
 {
     auto list = referenceList(files, set);
-    files.ReadListColumn(files.realFile(pathOf(set, name)), set.textTable, list);
+    files.ReadListColumn(files.realFile(languagePath(set, name)), set.textTable, list);
     return cellRows(std::move(list));
 }
 
@@ -188,7 +188,7 @@ void saveLanguageTexts(const SettingsFiles& files, const LanguageSet& set, std::
     TableWriter table(set.textTable);
     for (const CellRow& row : rows)
         table.text(row.cells.at(0), row.cells.at(1));
-    files.WriteSettingsFile(pathOf(set, name), table.closed());
+    files.WriteSettingsFile(languagePath(set, name), table.closed());
 }
 
 FunctionDeclaration languagesFunction()

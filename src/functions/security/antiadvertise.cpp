@@ -39,7 +39,7 @@ RowListDeclaration addressList(const std::string& word)
     return list;
 }
 
-TableFile declaredSettings()
+TableFile declaredAntiAdvertiseSettings()
 {
     auto ipBlock = setting::flag("bEnableIPBlock", "chkCheckBox(0)", "Enable IP Block", true);
     ipBlock.toolTip = "Allows IPs beginning with 0 (such as 0.3.6.0)";
@@ -73,7 +73,7 @@ TickList actionTicks()
 
 const TableFile& antiAdvertiseSettings()
 {
-    static const TableFile file = declaredSettings();
+    static const TableFile file = declaredAntiAdvertiseSettings();
     return file;
 }
 

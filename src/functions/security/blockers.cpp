@@ -51,8 +51,7 @@ RowListDeclaration declaredExemptUsers()
 
 setting::Field exemptProfiles()
 {
-    return notRestored(setting::profileFlags("tExemptProfiles", "lvwExemptProfiles", "Exempt Profiles")
-                           .explained("Exempts the ticked profiles from the action."));
+    return notRestored(setting::exemptProfiles().explained("Exempts the ticked profiles from the action."));
 }
 
 /// No key belongs to this check box: it only makes the form dirty.
@@ -88,8 +87,7 @@ const TableFile& cloneSettings()
     static const TableFile file = {
         R"(Security\CloneBlocker\CloneBlockerSettings.tbl)",
         "tCloneBlockerSettings",
-        {banTimeSetting("iTempBanTime"), actionSetting("TempBan"),
-         notRestored(setting::profileFlags("tEnabledProfiles", "lvwEnabledProfiles", "Enabled Profiles")),
+        {banTimeSetting("iTempBanTime"), actionSetting("TempBan"), notRestored(setting::enabledProfiles()),
          exemptProfiles()},
         {"sAction", "iTempBanTime", "tExemptProfiles", "tEnabledProfiles"},
     };

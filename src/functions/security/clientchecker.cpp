@@ -13,7 +13,7 @@ ListFile versionsFile()
 }
 
 /// The cells of a row.
-enum Cell
+enum VersionCell
 {
     Client,
     MinVersion,
@@ -79,7 +79,7 @@ RowListDeclaration declaredVersions()
 }
 
 /// RESTORE sets the action and its time; the lists stay.
-TableFile declaredSettings()
+TableFile declaredClientCheckerSettings()
 {
     auto types = notRestored(setting::namedFlags("tBlock", "lvwBlockedTypes", "Blocked Connection Types",
                                                  {"Sockets", "Passive", "Active", "Undeclared"})
@@ -104,7 +104,7 @@ TableFile declaredSettings()
 
 const TableFile& clientCheckerSettings()
 {
-    static const TableFile file = declaredSettings();
+    static const TableFile file = declaredClientCheckerSettings();
     return file;
 }
 

@@ -6,7 +6,7 @@ namespace {
 /// The text that goes with a kick.
 constexpr const char* kickAsciiFile = R"(Security\Kick\KickAscii.asc)";
 
-GridCommand command(const std::string& word)
+GridCommand kickCommand(const std::string& word)
 {
     return {word, R"(Security\Kick\KickCan)" + word + ".tbl", "tKickCan" + word};
 }
@@ -56,8 +56,8 @@ const PermissionGrid& kickPermissions()
 {
     // The form's "TimeBan" is the rebuild's "TempBan": each has a file of its own. No form reads the
     // rebuild's, and a fresh tree has none for this one until its first save.
-    static const PermissionGrid grid = {{command("Drop"), command("Warn"), command("Kick"),
-                                         command("TimeBan"), command("Ban"), command("Unban")}};
+    static const PermissionGrid grid = {{kickCommand("Drop"), kickCommand("Warn"), kickCommand("Kick"),
+                                         kickCommand("TimeBan"), kickCommand("Ban"), kickCommand("Unban")}};
     return grid;
 }
 
@@ -87,7 +87,7 @@ FunctionDeclaration kicksFunction()
                   EmptyTable{R"(Security\Kick\Logs\KickerLog.tbl)", "tKickerLog"},
                   EmptyTable{R"(Security\Kick\Logs\KickLog.tbl)", "tKickLog"}}};
     for (const char* word : {"Ban", "Drop", "Kick", "TempBan", "Unban", "Warn"})
-        function.build.emplace_back(RebuiltGrid{command(word)});
+        function.build.emplace_back(RebuiltGrid{kickCommand(word)});
     return function;
 }
 

@@ -6,18 +6,6 @@ namespace {
 /// The text that is shown after a cleaning.
 constexpr const char* mainCleanerText = R"(Security\MainCleaner\MainCleaner.asc)";
 
-Setting enabledProfiles(std::string_view explanation)
-{
-    return setting::profileFlags("tEnabledProfiles", "lvwEnabledProfiles", "Enabled Profiles")
-        .explained(explanation);
-}
-
-Setting exemptProfiles(std::string_view explanation)
-{
-    return setting::profileFlags("tExemptProfiles", "lvwExemptProfiles", "Exempt Profiles")
-        .explained(explanation);
-}
-
 } // namespace
 
 const TableFile& mainBlockSettings()
@@ -27,8 +15,8 @@ const TableFile& mainBlockSettings()
         "tMainBlockSettings",
         {setting::number("iBlockTime", "txtUpDown", "Temporary Block Time", 10, 5, 1440, setting::asTyped)
              .explained("Sets how long a temporary block of main chat lasts."),
-         enabledProfiles("Lets the ticked profiles block main chat for a time."),
-         exemptProfiles("Exempts the ticked profiles from a block of main chat.")},
+         setting::enabledProfiles().explained("Lets the ticked profiles block main chat for a time."),
+         setting::exemptProfiles().explained("Exempts the ticked profiles from a block of main chat.")},
         {"tEnabledProfiles", "tExemptProfiles", "iBlockTime"},
     };
     return file;
@@ -36,18 +24,20 @@ const TableFile& mainBlockSettings()
 
 const TableFile& mainLockSettings()
 {
-    static const TableFile file = {R"(Security\MainLock\MainLockSettings.tbl)",
-                                   "tMainLockSettings",
-                                   {enabledProfiles("Lets the ticked profiles lock main chat."),
-                                    exemptProfiles("Exempts the ticked profiles from a lock of main chat.")}};
+    static const TableFile file = {
+        R"(Security\MainLock\MainLockSettings.tbl)",
+        "tMainLockSettings",
+        {setting::enabledProfiles().explained("Lets the ticked profiles lock main chat."),
+         setting::exemptProfiles().explained("Exempts the ticked profiles from a lock of main chat.")}};
     return file;
 }
 
 const TableFile& mainCleanerSettings()
 {
-    static const TableFile file = {R"(Security\MainCleaner\MainCleanerSettings.tbl)",
-                                   "tMainCleanerSettings",
-                                   {enabledProfiles("Lets the ticked profiles clean main chat.")}};
+    static const TableFile file = {
+        R"(Security\MainCleaner\MainCleanerSettings.tbl)",
+        "tMainCleanerSettings",
+        {setting::enabledProfiles().explained("Lets the ticked profiles clean main chat.")}};
     return file;
 }
 

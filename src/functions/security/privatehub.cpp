@@ -27,7 +27,7 @@ Setting disabled(const std::string& word, const std::string& label, const std::s
     return flags;
 }
 
-TableFile declared()
+TableFile declaredPrivateHubSettings()
 {
     return {
         R"(Security\PrivateHub\PrivateHubSettings.tbl)",
@@ -60,7 +60,7 @@ TableFile declared()
 
 const TableFile& privateHubSettings()
 {
-    static const TableFile file = declared();
+    static const TableFile file = declaredPrivateHubSettings();
     return file;
 }
 

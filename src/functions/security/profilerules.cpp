@@ -11,7 +11,7 @@
 namespace quillfen {
 namespace {
 
-ListFile rulesFile()
+ListFile profileRulesFile()
 {
     return {R"(Security\ProfileRules\ProfileRules.tbl)", "tProfileRules"};
 }
@@ -69,7 +69,7 @@ std::string numberText(double number)
 }
 
 /// The cells of a profile's row; the last two don't show.
-enum Cell
+enum RuleCell
 {
     Profile,
     RuleName,
@@ -94,7 +94,7 @@ bool isCount(std::string_view share)
 
 std::vector<CellRow> loadPermissions(const SettingsFiles& files, const HubProfiles& profiles)
 {
-    const auto index = files.index(rulesFile().path);
+    const auto index = files.index(profileRulesFile().path);
     std::vector<CellRow> rows;
     for (std::size_t profile = 0; profile < profiles.count(); ++profile) {
         const std::string key = HubProfiles::key(profile);
@@ -128,7 +128,7 @@ void writeTexts(TableWriter& table, std::string_view key, const std::vector<Cell
 
 void saveRules(const SettingsFiles& files, const std::vector<std::vector<CellRow>>& lists)
 {
-    TableWriter table(rulesFile().table);
+    TableWriter table(profileRulesFile().table);
     writeTexts(table, "tMessages", lists.at(1));
     writeTexts(table, "tRedirects", lists.at(2));
     std::size_t place = 0;
@@ -141,7 +141,7 @@ void saveRules(const SettingsFiles& files, const std::vector<std::vector<CellRow
         if (place == 0)
             table.close();
     }
-    files.WriteSettingsFile(rulesFile().path, table.closed());
+    files.WriteSettingsFile(profileRulesFile().path, table.closed());
 }
 
 RowDialog dialogOf(const CellRow& row)
@@ -167,7 +167,7 @@ std::string separatorOf(const Rule& rule)
     return rule.isShare ? " " : rule.letter == 's' ? "/" : "";
 }
 
-std::vector<std::string> fieldsOf(const CellRow& row)
+std::vector<std::string> ruleFields(const CellRow& row)
 {
     const std::string separator = separatorOf(ruleOf(row));
     if (separator.empty())
@@ -200,7 +200,7 @@ RowListDeclaration permissions()
     list.menu = "mnuOnlyEdit";
     list.load = loadPermissions;
     list.dialogOf = dialogOf;
-    list.fieldsOf = fieldsOf;
+    list.fieldsOf = ruleFields;
     list.take = take;
     return list;
 }
@@ -217,7 +217,7 @@ RowListDeclaration textList(const std::string& word, const std::string& menu, co
     list.menu = menu;
     list.load = [table = "t" + word](const SettingsFiles& files, const HubProfiles&) {
         std::vector<ListRow> texts;
-        files.ReadTableToList(rulesFile().path, texts, "=", table);
+        files.ReadTableToList(profileRulesFile().path, texts, "=", table);
         std::vector<CellRow> rows;
         rows.reserve(texts.size());
         for (const ListRow& text : texts)
@@ -237,7 +237,7 @@ Setting enabled(const std::string& word)
                                  "Enabled " + word + " Profiles", "Enabled Profiles");
 }
 
-TableFile declaredSettings()
+TableFile declaredRuleSettings()
 {
     auto log = setting::flag("bEnableRedirectLog", "chkCheckBox", "Log Redirects", false);
     // A rebuild asks for the defaults of both under other names: it finds the flag's to be 1, and none for
@@ -257,8 +257,8 @@ TableFile declaredSettings()
 
 void rebuildRules(const SettingsFiles& files, const HubProfiles& profiles)
 {
-    const auto index = files.index(rulesFile().path);
-    TableWriter table(rulesFile().table);
+    const auto index = files.index(profileRulesFile().path);
+    TableWriter table(profileRulesFile().table);
     for (const char* texts : {"tMessages", "tRedirects"}) {
         table.open(texts);
         for (const Rule& rule : rules()) {
@@ -275,7 +275,7 @@ void rebuildRules(const SettingsFiles& files, const HubProfiles& profiles)
         }
         table.close();
     }
-    files.WriteSettingsFile(rulesFile().path, table.closed());
+    files.WriteSettingsFile(profileRulesFile().path, table.closed());
 }
 
 /// Each rebuild starts the counters anew, and the ratio's key has another letter here than in the rules.
@@ -291,7 +291,7 @@ void resetCounters(const SettingsFiles& files, const HubProfiles& /*profiles*/)
 
 const TableFile& profileRuleSettings()
 {
-    static const TableFile file = declaredSettings();
+    static const TableFile file = declaredRuleSettings();
     return file;
 }
 

@@ -5,7 +5,7 @@
 namespace quillfen {
 namespace {
 
-GridCommand command(const std::string& word, const std::string& name)
+GridCommand registrationCommand(const std::string& word, const std::string& name)
 {
     return {word, R"(Security\Registration\Registration)" + name + ".tbl", "tRegistration" + name};
 }
@@ -55,10 +55,11 @@ const TableFile& registrationSettings()
 
 const PermissionGrid& registrationPermissions()
 {
-    static const PermissionGrid grid = {
-        {command("Add Registration", "Add"), command("Delete Registration", "Delete"),
-         command("Get Password", "GetPassword"), command("Change Password", "ChangePassword")},
-        1};
+    static const PermissionGrid grid = {{registrationCommand("Add Registration", "Add"),
+                                         registrationCommand("Delete Registration", "Delete"),
+                                         registrationCommand("Get Password", "GetPassword"),
+                                         registrationCommand("Change Password", "ChangePassword")},
+                                        1};
     return grid;
 }
 
@@ -74,7 +75,8 @@ FunctionDeclaration registrationFunction()
                       DeclaredGrid{[] { return sourceOf(registrationPermissions()); }, gridWords()}}}}}},
         .folders = {R"(Security\Registration)", R"(Security\Registration\Logs)"}};
     for (const char* name : {"Add", "ChangePassword", "Delete", "GetPassword"})
-        function.build.emplace_back(RebuiltGrid{command({}, name), registrationPermissions().firstProfile});
+        function.build.emplace_back(
+            RebuiltGrid{registrationCommand({}, name), registrationPermissions().firstProfile});
     function.build.emplace_back(resetSettings);
     return function;
 }

@@ -7,8 +7,7 @@ const TableFile& reportSettings()
     static const TableFile file = {
         R"(Security\Report\ReportSettings.tbl)",
         "tReportSettings",
-        {setting::profileFlags("tEnabledProfiles", "lvwEnabledProfiles", "Enabled Profiles")
-             .explained("Lets the ticked profiles use the report command.")}};
+        {setting::enabledProfiles().explained("Lets the ticked profiles use the report command.")}};
     return file;
 }
 

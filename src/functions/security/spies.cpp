@@ -18,7 +18,7 @@ const std::vector<std::string>& searchActions()
 }
 
 /// The cells of a row.
-enum Cell
+enum TermCell
 {
     Term,
     Action
@@ -70,8 +70,7 @@ const TableFile& commandSpySettings()
     static const TableFile file = {
         R"(Security\CommandSpy\CommandSpySettings.tbl)",
         "tCommandSpySettings",
-        {setting::profileFlags("tEnabledProfiles", "lvwEnabledProfiles", "Enabled Profiles")
-             .explained("Lets the ticked profiles spy on commands.")}};
+        {setting::enabledProfiles().explained("Lets the ticked profiles spy on commands.")}};
     return file;
 }
 

@@ -3,7 +3,7 @@
 namespace quillfen {
 namespace {
 
-TableFile declared()
+TableFile declaredUserLogSettings()
 {
     return {
         R"(Security\UserLog\UserLogSettings.tbl)",
@@ -37,7 +37,7 @@ TableFile declared()
 
 const TableFile& userLogSettings()
 {
-    static const TableFile file = declared();
+    static const TableFile file = declaredUserLogSettings();
     return file;
 }
 

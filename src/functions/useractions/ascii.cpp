@@ -50,8 +50,7 @@ const TableFile& asciiSettings()
             setting::flag("bInMain", "chkCheckBox(0)", "Show In Main", true),
             setting::flag("bInMainGlobal", "chkCheckBox(1)", "Show In Main To All", true),
             setting::flag("bEnableNoCommand", "chkCheckBox(2)", "Enable No Command", true),
-            notRestored(setting::profileFlags("tEnabledProfiles", "lvwEnabledProfiles", "Enabled Profiles")
-                            .explained("Lets the ticked profiles show pictures.")),
+            notRestored(setting::enabledProfiles().explained("Lets the ticked profiles show pictures.")),
             notRestored(setting::profileFlags("tEnabledRC", "lvwEnabledRCs", "Enabled Right Clicks")
                             .explained("Lets the ticked profiles show pictures by right click.")),
         },

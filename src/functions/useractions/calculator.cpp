@@ -7,8 +7,7 @@ const TableFile& calculatorSettings()
     static const TableFile file = {
         R"(UserActions\Calculator\CalculatorSettings.tbl)",
         "tCalculatorSettings",
-        {setting::profileFlags("tEnabledProfiles", "lvwEnabledProfiles", "Enabled Profiles")
-             .explained("Lets the ticked profiles use the calculator.")}};
+        {setting::enabledProfiles().explained("Lets the ticked profiles use the calculator.")}};
     return file;
 }
 

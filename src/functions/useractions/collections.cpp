@@ -3,20 +3,20 @@
 namespace quillfen {
 namespace {
 
-std::string pathOf(const std::string& word, const std::string& file)
+std::string collectionPath(const std::string& word, const std::string& file)
 {
     return "UserActions\\" + word + "s\\" + word + file;
 }
 
-ListFile textsFile(const std::string& word)
+ListFile collectionTexts(const std::string& word)
 {
-    return {pathOf(word, "s.tbl"), "t" + word + "s"};
+    return {collectionPath(word, "s.tbl"), "t" + word + "s"};
 }
 
 Collection collection(const std::string& word, int delay)
 {
     Collection result;
-    result.settings = {pathOf(word, "Settings.tbl"),
+    result.settings = {collectionPath(word, "Settings.tbl"),
                        "t" + word + "Settings",
                        {setting::flag("bManualControl", "chkManualControl", "Manual Control", false),
                         setting::flag("bSendToAll", "chkSendToAll", "Send To All", true),
@@ -30,8 +30,8 @@ Collection collection(const std::string& word, int delay)
         "Each row is a text that is sent by command or on a timer; a | in it begins a new line.";
     texts.columns = {word + "s"};
     texts.menu = "mnuFirst";
-    texts.load = loadOf(textsFile(word));
-    texts.save = saveOf(textsFile(word));
+    texts.load = loadOf(collectionTexts(word));
+    texts.save = saveOf(collectionTexts(word));
     return result;
 }
 
@@ -45,7 +45,7 @@ FunctionDeclaration collectionFunction(const std::string& word, const Collection
                        settingsAndListForm({"frmUserActions" + name, "User Actions ~ " + name, {9000, 6000}},
                                            settings, [all] { return all().texts; })}},
             .folders = {"UserActions\\" + name},
-            .build = {RebuiltSettings{settings}, firstRows(textsFile(word), {{firstText}})}};
+            .build = {RebuiltSettings{settings}, firstRows(collectionTexts(word), {{firstText}})}};
 }
 
 } // namespace

@@ -29,10 +29,9 @@ Setting timeout()
     return setting::number("iDelay", "txtUpDown(0)", "Timeout", 3, 1, 180);
 }
 
-Setting enabledProfiles()
+Setting castingProfiles()
 {
-    return setting::profileFlags("tEnabledProfiles", "lvwEnabledProfiles", "Enabled Profiles")
-        .explained("Lets the ticked profiles cast these spells.");
+    return setting::enabledProfiles().explained("Lets the ticked profiles cast these spells.");
 }
 
 std::vector<std::string> pieces(const std::string& text)
@@ -108,7 +107,7 @@ const TableFile& spellSettings()
                                    "tSpellSettings",
                                    {setting::flag("bEnableWards", "chkCheckBox(0)", "Enable Wards", true)
                                         .explained("Protects the warded users from spells."),
-                                    timeout(), enabledProfiles()},
+                                    timeout(), castingProfiles()},
                                    {"iDelay", "bEnableWards", "tEnabledProfiles"}};
     return file;
 }
@@ -117,7 +116,7 @@ const TableFile& nickSpellSettings()
 {
     static const TableFile file = {R"(UserActions\NickSpells\NickSpellSettings.tbl)",
                                    "tNickSpellSettings",
-                                   {timeout(), enabledProfiles()}};
+                                   {timeout(), castingProfiles()}};
     return file;
 }
 

@@ -9,11 +9,6 @@
 namespace quillfen {
 namespace {
 
-bool isLineEnd(QChar character)
-{
-    return character == u'\r' || character == u'\n';
-}
-
 /// What a value on one line keeps of a text; `inRun` tells whether a line end stands in front of it.
 QString oneLine(QStringView text, bool inRun = false)
 {
@@ -32,6 +27,11 @@ QString oneLine(QStringView text, bool inRun = false)
 }
 
 } // namespace
+
+bool isLineEnd(QChar character)
+{
+    return character == u'\r' || character == u'\n';
+}
 
 QString fromBytes(std::string_view bytes)
 {

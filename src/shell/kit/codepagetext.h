@@ -17,6 +17,8 @@ QString fromBytes(std::string_view bytes);
 /// fields.
 std::string toBytes(const QString& text);
 
+bool isLineEnd(QChar character); ///< CR or LF
+
 /// Keeps a value on one line and within the code page, however a text gets into its box: each run of line
 /// ends becomes a blank, and NUL and what the code page does not have are dropped. What the user sees is what
 /// is stored.

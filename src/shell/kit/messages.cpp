@@ -13,7 +13,7 @@
 namespace quillfen {
 namespace {
 
-QString namesOf(const std::vector<std::string>& paths)
+QString fileNamesOf(const std::vector<std::string>& paths)
 {
     QStringList names;
     for (const std::string& path : paths)
@@ -27,7 +27,8 @@ QString whatChanged(const StoreError& error)
     const auto* half = dynamic_cast<const HalfCommitted*>(&error);
     if (!half)
         return {};
-    return " New already: " + namesOf(half->changed()) + ". Still as before: " + namesOf(half->left()) + '.';
+    return " New already: " + fileNamesOf(half->changed()) +
+           ". Still as before: " + fileNamesOf(half->left()) + '.';
 }
 
 QMessageBox::StandardButton show(QWidget* parent, const QString& title, const QString& text,

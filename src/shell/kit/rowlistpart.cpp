@@ -24,7 +24,7 @@ EditRequest requestOf(const RowDialog& dialog)
     return request;
 }
 
-ToolbarListNames namesOf(const RowListDeclaration& list, const RowListHooks& hooks)
+ToolbarListNames toolbarNamesOf(const RowListDeclaration& list, const RowListHooks& hooks)
 {
     const std::string& told = list.label.empty() ? list.columns.front() : list.label;
     return {fromBytes(list.toolbar), fromBytes(told), fromBytes(list.label), fromBytes(list.menu),
@@ -57,8 +57,8 @@ RowListPart::RowListPart(RowListDeclaration declaration, const FormContext& cont
       m_context(context),
       m_hooks(std::move(hooks)),
       m_list(new RowList(fromBytes(m_declaration.list), texts(m_declaration.columns), m_declaration.ticks)),
-      m_tools(new ToolbarList(m_list, namesOf(m_declaration, m_hooks), buildersOf(m_declaration, m_hooks),
-                              context)),
+      m_tools(new ToolbarList(m_list, toolbarNamesOf(m_declaration, m_hooks),
+                              buildersOf(m_declaration, m_hooks), context)),
       m_movement(m_declaration.movement.empty()
                      ? nullptr
                      : smallToolbar(fromBytes(m_declaration.movement), {BuildMovementToolbar}))

@@ -1,14 +1,11 @@
 #include "shell/kit/rowtext.h"
 
+#include "shell/kit/codepagetext.h"
+
 #include <algorithm>
 
 namespace quillfen {
 namespace {
-
-bool isLineEnd(QChar character)
-{
-    return character == u'\n' || character == u'\r';
-}
 
 bool partsCells(QChar character)
 {

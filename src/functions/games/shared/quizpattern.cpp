@@ -12,7 +12,7 @@
 namespace quillfen {
 namespace {
 
-constexpr int games = 6;
+constexpr int quizGameCount = 6;
 
 struct QuizFlag
 {
@@ -22,7 +22,7 @@ struct QuizFlag
     std::string_view explanation{};
 };
 
-constexpr QuizFlag flags[] = {
+constexpr QuizFlag quizFlags[] = {
     {"bManualStart", "Manual Start Only", false, "Starts the game only on command."},
     {"bOpOnlyStart", "Operator Start", false, "Lets only operators start the game."},
     {"bOpOnlyStop", "Operator Stop", false, "Lets only operators stop the game."},
@@ -43,11 +43,12 @@ struct QuizNumber
 {
     const char* key;
     const char* caption;
-    std::array<Range, games> ranges; ///< Trivia, Numbers, Hangman, Anagrams, CodeBreaker, GuessTheNumber
+    /// Trivia, Numbers, Hangman, Anagrams, CodeBreaker, GuessTheNumber
+    std::array<Range, quizGameCount> ranges;
     std::string_view explanation{};
 };
 
-constexpr QuizNumber numbers[] = {
+constexpr QuizNumber quizNumbers[] = {
     {"iArchiveScores",
      "ScoresTo Archive",
      {{{5, 0, 250}, {5, 0, 1000}, {5, 0, 1000}, {5, 0, 1000}, {5, 0, 1000}, {5, 0, 1000}}},
@@ -93,7 +94,7 @@ std::string captionOf(QuizGame game, const QuizNumber& quizNumber)
 
 setting::Field quizSetting(QuizGame game, const std::string& key, const std::string& control)
 {
-    const auto* const found = std::find_if(std::begin(numbers), std::end(numbers),
+    const auto* const found = std::find_if(std::begin(quizNumbers), std::end(quizNumbers),
                                            [&key](const QuizNumber& each) { return each.key == key; });
     const Range& range = found->ranges.at(static_cast<std::size_t>(game));
     return arrowNumber(key, control, captionOf(game, *found), range.defaultValue, range.minimum,
@@ -104,7 +105,7 @@ setting::Field quizSetting(QuizGame game, const std::string& key, const std::str
 std::vector<Setting> withQuizFlags(const std::string& checkBoxes, std::vector<Setting> further)
 {
     std::vector<Setting> settings;
-    for (const QuizFlag& each : flags) {
+    for (const QuizFlag& each : quizFlags) {
         const std::string control = checkBoxes + "(" + std::to_string(settings.size()) + ")";
         settings.emplace_back(
             setting::flag(each.key, control, each.caption, each.defaultValue).explained(each.explanation));
