@@ -78,8 +78,8 @@ TEST_F(ChangedFiles, OfAFormWhoseLoadAddsAreToldAndNotRead)
     hub.file("Games/Trivia/TriviaQuestionFiles.tbl") += " ";
     questions.lookAtFiles();
     EXPECT_EQ(shown(find<RowList>(questions, "lvwQuestionFiles")), rows);
-    EXPECT_TRUE(secondPanel(questions).startsWith("TriviaQuestionFiles.tbl changed on disk;"))
-        << secondPanel(questions).toStdString().text();
+    EXPECT_TRUE(secondPanel(questions).text().startsWith("TriviaQuestionFiles.tbl changed on disk;"))
+        << secondPanel(questions).text().toStdString();
 }
 
 TEST_F(ChangedFiles, AFormsOwnSaveIsNoChange)

@@ -138,6 +138,12 @@ protected:
         return rows;
     }
 
+    /// A panel of the form's status bar, from 0.
+    static QLabel& panel(EditorForm& form, int at)
+    {
+        return *find<QStatusBar>(form, "stsStatusBar").findChildren<QLabel*>().at(at);
+    }
+
     static QString state(EditorForm& form) { return panel(form, 0).text(); }
     static QLabel& secondPanel(EditorForm& form) { return panel(form, 1); }
 
