@@ -92,7 +92,8 @@ protected:
         timer.start(0);
         one.say("$Hello bot|$NickList " + list + "|$OpList " + list + '|');
         const bool loggedIn = QTest::qWaitFor(
-            [this] { return links().isLoggedIn(Link::One) && links().isLoggedIn(Link::Two); }, 30000);
+            [this] { return links().isLoggedIn(Link::One) && links().isLoggedIn(Link::Two); },
+            120'000); // a turn of the event loop for each nick, which takes its time under Wine
         form().parentWidget()->close();
         EXPECT_TRUE(QTest::qWaitFor([this] { return !one.isConnected() && !two.isConnected(); }));
         return loggedIn;
@@ -127,9 +128,9 @@ TEST_F(PortalHubs, ATickLogsTheBotIn)
 TEST_F(PortalHubs, AHubThatSpeaksWhileTheOthersListIsReadIsHeardBehindIt)
 {
     one.greets = two.greets = false;
-    for (const int nicks : {0, 100, 500, 10'000}) {
+    for (const auto& [nicks, rounds] : {std::pair{0, 15}, {100, 15}, {500, 15}, {10'000, 3}}) {
         int stalled = 0;
-        for (int round = 0; round < 15; ++round)
+        for (int round = 0; round < rounds; ++round)
             stalled += logInWhileHubOneLists(nicks) ? 0 : 1;
         EXPECT_EQ(stalled, 0) << nicks << " nicks";
     }
