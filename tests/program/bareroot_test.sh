@@ -15,12 +15,7 @@ for tool in cc g++ cmake; do
   [ -z "$(chroot "$root" which $tool)" ] || fail "there is $tool"
 done
 
-begin "first start builds the tree"
-press "$version_box" Return
-close_main
-grep -q "sVersion = \"$version\"," "$tree/General/Globals/Version.tbl" || fail "no version record"
-count=$(find "$tree" -type f | wc -l)
-[ "$count" -eq 182 ] || fail "$count files, not 182"
+builds_tree_of_empty_hub
 begin "second start asks nothing"
 close_main
 echo "- check"

@@ -24,14 +24,7 @@ for section in general the-archive; do
 done
 [ -f "$scripts/quillfen-docs/guide.html" ] || fail "no page of the guide"
 
-begin "first start of the unpacked program builds the tree"
-press "$version_box" Return
-close_main
-grep -q "sVersion = \"$version\"," "$tree/General/Globals/Version.tbl" || fail "no version record"
-# By group, for a hub without profiles: 14 Customise User, 25 Communication, 52 Games, 6 General, 46 Security,
-# 21 User Actions, 18 The Archive.
-count=$(find "$tree" -type f | wc -l)
-[ "$count" -eq 182 ] || fail "$count files, not 182"
+builds_tree_of_empty_hub
 
 rm -rf "$work"
 echo "the package starts as it should"

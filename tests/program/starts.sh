@@ -58,3 +58,15 @@ close_main() {
   press "$main_window" alt+f c
   ends_with 0
 }
+
+# The first start of an unpacked program in a hub without profiles. By group: 14 Customise User, 25 Communication,
+# 52 Games, 6 General, 46 Security, 21 User Actions, 18 The Archive.
+builds_tree_of_empty_hub() {
+  local count
+  begin "first start of the unpacked program builds the tree"
+  press "$version_box" Return
+  close_main
+  grep -q "sVersion = \"$version\"," "$tree/General/Globals/Version.tbl" || fail "no version record"
+  count=$(find "$tree" -type f | wc -l)
+  [ "$count" -eq 182 ] || fail "$count files, not 182"
+}
