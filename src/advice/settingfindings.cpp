@@ -39,7 +39,7 @@ struct WordsOf
         const auto number = wholeNumber(value);
         if (!number || value == std::to_string(kind.defaultValue))
             return std::nullopt;
-        const Words words = outside(*number, value, kind.minimum, kind.maximum);
+        Words words = outside(*number, value, kind.minimum, kind.maximum);
         if (words || !kind.details.clockTime || static_cast<int>(*number) % 100 < 60)
             return words;
         return value + " is no time of day. Enter hours and minutes, such as 1300 for one o'clock.";

@@ -21,7 +21,7 @@ enum Field
     Details
 };
 
-constexpr std::size_t ranks = 2 * (Details + 1);
+constexpr std::size_t ranks = 2 * (std::size_t{Details} + 1);
 
 } // namespace
 

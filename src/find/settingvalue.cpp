@@ -40,7 +40,7 @@ std::string_view onOrOff(bool checked)
 std::string shownValue(const setting::Field& field, const SettingValues& values, const HubProfiles& profiles)
 {
     const auto found = values.find(field.key);
-    const std::string value = found == values.end() ? std::string() : found->second;
+    std::string value = found == values.end() ? std::string() : found->second;
     const Overloaded words = {
         [&](const setting::Flag&) { return std::string(onOrOff(isOne(value))); },
         [&](const setting::Options& options) {

@@ -92,6 +92,7 @@ std::vector<KeptFile> History::treeBefore(unsigned number)
             oldest[file.told] = file;
     }
     std::vector<KeptFile> files;
+    files.reserve(oldest.size());
     for (auto& [told, file] : oldest)
         files.push_back(std::move(file));
     return files;

@@ -116,6 +116,7 @@ private:
     std::vector<DiffLine> allDifferent() const
     {
         std::vector<DiffLine> lines;
+        lines.reserve(static_cast<std::size_t>(m_fromSize) + static_cast<std::size_t>(m_toSize));
         for (int at = 0; at < m_fromSize; ++at)
             lines.push_back({LineKind::Old, m_from[at]});
         for (int at = 0; at < m_toSize; ++at)

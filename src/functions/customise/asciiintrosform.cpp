@@ -7,6 +7,7 @@
 #include <QWidget>
 
 #include <algorithm>
+#include <utility>
 
 namespace quillfen {
 namespace {
@@ -18,8 +19,9 @@ public:
     explicit AsciiIntrosPart(const FormContext& context)
         : m_files(new FolderFilesPart(asciiIntroFiles(), std::string(asciiIntroFolder), context,
                                       [this](const CellRow& file) { return useOf(file); })),
-          m_users(new RowListPart(asciiIntroUsers(), context,
-                                  {.offer = [this](RowDialog dialog) { return withFiles(dialog); }})),
+          m_users(
+              new RowListPart(asciiIntroUsers(), context,
+                              {.offer = [this](RowDialog dialog) { return withFiles(std::move(dialog)); }})),
           m_widget(new QWidget)
     {
         auto* layout = new QHBoxLayout(m_widget);

@@ -125,7 +125,7 @@ RowListDeclaration customRightClicks(const HubProfiles& profiles)
 {
     std::vector<std::string> whose = profiles.names();
     for (const auto& group : userGroups)
-        whose.push_back(group.first);
+        whose.emplace_back(group.first);
 
     RowListDeclaration list = listOf("Right Click", Fewest::None);
     list.list = "lvwCustomRightClicks";

@@ -76,7 +76,7 @@ FunctionDeclaration hangmanFunction()
                        {{{"frmGamesHangman", "Games ~ Hangman"},
                          {DeclaredSettings{hangmanSettings, SettingsPartKind::Hangman},
                           listPart(hangmanWords, ListPartKind::Words), gallows}}}}};
-    function.folders.push_back(R"(Games\Hangman\Ascii)");
+    function.folders.emplace_back(R"(Games\Hangman\Ascii)");
     function.build.emplace_back(FirstText{hangmanWordsPath, firstWord});
     for (int stage = 0; stage <= lastGallowsStage; ++stage)
         function.build.emplace_back(FirstText{gallowsFile(stage), ""});

@@ -215,7 +215,7 @@ FunctionDeclaration triviaFunction()
                    {{"cboQuestionFileDefault", {}, std::string(questionFilesPath), std::string(defaultKey)}},
                .texts = placedQuestions}}}},
          "Trivia ~ Questions"}};
-    function.folders.push_back(R"(Games\Trivia\QuestionFiles)");
+    function.folders.emplace_back(R"(Games\Trivia\QuestionFiles)");
     function.build.emplace_back(makeFirstQuestions);
     return function;
 }

@@ -142,7 +142,7 @@ QString EditorForm::secondPanelText() const
         return m_changedFile + " changed on disk; SAVE replaces it, DISCARD reads it";
     if (!m_versionFault.isEmpty())
         return "No version was kept: " + m_versionFault;
-    const QString advice = m_advice ? m_advice->words() : QString();
+    QString advice = m_advice ? m_advice->words() : QString();
     if (!advice.isEmpty())
         return advice;
     return m_rowWords.isEmpty() || m_note.isEmpty() ? m_rowWords + m_note : m_rowWords + ". " + m_note;

@@ -177,7 +177,7 @@ QString ListView::tipOf(const QModelIndex& index) const
 {
     if (!index.isValid())
         return {};
-    const QString sign = signOf(index.row());
+    QString sign = signOf(index.row());
     if (!sign.isEmpty())
         return sign;
     const bool isCut = sizeHintForIndex(index).width() > visualRect(index).width();

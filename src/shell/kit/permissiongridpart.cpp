@@ -302,15 +302,15 @@ PermissionGridPart::PermissionGridPart(GridSource source, GridWords words, const
 void PermissionGridPart::fitColumns()
 {
     const QFontMetrics metrics = m_list->fontMetrics();
-    const auto widest = [&metrics](const std::vector<std::string>& texts) {
+    const auto widestOf = [&metrics](const std::vector<std::string>& texts) {
         int width = 0;
         for (const std::string& text : texts)
             width = std::max(width, metrics.horizontalAdvance(fromBytes(text)));
         return width;
     };
-    const int profile = widest(m_context.profiles.names());
-    const int target = m_words.targets ? std::max(profile, widest(m_source.named)) : 0;
-    std::vector<int> widths = {widest(m_source.commands), profile, target};
+    const int profile = widestOf(m_context.profiles.names());
+    const int target = m_words.targets ? std::max(profile, widestOf(m_source.named)) : 0;
+    std::vector<int> widths = {widestOf(m_source.commands), profile, target};
     const int margin = 3 * metrics.averageCharWidth();
     for (int column = 0; column < 3; ++column) {
         int& width = widths[static_cast<std::size_t>(column)];

@@ -58,7 +58,9 @@ QString SettingCards::textOf(const QWidget& control) const
 bool SettingCards::show()
 {
     auto* control = QApplication::focusWidget();
-    const QString text = control && m_frame.isAncestorOf(control) ? textOf(*control) : QString();
+    if (!control || !m_frame.isAncestorOf(control))
+        return false;
+    const QString text = textOf(*control);
     if (text.isEmpty())
         return false;
     m_shown = toolTipOf(text);

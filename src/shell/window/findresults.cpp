@@ -66,7 +66,7 @@ MarkedLine withMarkInSight(MarkedLine line, const QFontMetrics& font, int width)
     if (line.marks.empty() || line.marks.front().at <= before)
         return line;
     const FindMark first = line.marks.front();
-    const auto end = static_cast<qsizetype>(first.at + first.length);
+    const auto end = static_cast<qsizetype>(first.at) + static_cast<qsizetype>(first.length);
     if (font.horizontalAdvance(line.text.left(end)) <= width)
         return line;
     const std::size_t left = first.at - before;
