@@ -11,6 +11,7 @@ ROOT = pathlib.Path(__file__).resolve().parent.parent
 TREE = ROOT / "build/mutate/tree"
 BUILD = ROOT / "build/mutate/build"
 TIME_LIMIT = 120  # seconds: a change may make a loop endless
+ANY_BYTE = "latin-1"
 
 # What is changed into what. Sources are formatted, so an operator with a blank on both sides is no template's bracket.
 SWAPS = [
@@ -88,17 +89,23 @@ def passes():
     return succeeds([str(BUILD / "tests/core_tests"), "--gtest_brief=1", "--gtest_fail_fast"], TIME_LIMIT)
 
 
-def mutate(unit, sample):
-    """Tries the unit's changes; gives how many were built and how many of those no test noticed."""
-    file = TREE / unit
-    source = file.read_bytes().decode("latin-1")  # any byte, as it is
-    chosen = sorted(set(changes(source)))
+def changes_of(units, sample):
+    """The changes to try, as a list for each unit; of all units' together a sample, the same in every run."""
+    chosen = [(unit, *change) for unit in units
+              for change in sorted(set(changes((TREE / unit).read_bytes().decode(ANY_BYTE))))]
     if sample and sample < len(chosen):
-        chosen = sorted(random.Random(unit).sample(chosen, sample))
+        chosen = sorted(random.Random(sample).sample(chosen, sample))
+    return {unit: [change[1:] for change in chosen if change[0] == unit] for unit in units}
+
+
+def mutate(unit, chosen):
+    """Tries changes of a unit; gives how many were built and how many of those no test noticed."""
+    file = TREE / unit
+    source = file.read_bytes().decode(ANY_BYTE)
     built = survived = 0
     try:
         for start, end, text in chosen:
-            put(file, (source[:start] + text + source[end:]).encode("latin-1"))
+            put(file, (source[:start] + text + source[end:]).encode(ANY_BYTE))
             if not builds():
                 continue
             built += 1
@@ -113,15 +120,16 @@ def mutate(unit, sample):
                     tell = " ".join(changed.split())
                 print(f"{unit}:{number}: {tell}", flush=True)
     finally:
-        put(file, source.encode("latin-1"))
-    print(f"{unit}: {built - survived} of {built} noticed, {len(chosen) - built} more don't compile", flush=True)
+        put(file, source.encode(ANY_BYTE))
+    if chosen:
+        print(f"{unit}: {built - survived} of {built} noticed, {len(chosen) - built} more don't compile", flush=True)
     return built, survived
 
 
 def main():
     parser = argparse.ArgumentParser(prog="scripts/mutate")
     parser.add_argument("units", nargs="+", help="sources of the core")
-    parser.add_argument("--sample", type=int, help="how many changes of each unit, picked at random")
+    parser.add_argument("--sample", type=int, help="how many changes, picked at random among those of all the units")
     options = parser.parse_args()
     units = [str(pathlib.Path(unit).resolve().relative_to(ROOT)) for unit in options.units]
 
@@ -131,9 +139,9 @@ def main():
                     "-DQUILLFEN_GUI=OFF", "-DQUILLFEN_FATAL_WARNINGS=OFF"], check=True, stdout=subprocess.DEVNULL)
     if not builds() or not passes():
         sys.exit("The tests fail before anything is changed.")
-    counts = [mutate(unit, options.sample) for unit in units]
+    counts = [mutate(unit, chosen) for unit, chosen in changes_of(units, options.sample).items()]
     built, survived = (sum(column) for column in zip(*counts))
-    print(f"{built - survived} of {built} changes noticed ({100 * (built - survived) // max(built, 1)} %)")
+    print(f"{built - survived} of {built} changes noticed ({100 * (built - survived) / max(built, 1):.1f} %)")
 
 
 if __name__ == "__main__":

@@ -4,6 +4,13 @@
 
 namespace quillfen {
 
+std::string_view inputsOf(EditForm form)
+{
+    static constexpr std::string_view inputs[] = {"T",  "TT",  "TTT", "TTTT", "N",   "NN",
+                                                  "TC", "TTC", "TCC", "NC",   "CCC", "CCCC"};
+    return inputs[static_cast<std::size_t>(form)];
+}
+
 std::vector<CellRow> cellRows(std::vector<ListRow> list)
 {
     std::vector<CellRow> rows;

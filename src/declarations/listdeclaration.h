@@ -42,6 +42,9 @@ enum class EditForm
     FourCombos,
 };
 
+/// The inputs of a dialog in field order: T a text, N a number with up-down, C a combo box.
+std::string_view inputsOf(EditForm form);
+
 /// How rows are added and edited. A mode tells which fields are required and whether a dialog offers another
 /// round; without one it is what the callers of that dialog use by habit.
 struct RowDialog

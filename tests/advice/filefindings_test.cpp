@@ -152,7 +152,53 @@ TEST(FileFindings, TellOfTextsThatAreTooLongForTheEditor)
     EXPECT_EQ(found(text + "one more", R"(UserActions\Ascii\Ascii\a.asc)").size(), 1U);
 }
 
-TableFile sample()
+/// The whole words, which a form shows as they stand.
+std::string wordsOf(const std::string& bytes, const char* file = R"(Security\A.tbl)")
+{
+    const auto findings = fileFindings(file, bytes);
+    return findings.empty() ? std::string() : findings.front().words;
+}
+
+TEST(FileFindings, SayWhatIsWrongAndWhatToDoAboutIt)
+{
+    EXPECT_EQ(wordsOf("t = {\r\n\tsText = \"a\\n\",\r\n}\r\n"),
+              "the hub script sees this text without its backslash, or with another character in its place. "
+              "Take the backslash out.");
+    EXPECT_EQ(
+        wordsOf("t = {\r\n\tiNumber = abc,\r\n}\r\n"),
+        "a word without quotes is nothing to the hub script. Enter a number, or put the word in quotes.");
+    EXPECT_EQ(wordsOf("t = {\r\n\tsText = \" a\",\r\n}\r\n"),
+              "the text begins or ends with a blank, a tab, a comma or a quote, which the next load takes "
+              "away. Take it out.");
+    EXPECT_EQ(wordsOf("t = {\r\n\t\"[Chat]\",\r\n}\r\n"),
+              "the text begins with [ or ends with ], which the next load takes away. Use other brackets.");
+    EXPECT_EQ(wordsOf("t = {\r\n\t[\"smile\"] = \"a = b\",\r\n}\r\n"),
+              "the text holds a =, and the editor shows only what stands before it. Take it out, or the next "
+              "save does.");
+    EXPECT_EQ(
+        wordsOf("t = {\r\n\t[\"c\"] = \"1^2^0\",\r\n}\r\n", R"(Security\ClientChecker\ClientVersions.tbl)"),
+        "the version holds a ^, and the editor shows only what stands before it. Take it out, or the "
+        "next save does.");
+    EXPECT_EQ(wordsOf("A:b?*c*d\r\n", R"(Games\Trivia\QuestionFiles\A.lst)"),
+              "a second * ends the answer for the editor. Take it out, or the next save does.");
+    EXPECT_EQ(
+        wordsOf("A:b?*cat\r\n", R"(Games\Trivia\QuestionFiles\A.lst)"),
+        "the editor doesn't show a line that ends in \"t\", and the next save drops it. Put a full stop "
+        "behind it.");
+}
+
+TEST(FileFindings, SayWhatComesOfAFileThatIsNotThereOrIsOff)
+{
+    EXPECT_EQ(unreadableFile("A.tbl").words, "the file can't be read, and the editor shows zeros and empty "
+                                             "texts for it. See to who may read it.");
+    EXPECT_EQ(missingFile("A.tbl").words,
+              "the file is missing, and the editor shows zeros and empty texts for "
+              "it. Restore it and save its form.");
+    EXPECT_EQ(switchedOff("Hangman").words, "Hangman is switched off, so that the hub script does nothing of "
+                                            "this. Tick it in General ~ Switches.");
+}
+
+TableFile fileOfEachKind()
 {
     return {"A.tbl",
             "t",
@@ -166,7 +212,7 @@ TableFile sample()
 
 Lines foundInSample(const std::string& rows)
 {
-    return shortly(settingFindings(sample(), "t = {\r\n" + rows + "}\r\n"));
+    return shortly(settingFindings(fileOfEachKind(), "t = {\r\n" + rows + "}\r\n"));
 }
 
 TEST(SettingFindings, AreNoneForValuesThatTheFormShows)
@@ -214,6 +260,24 @@ TEST(SettingFindings, TellWhereTheReadersStop)
     EXPECT_EQ(foundInSample(rows), Lines{}) << "the brace stands on line 5,000";
     EXPECT_EQ(foundInSample(rows + "x = 1,\r\niNumber = 99,\r\n"),
               at(5001, "the editor reads no further than line 5,000"));
+    const auto findings =
+        settingFindings(fileOfEachKind(), "t = {\r\n" + rows + "x = 1,\r\niNumber = 99,\r\n}\r\n");
+    ASSERT_EQ(findings.size(), 1U);
+    EXPECT_EQ(findings.front().words,
+              "the editor reads no further than line 5,000, and its next save loses what "
+              "stands below. Take lines out above.");
+}
+
+TEST(SettingFindings, SayWhatToDoAboutThem)
+{
+    const auto wordsOfRow = [](const std::string& row) {
+        return settingFindings(fileOfEachKind(), "t = {\r\n" + row + ",\r\n}\r\n").at(0).words;
+    };
+    EXPECT_EQ(wordsOfRow("iTime = 1260"),
+              "1260 is no time of day. Enter hours and minutes, such as 1300 for one o'clock.");
+    EXPECT_EQ(wordsOfRow("sAction = \"X\""), "\"X\" stands for none of the choices. Choose one in the form.");
+    EXPECT_EQ(wordsOfRow("sText = \"abcd\""),
+              "the text is longer than the 3 characters that the form shows. Shorten it.");
 }
 
 const std::string& keyAt(const std::string& bytes, std::size_t line)
@@ -240,11 +304,21 @@ TEST(UseFindings, NameAListOfProfilesOfWhomNoneIsTicked)
     const std::string none =
         "t = {\r\n\ttEnabledProfiles = {\r\n\t\t[-1] = 0,\r\n\t\t[0] = 0,\r\n\t},\r\n}\r\n";
     ASSERT_EQ(useFindings(file, none).size(), 1U);
+    EXPECT_EQ(useFindings(file, none).front().words,
+              "no profile is ticked, so that nobody has any use of this "
+              "function. Tick those that may use it.");
     EXPECT_EQ(useFindings(file, none).front().line, 2U);
     const std::string one =
         "t = {\r\n\ttEnabledProfiles = {\r\n\t\t[-1] = 0,\r\n\t\t[0] = 1,\r\n\t},\r\n}\r\n";
     EXPECT_EQ(useFindings(file, one), std::vector<Finding>());
     EXPECT_EQ(useFindings(file, "t = {\r\n}\r\n"), std::vector<Finding>());
+    EXPECT_EQ(useFindings(file, "t = {\r\n\ttEnabledProfiles = {\r\n\t},\r\n}\r\n"), std::vector<Finding>())
+        << "a table without rows says nothing of anybody";
+    EXPECT_EQ(useFindings(file, "tEnabledProfiles = {\r\n\t[-1] = 0,\r\n}\r\n").size(), 1U);
+    const std::string behindAnother = "t = {\r\n\ttOther = {\r\n\t\t[-1] = 1,\r\n\t},\r\n\ttEnabledProfiles "
+                                      "= {\r\n\t\t[-1] = 0,\r\n\t},\r\n}\r\n";
+    ASSERT_EQ(useFindings(file, behindAnother).size(), 1U);
+    EXPECT_EQ(useFindings(file, behindAnother).front().line, 5U);
 }
 
 TEST(UseFindings, AskForNoTicksThatExemptProfiles)

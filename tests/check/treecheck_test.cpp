@@ -91,6 +91,19 @@ TEST_P(TreeCheckOfProfiles, FindsNothingInAFreshTreeNorInARebuiltOne)
     EXPECT_EQ(found(), Lines{});
 }
 
+TEST_F(TreeCheck, TellsOfLinesThatAreNeverReadWhereTheEditorStopsReading)
+{
+    build(3);
+    std::string& questions = hub.file("Games/Trivia/QuestionFiles/TriviaQuestions.lst");
+    for (int line = 0; line <= 5000; ++line)
+        questions += "A:Who barks?*A dog\r\n";
+    EXPECT_EQ(found(), Lines{}) << "lists are read to their end";
+    std::string& grid = hub.file("Communication/Mute/Mute.tbl");
+    for (int line = 0; line <= 5000; ++line)
+        grid += "\r\n";
+    EXPECT_EQ(found().size(), 1U);
+}
+
 TEST_F(TreeCheck, FindsEachOfTwelveFaultsWhereItStands)
 {
     build(3);

@@ -62,5 +62,72 @@ TEST(Cards, TellNothingAsNothing)
         (Lines{"Range: up to 24 characters. Default: nothing.", "In the file: nothing.", R"(s in A\B.tbl)"}));
 }
 
+/// What the cards of a part say: control, sentence, file and key of each.
+std::vector<Lines> toldOf(const PartDeclaration& part)
+{
+    std::vector<Lines> told;
+    for (const SettingCard& card : cardsOf(part, hubProfiles()))
+        told.push_back({card.control, card.explanation, card.file, card.key});
+    return told;
+}
+
+RowListDeclaration listNamed(const std::string& control, std::string_view explanation)
+{
+    RowListDeclaration list;
+    list.list = control;
+    list.explanation = explanation;
+    return list;
+}
+
+TEST(Cards, TellOfEachKindOfPart)
+{
+    const auto one = [](const HubProfiles& = {}) { return listNamed("lvwOne", "One."); };
+    EXPECT_EQ(toldOf(DeclaredList{one}), (std::vector<Lines>{{"lvwOne", "One.", "", ""}}));
+    EXPECT_EQ(toldOf(DeclaredLists{[&one] {
+                  return RowListGroup{{one(), listNamed("lvwTwo", "Two.")}, {}};
+              }}),
+              (std::vector<Lines>{{"lvwOne", "One.", "", ""}, {"lvwTwo", "Two.", "", ""}}));
+    EXPECT_EQ(toldOf(DeclaredTexts{[&one] { return one(); }, "A"}),
+              (std::vector<Lines>{{"lvwOne", "One.", "", ""}}));
+    DeclaredGrid grid;
+    grid.words.list = "lvwGrid";
+    grid.words.explanation = "Grid.";
+    EXPECT_EQ(toldOf(grid), (std::vector<Lines>{{"lvwGrid", "Grid.", "", ""}}));
+    DeclaredText text;
+    text.toolbar = "tlbText";
+    text.explanation = "Text.";
+    text.path = "A.txt";
+    EXPECT_EQ(toldOf(text), (std::vector<Lines>{{"tlbText", "Text.", "A.txt", ""}}));
+    EXPECT_EQ(toldOf(DeclaredTicks{[] {
+                  TickList ticks;
+                  ticks.control = "lvwTicks";
+                  ticks.explanation = "Ticks.";
+                  ticks.file.path = "A.tbl";
+                  return ticks;
+              }}),
+              (std::vector<Lines>{{"lvwTicks", "Ticks.", "A.tbl", ""}}));
+}
+
+TEST(Cards, TellOfAnOwnPartItsFilesItsListsAndWhatItExplains)
+{
+    OwnPart part{};
+    part.files = [] {
+        return std::vector{
+            TableFile{"A.tbl", "t", {setting::flag("bOn", "chkOn", "On", true).explained("On.")}}};
+    };
+    part.lists = [] { return std::vector{listNamed("lvwOne", "One.")}; };
+    part.explanations = {{"lvwOwn", "Own.", "B.tbl", "tOwn"}};
+    EXPECT_EQ(toldOf(part), (std::vector<Lines>{{"chkOn", "On.", "A.tbl", "bOn"},
+                                                {"lvwOne", "One.", "", ""},
+                                                {"lvwOwn", "Own.", "B.tbl", "tOwn"}}));
+}
+
+TEST(Cards, TellOfAControlThatBelongsToNoSetting)
+{
+    const setting::Idle idle{setting::flag("bOn", "chkOn", "On", true)};
+    EXPECT_EQ(linesOf(cardOf(idle)), Lines{"It belongs to no setting: nothing of it is read or saved."});
+    EXPECT_EQ(controlOf(idle), "chkOn");
+}
+
 } // namespace
 } // namespace quillfen

@@ -1,6 +1,7 @@
 #include "declarations/rebuild.h"
 #include "find/findforms.h"
 #include "functions/catalogue.h"
+#include "support/golden.h"
 #include "support/hub.h"
 
 #include <algorithm>
@@ -113,6 +114,35 @@ TEST_F(FindForms, AnotherEntryOfADropDown)
     EXPECT_EQ(detail("antivirus tempban", "cboComboBox"), "TempBan");
 }
 
+TEST_F(FindForms, AnOptionThatThereIsNotAsItStandsInTheFile)
+{
+    for (const std::string value : {"-1", "77", "x"}) {
+        write(R"(Games\Trivia\TriviaSettings.tbl)",
+              ("tTriviaSettings = {\r\n\tiScoring = " + value + ",\r\n}").c_str());
+        const auto found = hits("trivia scoring type");
+        ASSERT_FALSE(found.empty()) << value;
+        EXPECT_EQ(found.front().value.text, value);
+    }
+}
+
+TEST_F(FindForms, TheLinkOfTheWeek)
+{
+    const FindPlace box = {"Hyperlink~LinkOfTheWeek", "chkCheckBox(0)"};
+    EXPECT_TRUE(finds("hyperlink enable link on", box, "Enable Link of Week", "on"));
+    EXPECT_TRUE(finds("hyperlink change time 17:59", {"Hyperlink~LinkOfTheWeek", "txtChangeTime"},
+                      "Change Time", "Sunday 17:59"));
+    EXPECT_TRUE(finds("hyperlink date 18:00", {"Hyperlink~LinkOfTheWeek", "lvwWeek", 0}, "Date",
+                      "Sunday | 18:00 | PM"));
+    write(R"(TheArchive\Hyperlink\HyperlinkItemOfTheWeek.tbl)", "t = {\r\n}");
+    EXPECT_TRUE(finds("hyperlink enable link off", box, "Enable Link of Week", "off"));
+}
+
+TEST_F(FindForms, AnActingProfileOfTheMassMessageInItsFirstRow)
+{
+    EXPECT_TRUE(finds("massmessage operator", {"Communication~MassMessage", "lvwPermissions", 14},
+                      "By Profile", "Operator"));
+}
+
 TEST_F(FindForms, AnOptionAndTheControlThatIsChosen)
 {
     EXPECT_TRUE(finds("trivia hint reduction", {"Games~Trivia~Settings", "optOption(4)"},
@@ -196,6 +226,40 @@ TEST_F(FindForms, AQuestionOfAQuizByTheFileThatHoldsIt)
     write(R"(Games\Trivia\QuestionFiles\TriviaQuestions.lst)", "Discs:What carries the world?*a turtle");
     EXPECT_TRUE(finds("turtle", {"Games~Trivia~Questions", "lvwQuestionFiles", 0}, "Available Question Files",
                       "Discs:What carries the world? | a turtle"));
+}
+
+TEST_F(FindForms, ATextOfALanguageByItsNameAndKey)
+{
+    write(R"(Language\Commands\CommandLanguages.tbl)",
+          "tCommandLanguages = {\r\n\t[1] = \"DEFAULT\",\r\n\t[2] = \"Klatchian\",\r\n}");
+    write(R"(Language\Commands\Files\DEFAULT.tbl)", "tScriptCommands = {\r\n\t[\"kick\"] = \"Kick\",\r\n}");
+    write(R"(Language\Commands\Files\Klatchian.tbl)",
+          "tScriptCommands = {\r\n\t[\"kick\"] = \"Botte\",\r\n}");
+    const auto found = hits("klatchian botte");
+    ASSERT_FALSE(found.empty());
+    EXPECT_EQ(found.front().place.control, "lvwFiles");
+    EXPECT_EQ(found.front().place.row, 1);
+    EXPECT_EQ(found.front().value.text, "Klatchian: kick | Botte");
+}
+
+TEST_F(FindForms, AnArticleOfTheNews)
+{
+    hub.store.folders.insert("/hub/scripts/Morvaleth's Scripts/News");
+    hub.store.files["/hub/scripts/Morvaleth's Scripts/News/News.tbl"] = test::golden("news/News.fetched.tbl");
+    EXPECT_TRUE(finds("fetch it again", {"General~News", "lvwNews", 2}, "News Headline",
+                      "07/08/09 | Newer version | Fetch it again"));
+}
+
+TEST_F(FindForms, AHubAndANickOfThePortal)
+{
+    hub.store.folders.insert(hub.root + "/Communication/Portal");
+    write(R"(Communication\Portal\PortalSettings.tbl)",
+          test::golden("portal/PortalSettings.save.tbl").c_str());
+    const auto found = hits("nicks to ignore loud");
+    ASSERT_FALSE(found.empty());
+    EXPECT_EQ(found.front().value.text, "Loud");
+    EXPECT_EQ(found.front().place.control, "lvwNicks");
+    EXPECT_EQ(found.front().place.row, 1);
 }
 
 TEST_F(FindForms, NoPasswordOfThePortal)

@@ -64,6 +64,17 @@ TEST_F(FindIndexTest, AFunctionComesFirst)
               (Lines{"Security ~ Kicks", "Security ~ Kicks / Security\\Kick\\KickSettings.tbl"}));
 }
 
+TEST_F(FindIndexTest, TheFirstWordOfAllIsFound)
+{
+    EXPECT_EQ(found("security").front(), "Security ~ Kicks");
+}
+
+TEST_F(FindIndexTest, AFunctionComesBeforeTheSettingsOfThoseAboveIt)
+{
+    addFunction("Security~Bans", "Security ~ Bans");
+    EXPECT_EQ(found("ban").front(), "Security ~ Bans");
+}
+
 TEST_F(FindIndexTest, WordsStandInAnyOrderAlsoInWhatAnEntryStandsBelow)
 {
     EXPECT_EQ(found("time kick"), Lines{"Security ~ Kicks / Ban Time / 911"});

@@ -95,6 +95,7 @@ TEST(ListWords, OfListedFilesAreThoseOfTheirBoxes)
     EXPECT_EQ(questions.names.deletion.minimum, "There must be a minimum of one Question File");
     expectDeletion(questions.rows, "Delete Question?", "Do you really want to delete this question?",
                    "There must be a minimum of one Question");
+    EXPECT_EQ(numbersCalculationList().dialog.editTitle, "Edit Question");
     EXPECT_EQ(questions.rows.dialog.addTitle, "Add Trivia Question");
     EXPECT_EQ(questions.rows.dialog.editTitle, "Edit Trivia Question");
     const ListedFiles languages = languageLists(languageSets()[2]);

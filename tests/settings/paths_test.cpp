@@ -7,55 +7,55 @@
 namespace quillfen {
 namespace {
 
-const SettingsPaths paths("/hub/scripts");
+const SettingsPaths hubPaths("/hub/scripts");
 
 TEST(Paths, ARelativePathLiesBelowTheSettingsRoot)
 {
-    EXPECT_EQ(paths.resolve(R"(General\Globals\Version.tbl)"),
+    EXPECT_EQ(hubPaths.resolve(R"(General\Globals\Version.tbl)"),
               "/hub/scripts/Morvaleth's Quillfen/Settings/General/Globals/Version.tbl");
 }
 
 TEST(Paths, AnAppRelativePathLiesInTheProgramFolder)
 {
-    EXPECT_EQ(paths.resolve(R"(Morvaleth's Scripts\News\News.tbl)", true),
+    EXPECT_EQ(hubPaths.resolve(R"(Morvaleth's Scripts\News\News.tbl)", true),
               "/hub/scripts/Morvaleth's Scripts/News/News.tbl");
 }
 
 TEST(Paths, ADriveBypassesTheSettingsRoot)
 {
-    EXPECT_EQ(paths.resolve(R"(D:\x.tbl)"), "D:/x.tbl");
-    EXPECT_EQ(paths.resolve(R"(D:\x.tbl)", true), "D:/x.tbl");
+    EXPECT_EQ(hubPaths.resolve(R"(D:\x.tbl)"), "D:/x.tbl");
+    EXPECT_EQ(hubPaths.resolve(R"(D:\x.tbl)", true), "D:/x.tbl");
 }
 
 TEST(Paths, AColonElsewhereDoesNot)
 {
-    EXPECT_EQ(paths.resolve(R"(ab:\x.tbl)"), "/hub/scripts/Morvaleth's Quillfen/Settings/ab:/x.tbl");
-    EXPECT_EQ(paths.resolve("D:x.tbl"), "/hub/scripts/Morvaleth's Quillfen/Settings/D:x.tbl");
-    EXPECT_EQ(paths.resolve(":"), "/hub/scripts/Morvaleth's Quillfen/Settings/:");
-    EXPECT_EQ(paths.resolve(""), "/hub/scripts/Morvaleth's Quillfen/Settings/");
+    EXPECT_EQ(hubPaths.resolve(R"(ab:\x.tbl)"), "/hub/scripts/Morvaleth's Quillfen/Settings/ab:/x.tbl");
+    EXPECT_EQ(hubPaths.resolve("D:x.tbl"), "/hub/scripts/Morvaleth's Quillfen/Settings/D:x.tbl");
+    EXPECT_EQ(hubPaths.resolve(":"), "/hub/scripts/Morvaleth's Quillfen/Settings/:");
+    EXPECT_EQ(hubPaths.resolve(""), "/hub/scripts/Morvaleth's Quillfen/Settings/");
 }
 
 #ifdef _WIN32
 TEST(Paths, ARootWithoutADriveIsNotAbsolute)
 {
-    EXPECT_EQ(paths.resolve("/elsewhere/x.tbl"),
+    EXPECT_EQ(hubPaths.resolve("/elsewhere/x.tbl"),
               "/hub/scripts/Morvaleth's Quillfen/Settings//elsewhere/x.tbl");
 }
 #else
 TEST(Paths, ThePlatformsRootIsAbsolute)
 {
-    EXPECT_EQ(paths.resolve("/elsewhere/x.tbl"), "/elsewhere/x.tbl");
+    EXPECT_EQ(hubPaths.resolve("/elsewhere/x.tbl"), "/elsewhere/x.tbl");
 }
 #endif
 
 TEST(Paths, TheHubFolderIsCutBehindTheLastSeparator)
 {
-    EXPECT_EQ(paths.inHubFolder(R"(cfg\Profiles.xml)"), "/hub/cfg/Profiles.xml");
+    EXPECT_EQ(hubPaths.inHubFolder(R"(cfg\Profiles.xml)"), "/hub/cfg/Profiles.xml");
 }
 
 TEST(Paths, ANameInTheCodePageIsUtf8OnTheDisk)
 {
-    EXPECT_EQ(paths.inProgramFolder("caf\xE9\x80"), "/hub/scripts/caf\xC3\xA9\xE2\x82\xAC");
+    EXPECT_EQ(hubPaths.inProgramFolder("caf\xE9\x80"), "/hub/scripts/caf\xC3\xA9\xE2\x82\xAC");
 }
 
 TEST(CodePage, EachByteHasItsOwnCharacterAndComesBack)
@@ -83,6 +83,17 @@ TEST(CodePage, DoesNotHaveOtherCharacters)
     EXPECT_FALSE(
         codepage::fromUnicode(static_cast<char32_t>(0x80))); // a control character whose byte is the euro's
     EXPECT_FALSE(codepage::fromUnicode(U'\U0001F600'));
+}
+
+TEST(Paths, AFileBelowTheSettingsRootIsToldAsTheScriptTellsIt)
+{
+    const std::string root = hubPaths.settingsRoot();
+    EXPECT_EQ(hubPaths.toldInSettings(root + "/General/Globals/Version.tbl"),
+              R"(General\Globals\Version.tbl)");
+    EXPECT_EQ(hubPaths.toldInSettings(root + "/caf\xC3\xA9"), "caf\xE9");
+    EXPECT_EQ(hubPaths.toldInSettings(root + "/\xE4\xB8\xAD"), std::nullopt) << "the code page lacks it";
+    EXPECT_EQ(hubPaths.toldInSettings("/hub/cfg/Profiles.xml"), std::nullopt);
+    EXPECT_EQ(hubPaths.toldInSettings(root + "2/a"), std::nullopt);
 }
 
 } // namespace

@@ -184,6 +184,18 @@ TEST_P(EveryForm, LetsTheWheelPassOverComboBoxesAndNumbers)
     EXPECT_FALSE(isDirty(form));
 }
 
+TEST_P(EveryForm, HasTheControlsThatItsOwnPartsExplain)
+{
+    const auto form = std::ranges::find(forms, formName(GetParam().c_str()).toStdString(),
+                                        [](const FormDeclaration& each) { return each.form.name; });
+    ASSERT_NE(form, forms.end());
+    for (const PartDeclaration& part : form->parts) {
+        const auto* own = std::get_if<OwnPart>(&part);
+        for (const auto& each : own ? own->explanations : std::vector<ControlExplanation>())
+            EXPECT_TRUE(openForm().findChild<QWidget*>(fromBytes(each.control))) << each.control;
+    }
+}
+
 TEST_P(EveryForm, NamesEveryControlForAssistiveTools)
 {
     auto& form = openForm();

@@ -122,10 +122,10 @@ TEST(NumberBoxTest, ANumberForArrowsOnlyLooksReadOnlyAndTellsHowItIsChanged)
 }
 
 /// A box whose look can be asked for.
-class SeenBox : public NumberBox
+class ArrowBox : public NumberBox
 {
 public:
-    SeenBox() : NumberBox("txtUpDown", 1, 720) {}
+    ArrowBox() : NumberBox("txtUpDown", 1, 720) {}
     QPalette seenPalette() const
     {
         QStyleOptionSpinBox option;
@@ -136,10 +136,10 @@ public:
 
 TEST(NumberBoxTest, NumbersForArrowsOnlyShareThePicturesOfTheStyle)
 {
-    SeenBox one;
-    SeenBox two;
-    SeenBox disabled;
-    for (SeenBox* box : {&one, &two, &disabled})
+    ArrowBox one;
+    ArrowBox two;
+    ArrowBox disabled;
+    for (ArrowBox* box : {&one, &two, &disabled})
         box->setOnlyArrows();
     disabled.setEnabled(false);
     EXPECT_NE(one.palette().cacheKey(), two.palette().cacheKey());

@@ -87,6 +87,13 @@ TEST_F(Disk, RemovesAFileAndMindsNoneThatIsGone)
     EXPECT_NO_THROW(disk.remove(folder + "/a"));
 }
 
+TEST_F(Disk, TellsTheSizeOfAFileAndOfNothingElse)
+{
+    disk.write(folder + "/a", "four");
+    EXPECT_EQ(disk.size(folder + "/a"), 4U);
+    EXPECT_EQ(disk.size(folder + "/b"), std::nullopt);
+}
+
 TEST_F(Disk, AFailureTellsFileAndReason)
 {
 #ifdef _WIN32

@@ -67,6 +67,21 @@ TEST_F(DraftOfASave, AnswersReadsWithWhatItHolds)
     EXPECT_EQ(store.list("/hub"), Names());
 }
 
+TEST_F(DraftOfASave, TakesACommitInTheMiddleOfItself)
+{
+    Draft draft(store, {"a save"});
+    store.write("/hub/a/one", "new");
+    store.commit(
+        {{StoreChange::Kind::Write, "/hub/a/three", "3"}, {StoreChange::Kind::Remove, "/hub/a/two", {}}});
+    EXPECT_EQ(disk.log, Names());
+    EXPECT_EQ(store.size("/hub/a/one"), 3U);
+    EXPECT_EQ(store.size("/hub/a/three"), 1U);
+    EXPECT_FALSE(store.exists("/hub/a/two"));
+    draft.commit();
+    EXPECT_EQ(disk.log, (Names{"write /hub/a/one", "write /hub/a/three", "remove /hub/a/two"}));
+    EXPECT_EQ(store.size("/hub/a/one"), 3U) << "the disk's own answer";
+}
+
 TEST_F(DraftOfASave, KeepsTheOrderOfWritingAndOfAPathItsLastPlace)
 {
     Draft draft(store, {"a save"});

@@ -1,12 +1,26 @@
 #include "support/declarationfaults.h"
 
-#include "shell/kit/editdialog.h"
-
 #include <algorithm>
+#include <cctype>
+#include <regex>
 #include <set>
 
 namespace quillfen::test {
 namespace {
+
+/// A name is its kind in three letters and a word, and may have a number: "txtUpDown(3)".
+bool isControlName(const std::string& name)
+{
+    static const std::regex shape("(cbo|chk|fra|lvw|opt|sld|tlb|txt)[A-Z][A-Za-z]*(\\([0-9]+\\))?");
+    return std::regex_match(name, shape);
+}
+
+/// What a user reads begins with a capital letter, and no blank stands too much.
+bool isWorded(const std::string& words)
+{
+    return words.empty() || (std::isupper(static_cast<unsigned char>(words.front())) != 0 &&
+                             words.back() != ' ' && words.find("  ") == std::string::npos);
+}
 
 /// Walks over the parts of a form.
 class FormWalk
@@ -17,6 +31,7 @@ public:
           m_profiles(profiles)
     {
         expect(!form.form.caption.empty(), "no caption");
+        expectWords({form.form.caption});
         expect(!form.parts.empty(), "no parts");
         for (const PartDeclaration& part : form.parts)
             std::visit([this](const auto& each) { walk(each); }, part);
@@ -34,9 +49,16 @@ private:
             m_found.push_back(m_form + ": " + fault);
     }
 
+    void expectWords(const std::vector<std::string>& texts)
+    {
+        for (const std::string& words : texts)
+            expect(isWorded(words), "no words: " + words);
+    }
+
     void addControl(const std::string& name, const std::string& of)
     {
         expect(!name.empty(), "no control: " + of);
+        expect(name.empty() || isControlName(name), "no name of a control: " + name);
         m_controls.push_back(name);
     }
 
@@ -74,6 +96,9 @@ private:
         expect(grid.load && grid.save, "a grid without load or save");
         const std::size_t columns = declared.words.targets ? 4 : 3;
         expect(declared.words.columns.size() >= columns, "a grid of too few columns");
+        expectWords({declared.words.columns.begin(),
+                     declared.words.columns.begin() +
+                         static_cast<std::ptrdiff_t>(std::min(columns, declared.words.columns.size()))});
         addControl(declared.words.list, "a grid");
         addControl(declared.words.toolbar, "a grid's toolbar");
     }
@@ -103,6 +128,10 @@ private:
             for (const RowListDeclaration& list : own.lists())
                 walkList(list, false); // the part may load and save them itself
         }
+        for (const ControlExplanation& each : own.explanations) {
+            expect(isControlName(each.control), "no name of a control: " + each.control);
+            expect(each.file.empty() == each.key.empty(), "a key without its file: " + each.control);
+        }
     }
 
     void walkFile(const TableFile& file)
@@ -124,6 +153,7 @@ private:
     {
         std::visit([this, &field](const auto& kind) { walkKind(field, kind); }, field.kind);
         expect(!field.label.empty() || !field.toolTip.empty(), "no label: " + field.key);
+        expectWords({field.label, std::string(field.toolTip)});
         const auto* options = std::get_if<setting::Options>(&field.kind);
         if (!options)
             addControl(field.control, field.key);
@@ -139,6 +169,7 @@ private:
     {
         expect(!texts.texts.empty(), "no texts: " + texts.key);
         expect(!texts.label.empty(), "no label: " + texts.key);
+        expectWords({std::string(texts.label)});
         addControl(texts.control, texts.key);
     }
 
@@ -198,6 +229,13 @@ private:
         expect(!savesItself || list.load, "no load: " + list.list);
         expect(!savesItself || list.save, "no save: " + list.list);
         expect(!list.columns.empty(), "no columns: " + list.list);
+        expectWords(
+            {list.columns.begin(),
+             list.columns.end() - std::min(list.hiddenColumns, static_cast<int>(list.columns.size()))});
+        expectWords(list.toolTips);
+        expectWords(list.dialog.labels);
+        expectWords({list.label, list.remark, list.dialog.addTitle, list.dialog.editTitle,
+                     list.deletion.title, list.deletion.minimum});
         expect(!list.menu.empty(), "no menu: " + list.list);
         const bool hasDialogOfItsOwn = list.dialogOf || list.labelsOf;
         expect(hasDialogOfItsOwn || list.dialog.labels.size() == inputsOf(list.dialog.form).size(),

@@ -32,12 +32,10 @@ struct Mode
     bool bNoAdd = false;
 };
 
-/// A dialog: its name, its inputs in order (T a text, N a number with up-down, C a combo box) and its modes
-/// from 0.
+/// A dialog: its name and its modes from 0.
 struct Kind
 {
     const char* name;
-    const char* inputs;
     std::vector<Mode> modes;
 };
 
@@ -46,21 +44,18 @@ const Kind& kindOf(EditForm form)
     static const std::vector<Mode> one = {{"0", true}, {"0"}};
     static const std::vector<Mode> three = {{"0", true}, {"1"}, {"02"}, {"12"}, {"012"}, {"012", true}};
     static const Kind kinds[] = {
-        {"frmGlobalEditOneFields", "T", one},
-        {"frmGlobalEditTwoFields", "TT", {{""}, {"01"}, {"01", true}}},
-        {"frmGlobalEditThreeFields", "TTT", three},
-        {"frmGlobalEditFourFields",
-         "TTTT",
-         {{"0", true}, {"1"}, {"02"}, {"12"}, {"012"}, {"0123", true}, {"0123"}}},
-        {"frmGlobalEditOneUpDown", "N", one},
-        {"frmGlobalEditTwoUpDowns", "NN", {{"0", true}, {"01", true}, {"1"}}},
-        {"frmGlobalEditTextCombo", "TC", {{"", true}, {"0"}, {"1"}}},
-        {"frmGlobalEditTwoTextCombo", "TTC", {{"", true}, {"0"}, {"2"}, {"02"}, {"012"}}},
-        {"frmGlobalEditOneTextTwoCombo", "TCC", {{"", true}, {"0"}, {"1"}, {"01"}, {"012"}}},
-        {"frmGlobalEditUpDownCombo", "NC", {{"0", true}, {"01", true}}},
-        {"frmGlobalEditThreeCombos", "CCC", three},
+        {"frmGlobalEditOneFields", one},
+        {"frmGlobalEditTwoFields", {{""}, {"01"}, {"01", true}}},
+        {"frmGlobalEditThreeFields", three},
+        {"frmGlobalEditFourFields", {{"0", true}, {"1"}, {"02"}, {"12"}, {"012"}, {"0123", true}, {"0123"}}},
+        {"frmGlobalEditOneUpDown", one},
+        {"frmGlobalEditTwoUpDowns", {{"0", true}, {"01", true}, {"1"}}},
+        {"frmGlobalEditTextCombo", {{"", true}, {"0"}, {"1"}}},
+        {"frmGlobalEditTwoTextCombo", {{"", true}, {"0"}, {"2"}, {"02"}, {"012"}}},
+        {"frmGlobalEditOneTextTwoCombo", {{"", true}, {"0"}, {"1"}, {"01"}, {"012"}}},
+        {"frmGlobalEditUpDownCombo", {{"0", true}, {"01", true}}},
+        {"frmGlobalEditThreeCombos", three},
         {"frmGlobalEditFourCombos",
-         "CCCC",
          {{"0", true}, {"1"}, {"02"}, {"12"}, {"012"}, {"012", true}, {"0123"}, {"0123", true}}},
     };
     return kinds[static_cast<std::size_t>(form)];
@@ -110,8 +105,7 @@ EditDialog::EditDialog(const EditRequest& request, QWidget* parent)
     : QDialog(parent),
       m_mayAdd(request.gEditResult == EditResult::Add && !modeOf(request).bNoAdd)
 {
-    const Kind& kind = kindOf(request.form);
-    setObjectName(kind.name);
+    setObjectName(kindOf(request.form).name);
     setWindowTitle(windowTitleOf(fromBytes(request.title)));
     auto* frame = new QFrame;
     frame->setObjectName("fraFrame");
@@ -119,8 +113,8 @@ EditDialog::EditDialog(const EditRequest& request, QWidget* parent)
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(frame, 1);
     std::size_t number = 0;
-    for (const char* input = kind.inputs; *input != '\0'; ++input)
-        addField(request, number++, *input);
+    for (const char input : inputsOf(request.form))
+        addField(request, number++, input);
     addButtons();
     setMinimumWidth(420);
     fitTexts();
@@ -271,11 +265,6 @@ std::string fieldsFault(const EditRequest& request, const std::vector<std::strin
             return label + " can't be \"" + value + '"';
     }
     return {};
-}
-
-std::string_view inputsOf(EditForm form)
-{
-    return kindOf(form).inputs;
 }
 
 int habitualAddMode(EditForm form)

@@ -93,9 +93,6 @@ void addRows(QWidget* parent, const EditRequest& request,
 /// Why the dialog of a request would not take these values, in words; empty if it would.
 std::string fieldsFault(const EditRequest& request, const std::vector<std::string>& values);
 
-/// The inputs of a dialog in field order: T a text, N a number with up-down, C a combo box.
-std::string_view inputsOf(EditForm form);
-
 /// The modes in which the callers of a dialog add and edit unless they say otherwise: by its count of inputs,
 /// 1 and 0, 1 and 2, or 4 and 5. One of four inputs has none: its callers tell theirs.
 int habitualAddMode(EditForm form);

@@ -242,6 +242,15 @@ TEST_F(Archive, HoursAndMinutesHaveTwoDigits)
     EXPECT_EQ(minutes().back(), "59");
 }
 
+TEST_F(Archive, ARestoredWeekHasTheDefaults)
+{
+    const LinkOfTheWeek link = restoredLinkOfTheWeek();
+    EXPECT_EQ(link.enabled, "1");
+    EXPECT_EQ(link.changeTime, "Sunday 17:59");
+    ASSERT_EQ(link.announcements.size(), 1U);
+    EXPECT_EQ(link.announcements[0].cells, (std::vector<std::string>{"Sunday", "18:00", "PM"}));
+}
+
 TEST(HubScriptArchive, SeesTheBuiltFiles)
 {
     for (std::size_t place = 0; place < ring.size(); ++place) {

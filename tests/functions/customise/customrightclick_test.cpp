@@ -8,7 +8,7 @@ using test::LuaValues;
 using test::luaValues;
 using test::sameBytes;
 
-const char* const name = "CustomRightClick/CustomRightClick.tbl";
+const char* const commandsFile = "CustomRightClick/CustomRightClick.tbl";
 
 class CustomRightClicks : public test::CustomiseFiles
 {
@@ -17,14 +17,14 @@ protected:
 
     std::vector<CellRow> loadFrom(const std::string& text)
     {
-        file(name) = text;
+        file(commandsFile) = text;
         return load();
     }
 
     std::string saved(const std::vector<CellRow>& list)
     {
         customRightClicks(hub.profiles).save(hub.files, hub.profiles, list);
-        return file(name);
+        return file(commandsFile);
     }
 
     /// A file of one row with this place and this profile.
@@ -45,16 +45,16 @@ protected:
 TEST_F(CustomRightClicks, AFreshBuildWritesAnEmptyTableWithoutACountWhichReadsAsNoRows)
 {
     buildFunction(customRightClickFunction(), hub.files, hub.profiles);
-    EXPECT_TRUE(sameBytes(file(name), "tCustomRightClick = {\r\n}\r\n"));
-    EXPECT_EQ(luaValues(file(name)), (LuaValues{{"tCustomRightClick", "{}"}}));
+    EXPECT_TRUE(sameBytes(file(commandsFile), "tCustomRightClick = {\r\n}\r\n"));
+    EXPECT_EQ(luaValues(file(commandsFile)), (LuaValues{{"tCustomRightClick", "{}"}}));
     EXPECT_TRUE(load().empty());
 }
 
 TEST_F(CustomRightClicks, ARebuildLeavesTheFile)
 {
-    file(name) = golden("CustomRightClick.save.tbl");
+    file(commandsFile) = golden("CustomRightClick.save.tbl");
     buildFunction(customRightClickFunction(), hub.files, hub.profiles);
-    EXPECT_TRUE(sameBytes(file(name), golden("CustomRightClick.save.tbl")));
+    EXPECT_TRUE(sameBytes(file(commandsFile), golden("CustomRightClick.save.tbl")));
 }
 
 TEST_F(CustomRightClicks, AreReadInWordsAndWrittenBackByteForByte)
@@ -66,7 +66,7 @@ TEST_F(CustomRightClicks, AreReadInWordsAndWrittenBackByteForByte)
 TEST_F(CustomRightClicks, AnEmptyListWritesItsCountAndNoBlock)
 {
     EXPECT_TRUE(sameBytes(saved({}), "tCustomRightClick = {\r\n\tiCommands = 0,\r\n}\r\n"));
-    EXPECT_EQ(luaValues(file(name)), (LuaValues{{"tCustomRightClick.iCommands", "0"}}));
+    EXPECT_EQ(luaValues(file(commandsFile)), (LuaValues{{"tCustomRightClick.iCommands", "0"}}));
 }
 
 TEST_F(CustomRightClicks, TheHubScriptSeesCountPlacesAndProfiles)

@@ -119,5 +119,21 @@ TEST_F(IntrosOutrosFiles, TheHubScriptSeesWhatIsSaved)
     EXPECT_EQ(outros.at("tOutro.2"), "With a burst of flame, the dragon incinerates !username!");
 }
 
+TEST(IntrosOutros, RestoreTheLinesThatCameWithThem)
+{
+    test::Hub hub{"CustomiseUser/IntroOutro"};
+    const auto restore = [&hub](const RowListGroup& group) {
+        std::vector<std::vector<CellRow>> rows;
+        for (const RowListDeclaration& list : group.lists)
+            rows.push_back(list.restored(hub.profiles));
+        group.save(hub.files, rows);
+    };
+    restore(standardIntrosOutros().lines);
+    restore(customIntrosOutros().lines);
+    for (const std::string name : {"Intro", "Outro", "CustomIntro", "CustomOutro"})
+        EXPECT_TRUE(test::sameBytes(hub.file("CustomiseUser/IntroOutro/" + name + ".tbl"),
+                                    test::golden("customise/" + name + ".restored.tbl")));
+}
+
 } // namespace
 } // namespace quillfen

@@ -151,5 +151,60 @@ TEST_F(ProfileRules, TheHubScriptCannotLoadAFreshDelayWithoutValueAndLoadsASaved
               "0");
 }
 
+TEST_F(ProfileRules, EachRowHasTheDialogOfItsRule)
+{
+    build();
+    const RowListDeclaration& list = profileRules().lists.at(0);
+    const auto rows = list.load(hub.files, hub.profiles);
+    ASSERT_EQ(rows.size(), 24U);
+    std::vector<std::string> titles;
+    for (std::size_t rule = 0; rule < 6; ++rule)
+        titles.push_back(list.dialogOf(rows[rule]).editTitle);
+    EXPECT_EQ(titles, (std::vector<std::string>{"Edit File", "Edit File", "Edit Min Slots", "Edit Max Slots",
+                                                "Edit Max Hubs", "Edit Hub Slot Ratio"}));
+    const RowDialog share = list.dialogOf(rows[1]);
+    EXPECT_EQ(share.form, EditForm::UpDownCombo);
+    EXPECT_EQ(share.labels, (std::vector<std::string>{"Max Share", "Units"}));
+    EXPECT_EQ(share.entries, (std::vector<std::vector<std::string>>{{"KB", "MB", "GB", "TB"}}));
+    EXPECT_EQ(share.editMode, 1);
+    const RowDialog slots = list.dialogOf(rows[2]);
+    EXPECT_EQ(slots.form, EditForm::OneUpDown);
+    EXPECT_TRUE(slots.entries.empty());
+    EXPECT_FALSE(slots.editMode);
+}
+
+TEST_F(ProfileRules, ARowGoesIntoTheFieldsOfItsDialogAndBack)
+{
+    build();
+    const RowListGroup& group = profileRules();
+    const RowListDeclaration& list = group.lists.at(0);
+    std::vector<std::vector<CellRow>> rows;
+    for (const RowListDeclaration& each : group.lists)
+        rows.push_back(each.load(hub.files, hub.profiles));
+    const auto edit = [&](std::size_t row, const std::vector<std::string>& shown,
+                          const std::vector<std::string>& entered) {
+        EXPECT_EQ(list.fieldsOf(rows[0][row]), shown);
+        list.take(entered, rows[0][row]);
+    };
+    edit(0, {"0", "KB"}, {"2048", "KB"});
+    edit(5, {"0", "0"}, {"3", "1"});
+    edit(7, {"0", "KB"}, {"1024", "TB"});
+    edit(14, {"0"}, {"2"});
+    edit(15, {"0"}, {"30"});
+    edit(16, {"0"}, {"12"});
+    EXPECT_EQ(rows[0][0].cells[2], "2048 KB");
+    EXPECT_EQ(rows[0][5].cells[2], "3/1");
+    const RowListDeclaration& messages = group.lists.at(1);
+    EXPECT_EQ(messages.editTitleOf(rows[1][0]), "Edit MinShare Message");
+    EXPECT_EQ(messages.labelsOf(rows[1][0]), std::vector<std::string>{"MinShare"});
+    messages.take({"Share more"}, rows[1][0]);
+    EXPECT_EQ(messages.fieldsOf(rows[1][0]), std::vector<std::string>{"Share more"});
+    const RowListDeclaration& redirects = group.lists.at(2);
+    EXPECT_EQ(redirects.editTitleOf(rows[2][5]), "Edit HubSlotRatio Redirect Address");
+    redirects.take({"other.example.com"}, rows[2][5]);
+    group.save(hub.files, rows);
+    EXPECT_TRUE(sameBytes(named("s"), golden("ProfileRules.save.tbl")));
+}
+
 } // namespace
 } // namespace quillfen
