@@ -2,6 +2,7 @@
 // do both.
 #include "declarations/declaration.h"
 #include "functions/archive/archive.h"
+#include "functions/catalogue.h"
 #include "functions/communication/massmessage.h"
 #include "functions/communication/motd.h"
 #include "functions/customise/asciiintros.h"
@@ -16,6 +17,8 @@
 #include <algorithm>
 #include <functional>
 #include <gtest/gtest.h>
+#include <map>
+#include <set>
 
 namespace quillfen {
 namespace {
@@ -86,7 +89,7 @@ std::vector<SavedFile> savedFiles()
     };
 }
 
-class SavedAgain : public testing::TestWithParam<SavedFile>
+class SavedAgain : public testing::Test
 {
 protected:
     SavedAgain()
@@ -100,18 +103,59 @@ protected:
                   "UserActions/Ascii",         "TheArchive/Arcade",     "TheArchive/Hyperlink"};
 };
 
-TEST_P(SavedAgain, HasTheSameBytes)
+class SavedFiles : public SavedAgain, public testing::WithParamInterface<SavedFile>
+{
+};
+
+TEST_P(SavedFiles, HaveTheSameBytes)
 {
     hub.file(GetParam().path) = golden(GetParam().golden);
     GetParam().loadAndSave(hub.files, hub.profiles);
     EXPECT_TRUE(sameBytes(hub.file(GetParam().path), golden(GetParam().golden)));
 }
 
-INSTANTIATE_TEST_SUITE_P(Files, SavedAgain, testing::ValuesIn(savedFiles()), [](const auto& each) {
+INSTANTIATE_TEST_SUITE_P(Files, SavedFiles, testing::ValuesIn(savedFiles()), [](const auto& each) {
     std::string name = each.param.golden;
     std::erase_if(name, [](char letter) { return letter == '/' || letter == '.'; });
     return name;
 });
+
+/// All files of settings that forms save by their declarations alone, each once.
+std::map<std::string, TableFile> settingsFiles()
+{
+    std::map<std::string, TableFile> files;
+    const auto add = [&files](const TableFile& file) { files.insert_or_assign(file.table, file); };
+    for (const FormDeclaration& form : formCatalogue()) {
+        for (const PartDeclaration& part : form.parts) {
+            if (const auto* declared = std::get_if<DeclaredSettings>(&part))
+                add(declared->file());
+        }
+    }
+    return files;
+}
+
+TEST_F(SavedAgain, SettingsHaveTheSameBytesToo)
+{
+    const auto files = settingsFiles();
+    std::set<std::string> held;
+    for (const std::string& name : test::goldenNames()) {
+        const std::string bytes = golden(name);
+        const auto file = files.find(bytes.substr(0, bytes.find(' ')));
+        if (!name.ends_with(".save.tbl") || file == files.end())
+            continue;
+        hub.file("A.tbl") = bytes;
+        const auto values = loaded(file->second, TableIndex(bytes), hub.profiles);
+        hub.files.WriteSettingsFile("A.tbl", composed(file->second, values, RowOrder::Save, hub.profiles));
+        EXPECT_TRUE(sameBytes(hub.file("A.tbl"), bytes)) << name;
+        held.insert(file->first);
+    }
+    for (const char* table : {"tBookshelfNewItems", "tBotSettings", "tDVDRackNewItems", "tHubEmailSettings",
+                              "tHyperlinkNewItems", "tJukeboxNewItems", "tKickBarChangerSettings",
+                              "tSongbookNewItems", "tTopicChangerSettings", "tWhisperSettings"})
+        EXPECT_TRUE(held.insert(table).second) << table << " has a golden file by now";
+    for (const auto& [table, file] : files)
+        EXPECT_EQ(held.count(table), 1U) << "no golden file of a save has " << table;
+}
 
 } // namespace
 } // namespace quillfen

@@ -1,5 +1,6 @@
 #include "support/golden.h"
 
+#include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <sstream>
@@ -28,6 +29,16 @@ std::string golden(const std::string& name)
     std::ifstream file(std::string(QUILLFEN_GOLDEN) + "/" + name, std::ios::binary);
     EXPECT_TRUE(file) << "no golden file " << name;
     return {std::istreambuf_iterator<char>(file), {}};
+}
+
+std::vector<std::string> goldenNames()
+{
+    std::vector<std::string> names;
+    for (const auto& entry : std::filesystem::recursive_directory_iterator(QUILLFEN_GOLDEN)) {
+        if (entry.is_regular_file())
+            names.push_back(entry.path().lexically_relative(QUILLFEN_GOLDEN).generic_string());
+    }
+    return names;
 }
 
 testing::AssertionResult sameBytes(const std::string& actual, const std::string& expected)
