@@ -5,6 +5,7 @@
 #include "functions/customise/asciiintros.h"
 #include "functions/customise/customrightclick.h"
 #include "functions/customise/descriptiontags.h"
+#include "functions/customise/introsoutros.h"
 #include "functions/games/anagrams.h"
 #include "functions/games/numbers.h"
 #include "functions/games/scoreclearers.h"
@@ -95,6 +96,11 @@ TEST(ListWords, OfListedFilesAreThoseOfTheirBoxes)
     EXPECT_EQ(questions.names.deletion.minimum, "There must be a minimum of one Question File");
     expectDeletion(questions.rows, "Delete Question?", "Do you really want to delete this question?",
                    "There must be a minimum of one Question");
+    EXPECT_EQ(forbiddenFiles().dialog.entries,
+              (std::vector<Texts>{{"Disconnect", "Warn", "Notify Ops", "Kick", "Ban"}}));
+    EXPECT_EQ(forbiddenFiles().dialog.addValues, (Texts{"", "Kick"}));
+    EXPECT_EQ(customIntrosOutros().lines.lists.at(0).dialog.labels, (Texts{"Intro for", "Intro"}));
+    EXPECT_EQ(customIntrosOutros().lines.lists.at(1).dialog.labels, (Texts{"Outro for", "Outro"}));
     EXPECT_EQ(numbersCalculationList().dialog.editTitle, "Edit Question");
     EXPECT_EQ(questions.rows.dialog.addTitle, "Add Trivia Question");
     EXPECT_EQ(questions.rows.dialog.editTitle, "Edit Trivia Question");

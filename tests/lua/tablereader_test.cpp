@@ -125,7 +125,8 @@ TEST_P(LuaVersions, RefuseATextWithoutAnEnd)
 
 TEST_P(LuaVersions, RefuseANumberThatIsNone)
 {
-    for (const char* number : {"12a", "1.2.3", "1..2", "0x", "3e", "3e+", "0xFFp", "5_", ".5.", "1e5e"})
+    for (const char* number :
+         {"12a", "1.2.3", "1..2", "0x", "3e", "3e+", "0xFFp", "5_", ".5.", "1e5e", "1e~5", "0x1p~2"})
         EXPECT_EQ(read("t = {n = " + std::string(number) + "}").verdict, Verdict::Fails) << number;
     fails("t = {\n\ti = 12a,\n}", Fault::NotANumber, 2);
     fails("t = {\n\ti = 12 a,\n}", Fault::Stray, 2);

@@ -41,5 +41,16 @@ TEST(FileNames, ChangeTheirCaseInTheCodePage)
     EXPECT_EQ(codepage::raised("foo \xE9\x9A\xFF\xF7\xDF"), "FOO \xC9\x8A\x9F\xF7\xDF");
 }
 
+TEST(FileNames, OfAnyDeviceAreRefused)
+{
+    for (const std::string device : {"con", "prn", "aux", "nul"})
+        EXPECT_EQ(fileNameFault(device), "The name is one of the system's devices.") << device;
+    for (const char number : std::string("123456789")) {
+        EXPECT_EQ(fileNameFault(std::string("com") + number), "The name is one of the system's devices.");
+        EXPECT_EQ(fileNameFault(std::string("lpt") + number), "The name is one of the system's devices.");
+    }
+    EXPECT_EQ(fileNameFault("com0"), "");
+}
+
 } // namespace
 } // namespace quillfen
