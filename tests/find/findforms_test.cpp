@@ -250,7 +250,7 @@ TEST_F(FindForms, AnArticleOfTheNews)
                       "07/08/09 | Newer version | Fetch it again"));
 }
 
-TEST_F(FindForms, AHubAndANickOfThePortal)
+TEST_F(FindForms, ANickThatThePortalIgnores)
 {
     hub.store.folders.insert(hub.root + "/Communication/Portal");
     write(R"(Communication\Portal\PortalSettings.tbl)",

@@ -1,5 +1,5 @@
-// What a form has saved loads and saves into the same bytes: of the functions that have a way of their own to
-// do both.
+// What a form has saved loads and saves into the same bytes: files that functions load and save in ways of
+// their own, and all declared files of settings.
 #include "declarations/declaration.h"
 #include "functions/archive/archive.h"
 #include "functions/catalogue.h"
@@ -26,21 +26,23 @@ namespace {
 using test::golden;
 using test::sameBytes;
 
+using LoadAndSave = std::function<void(const SettingsFiles&, const HubProfiles&)>;
+
 struct SavedFile
 {
     const char* golden;
     const char* path;
-    std::function<void(const SettingsFiles&, const HubProfiles&)> loadAndSave;
+    LoadAndSave loadAndSave;
 };
 
-std::function<void(const SettingsFiles&, const HubProfiles&)> again(const RowListDeclaration& list)
+LoadAndSave again(const RowListDeclaration& list)
 {
     return [list](const SettingsFiles& files, const HubProfiles& profiles) {
         list.save(files, profiles, list.load(files, profiles));
     };
 }
 
-std::function<void(const SettingsFiles&, const HubProfiles&)> again(const RowListGroup& group)
+LoadAndSave again(const RowListGroup& group)
 {
     return [group](const SettingsFiles& files, const HubProfiles& profiles) {
         std::vector<std::vector<CellRow>> rows;
@@ -50,7 +52,7 @@ std::function<void(const SettingsFiles&, const HubProfiles&)> again(const RowLis
     };
 }
 
-std::function<void(const SettingsFiles&, const HubProfiles&)> again(const GridSource& grid)
+LoadAndSave again(const GridSource& grid)
 {
     return [grid](const SettingsFiles& files, const HubProfiles& profiles) {
         grid.save(grid.load(files, profiles), files, profiles);
