@@ -1,4 +1,6 @@
 #include "functions/catalogue.h"
+#include "functions/games/trivia.h"
+#include "functions/general/languages.h"
 #include "support/hub.h"
 
 #include <algorithm>
@@ -120,25 +122,35 @@ bool namesAFile(std::string_view sentence)
     return false;
 }
 
+/// What is wrong with a sentence.
+std::vector<std::string> faultsOf(std::string_view sentence)
+{
+    std::vector<std::string> found;
+    if (sentence.empty())
+        return {"empty"};
+    const auto expect = [&found](bool good, const char* fault) {
+        if (!good)
+            found.emplace_back(fault);
+    };
+    expect(sentence.front() >= 'A' && sentence.front() <= 'Z', "begins in the middle");
+    expect(sentence.ends_with('.') && sentence.find('.') == sentence.size() - 1, "not one sentence");
+    expect(std::ranges::all_of(sentence, [](char letter) { return letter >= ' ' && letter <= '~'; }),
+           "not plain");
+    expect(sentence.find("  ") == std::string::npos, "two blanks");
+    expect(!namesAFile(sentence), "names what stands in a file");
+    expect(sentence.size() <= 160, "long");
+    return found;
+}
+
 /// What is wrong with the sentences of a form, each as "<form>: <control>: <fault>".
 std::vector<std::string> faultsOf(const FormDeclaration& form, const HubProfiles& profiles)
 {
     std::vector<std::string> found;
     for (const Explained& each : FormWalk(form, profiles).take()) {
-        const std::string& sentence = each.sentence;
-        if (sentence.empty())
+        if (each.sentence.empty())
             continue;
-        const auto expect = [&](bool good, const char* fault) {
-            if (!good)
-                found.push_back(form.form.name + ": " + each.control + ": " + fault);
-        };
-        expect(sentence.front() >= 'A' && sentence.front() <= 'Z', "begins in the middle");
-        expect(sentence.ends_with('.') && sentence.find('.') == sentence.size() - 1, "not one sentence");
-        expect(std::ranges::all_of(sentence, [](char letter) { return letter >= ' ' && letter <= '~'; }),
-               "not plain");
-        expect(sentence.find("  ") == std::string::npos, "two blanks");
-        expect(!namesAFile(sentence), "names what stands in a file");
-        expect(sentence.size() <= 160, "long");
+        for (const std::string& fault : faultsOf(each.sentence))
+            found.push_back(form.form.name + ": " + each.control + ": " + fault);
     }
     return found;
 }
@@ -210,6 +222,17 @@ TEST_F(Explanations, AreASentenceEach)
         found.insert(found.end(), faults.begin(), faults.end());
     }
     EXPECT_EQ(found, std::vector<std::string>());
+}
+
+TEST_F(Explanations, OfListedFilesAndOfTheirRowsAreASentenceEach)
+{
+    std::vector<ListedFiles> listed = {triviaQuestionLists()};
+    for (const LanguageSet& set : languageSets())
+        listed.push_back(languageLists(set));
+    for (const ListedFiles& files : listed) {
+        for (const std::string_view sentence : {files.names.explanation, files.rows.explanation})
+            EXPECT_EQ(faultsOf(sentence), std::vector<std::string>()) << sentence;
+    }
 }
 
 TEST_F(Explanations, ThatAreNoSentenceAreFound)

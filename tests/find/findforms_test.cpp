@@ -212,6 +212,25 @@ TEST_F(FindForms, ALineOfATextBehindAList)
     EXPECT_TRUE(finds("ankh", {"Communication~MOTD", "lvwMOTD", 4}, "Profile Active", "Welcome to Ankh"));
 }
 
+TEST_F(FindForms, ALineOfTheTextBehindTheFirstRow)
+{
+    write(R"(Communication\RotatingMainMessage\Files\first.asc)", "Mind the orangutan");
+    const auto found = hits("orangutan");
+    ASSERT_EQ(found.size(), 1U);
+    EXPECT_EQ(found.front().place.row, 0);
+}
+
+TEST_F(FindForms, NoTextOfAColumnThatIsHidden)
+{
+    EXPECT_TRUE(finds("minshare operator", {"Security~ProfileRules~Rules", "lvwPermissions", 12},
+                      "Permissions", "Operator | MinShare | 0 KB"));
+}
+
+TEST_F(FindForms, AFrameAroundSeveralTicks)
+{
+    EXPECT_EQ(detail("ops chatrooms suspension", "chkSuspended"), "Announce To Ops");
+}
+
 TEST_F(FindForms, APhraseOfASpell)
 {
     write(R"(UserActions\Spells\SpellBook.tbl)",

@@ -149,6 +149,14 @@ TEST_F(FindIndexTest, TheFirstAreGivenAndAllAreCounted)
     EXPECT_EQ(result.count, 2U);
 }
 
+TEST_F(FindIndexTest, MisspeltWordsAreLookedForWhereTooFewAreFoundAsTyped)
+{
+    add(0, FindKind::Control, {}, "Bands", "x");
+    add(0, FindKind::Control, {}, "Banns", "y");
+    EXPECT_EQ(index.find(FindQuery("bands"), 1).count, 1U);
+    EXPECT_EQ(index.find(FindQuery("bands"), 2).count, 2U);
+}
+
 TEST_F(FindIndexTest, ALineEndInATextPartsNoFields)
 {
     add(0, FindKind::Control, {{}, "txtOdd"}, "Odd", "one\ntwo\r");

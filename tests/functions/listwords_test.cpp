@@ -105,6 +105,7 @@ TEST(ListWords, OfListedFilesAreThoseOfTheirBoxes)
     EXPECT_EQ(questions.rows.dialog.addTitle, "Add Trivia Question");
     EXPECT_EQ(questions.rows.dialog.editTitle, "Edit Trivia Question");
     const ListedFiles languages = languageLists(languageSets()[2]);
+    EXPECT_TRUE(languages.names.ticks);
     EXPECT_EQ(languages.names.dialog.addTitle, "Add New Command");
     EXPECT_EQ(languages.names.dialog.labels, Texts{"Enter name of new Message File:"});
     EXPECT_EQ(languages.names.deletion.title, "Delete Language File?");
@@ -163,6 +164,18 @@ TEST(ListFields, OfARightClickThatAreEmptyLeaveItsCells)
     EXPECT_EQ(taken(list, {"new", "", "Hub"}, {{"old", "Gone", "Users"}}), (CellRow{{"new", "Gone", "Hub"}}));
     EXPECT_EQ(list.dialog.entries.at(0).back(), "All Profiles");
     EXPECT_EQ(list.dialog.entries.at(1), (Texts{"Hub", "Users", "Hub & Users", "Search"}));
+}
+
+TEST(ListFields, OfACustomIntroAreCalledAfterItsUser)
+{
+    const auto lists = customIntrosOutros().lines.lists;
+    EXPECT_EQ(lists.at(0).labelsOf({{"Rincewind", "runs in"}}), (Texts{"Intro for Rincewind", "Intro"}));
+    EXPECT_EQ(lists.at(1).labelsOf({{"Rincewind", "runs out"}}), (Texts{"Outro for Rincewind", "Outro"}));
+}
+
+TEST(ListFields, OfAForbiddenFileAreCalledAfterItsTerm)
+{
+    EXPECT_EQ(forbiddenFiles().labelsOf({{"dragons", "Kick"}}), (Texts{"dragons File", "Action"}));
 }
 
 TEST(ListFields, OfATagAndOfARulesTextAreTheSecondCell)

@@ -125,6 +125,7 @@ TEST_P(DiskFaults, AtAnyCallOfACommitLeaveEachFileOldOrNew)
                 EXPECT_EQ(place.folder.files(), before);
                 EXPECT_TRUE(GetParam().dies || !place.disk.exists(place.at("folder")));
             }
+            EXPECT_TRUE(place.calls.closedEachOnce());
             reached = place.calls.wasReached();
         }
     }
@@ -233,6 +234,7 @@ TEST_F(InPlace, AFailureAtAnyCallLeavesTheOldBytesOrTheNew)
             }
             const auto bytes = folder.files().at("file");
             EXPECT_TRUE(bytes == replacing || (failed && bytes == old)) << call;
+            EXPECT_TRUE(calls.closedEachOnce()) << call;
             reached = calls.wasReached();
         }
     }

@@ -3,12 +3,13 @@
 #include "store/diskcalls.h"
 
 #include <cerrno>
+#include <set>
 #include <system_error>
 
 namespace quillfen::test {
 
 /// The platform's calls, counted. The one of a number can fail, or be where the process dies: from there on
-/// none has any effect. Writes can be short.
+/// none has any effect. Writes can be short. Whether each file was closed once is seen at the end.
 class FaultyCalls : public DiskCalls
 {
 public:
@@ -19,6 +20,7 @@ public:
     std::size_t mostBytes = SIZE_MAX; ///< that one write takes
 
     bool wasReached() const { return failingCall >= 0 && count > failingCall; }
+    bool closedEachOnce() const { return m_open.empty() && !m_closedAnother; }
 
     std::string followed(const std::string& path) override
     {
@@ -34,11 +36,11 @@ public:
     }
     Handle create(const std::string& path, Access access) override
     {
-        return calling([&] { return DiskCalls::create(path, access); });
+        return opened(calling([&] { return DiskCalls::create(path, access); }));
     }
     Handle open(const std::string& path) override
     {
-        return calling([&] { return DiskCalls::open(path); });
+        return opened(calling([&] { return DiskCalls::open(path); }));
     }
     std::size_t write(Handle file, std::string_view bytes) override
     {
@@ -64,7 +66,10 @@ public:
     }
     void close(Handle file) override
     {
-        DiskCalls::close(file); // as the end of the process would
+        if (m_open.erase(file) == 0)
+            m_closedAnother = true;
+        else
+            DiskCalls::close(file); // as the end of the process would
         calling([] {});
     }
     void replace(const std::string& aside, const std::string& target) override
@@ -93,6 +98,12 @@ public:
     }
 
 private:
+    Handle opened(Handle file)
+    {
+        m_open.insert(file);
+        return file;
+    }
+
     template <typename Call>
     auto calling(const Call& call) -> decltype(call())
     {
@@ -101,6 +112,9 @@ private:
             throw std::system_error(reason, std::generic_category());
         return call();
     }
+
+    std::set<Handle> m_open;
+    bool m_closedAnother = false;
 };
 
 } // namespace quillfen::test

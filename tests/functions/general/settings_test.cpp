@@ -72,6 +72,7 @@ TEST_F(General, EachFunctionHasAHelpTextOfItsOwn)
     std::set<std::string_view> helps;
     for (const SwitchedFunction& function : switchedFunctions()) {
         EXPECT_GT(function.help.size(), 15U) << function.name;
+        EXPECT_TRUE(function.help.front() >= 'A' && function.help.front() <= 'Z') << function.help;
         EXPECT_TRUE(helps.insert(function.help).second) << function.name;
         EXPECT_EQ(switchHelp(function.name), function.help);
     }
