@@ -2,6 +2,8 @@
 #include "support/realluas/refusal.h"
 
 #include <gtest/gtest.h>
+#include <regex>
+#include <set>
 
 namespace quillfen {
 namespace {
@@ -311,10 +313,16 @@ TEST(LuaVersionsDiffer, InTheMarkOfUtf8)
     EXPECT_EQ(readAs(Version::Lua53, "\xEF\xBB\xBFt = 1").verdict, Verdict::Loads);
 }
 
-TEST(LuaFaults, EachHasWords)
+TEST(LuaFaults, AreToldEachAndWithWhatToDo)
 {
-    for (int fault = 1; fault <= static_cast<int>(Fault::TooLong); ++fault)
-        EXPECT_FALSE(lua::words(static_cast<Fault>(fault)).empty()) << fault;
+    const std::regex shape("[a-z][a-z '.8UTF-]+\\. [A-Z][a-z ,']+\\.");
+    std::set<std::string> told;
+    for (int fault = 1; fault <= static_cast<int>(Fault::TooLong); ++fault) {
+        const std::string words(lua::words(static_cast<Fault>(fault)));
+        EXPECT_TRUE(std::regex_match(words, shape)) << words;
+        EXPECT_TRUE(told.insert(words).second) << words;
+    }
+    EXPECT_EQ(lua::words(Fault::None), "");
 }
 
 } // namespace

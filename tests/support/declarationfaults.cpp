@@ -15,6 +15,17 @@ bool isControlName(const std::string& name)
     return std::regex_match(name, shape);
 }
 
+/// Whether the main window lends lists a menu of this name.
+bool isMenu(const std::string& name)
+{
+    static const std::set<std::string> lent = {
+        "mnuAnagrams",      "mnuBots",        "mnuFirst",           "mnuFourth",
+        "mnuHangman",       "mnuIntro",       "mnuNumbers",         "mnuOnlyEdit",
+        "mnuOnlyEditThree", "mnuOnlyEditTwo", "mnuOutro",           "mnuNumbersNumbers",
+        "mnuSecond",        "mnuThird",       "mnuTriviaQuestions", "mnuUserActions"};
+    return lent.contains(name);
+}
+
 /// What a user reads begins with a capital letter, and no blank stands too much.
 bool isWorded(const std::string& words)
 {
@@ -99,6 +110,8 @@ private:
         expectWords({declared.words.columns.begin(),
                      declared.words.columns.begin() +
                          static_cast<std::ptrdiff_t>(std::min(columns, declared.words.columns.size()))});
+        const std::string& filter = declared.words.commandFilter;
+        expect(filter == "COMMAND" || filter == "RIGHTCLICK", "no button of the toolbar: " + filter);
         addControl(declared.words.list, "a grid");
         addControl(declared.words.toolbar, "a grid's toolbar");
     }
@@ -236,7 +249,7 @@ private:
         expectWords(list.dialog.labels);
         expectWords({list.label, list.remark, list.dialog.addTitle, list.dialog.editTitle,
                      list.deletion.title, list.deletion.minimum});
-        expect(!list.menu.empty(), "no menu: " + list.list);
+        expect(isMenu(list.menu), "no menu: " + list.list);
         const bool hasDialogOfItsOwn = list.dialogOf || list.labelsOf;
         expect(hasDialogOfItsOwn || list.dialog.labels.size() == inputsOf(list.dialog.form).size(),
                "labels: " + list.list);

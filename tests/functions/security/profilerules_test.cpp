@@ -157,14 +157,23 @@ TEST_F(ProfileRules, EachRowHasTheDialogOfItsRule)
     const RowListDeclaration& list = profileRules().lists.at(0);
     const auto rows = list.load(hub.files, hub.profiles);
     ASSERT_EQ(rows.size(), 24U);
-    std::vector<std::string> titles;
-    for (std::size_t rule = 0; rule < 6; ++rule)
+    using Texts = std::vector<std::string>;
+    Texts titles;
+    std::vector<Texts> labels;
+    for (std::size_t rule = 0; rule < 6; ++rule) {
         titles.push_back(list.dialogOf(rows[rule]).editTitle);
-    EXPECT_EQ(titles, (std::vector<std::string>{"Edit File", "Edit File", "Edit Min Slots", "Edit Max Slots",
-                                                "Edit Max Hubs", "Edit Hub Slot Ratio"}));
+        labels.push_back(list.dialogOf(rows[rule]).labels);
+    }
+    EXPECT_EQ(labels, (std::vector<Texts>{{"Min Share", "Units"},
+                                          {"Max Share", "Units"},
+                                          {"Min Slots"},
+                                          {"Max Slots"},
+                                          {"Max Hubs"},
+                                          {"Hubs", "Slots"}}));
+    EXPECT_EQ(titles, (Texts{"Edit File", "Edit File", "Edit Min Slots", "Edit Max Slots", "Edit Max Hubs",
+                             "Edit Hub Slot Ratio"}));
     const RowDialog share = list.dialogOf(rows[1]);
     EXPECT_EQ(share.form, EditForm::UpDownCombo);
-    EXPECT_EQ(share.labels, (std::vector<std::string>{"Max Share", "Units"}));
     EXPECT_EQ(share.entries, (std::vector<std::vector<std::string>>{{"KB", "MB", "GB", "TB"}}));
     EXPECT_EQ(share.editMode, 1);
     const RowDialog slots = list.dialogOf(rows[2]);
