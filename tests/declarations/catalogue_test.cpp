@@ -88,6 +88,60 @@ TEST_F(Declarations, OfAllFormsAreRight)
     EXPECT_EQ(faults(), Found());
 }
 
+/// The names of the forms that something is true of.
+std::vector<std::string> namesOf(const FormCatalogue& forms,
+                                 const std::function<bool(const FormDescription&)>& isTrue)
+{
+    std::vector<std::string> names;
+    for (const FormDeclaration& each : forms) {
+        if (isTrue(each.form))
+            names.push_back(each.form.name);
+    }
+    return names;
+}
+
+TEST_F(Declarations, OfTenFormsHaveNoDefaultsToRestore)
+{
+    EXPECT_EQ(namesOf(forms, [](const FormDescription& form) { return !form.hasRestore; }),
+              (Found{"frmCommunicationMassMessage", "frmCommunicationMOTD", "frmCommunicationMute",
+                     "frmCommunicationPortal", "frmCommunicationTalk", "frmCustomiseUserCustomRightClick",
+                     "frmGamesTriviaQuestions", "frmSecurityFlood", "frmSecurityKickPermissions",
+                     "frmSecurityProfileRuleRules"}));
+}
+
+TEST_F(Declarations, OfFormsWhoseFilesMayHoldOtherThanTheyShowedAreLoadedAgainBehindASave)
+{
+    EXPECT_EQ(namesOf(forms, [](const FormDescription& form) { return form.reloadsAfterSave; }),
+              (Found{"frmCommunicationMassMessage", "frmCommunicationMute", "frmCommunicationTalk",
+                     "frmSecurityFlood", "frmSecurityKickPermissions", "frmSecurityProfileRuleRules",
+                     "frmSecurityRegistration", "frmBookshelfPermissions", "frmDVDRackPermissions",
+                     "frmJukeboxPermissions", "frmSongbookPermissions", "frmArcadePermissions",
+                     "frmHyperlinkPermissions", "frmHyperlinkRightClicks"}));
+}
+
+TEST_F(Declarations, OfFormsWhoseTextsSaveThemselvesAreLoadedOnce)
+{
+    EXPECT_EQ(namesOf(forms, [](const FormDescription& form) { return form.isLoadedOnce; }),
+              (Found{"frmLanguageCommands", "frmLanguageMessages", "frmLanguageRightClick",
+                     "frmCommunicationPortal", "frmGamesTriviaQuestions"}));
+}
+
+TEST_F(Declarations, OfTheGeneralSettingsAloneStayDirtyBehindADiscard)
+{
+    EXPECT_EQ(namesOf(forms,
+                      [](const FormDescription& form) {
+                          return form.afterDiscard == FormDescription::AfterDiscard::AsItStood;
+                      }),
+              Found{"frmGeneralGeneral"});
+}
+
+TEST_F(Declarations, AFormOfNoNameOrOfHalfAPixelIsFound)
+{
+    form("frmGamesTrivia").form.minimumSize = {150, 151};
+    form("frmGamesHangman").form.name = "Hangman";
+    EXPECT_EQ(faults(), (Found{"Hangman: no name of a form", "frmGamesTrivia: no size in pixels"}));
+}
+
 TEST_F(Declarations, AFormDeclaredTwiceIsFound)
 {
     forms.push_back(forms.front());

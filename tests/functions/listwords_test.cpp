@@ -94,6 +94,7 @@ TEST(ListWords, OfListedFilesAreThoseOfTheirBoxes)
     const ListedFiles questions = triviaQuestionLists();
     EXPECT_EQ(questions.names.deletion.title, "Delete Question File?");
     EXPECT_EQ(questions.names.deletion.minimum, "There must be a minimum of one Question File");
+    EXPECT_TRUE(questions.rows.selectsFirst);
     expectDeletion(questions.rows, "Delete Question?", "Do you really want to delete this question?",
                    "There must be a minimum of one Question");
     EXPECT_EQ(forbiddenFiles().dialog.entries,
@@ -112,6 +113,26 @@ TEST(ListWords, OfListedFilesAreThoseOfTheirBoxes)
     EXPECT_EQ(languages.rows.dialog.editTitle, "Edit Message");
     EXPECT_EQ(languages.rows.fieldsOf({{"sHelp", "help"}}), Texts{"help"});
     EXPECT_EQ(taken(languages.rows, {"aid"}, {{"sHelp", "help"}}), (CellRow{{"sHelp", "aid"}}));
+}
+
+TEST(ListWords, OfTheDialogThatChoosesAListedFile)
+{
+    const ListedFiles questions = triviaQuestionLists();
+    EXPECT_EQ(questions.chooseTitle, "Select Trivia File to open");
+    EXPECT_EQ(questions.folder, "Games\\Trivia\\");
+    EXPECT_EQ(questions.filter, "(*.lst)");
+    EXPECT_EQ(questions.patterns, "*.lst");
+    EXPECT_EQ(questions.refusesAdding, "Cannot add file");
+    const char* const folders[] = {"Language\\Commands\\Files\\", "Language\\RightClick\\Files\\",
+                                   "Language\\Messages\\Files\\"};
+    for (std::size_t set = 0; set < 3; ++set) {
+        const ListedFiles languages = languageLists(languageSets()[set]);
+        EXPECT_EQ(languages.chooseTitle, "Select Language File to open");
+        EXPECT_EQ(languages.folder, folders[set]);
+        EXPECT_EQ(languages.filter, "(*.TBL)");
+        EXPECT_EQ(languages.patterns, "*.tbl *.TBL"); // as Linux tells them apart
+        EXPECT_EQ(languages.refusesAdding, "Cannot Add Language File");
+    }
 }
 
 TEST(ListFields, OfAnAnnouncementAreItsDayHourMinuteAndTheWholeNameOfItsPlace)

@@ -15,6 +15,18 @@ bool isControlName(const std::string& name)
     return std::regex_match(name, shape);
 }
 
+bool isFormName(const std::string& name)
+{
+    static const std::regex shape("frm[A-Z][A-Za-z]*");
+    return std::regex_match(name, shape);
+}
+
+bool isInPixels(const Twips& size)
+{
+    constexpr int twipsOfAPixel = 15;
+    return size.width % twipsOfAPixel == 0 && size.height % twipsOfAPixel == 0;
+}
+
 /// Whether the main window lends lists a menu of this name.
 bool isMenu(const std::string& name)
 {
@@ -41,6 +53,8 @@ public:
         : m_form(form.form.name),
           m_profiles(profiles)
     {
+        expect(isFormName(m_form), "no name of a form");
+        expect(isInPixels(form.form.minimumSize), "no size in pixels");
         expect(!form.form.caption.empty(), "no caption");
         expectWords({form.form.caption});
         expect(!form.parts.empty(), "no parts");
