@@ -51,6 +51,14 @@ TEST(FileFindings, NameTheLineThatKeepsAFileFromLoading)
     EXPECT_EQ(found("t = {\r\n\tiNumber = ,\r\n}\r\n"), at(2, "the file won't load: there is no value"));
 }
 
+TEST(FileFindings, OfAFileThatIsKnownNotToLoadNameWhatElseKeepsItFromLoading)
+{
+    const char* const file = R"(Security\ProfileRules\ProfileRuleSettings.tbl)";
+    EXPECT_EQ(found("t = {\r\n\tiCheckDelay = ,\r\n}\r\n", file), Lines{});
+    EXPECT_EQ(found("t = {\r\n\tsText = \"a \"b\" c\",\r\n}\r\n", file),
+              at(2, "the file won't load: a quote inside the text ends it there"));
+}
+
 TEST(FileFindings, DoNotSayThatAFileFailsWhichOnlyAProgramCouldTell)
 {
     EXPECT_EQ(found("t = {\r\n\tsText = \"a\"..\"b\",\r\n}\r\n"),
