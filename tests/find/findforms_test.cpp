@@ -309,5 +309,109 @@ TEST_F(FindForms, EachHitLeadsToAFormWithItsKey)
     }
 }
 
+/// A form with a single part, for a hub with one profile, "Gnus".
+class FindParts : public testing::Test
+{
+protected:
+    FindParts() { hub.profiles.add("Gnus"); }
+
+    /// What is found of the part, as "<kind> <control> <row>: <setting> / <value> / <what else holds a
+    /// word>".
+    std::vector<std::string> found(const PartDeclaration& part, const char* typed = "gnu") const
+    {
+        const FormDeclaration form = {{"frmOne", "One"}, {part}};
+        std::vector<std::string> lines;
+        for (const FindHit& hit : indexOfForms({{"A~One", "One", &form}}, hub.files, hub.profiles)
+                                      .find(FindQuery(typed), 100)
+                                      .hits) {
+            static const std::map<FindKind, std::string> kinds = {{FindKind::File, "file"},
+                                                                  {FindKind::Control, "control"},
+                                                                  {FindKind::Row, "row"},
+                                                                  {FindKind::Cell, "cell"}};
+            lines.push_back(kinds.at(hit.kind) + ' ' + hit.place.control + ' ' +
+                            std::to_string(hit.place.row) + ": " + hit.setting.text + " / " + hit.value.text +
+                            " / " + hit.detail.text);
+        }
+        std::ranges::sort(lines);
+        return lines;
+    }
+
+    test::Hub hub;
+};
+
+using Lines = std::vector<std::string>;
+
+TEST_F(FindParts, OfSettingsAreTheirControlsAndRowsAndWhatIsIdle)
+{
+    hub.file("Herd.tbl") = "tHerd = {\r\n\tiGnus = 7,\r\n\ttGnuTexts = {\r\n\t\tsGnu = \"x\",\r\n\t},\r\n"
+                           "\ttTicks = {\r\n\t\t[-1] = 0,\r\n\t\t[0] = 1,\r\n\t},\r\n}";
+    const auto file = [] {
+        using namespace setting;
+        return TableFile{
+            "Herd.tbl",
+            "tHerd",
+            {number("iGnus", "txtOne", "Number of gnus", 5, 1, 9),
+             Idle{number("iNone", "txtTwo", "Idle gnus", 3, 1, 9)},
+             NamedTexts{"tGnuTexts", "lvwTexts", "Texts", {{"sGnu", "a gnu"}}, "Tells of herds."},
+             profileFlags("tTicks", "lvwTicks", "Ticks")}};
+    };
+    EXPECT_EQ(found(DeclaredSettings{file}),
+              (Lines{"control lvwTexts -1: Texts /  / tGnuTexts", "control txtOne -1: Number of gnus / 7 / ",
+                     "control txtTwo -1: Idle gnus / 3 / ", "row lvwTexts 0: Texts / sGnu: x / ",
+                     "row lvwTicks 1: Ticks / Gnus: on / "}));
+    EXPECT_EQ(found(DeclaredSettings{file}, "tells herds"),
+              Lines{"control lvwTexts -1: Texts /  / Tells of herds."});
+}
+
+GridSource gridOfGnus(const std::vector<PermissionCell>& cells)
+{
+    GridSource grid;
+    grid.commands = {"Feed gnu", "Count gnu"};
+    grid.named = {"all"};
+    grid.load = [cells](const SettingsFiles&, const HubProfiles&) { return cells; };
+    return grid;
+}
+
+TEST_F(FindParts, OfAGridWithoutTargetsAreItsRows)
+{
+    GridWords words;
+    words.targets = false;
+    words.explanation = "Who may feed gnus.";
+    const DeclaredGrid grid = {[] {
+                                   return gridOfGnus({{0, 0, 0, true}, {0, 1, 0, false}, {1, 0, 0, false}});
+                               },
+                               words};
+    EXPECT_EQ(found(grid), (Lines{"control lvwPermissions -1: Command /  / Who may feed gnus.",
+                                  "row lvwPermissions 0: Feed gnu / Unregistered: Yes / ",
+                                  "row lvwPermissions 1: Feed gnu / Gnus: No / ",
+                                  "row lvwPermissions 2: Count gnu / Unregistered: No / "}));
+}
+
+TEST_F(FindParts, OfAGridWithTargetsAreARowForEachCommandAndProfileAndItsCells)
+{
+    const DeclaredGrid grid = {[] {
+        return gridOfGnus({{0, 0, 1, true}, {0, 0, 2, false}, {0, 1, 0, false}, {1, 1, 1, true}});
+    }};
+    EXPECT_EQ(found(grid, "feed"), (Lines{"row lvwPermissions 0: Feed gnu / Unregistered / ",
+                                          "row lvwPermissions 2: Feed gnu / Gnus / "}));
+    EXPECT_EQ(found(grid, "gnu yes"), (Lines{"cell lvwPermissions 0: Feed gnu: Unregistered / Gnus: Yes / ",
+                                             "cell lvwPermissions 3: Count gnu: Gnus / Gnus: Yes / "}));
+    EXPECT_EQ(found(grid, "gnu no"), (Lines{"cell lvwPermissions 1: Feed gnu: Unregistered / all: No / ",
+                                            "cell lvwPermissions 2: Feed gnu: Gnus / Unregistered: No / "}));
+}
+
+TEST_F(FindParts, OfAPartOfItsOwnAreItsTextsLineByLineBelowWhatExplainsThem)
+{
+    OwnPart own = {OwnPartKind::Rules};
+    own.explanations = {{"lvwHerd", "Each row is a gnu."}, {"lvwOther", "No gnu."}};
+    own.texts = [](const SettingsFiles&, const HubProfiles&) {
+        return std::vector<PlacedText>{{"Herd.tbl", "lvwHerd", 4, "Herd", "one gnu\r\n \r\ntwo gnus"},
+                                       {"Herd.tbl", "lvwHerd", 5, "Herd", "three gnus"}};
+    };
+    EXPECT_EQ(found(own),
+              (Lines{"control lvwHerd -1: Herd /  / Each row is a gnu.", "row lvwHerd 4: Herd / one gnu / ",
+                     "row lvwHerd 4: Herd / two gnus / ", "row lvwHerd 5: Herd / three gnus / "}));
+}
+
 } // namespace
 } // namespace quillfen
