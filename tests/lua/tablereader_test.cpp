@@ -241,8 +241,8 @@ TEST_P(LuaVersions, NoteWhatTheySeeOtherwiseThanItStandsThere)
 
 TEST(LuaVersionsDiffer, InBackslashes)
 {
-    for (const char* escape :
-         {"\\c", "\\ ", "\\.", "\\x", "\\xg1", "\\u", "\\u{", "\\u{}", "\\u{110000}", "\\[", "\\-"}) {
+    for (const char* escape : {"\\c", "\\ ", "\\.", "\\x", "\\xg1", "\\u", "\\u{", "\\u{}", "\\u{110000}",
+                               "\\u{11ffff}", "\\[", "\\-"}) {
         const std::string text = "t = {\n\ts = \"" + std::string(escape) + "\"\n}";
         EXPECT_EQ(readAs(Version::Lua51, text).verdict, Verdict::Loads) << text;
         const Reading reading = readAs(Version::Lua53, text);
@@ -311,6 +311,33 @@ TEST(LuaVersionsDiffer, InTheMarkOfUtf8)
 {
     EXPECT_EQ(readAs(Version::Lua51, "\xEF\xBB\xBFt = 1").fault, Fault::MarkedAsUtf8);
     EXPECT_EQ(readAs(Version::Lua53, "\xEF\xBB\xBFt = 1").verdict, Verdict::Loads);
+}
+
+/// Tables within each other, each with so many values in front of the inner one.
+std::string nested(int levels, int values)
+{
+    std::string text = "t = ";
+    for (int level = 0; level < levels; ++level) {
+        text += '{';
+        for (int value = 0; value < values; ++value)
+            text += "1,";
+    }
+    return text + std::string(static_cast<std::size_t>(levels), '}');
+}
+
+TEST(LuaPlaces, AreTwoForATableAndRunOutBehindNinety)
+{
+    EXPECT_STREQ(name(readAs(Version::Lua51, nested(90, 0)).verdict), "loads");
+    EXPECT_EQ(readAs(Version::Lua51, nested(91, 0)).fault, Fault::TooDeep);
+}
+
+TEST(LuaPlaces, AreTakenByUpToFiftyValuesOfATableThatWait)
+{
+    EXPECT_STREQ(name(readAs(Version::Lua51, nested(3, 50)).verdict), "loads");
+    EXPECT_EQ(readAs(Version::Lua51, nested(4, 50)).fault, Fault::TooDeep);
+    EXPECT_STREQ(name(readAs(Version::Lua51, nested(4, 51)).verdict), "loads");
+    EXPECT_STREQ(name(readAs(Version::Lua51, nested(60, 1)).verdict), "loads");
+    EXPECT_EQ(readAs(Version::Lua51, nested(61, 1)).fault, Fault::TooDeep);
 }
 
 TEST(LuaFaults, AreToldEachAndWithWhatToDo)

@@ -18,6 +18,17 @@ TEST(FileNames, ThatNoFileCanBearAreFaulty)
         EXPECT_EQ(fileNameFault(name), "") << name;
 }
 
+TEST(FileNames, ThatNoFileCanBearAreToldWhy)
+{
+    EXPECT_EQ(fileNameFault(""), "A file needs a name.");
+    EXPECT_EQ(fileNameFault(std::string(201, 'x')), "The name is too long.");
+    EXPECT_EQ(fileNameFault("a?"), "A file name can't hold any of \\ / : * ? \" < > |");
+    EXPECT_EQ(fileNameFault("a\tb"), "A file name can't hold control characters.");
+    EXPECT_EQ(fileNameFault("a."), "A file name can't begin or end with a blank, or end with a dot.");
+    EXPECT_EQ(leavingNameFault(""), "A file needs a name.");
+    EXPECT_EQ(leavingNameFault("../a"), "The name leads out of the folder.");
+}
+
 TEST(FileNames, AreGoodUpToTheirTwoHundredthCharacter)
 {
     EXPECT_EQ(fileNameFault(std::string(200, 'x')), "");

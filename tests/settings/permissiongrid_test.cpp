@@ -1,3 +1,4 @@
+#include "declarations/griddeclaration.h"
 #include "settings/permissiongrid.h"
 #include "support/hub.h"
 
@@ -78,6 +79,21 @@ TEST_F(Grid, MayLeaveTheUnregisteredOut)
     EXPECT_EQ(loadGrid(grid, hub.files, hub.profiles).size(), 2U);
     rebuildGridFile(grid.commands[0], 1, hub.files, hub.profiles);
     EXPECT_EQ(hub.file("Kick.tbl"), "tKick = {\r\n\t[0] = {\r\n\t\t[0] = 0,\r\n\t},\r\n}\r\n");
+}
+
+TEST(GridWords, OfGridsWithoutFiltersHoldTheProfilesKeysAndNameEachTarget)
+{
+    const GridWords filtered;
+    EXPECT_TRUE(filtered.filters);
+    EXPECT_FALSE(filtered.namesTarget);
+    for (const GridWords& words : {unfilteredGrid(), blockGrid()}) {
+        EXPECT_EQ(words.columns, (std::vector<std::string>{"Command", "By Profile", "On Profile", "Allow To",
+                                                           "iProfileBy", "iProfileOn"}));
+        EXPECT_FALSE(words.filters);
+        EXPECT_TRUE(words.namesTarget);
+    }
+    EXPECT_FALSE(unfilteredGrid().namesCommandByProfile);
+    EXPECT_TRUE(blockGrid().namesCommandByProfile);
 }
 
 } // namespace

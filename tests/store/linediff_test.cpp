@@ -1,5 +1,6 @@
 #include "store/linediff.h"
 
+#include <algorithm>
 #include <gtest/gtest.h>
 #include <random>
 #include <string>
@@ -92,6 +93,27 @@ TEST(LineDifference, OfThousandsOfLinesTakesAllBetweenTheFirstAndTheLastForDiffe
     EXPECT_EQ(lines[1], (DiffLine{DiffLine::Kind::Old, "b0"}));
     EXPECT_EQ(lines[6001], (DiffLine{DiffLine::Kind::New, "a0"}));
     EXPECT_EQ(lines.back(), (DiffLine{DiffLine::Kind::Same, "last"}));
+}
+
+/// Texts of lines that change, with one between any two that stays.
+std::pair<std::string, std::string> changedLines(int count)
+{
+    std::pair<std::string, std::string> texts;
+    for (int at = 0; at < count; ++at) {
+        const std::string number = std::to_string(at);
+        texts.first += "old " + number + "\nkept " + number + '\n';
+        texts.second += "new " + number + "\nkept " + number + '\n';
+    }
+    return texts;
+}
+
+TEST(LineDifference, IsLookedForUpToTwoThousandLinesThatDiffer)
+{
+    const auto isKept = [](const DiffLine& line) { return line.kind == DiffLine::Kind::Same; };
+    const auto few = changedLines(1000);
+    EXPECT_EQ(std::ranges::count_if(lineDifference(few.first, few.second), isKept), 1000);
+    const auto many = changedLines(1001);
+    EXPECT_EQ(std::ranges::count_if(lineDifference(many.first, many.second), isKept), 1) << "the last";
 }
 
 } // namespace
