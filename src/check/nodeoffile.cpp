@@ -24,39 +24,31 @@ public:
     {
     }
 
-    bool operator()(const DeclaredSettings& part) const { return part.file().path == m_file; }
-
-    bool operator()(const DeclaredList& part) const { return isReadBy(part.list(m_profiles)); }
-
-    bool operator()(const DeclaredLists& part) const
+    bool operator()(const PartDeclaration& part) const
     {
-        const auto lists = part.lists().lists;
-        return std::any_of(lists.begin(), lists.end(), [this](const auto& list) { return isReadBy(list); });
+        const auto files = settingsFilesOf(part);
+        const auto lists = listsOf(part, m_profiles);
+        return std::any_of(files.begin(), files.end(),
+                           [this](const TableFile& file) { return file.path == m_file; }) ||
+               std::any_of(lists.begin(), lists.end(),
+                           [this](const RowListDeclaration& list) { return isReadBy(list); }) ||
+               std::visit([this](const auto& each) { return showsBesides(each); }, part);
     }
 
-    bool operator()(const DeclaredTexts& part) const
-    {
-        return liesIn(part.folder, m_file) || isReadBy(part.list());
-    }
+private:
+    /// Settings and lists aside.
+    bool showsBesides(const auto& /*of those alone*/) const { return false; }
+    bool showsBesides(const DeclaredTexts& part) const { return liesIn(part.folder, m_file); }
+    bool showsBesides(const DeclaredTicks& part) const { return part.ticks().file.path == m_file; }
+    bool showsBesides(const DeclaredText& part) const { return part.path == m_file; }
 
-    bool operator()(const DeclaredGrid& part) const
+    bool showsBesides(const DeclaredGrid& part) const
     {
         const ReadRecord record(m_files.store());
         part.grid().load(m_files, m_profiles);
         return wasRead(record);
     }
 
-    bool operator()(const DeclaredTicks& part) const { return part.ticks().file.path == m_file; }
-    bool operator()(const DeclaredText& part) const { return part.path == m_file; }
-
-    bool operator()(const OwnPart& part) const
-    {
-        const auto files = settingsFilesOf(part);
-        return std::any_of(files.begin(), files.end(),
-                           [this](const TableFile& each) { return each.path == m_file; });
-    }
-
-private:
     bool isReadBy(const RowListDeclaration& list) const
     {
         if (!list.load)
@@ -115,8 +107,7 @@ std::string nodeOfFile(const SettingsFiles& files, const HubProfiles& profiles, 
         if (!node.form)
             continue;
         const auto& parts = node.form->parts;
-        if (std::any_of(parts.begin(), parts.end(),
-                        [&shows](const PartDeclaration& part) { return std::visit(shows, part); }))
+        if (std::any_of(parts.begin(), parts.end(), shows))
             return node.key;
     }
     return nodeOfFolder(file);

@@ -19,11 +19,32 @@ struct FilesOf
     }
 };
 
+struct ListsOf
+{
+    using Lists = std::vector<RowListDeclaration>;
+    const HubProfiles& profiles;
+
+    Lists operator()(const DeclaredList& part) const { return {part.list(profiles)}; }
+    Lists operator()(const DeclaredLists& part) const { return part.lists().lists; }
+    Lists operator()(const DeclaredTexts& part) const { return {part.list()}; }
+    Lists operator()(const OwnPart& part) const { return part.lists ? part.lists() : Lists(); }
+    template <typename Other>
+    Lists operator()(const Other& /*part*/) const
+    {
+        return {};
+    }
+};
+
 } // namespace
 
 std::vector<TableFile> settingsFilesOf(const PartDeclaration& part)
 {
     return std::visit(FilesOf(), part);
+}
+
+std::vector<RowListDeclaration> listsOf(const PartDeclaration& part, const HubProfiles& profiles)
+{
+    return std::visit(ListsOf{profiles}, part);
 }
 
 DeclaredList listPart(std::function<RowListDeclaration()> list, ListPartKind kind)

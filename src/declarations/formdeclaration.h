@@ -199,6 +199,9 @@ using FormCatalogue = std::vector<FormDeclaration>;
 /// The declared settings files of a form's part.
 std::vector<TableFile> settingsFilesOf(const PartDeclaration& part);
 
+/// The declared lists of a form's part, each without what its rows lead to.
+std::vector<RowListDeclaration> listsOf(const PartDeclaration& part, const HubProfiles& profiles);
+
 /// A list that is the same at every hub.
 DeclaredList listPart(std::function<RowListDeclaration()> list, ListPartKind kind = ListPartKind::Plain);
 

@@ -77,27 +77,10 @@ void addCards(std::vector<SettingCard>& cards, const TableFile& file, const HubP
         std::visit(adders, setting);
 }
 
-SettingCard cardOf(const RowListDeclaration& list)
-{
-    return {list.list, std::string(list.explanation)};
-}
-
-/// The cards of each kind of part.
-struct CardsOf
+/// The cards of what a part is made of besides settings and lists.
+struct OtherCardsOf
 {
     using Cards = std::vector<SettingCard>;
-    const HubProfiles& profiles;
-
-    Cards operator()(const DeclaredSettings& part) const
-    {
-        Cards cards;
-        addCards(cards, part.file(), profiles);
-        return cards;
-    }
-
-    Cards operator()(const DeclaredList& part) const { return {cardOf(part.list(profiles))}; }
-    Cards operator()(const DeclaredLists& part) const { return ofLists(part.lists().lists); }
-    Cards operator()(const DeclaredTexts& part) const { return {cardOf(part.list())}; }
 
     Cards operator()(const DeclaredGrid& part) const
     {
@@ -118,25 +101,15 @@ struct CardsOf
     Cards operator()(const OwnPart& part) const
     {
         Cards cards;
-        for (const TableFile& file : part.files ? part.files() : std::vector<TableFile>())
-            addCards(cards, file, profiles);
-        if (part.lists) {
-            auto lists = ofLists(part.lists());
-            std::move(lists.begin(), lists.end(), std::back_inserter(cards));
-        }
         for (const ControlExplanation& each : part.explanations)
             cards.push_back({each.control, std::string(each.explanation), {}, each.file, each.key});
         return cards;
     }
 
-private:
-    static Cards ofLists(const std::vector<RowListDeclaration>& lists)
+    template <typename Part>
+    Cards operator()(const Part& /*of settings or lists alone*/) const
     {
-        Cards cards;
-        cards.reserve(lists.size());
-        for (const RowListDeclaration& list : lists)
-            cards.push_back(cardOf(list));
-        return cards;
+        return {};
     }
 };
 
@@ -163,7 +136,14 @@ std::string controlOf(const Setting& setting)
 
 std::vector<SettingCard> cardsOf(const PartDeclaration& part, const HubProfiles& profiles)
 {
-    return std::visit(CardsOf{profiles}, part);
+    std::vector<SettingCard> cards;
+    for (const TableFile& file : settingsFilesOf(part))
+        addCards(cards, file, profiles);
+    for (const RowListDeclaration& list : listsOf(part, profiles))
+        cards.push_back({list.list, std::string(list.explanation)});
+    const auto others = std::visit(OtherCardsOf(), part);
+    cards.insert(cards.end(), others.begin(), others.end());
+    return cards;
 }
 
 std::vector<std::string> linesOf(const SettingCard& card, const std::optional<std::string>& stored)

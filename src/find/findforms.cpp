@@ -330,14 +330,10 @@ void FormWalk::takeLines(std::size_t parent, const FindPlace& place, std::string
 
 void FormWalk::take(const OwnPart& own)
 {
-    if (own.files) {
-        for (const TableFile& file : own.files())
-            takeFile(file);
-    }
-    if (own.lists) {
-        for (const RowListDeclaration& list : own.lists())
-            takeList(list);
-    }
+    for (const TableFile& file : settingsFilesOf(own))
+        takeFile(file);
+    for (const RowListDeclaration& list : listsOf(own, m_profiles))
+        takeList(list);
     if (!own.texts)
         return;
     std::map<std::pair<std::string, std::string>, std::size_t> settings;

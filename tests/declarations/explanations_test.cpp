@@ -27,10 +27,15 @@ struct Explained
 class FormWalk
 {
 public:
-    FormWalk(const FormDeclaration& form, const HubProfiles& profiles) : m_profiles(profiles)
+    FormWalk(const FormDeclaration& form, const HubProfiles& profiles)
     {
-        for (const PartDeclaration& part : form.parts)
-            std::visit([this](const auto& each) { walk(each); }, part);
+        for (const PartDeclaration& part : form.parts) {
+            for (const TableFile& file : settingsFilesOf(part))
+                walk(file);
+            for (const RowListDeclaration& list : listsOf(part, profiles))
+                add("lists", list.list, list.explanation);
+            std::visit([this](const auto& each) { walkBesides(each); }, part);
+        }
     }
 
     std::vector<Explained> take() { return std::move(m_found); }
@@ -41,31 +46,18 @@ private:
         m_found.push_back({kind, control, std::string(sentence)});
     }
 
-    void walk(const DeclaredSettings& settings) { walk(settings.file()); }
-    void walk(const DeclaredList& list) { walk(list.list(m_profiles)); }
-    void walk(const DeclaredTexts& texts) { walk(texts.list()); }
-    void walk(const DeclaredText& text) { add("texts", text.toolbar, text.explanation); }
-    void walk(const DeclaredGrid& grid) { add("grids", grid.words.list, grid.words.explanation); }
-    void walk(const RowListDeclaration& list) { add("lists", list.list, list.explanation); }
+    void walkBesides(const auto& /*of settings and lists alone*/) {}
+    void walkBesides(const DeclaredText& text) { add("texts", text.toolbar, text.explanation); }
+    void walkBesides(const DeclaredGrid& grid) { add("grids", grid.words.list, grid.words.explanation); }
 
-    void walk(const DeclaredLists& lists)
-    {
-        for (const RowListDeclaration& list : lists.lists().lists)
-            walk(list);
-    }
-
-    void walk(const DeclaredTicks& declared)
+    void walkBesides(const DeclaredTicks& declared)
     {
         const TickList ticks = declared.ticks();
         add("ticks", ticks.control, ticks.explanation);
     }
 
-    void walk(const OwnPart& own)
+    void walkBesides(const OwnPart& own)
     {
-        for (const TableFile& file : own.files ? own.files() : std::vector<TableFile>())
-            walk(file);
-        for (const RowListDeclaration& list : own.lists ? own.lists() : std::vector<RowListDeclaration>())
-            walk(list);
         for (const ControlExplanation& each : own.explanations)
             add("other controls", each.control, each.explanation);
     }
@@ -81,7 +73,6 @@ private:
     void walkSetting(const setting::NamedTexts& texts) { add("settings", texts.control, texts.explanation); }
     void walkSetting(const auto& /*has no control*/) {}
 
-    const HubProfiles& m_profiles;
     std::vector<Explained> m_found{};
 };
 

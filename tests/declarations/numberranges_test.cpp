@@ -45,10 +45,7 @@ std::map<std::string, RangesOfFile> declaredRanges()
     std::map<std::string, RangesOfFile> ranges;
     for (const FormDeclaration& form : formCatalogue()) {
         for (const PartDeclaration& part : form.parts) {
-            if (const auto* settings = std::get_if<DeclaredSettings>(&part))
-                addRanges(settings->file(), ranges);
-            const auto* own = std::get_if<OwnPart>(&part);
-            for (const TableFile& file : own && own->files ? own->files() : std::vector<TableFile>())
+            for (const TableFile& file : settingsFilesOf(part))
                 addRanges(file, ranges);
         }
     }

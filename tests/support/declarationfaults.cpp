@@ -147,14 +147,10 @@ private:
 
     void walk(const OwnPart& own)
     {
-        if (own.files) {
-            for (const TableFile& file : own.files())
-                walkFile(file);
-        }
-        if (own.lists) {
-            for (const RowListDeclaration& list : own.lists())
-                walkList(list, false); // the part may load and save them itself
-        }
+        for (const TableFile& file : settingsFilesOf(own))
+            walkFile(file);
+        for (const RowListDeclaration& list : listsOf(own, m_profiles))
+            walkList(list, false); // the part may load and save them itself
         for (const ControlExplanation& each : own.explanations) {
             expect(isControlName(each.control), "no name of a control: " + each.control);
             expect(each.file.empty() == each.key.empty(), "a key without its file: " + each.control);
