@@ -287,7 +287,9 @@ TEST_F(FindForms, NoPasswordOfThePortal)
     write(R"(Communication\Portal\PortalSettings.tbl)",
           "tPortalSettings = {\r\ntHubs = {\r\n[1] = {\r\nsHubAddress = \"hub.example:411\",\r\n"
           "sClientPassword = \"swordfish\",\r\nsClientPort = \"9\",\r\n},\r\n},\r\n}");
-    EXPECT_EQ(hits("hub.example").size(), 1U);
+    const auto found = hits("hub.example");
+    ASSERT_EQ(found.size(), 1U);
+    EXPECT_EQ(found.front().place, (FindPlace{"Communication~Portal", "lvwHubs", 0}));
     EXPECT_TRUE(hits("swordfish").empty());
 }
 
