@@ -5,6 +5,8 @@
 #include <algorithm>
 #include <functional>
 #include <gtest/gtest.h>
+#include <map>
+#include <set>
 
 namespace quillfen {
 namespace {
@@ -133,6 +135,39 @@ TEST_F(Declarations, OfTheGeneralSettingsAloneStayDirtyBehindADiscard)
                           return form.afterDiscard == FormDescription::AfterDiscard::AsItStood;
                       }),
               Found{"frmGeneralGeneral"});
+}
+
+TEST_F(Declarations, OfListsWhoseDialogsHaveAModeOfTheirOwn)
+{
+    std::map<std::string, std::set<std::pair<int, int>>> modes;
+    for (const FormDeclaration& each : forms) {
+        for (const PartDeclaration& part : each.parts) {
+            for (const RowListDeclaration& list : listsOf(part, hub.profiles)) {
+                const RowDialog& dialog = list.dialog;
+                if (dialog.addMode || dialog.editMode)
+                    modes[list.list].emplace(dialog.addMode.value_or(-1), dialog.editMode.value_or(-1));
+            }
+        }
+    }
+    EXPECT_EQ(modes, (std::map<std::string, std::set<std::pair<int, int>>>{
+                         {"lvwBots", {{-1, 0}}}, {"lvwClients", {{4, -1}}}, {"lvwWeek", {{6, 7}}}}));
+}
+
+TEST_F(Declarations, OfGridsHaveTheColumnsOfTheirCells)
+{
+    std::map<std::vector<std::string>, std::size_t> columns;
+    for (const FormDeclaration& each : forms) {
+        for (const PartDeclaration& part : each.parts) {
+            if (const auto* grid = std::get_if<DeclaredGrid>(&part))
+                ++columns[grid->words.columns];
+        }
+    }
+    EXPECT_EQ(columns,
+              (std::map<std::vector<std::string>, std::size_t>{
+                  {{"Command", "By Profile", "On Profile", "Allow To"}, 1},
+                  {{"Command", "By Profile", "On Profile", "Allow", "iProfileBy", "iProfileOn"}, 1},
+                  {{"Command", "By Profile", "On Profile", "Allow To", "iProfileBy", "iProfileOn"}, 3},
+                  {{"Command", "Profile", "Setting"}, 7}}));
 }
 
 TEST_F(Declarations, AFormOfNoNameOrOfHalfAPixelIsFound)
