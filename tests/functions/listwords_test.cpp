@@ -12,6 +12,7 @@
 #include "functions/games/trivia.h"
 #include "functions/general/bots.h"
 #include "functions/general/languages.h"
+#include "functions/security/antiadvertise.h"
 #include "functions/security/clientchecker.h"
 #include "functions/security/profilerules.h"
 #include "functions/security/spies.h"
@@ -65,6 +66,39 @@ TEST(ListWords, OfADeletionAreTheFunctionsOwn)
                    "There must be a minimum of one Spell Phrase");
     expectDeletion(scoreClearers(), "Delete Exempt User?", "Do you really want to delete this User?", "");
     expectDeletion(spellWards(), "Delete Warded User?", "Do you really want to delete this Warded User?", "");
+}
+
+TEST(ListWords, OfADeletionWereCopiedFromFormToForm)
+{
+    expectDeletion(networkHubs(), "Delete Intro?", "Do you really want to delete this File?", "");
+    expectDeletion(blockedAddresses(), "Delete Intro?", "Do you really want to delete this File?",
+                   "There must be a minimum of one Blocked Address");
+    expectDeletion(allowedAddresses(), "Delete Intro?", "Do you really want to delete this File?",
+                   "There must be a minimum of one Allowed Address");
+    expectDeletion(doActions(), "Delete DoAction?", "Do you really want to delete this intro?",
+                   "There must be a minimum of one Intro");
+    for (const RowListDeclaration& list : medievalInsults().lists)
+        expectDeletion(list, "Delete Medieval Insult?", "Do you really want to delete this Medieval Insult?",
+                       "There must be a minimum of one Medieval Insult");
+    const auto& modern = modernInsults().lists;
+    const char* const ofModern = "Do you really want to delete this Modern Insult?";
+    const char* const oneModern = "There must be a minimum of one Modern Insult";
+    expectDeletion(modern.at(0), "Delete Modern Insult?",
+                   "Do you really want to delete this Medieval Insult?", oneModern);
+    expectDeletion(modern.at(1), "Delete Modern Insult?", ofModern, oneModern);
+    expectDeletion(modern.at(2), "Delete Modern Insult?", ofModern,
+                   "There must be a minimum of one Medieval Insult");
+    expectDeletion(modern.at(3), "Delete Modern Insult?", ofModern, oneModern);
+    const auto standard = standardIntrosOutros().lines.lists;
+    expectDeletion(standard.at(0), "Delete Intro?", "Do you really want to delete this intro?",
+                   "There must be a minimum of one Intro");
+    expectDeletion(standard.at(1), "Delete Outro?", "Do you really want to delete this outro?",
+                   "There must be a minimum of one Outro");
+    const auto custom = customIntrosOutros().lines.lists;
+    expectDeletion(custom.at(0), "Delete Intro?", "Do you really want to delete this intro?",
+                   "There must be a minimum of one Intro");
+    expectDeletion(custom.at(1), "Delete Outro?", "Do you really want to delete this Outro?",
+                   "There must be a minimum of one Outro");
 }
 
 TEST(ListWords, FollowTheNounOfTheRows)
