@@ -1,4 +1,5 @@
 #include "functions/catalogue.h"
+#include "functions/games/numbers.h"
 #include "functions/games/trivia.h"
 #include "functions/general/languages.h"
 #include "support/hub.h"
@@ -223,8 +224,9 @@ TEST_F(Explanations, AreASentenceEach)
     EXPECT_EQ(found, std::vector<std::string>());
 }
 
-TEST_F(Explanations, OfListedFilesAndOfTheirRowsAreASentenceEach)
+TEST_F(Explanations, OfListsThatOwnPartsMakeAreASentenceEach)
 {
+    EXPECT_EQ(faultsOf(numbersCalculationList().explanation), std::vector<std::string>());
     std::vector<ListedFiles> listed = {triviaQuestionLists()};
     for (const LanguageSet& set : languageSets())
         listed.push_back(languageLists(set));

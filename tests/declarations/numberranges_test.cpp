@@ -32,7 +32,8 @@ using RangesOfFile = std::map<std::string, NumberRange>;
 void addRanges(const TableFile& file, std::map<std::string, RangesOfFile>& ranges)
 {
     for (const Setting& each : file.settings) {
-        const auto* field = std::get_if<setting::Field>(&each);
+        const auto* idle = std::get_if<setting::Idle>(&each);
+        const auto* field = idle ? &idle->field : std::get_if<setting::Field>(&each);
         const auto* number = field ? std::get_if<setting::Number>(&field->kind) : nullptr;
         if (number)
             ranges[file.path][field->key] = {number->defaultValue, number->minimum, number->maximum,
@@ -109,7 +110,10 @@ std::map<std::string, RangesOfFile> rangesOfGames()
                        {anagrams, {3, 0, 60}},
                        {code, {3, 0, 60}},
                        {guess, {3, 0, 1000}}});
-    share("iBonusTime", {{trivia, {45, 0, 100}}, {numbers, {10, 0, 1000}}, {anagrams, {10, 0, 1000}}});
+    share("iBonusTime", {{trivia, {45, 0, 100}},
+                         {numbers, {10, 0, 1000}},
+                         {hangman, {10, 0, 1000}},
+                         {anagrams, {10, 0, 1000}}});
     share("iPoints", {{trivia, {1, 0, 100}},
                       {numbers, {1, 0, 100}},
                       {hangman, {6, 0, 100}},

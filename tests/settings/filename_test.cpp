@@ -49,6 +49,7 @@ TEST(FileNames, ThatAreThereAlreadyAreGoodUnlessTheyLeadOutOfTheirFolder)
 TEST(FileNames, ChangeTheirCaseInTheCodePage)
 {
     EXPECT_EQ(codepage::lowered("FOO \xC9\x8A\x9F\xD7"), "foo \xE9\x9A\xFF\xD7");
+    EXPECT_EQ(codepage::lowered("@AZ[ \xBF\xC0\xDE\xDF"), "@az[ \xBF\xE0\xFE\xDF");
     EXPECT_EQ(codepage::raised("foo \xE9\x9A\xFF\xF7\xDF"), "FOO \xC9\x8A\x9F\xF7\xDF");
 }
 

@@ -85,6 +85,13 @@ TEST(CodePage, DoesNotHaveOtherCharacters)
     EXPECT_FALSE(codepage::fromUnicode(U'\U0001F600'));
 }
 
+TEST(Paths, TheProgramFolderIsTwoAboveTheSettings)
+{
+    const auto paths = SettingsPaths::ofSettings("/hub/scripts/s/Settings");
+    EXPECT_EQ(paths.settingsRoot(), "/hub/scripts/s/Settings");
+    EXPECT_EQ(paths.inProgramFolder("a.txt"), "/hub/scripts/s/Settings/../../a.txt");
+}
+
 TEST(Paths, AFileBelowTheSettingsRootIsToldAsTheScriptTellsIt)
 {
     const std::string root = hubPaths.settingsRoot();

@@ -247,9 +247,38 @@ TEST_F(Disk, ARingOfLinksIsAFailure)
     EXPECT_THROW(disk.write(folder + "/a", "x"), StoreError);
 }
 
+/// A user whom rights bind: root, to whom nothing is closed, is another one for as long as this lives.
+class BoundUser
+{
+public:
+    explicit BoundUser(const std::string& folder)
+        : m_isRoot(geteuid() == 0),
+          m_isBound(!m_isRoot ||
+                    (chown(folder.c_str(), nobody, nobody) == 0 && setresuid(nobody, nobody, 0) == 0))
+    {
+    }
+    BoundUser(const BoundUser&) = delete;
+    BoundUser& operator=(const BoundUser&) = delete;
+
+    ~BoundUser()
+    {
+        const bool isBack = !m_isRoot || setresuid(0, 0, 0) == 0;
+        EXPECT_TRUE(isBack);
+    }
+
+    /// Not where there is no other user than root.
+    bool isBound() const { return m_isBound; }
+
+private:
+    static constexpr uid_t nobody = 65534;
+    bool m_isRoot;
+    bool m_isBound;
+};
+
 TEST_F(Disk, AFileThatIsClosedToWritersStaysAsItIs)
 {
-    if (geteuid() == 0)
+    const BoundUser user(folder);
+    if (!user.isBound())
         GTEST_SKIP() << "nothing is closed to root";
     disk.write(folder + "/a", "old");
     ASSERT_EQ(chmod((folder + "/a").c_str(), 0444), 0);
@@ -259,7 +288,8 @@ TEST_F(Disk, AFileThatIsClosedToWritersStaysAsItIs)
 
 TEST_F(Disk, AFileInAFolderThatTakesNoNewOneIsWrittenInPlace)
 {
-    if (geteuid() == 0)
+    const BoundUser user(folder);
+    if (!user.isBound())
         GTEST_SKIP() << "nothing is closed to root";
     disk.makeFolder(folder + "/closed");
     disk.write(folder + "/closed/a", "a longer old text");

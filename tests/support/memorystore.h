@@ -15,6 +15,7 @@ class MemoryStore : public FileStore
 public:
     std::map<std::string, std::string> files;
     std::set<std::string> folders;
+    std::set<std::string> unreadable;            ///< files that are there and nobody may read
     std::vector<std::string> log;                ///< "write <path>", "make <path>" and "remove <path>"
     mutable std::map<std::string, int> readings; ///< how often each file was read
     int failingCall = -1;                        ///< the write, make or remove of this number, from 0, fails
@@ -26,7 +27,7 @@ public:
     {
         ++readings[path];
         const auto file = files.find(path);
-        if (file == files.end())
+        if (file == files.end() || unreadable.count(path) > 0)
             return std::nullopt;
         return damage ? damage(file->second) : file->second;
     }
