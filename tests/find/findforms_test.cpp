@@ -1,6 +1,7 @@
 #include "declarations/rebuild.h"
 #include "find/findforms.h"
 #include "functions/catalogue.h"
+#include "support/declarationfaults.h"
 #include "support/golden.h"
 #include "support/hub.h"
 
@@ -147,6 +148,24 @@ TEST_F(FindForms, AnOptionAndTheControlThatIsChosen)
 {
     EXPECT_TRUE(finds("trivia hint reduction", {"Games~Trivia~Settings", "optOption(4)"},
                       "Scoring Type:", "Hint Reduction"));
+}
+
+TEST_F(FindForms, TextsOfOwnPartsBelowWordsAndTheirControl)
+{
+    std::size_t texts = 0;
+    for (const FormDeclaration& form : formCatalogue()) {
+        for (const PartDeclaration& part : form.parts) {
+            const auto* own = std::get_if<OwnPart>(&part);
+            if (!own || !own->texts)
+                continue;
+            for (const PlacedText& text : own->texts(hub.files, hub.profiles)) {
+                EXPECT_TRUE(!text.label.empty() && test::isWorded(text.label)) << text.label;
+                EXPECT_TRUE(test::isControlName(text.control)) << text.control;
+                ++texts;
+            }
+        }
+    }
+    EXPECT_GT(texts, 50U);
 }
 
 TEST_F(FindForms, ALineOfHelpBelowAList)

@@ -8,13 +8,6 @@
 namespace quillfen::test {
 namespace {
 
-/// A name is its kind in three letters and a word, and may have a number: "txtUpDown(3)".
-bool isControlName(const std::string& name)
-{
-    static const std::regex shape("(cbo|chk|fra|lvw|opt|sld|tlb|txt)[A-Z][A-Za-z]*(\\([0-9]+\\))?");
-    return std::regex_match(name, shape);
-}
-
 bool isFormName(const std::string& name)
 {
     static const std::regex shape("frm[A-Z][A-Za-z]*");
@@ -36,13 +29,6 @@ bool isMenu(const std::string& name)
         "mnuOnlyEditThree", "mnuOnlyEditTwo", "mnuOutro",           "mnuNumbersNumbers",
         "mnuSecond",        "mnuThird",       "mnuTriviaQuestions", "mnuUserActions"};
     return lent.contains(name);
-}
-
-/// What a user reads begins with a capital letter, and no blank stands too much.
-bool isWorded(const std::string& words)
-{
-    return words.empty() || (std::isupper(static_cast<unsigned char>(words.front())) != 0 &&
-                             words.back() != ' ' && words.find("  ") == std::string::npos);
 }
 
 /// Walks over the parts of a form.
@@ -280,6 +266,18 @@ private:
 };
 
 } // namespace
+
+bool isControlName(const std::string& name)
+{
+    static const std::regex shape("(cbo|chk|fra|lvw|opt|sld|tlb|txt)[A-Z][A-Za-z]*(\\([0-9]+\\))?");
+    return std::regex_match(name, shape);
+}
+
+bool isWorded(const std::string& words)
+{
+    return words.empty() || (std::isupper(static_cast<unsigned char>(words.front())) != 0 &&
+                             words.back() != ' ' && words.find("  ") == std::string::npos);
+}
 
 std::vector<std::string> faults(const FormCatalogue& forms, const HubProfiles& profiles,
                                 const std::vector<std::string>& deliberate)
