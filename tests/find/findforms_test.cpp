@@ -264,6 +264,13 @@ TEST_F(FindForms, AQuestionOfAQuizByTheFileThatHoldsIt)
     write(R"(Games\Trivia\QuestionFiles\TriviaQuestions.lst)", "Discs:What carries the world?*a turtle");
     EXPECT_TRUE(finds("turtle", {"Games~Trivia~Questions", "lvwQuestionFiles", 0}, "Available Question Files",
                       "Discs:What carries the world? | a turtle"));
+    write(R"(Games\Trivia\TriviaQuestionFiles.tbl)",
+          "tTriviaQuestionFiles = {\r\n[\"sDefaultQuestionFile\"] = \"TriviaQuestions\",\r\n\t\"Zoo\",\r\n}");
+    write(R"(Games\Trivia\QuestionFiles\Zoo.lst)", "Towers:Who sends?*the Smoking GNU");
+    EXPECT_TRUE(finds("smoking", {"Games~Trivia~Questions", "lvwQuestionFiles", 1},
+                      "Available Question Files", "Towers:Who sends? | the Smoking GNU"));
+    EXPECT_TRUE(finds("default triviaquestions", {"Games~Trivia~Questions", "cboQuestionFileDefault"},
+                      "Default Question File", "TriviaQuestions"));
 }
 
 TEST_F(FindForms, ATextOfALanguageByItsNameAndKey)

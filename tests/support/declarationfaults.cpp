@@ -191,18 +191,31 @@ private:
 
     void walkKind(const setting::Field& field, const setting::Number& number)
     {
+        expectWords({number.details.unit});
         expect(number.minimum < number.maximum && number.details.step > 0, "no range: " + field.key);
         expectDefault(field, number.defaultValue >= number.minimum && number.defaultValue <= number.maximum);
     }
 
+    void walkKind(const setting::Field& /*any default is one*/, const setting::Flag& flag)
+    {
+        expectWords({flag.details.frame});
+    }
+
     void walkKind(const setting::Field& field, const setting::Options& options)
     {
+        expectWords(options.captions);
         expectDefault(field,
                       options.defaultValue >= 0 && options.defaultValue < std::ssize(options.captions));
     }
 
+    void walkKind(const setting::Field& /*any default is one*/, const setting::ProfileFlags& flags)
+    {
+        expectWords({flags.heading});
+    }
+
     void walkKind(const setting::Field& field, const setting::Letter& letter)
     {
+        expectWords(letter.words);
         const auto isWord = [&letter](const std::string& word) {
             return std::ranges::find(letter.words, word) != letter.words.end();
         };
