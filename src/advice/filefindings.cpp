@@ -127,7 +127,7 @@ void FileFindings::takeReading(const lua::Reading& reading, std::string_view wha
 bool FileFindings::isKnown(lua::Fault fault) const
 {
     const auto found = notLoading().find(slashed(m_file));
-    return found != notLoading().end() && found->second.fault == fault;
+    return found != notLoading().end() && found->second == fault;
 }
 
 void FileFindings::takeTexts()

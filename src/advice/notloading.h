@@ -4,20 +4,12 @@
 
 #include <map>
 #include <string>
-#include <string_view>
 
 namespace quillfen {
 
-/// What keeps a file from loading that never loads, and why that is so.
-struct KnownFault
-{
-    lua::Fault fault;
-    std::string_view reason;
-};
-
-/// Files below the settings root, with slashes, that Lua can't load. The forms' own readers, which look at
-/// single lines, take them, and the hub script reads them in its own way.
-using NotLoading = std::map<std::string, KnownFault, std::less<>>;
+/// Files below the settings root, with slashes, that Lua can't load, and what keeps them from it. The forms'
+/// own readers, which look at single lines, take them, and the hub script reads them in its own way.
+using NotLoading = std::map<std::string, lua::Fault, std::less<>>;
 
 /// Those of a fresh tree.
 const NotLoading& notLoading();
