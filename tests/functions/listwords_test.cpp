@@ -126,8 +126,8 @@ TEST(ListWords, OfADeletionMayCallARowBySeveralNouns)
 TEST(ListWords, OfListedFilesAreThoseOfTheirBoxes)
 {
     const ListedFiles questions = triviaQuestionLists();
-    EXPECT_EQ(questions.names.deletion.title, "Delete Question File?");
-    EXPECT_EQ(questions.names.deletion.minimum, "There must be a minimum of one Question File");
+    expectDeletion(questions.names, "Delete Question File?", "Do you really want to delete ",
+                   "There must be a minimum of one Question File");
     EXPECT_TRUE(questions.rows.selectsFirst);
     expectDeletion(questions.rows, "Delete Question?", "Do you really want to delete this question?",
                    "There must be a minimum of one Question");

@@ -88,5 +88,36 @@ TEST_F(Languages, EachSetHasItsOwnFilesAndTables)
     }
 }
 
+TEST(LanguageSets, HaveWordsOfTheirOwn)
+{
+    using Words = std::vector<std::string_view>;
+    const Words told[] = {
+        {"Command ID", "Command", "Add New Command",
+         "Enter name of new Command File:", " already exists as a Command Language File",
+         "DEFAULT Command File cannot be deleted", "Edit Command", "Command"},
+        {"RightClick ID", "RightClick", "Add New RightClick",
+         "Enter name of new RightClick:", " already exists as a RightClick Language File",
+         "DEFAULT RightClick cannot be deleted", "Edit RightClick", "RightClick"},
+        // The messages' form has some words of the commands'.
+        {"Message ID", "Message", "Add New Command",
+         "Enter name of new Message File:", " already exists as a Message Language File",
+         "DEFAULT Command File cannot be deleted", "Edit Message", "Message"},
+    };
+    for (std::size_t at = 0; at < 3; ++at) {
+        const LanguageSet& set = languageSets()[at];
+        EXPECT_EQ((Words{set.keyColumn, set.textColumn, set.newTitle, set.newPrompt, set.duplicateTail,
+                         set.deleteRefusal, set.editTitle, set.editLabel}),
+                  told[at]);
+        const ListedFiles files = languageLists(set);
+        EXPECT_EQ(files.names.list, "lvwFiles");
+        EXPECT_EQ(files.names.toolbar, "tlbFiles");
+        EXPECT_EQ(files.names.deletion.text, "Are you sure you wish to delete ");
+        EXPECT_EQ(files.rows.list, "lvwTexts");
+        EXPECT_EQ(files.rows.toolbar, "tlbTexts");
+        EXPECT_EQ(files.rows.columns,
+                  (std::vector<std::string>{std::string(set.keyColumn), std::string(set.textColumn)}));
+    }
+}
+
 } // namespace
 } // namespace quillfen
