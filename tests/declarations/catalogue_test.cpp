@@ -170,6 +170,21 @@ TEST_F(Declarations, OfGridsHaveTheColumnsOfTheirCells)
                   {{"Command", "Profile", "Setting"}, 7}}));
 }
 
+TEST_F(Declarations, OfGridsHaveTheWordsOfTheirSentences)
+{
+    std::map<std::string, std::vector<std::string>> words;
+    for (const FormDeclaration& each : forms) {
+        for (const PartDeclaration& part : each.parts) {
+            if (const auto* grid = std::get_if<DeclaredGrid>(&part))
+                words[grid->words.yes + ' ' + grid->words.no + ' ' + grid->words.targetLink].push_back(
+                    each.form.name);
+        }
+    }
+    ASSERT_EQ(words.size(), 2U);
+    EXPECT_EQ(words["Yes No "].size(), 11U);
+    EXPECT_EQ(words["True False of"], Found{"frmSecurityRegistration"});
+}
+
 TEST_F(Declarations, AFormOfNoNameOrOfHalfAPixelIsFound)
 {
     form("frmGamesTrivia").form.minimumSize = {150, 151};

@@ -1,5 +1,6 @@
 #include "declarations/rebuild.h"
 #include "functions/catalogue.h"
+#include "support/declarationfaults.h"
 #include "support/hub.h"
 
 #include <algorithm>
@@ -28,6 +29,7 @@ Found faultsOf(const std::vector<Node>& nodes)
                                                              : node.key.substr(0, end);
         expect(above.empty() || keys.count(above) > 0, "under no node: " + node.key);
         expect(!node.caption.empty(), "no caption: " + node.key);
+        expect(test::isWorded(node.caption), "no words: " + node.caption);
         expect(node.inTree || node.form, "neither in the tree nor a form: " + node.key);
         expect(keys.insert(node.key).second, "key twice: " + node.key);
     }

@@ -37,6 +37,19 @@ TEST(Cards, TellWhatTheFileHoldsWhereItIsAnother)
     EXPECT_EQ(linesOf(card, "off"), (Lines{"Default: on.", "In the file: off.", R"(bOn in A\B.tbl)"}));
 }
 
+TEST(Cards, OfNamedTextsTellTheirKeyAndOfWhatHasNoControlAreNone)
+{
+    const setting::NamedTexts texts = {"tWords", "lvwWords", "Words", {{"sOne", "one"}}, "Tells words."};
+    const SettingCard card = cardOf(Setting(texts));
+    EXPECT_EQ(card.control, "lvwWords");
+    EXPECT_EQ(linesOf(card), (Lines{"Tells words.", R"(tWords in A\B.tbl)"}));
+    const Setting constant = setting::ConstantText{"sFive", "five"};
+    const DeclaredSettings part{[&constant] { return TableFile{R"(A\B.tbl)", "t", {constant}}; }};
+    EXPECT_TRUE(cardsOf(part, hubProfiles()).empty());
+    EXPECT_EQ(controlOf(Setting(texts)), "lvwWords");
+    EXPECT_EQ(controlOf(constant), "");
+}
+
 TEST(Cards, TellADefaultAsTheControlShowsIt)
 {
     const auto shown = [](const Setting& setting) { return cardOf(setting).defaultValue; };

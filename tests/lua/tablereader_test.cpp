@@ -123,6 +123,8 @@ TEST_P(LuaVersions, RefuseATextWithoutAnEnd)
     fails("t = [==[a]]\n]=]", Fault::OpenLongText, 2);
     fails("t = {} --[[a", Fault::OpenComment);
     fails("t = [=a", Fault::Stray);
+    for (const std::string sign : {"*", "/", "<", ">", "<=", ">=", "==", "~=", "..", "and", "%", "^"})
+        fails("t = " + sign + " 1", Fault::Stray);
 }
 
 TEST_P(LuaVersions, RefuseANumberThatIsNone)

@@ -133,6 +133,13 @@ public:
     void sync(const std::string& folder) override { log.push_back("wait " + folder); }
 };
 
+TEST(DraftOfARebuild, LetsTheDiskBeWaitedForThroughIt)
+{
+    WaitingStore disk;
+    DraftStore(disk).sync("/hub");
+    EXPECT_EQ(disk.log, Names{"wait /hub"});
+}
+
 TEST(DraftOfARebuild, WaitsForTheDiskOnceBeforeTheFileThatSaysThatAllIsThere)
 {
     WaitingStore disk;

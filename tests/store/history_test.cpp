@@ -101,6 +101,33 @@ TEST_F(EarlierVersions, WhatStandsAsItStoodIsNotWritten)
     EXPECT_TRUE(history.bringBack({{"a\\none", ""}}).changes.empty());
 }
 
+TEST_F(EarlierVersions, AFolderThatIsGoneIsMadeOnceForAllOfItsFiles)
+{
+    {
+        Draft draft(store, {"a save"});
+        store.remove("/hub/a/one");
+        store.remove("/hub/a/two");
+        draft.commit();
+    }
+    disk.folders.erase("/hub/a");
+    const auto changes = history.bringBack(history.entries().entries.at(0).files).changes;
+    ASSERT_EQ(changes.size(), 3U);
+    EXPECT_EQ(changes[0].kind, StoreChange::Kind::MakeFolder);
+    EXPECT_EQ(changes[0].path, "/hub/a");
+    EXPECT_EQ(changes[1].path, "/hub/a/one");
+    EXPECT_EQ(changes[2].path, "/hub/a/two");
+}
+
+TEST_F(EarlierVersions, WhatLiesElsewhereIsNotKept)
+{
+    disk.folders.insert("/elsewhere");
+    disk.files["/elsewhere/one"] = "1";
+    disk.files["/hub/a\\b"] = "1"; // a name that no told path can tell
+    store.write("/elsewhere/one", "new");
+    store.write("/hub/a\\b", "new");
+    EXPECT_TRUE(history.entries().entries.empty());
+}
+
 TEST_F(EarlierVersions, APathThatWouldLeaveTheTreeIsRefused)
 {
     store.write("/hub/a/one", "new");

@@ -121,8 +121,6 @@ std::string_view switchOf(std::string_view nodeKey)
 {
     const auto group = splitOnce(nodeKey, '~');
     std::string_view word = splitOnce(group.right, '~').left;
-    while (word.starts_with(' '))
-        word.remove_prefix(1);
     if (word == "Flooder") // the tree and the hub script call it by two names
         word = "Flood";
     const auto* const function =

@@ -133,6 +133,21 @@ TEST_F(ProfileRules, ACountOfBytesOfAnyLengthComesBackAsItStood)
     EXPECT_EQ(storedShare(shownShare(rounded)), rounded);
 }
 
+TEST_F(ProfileRules, AShareThatIsNoPlainCountIsSavedAsTheNumberThatItShows)
+{
+    const std::pair<const char*, const char*> shares[] = {
+        {"0", "0"},      {"1234567890123456789", "1234567890123456789"}, {"007", "7"}, {"2.50", "2.5"},
+        {"1e3", "1000"},
+    };
+    for (const auto& [stored, saved] : shares) {
+        hub.file("Security/ProfileRules/ProfileRules.tbl") =
+            "tProfileRules = {\r\n\t[-1] = {\r\n\t\tiMinShare = " + std::string(stored) +
+            ",\r\n\t},\r\n}\r\n";
+        const auto rows = profileRules().lists.at(0).load(hub.files, hub.profiles);
+        EXPECT_EQ(rows.at(0).cells.back(), saved) << stored;
+    }
+}
+
 TEST_F(ProfileRules, TheHubScriptCannotLoadAFreshDelayWithoutValueAndLoadsASavedOne)
 {
     EXPECT_THROW(luaValues(golden("ProfileRuleSettings.build.tbl")), std::runtime_error);
