@@ -42,6 +42,14 @@ private:
     bool showsBesides(const DeclaredTicks& part) const { return part.ticks().file.path == m_file; }
     bool showsBesides(const DeclaredText& part) const { return part.path == m_file; }
 
+    bool showsBesides(const OwnPart& part) const
+    {
+        return std::any_of(part.paths.begin(), part.paths.end(), [this](const std::string& path) {
+            return path == m_file ||
+                   (path.ends_with('\\') && liesIn(path.substr(0, path.size() - 1), m_file));
+        });
+    }
+
     bool showsBesides(const DeclaredGrid& part) const
     {
         const ReadRecord record(m_files.store());
@@ -68,36 +76,6 @@ private:
     const std::string& m_file;
 };
 
-bool hasOwnPart(const Node& node)
-{
-    const auto& parts = node.form->parts;
-    return std::any_of(parts.begin(), parts.end(),
-                       [](const auto& part) { return std::holds_alternative<OwnPart>(part); });
-}
-
-/// The files of a part that only its function has lie in the function's folder, or in one that the node is
-/// called by.
-std::string nodeOfFolder(const std::string& file)
-{
-    std::string key = file.substr(0, std::min(file.size(), file.rfind('\\')));
-    std::replace(key.begin(), key.end(), '\\', '~');
-    const std::string last = key.substr(key.rfind('~') + 1) + '~';
-    for (const Node& node : functionNodes()) {
-        const bool isOurs = node.key == key || node.key.starts_with(key + '~') || node.key.starts_with(last);
-        if (isOurs && node.form && hasOwnPart(node))
-            return node.key;
-    }
-    for (const FunctionDeclaration& function : folderCatalogue()) {
-        const bool isOurs = std::any_of(function.folders.begin(), function.folders.end(),
-                                        [&file](const std::string& folder) { return liesIn(folder, file); });
-        for (const Node& node : function.nodes) {
-            if (isOurs && node.form && hasOwnPart(node))
-                return node.key;
-        }
-    }
-    return {};
-}
-
 } // namespace
 
 std::string nodeOfFile(const SettingsFiles& files, const HubProfiles& profiles, const std::string& file)
@@ -110,7 +88,7 @@ std::string nodeOfFile(const SettingsFiles& files, const HubProfiles& profiles, 
         if (std::any_of(parts.begin(), parts.end(), shows))
             return node.key;
     }
-    return nodeOfFolder(file);
+    return {};
 }
 
 } // namespace quillfen

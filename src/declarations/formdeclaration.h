@@ -181,6 +181,9 @@ struct OwnPart
 
     /// What can be found in it besides those.
     std::function<std::vector<PlacedText>(const SettingsFiles&, const HubProfiles&)> texts{};
+
+    /// The told paths of its other files; one that ends with a backslash is a folder of them.
+    std::vector<std::string> paths{};
 };
 
 using PartDeclaration = std::variant<DeclaredSettings, DeclaredList, DeclaredLists, DeclaredTexts,

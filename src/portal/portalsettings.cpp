@@ -139,7 +139,8 @@ FunctionDeclaration portalFunction()
                  "Each row is a hub whose main chat is passed on to the other; a tick logs in to it."},
                 {"lvwNicks", "Each row is a nick whose words are not passed on to the other hub."},
             },
-        .texts = placedPortalSettings};
+        .texts = placedPortalSettings,
+        .paths = {std::string(file)}};
     const FormDescription form = {.name = "frmCommunicationPortal",
                                   .caption = "Communication ~ Portal",
                                   .minimumSize = {6000, 6600},

@@ -198,8 +198,30 @@ TEST_F(TreeCheck, KnowsTheNodeWhoseFormShowsAFile)
               "Communication~WelcomeInfo~NetworkHubs");
     EXPECT_EQ(node(R"(Communication\Portal\PortalSettings.tbl)"), "Communication~Portal");
     EXPECT_EQ(node(R"(CustomiseUser\IntroOutro\AsciiIntroIndex.tbl)"), "CustomiseUser~IntroOutro~Ascii");
+    EXPECT_EQ(node(R"(CustomiseUser\IntroOutro\Ascii\one.asc)"), "CustomiseUser~IntroOutro~Ascii");
+    EXPECT_EQ(node(R"(CustomiseUser\DescriptionTags\DescriptionTagSettings.tbl)"),
+              "CustomiseUser~DescriptionTags");
+    EXPECT_EQ(node(R"(Communication\MassMessage\Passive.asc)"), "Communication~MassMessage");
+    EXPECT_EQ(node(R"(Communication\MOTD\MOTDSettings.tbl)"), "Communication~MOTD");
+    EXPECT_EQ(node(R"(Communication\MOTD\MOTDs\all.asc)"), "Communication~MOTD");
+    EXPECT_EQ(node(R"(Communication\RotatingMainMessage\Files\one.asc)"),
+              "Communication~RotatingMainMessage");
+    EXPECT_EQ(node(R"(Games\Hangman\Ascii\0.asc)"), "Games~Hangman");
+    EXPECT_EQ(node(R"(Games\Trivia\TriviaQuestionFiles.tbl)"), "Games~Trivia~Questions");
+    EXPECT_EQ(node(R"(Games\Trivia\QuestionFiles\music.lst)"), "Games~Trivia~Questions");
+    EXPECT_EQ(node(R"(Security\Rules\Ascii\-1.asc)"), "Security~Rules");
+    EXPECT_EQ(node(R"(UserActions\Spells\Spells\Frog.tbl)"), "UserActions~Spells~SpellBook");
+    EXPECT_EQ(node(R"(UserActions\NickSpells\NickSpells\Frog.tbl)"), "UserActions~NickSpells~SpellBook");
+    EXPECT_EQ(node(R"(TheArchive\Jukebox\JukeboxItemOfTheWeek.tbl)"), "Jukebox~LinkOfTheWeek");
+    EXPECT_EQ(node(R"(Language\Commands\CommandLanguages.tbl)"), "General~Commands");
+    EXPECT_EQ(node(R"(Language\Commands\Files\DEFAULT.tbl)"), "General~Commands");
+    EXPECT_EQ(node(R"(Language\Messages\Files\DEFAULT.tbl)"), "General~Messages");
+    EXPECT_EQ(node(R"(Language\RightClick\RightClickLanguages.tbl)"), "General~RightClicks");
+    EXPECT_EQ(node(R"(Language\RightClick\Files\DEFAULT.tbl)"), "General~RightClicks");
     EXPECT_EQ(node(R"(No\Such.tbl)"), "");
-    EXPECT_EQ(node(R"(Games\Anagrams\AnagramScores.tbl)"), "") << "the hub script's own";
+    for (const char* own : {R"(Games\Anagrams\AnagramScores.tbl)", R"(Games\Hangman\HangmanPlayers.tbl)",
+                            R"(Games\Trivia\TriviaScores.tbl)", R"(TheArchive\Hyperlink\HyperlinkItems.tbl)"})
+        EXPECT_EQ(node(own), "") << "the hub script's own";
 }
 
 TEST_F(TreeCheck, WritesNothing)

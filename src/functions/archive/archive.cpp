@@ -380,7 +380,8 @@ FunctionDeclaration archiveFunction(std::size_t member)
                          {"txtChangeTime", "Sets the day and time at which the link of the week changes.",
                           memberPath(each, itemOfTheWeek), "sChangeTime"}},
         .texts = [&each](const SettingsFiles& files,
-                         const HubProfiles&) { return placedLinkOfTheWeek(each, files); }};
+                         const HubProfiles&) { return placedLinkOfTheWeek(each, files); },
+        .paths = {memberPath(each, itemOfTheWeek)}};
     return {
         .nodes = {
             {each.word, each.word},

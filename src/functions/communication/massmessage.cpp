@@ -114,7 +114,8 @@ FunctionDeclaration massMessageFunction()
         .explanations =
             {{"lvwPermissions",
               "Lets users of the acting profile send mass messages to users of the target profile."}},
-        .texts = placedMassMessage};
+        .texts = placedMassMessage,
+        .paths = {std::string(passiveMessageFile)}};
     return {
         .nodes = {{"Communication~MassMessage", "Mass Message", {{form, {part}}}}},
         .folders = {R"(Communication\MassMessage)"},

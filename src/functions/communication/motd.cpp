@@ -99,7 +99,8 @@ FunctionDeclaration motdFunction()
             {{"lvwMOTD",
               "Each ticked row is a profile whose users get its message on login, in main chat or by private "
               "message; the last is for everybody."}},
-        .texts = placedMotds};
+        .texts = placedMotds,
+        .paths = {std::string(motdFile), R"(Communication\MOTD\MOTDs\)"}};
     return {.nodes = {{"Communication~MOTD", "Message Of The Day", {{form, {part}}}}},
             .folders = {R"(Communication\MOTD)", R"(Communication\MOTD\MOTDs)"},
             .build = {rebuildMotds}};

@@ -89,12 +89,16 @@ const RowListDeclaration& asciiIntroFiles()
 
 FunctionDeclaration asciiIntrosFunction()
 {
-    const auto lists = [] { return std::vector{asciiIntroUsers(), asciiIntroFiles()}; };
+    const OwnPart part = {.kind = OwnPartKind::AsciiIntros,
+                          .lists =
+                              [] {
+                                  return std::vector{asciiIntroUsers(), asciiIntroFiles()};
+                              },
+                          .paths = {indexFile().path, R"(CustomiseUser\IntroOutro\Ascii\)"}};
     return {.nodes = {{"CustomiseUser~IntroOutro~Ascii",
                        "Ascii",
                        {{{"frmCustomiseUserAsciiIntro", "Customise User ~ Intros & Outros ~ Ascii"},
-                         {DeclaredSettings{asciiIntroSettings},
-                          OwnPart{.kind = OwnPartKind::AsciiIntros, .lists = lists}}}},
+                         {DeclaredSettings{asciiIntroSettings}, part}}},
                        "IntroOutro ~ Ascii"}},
             .build = {RebuiltSettings{asciiIntroSettings}, emptyTable(usersFile()), emptyTable(indexFile())}};
 }

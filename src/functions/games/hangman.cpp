@@ -64,12 +64,14 @@ FunctionDeclaration hangmanFunction()
     const OwnPart gallows = {
         .kind = OwnPartKind::Gallows,
         .explanations = {{"sldAscii", "Chooses the stage of the game whose picture is shown and edited."}},
-        .texts = [](const SettingsFiles& /*files*/, const HubProfiles&) {
-            std::vector<PlacedText> texts;
-            for (int stage = 0; stage <= lastGallowsStage; ++stage)
-                texts.push_back({gallowsFile(stage), "sldAscii", -1, "Ascii", ""});
-            return texts;
-        }};
+        .texts =
+            [](const SettingsFiles& /*files*/, const HubProfiles&) {
+                std::vector<PlacedText> texts;
+                for (int stage = 0; stage <= lastGallowsStage; ++stage)
+                    texts.push_back({gallowsFile(stage), "sldAscii", -1, "Ascii", ""});
+                return texts;
+            },
+        .paths = {R"(Games\Hangman\Ascii\)"}};
     FunctionDeclaration function = quizFunction("Hangman", "Hangman", hangmanSettings);
     function.nodes = {{"Games~Hangman",
                        "Hangman",

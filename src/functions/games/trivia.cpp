@@ -213,7 +213,8 @@ FunctionDeclaration triviaFunction()
                .lists = lists,
                .explanations =
                    {{"cboQuestionFileDefault", {}, std::string(questionFilesPath), std::string(defaultKey)}},
-               .texts = placedQuestions}}}},
+               .texts = placedQuestions,
+               .paths = {std::string(questionFilesPath), R"(Games\Trivia\QuestionFiles\)"}}}}},
          "Trivia ~ Questions"}};
     function.folders.emplace_back(R"(Games\Trivia\QuestionFiles)");
     function.build.emplace_back(makeFirstQuestions);

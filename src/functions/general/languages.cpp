@@ -100,13 +100,16 @@ Node languageNode(const std::string& key, const std::string& caption, std::size_
         return placedLanguageTexts(sets[set], files);
     };
     const auto lists = [set] { return std::vector{languageLists(sets[set]).names}; };
-    return {
-        .key = key,
-        .caption = caption,
-        .form = {{form,
-                  {OwnPart{.kind = OwnPartKind::Languages, .which = set, .lists = lists, .texts = texts}}}},
-        .dropDown = "Language~" + caption,
-        .above = "General~Language"}; // the keys came before their heading
+    const OwnPart part = {.kind = OwnPartKind::Languages,
+                          .which = set,
+                          .lists = lists,
+                          .texts = texts,
+                          .paths = {std::string(sets[set].folder)}};
+    return {.key = key,
+            .caption = caption,
+            .form = {{form, {part}}},
+            .dropDown = "Language~" + caption,
+            .above = "General~Language"}; // the keys came before their heading
 }
 
 } // namespace

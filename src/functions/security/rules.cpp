@@ -32,7 +32,8 @@ FunctionDeclaration rulesFunction()
     const OwnPart part = {
         .kind = OwnPartKind::Rules,
         .explanations = {{"lvwRules", "Each row is a profile with a rules text of its own."}},
-        .texts = placedRules};
+        .texts = placedRules,
+        .paths = {R"(Security\Rules\Ascii\)"}};
     return {.nodes = {{"Security~Rules", "Rules", {{{"frmSecurityRules", "Security ~ Rules"}, {part}}}}},
             .folders = {R"(Security\Rules)", R"(Security\Rules\Ascii)"},
             .build = {makeRules}};

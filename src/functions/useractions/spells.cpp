@@ -82,7 +82,8 @@ FormDeclaration bookForm(const char* name, const char* caption, OwnPartKind kind
     const auto texts = [book](const SettingsFiles& files, const HubProfiles& profiles) {
         return placedPhrases(book(), files, profiles);
     };
-    return {{name, caption, {10500, 6000}}, {OwnPart{.kind = kind, .lists = lists, .texts = texts}}};
+    return {{name, caption, {10500, 6000}},
+            {OwnPart{.kind = kind, .lists = lists, .texts = texts, .paths = {book().folder + '\\'}}}};
 }
 
 } // namespace
