@@ -305,6 +305,8 @@ TEST_F(FindForms, ANickThatThePortalIgnores)
     EXPECT_EQ(found.front().value.text, "Loud");
     EXPECT_EQ(found.front().place.control, "lvwNicks");
     EXPECT_EQ(found.front().place.row, 1);
+    EXPECT_TRUE(
+        finds("portal bridge hub", {"Communication~Portal", "txtTextBox(2)", 0}, "Email", "bridge@hub"));
 }
 
 TEST_F(FindForms, NoPasswordOfThePortal)

@@ -120,10 +120,15 @@ TEST_F(PortalFile, IgnoresTheSystemsOwnBotsByDefault)
     for (const auto function : botFunctions()) {
         if (function != "Main")
             bots += "\t" + botTable(function) + " = {\r\n\t\tsName = \"" +
-                    (function == "Trivia" ? "quizzer" : "Zorro") + "\",\r\n\t},\r\n";
+                    (function == "Trivia"    ? "quizzer"
+                     : function == "Hangman" ? "quiz"
+                     : function == "Numbers" ? "Quizbot"
+                                             : "Zorro") +
+                    "\",\r\n\t},\r\n";
     }
     bots += "}\r\n";
-    EXPECT_EQ(defaultIgnoreNicks(hub.files), (Strings{"quizzer", "Zorro", "\x95Quillfen\x95"}));
+    EXPECT_EQ(defaultIgnoreNicks(hub.files),
+              (Strings{"quiz", "Quizbot", "quizzer", "Zorro", "\x95Quillfen\x95"}));
 }
 
 TEST_F(PortalFile, MissingBotsGiveOneEmptyNick)
