@@ -59,6 +59,11 @@ TEST(FileFindings, OfAFileThatIsKnownNotToLoadNameWhatElseKeepsItFromLoading)
               at(2, "the file won't load: a quote inside the text ends it there"));
 }
 
+TEST(FileFindings, TellOfTheFirstLineToo)
+{
+    EXPECT_EQ(found("t = {\"C:\\new\"}\r\n"), at(1, backslash));
+}
+
 TEST(FileFindings, DoNotSayThatAFileFailsWhichOnlyAProgramCouldTell)
 {
     EXPECT_EQ(found("t = {\r\n\tsText = \"a\"..\"b\",\r\n}\r\n"),

@@ -266,6 +266,12 @@ public:
         EXPECT_TRUE(isBack);
     }
 
+    static bool isOwnerOf(const std::string& file)
+    {
+        struct stat status = {};
+        return stat(file.c_str(), &status) == 0 && status.st_uid == geteuid();
+    }
+
     /// Not where there is no other user than root.
     bool isBound() const { return m_isBound; }
 
@@ -284,6 +290,18 @@ TEST_F(Disk, AFileThatIsClosedToWritersStaysAsItIs)
     ASSERT_EQ(chmod((folder + "/a").c_str(), 0444), 0);
     EXPECT_THROW(disk.write(folder + "/a", "new"), StoreError);
     EXPECT_EQ(disk.read(folder + "/a"), "old");
+}
+
+TEST_F(Disk, AFileOfAnotherUserIsReplacedByOneOfOurs)
+{
+    disk.write(folder + "/a", "old");
+    ASSERT_EQ(chmod((folder + "/a").c_str(), 0666), 0);
+    const BoundUser user(folder);
+    if (!user.isBound() || BoundUser::isOwnerOf(folder + "/a"))
+        GTEST_SKIP() << "there is no other user";
+    disk.write(folder + "/a", "new");
+    EXPECT_EQ(disk.read(folder + "/a"), "new");
+    EXPECT_TRUE(BoundUser::isOwnerOf(folder + "/a"));
 }
 
 TEST_F(Disk, AFileInAFolderThatTakesNoNewOneIsWrittenInPlace)
