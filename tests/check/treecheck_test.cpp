@@ -138,6 +138,16 @@ TEST_F(TreeCheck, FindsEachOfTwelveFaultsWhereItStands)
             R"(Security\Kick\KickSettings.tbl:3: the file won't load: there is no value)"}));
 }
 
+TEST_F(TreeCheck, TellsOfAFileThatNobodyMayRead)
+{
+    build(1);
+    hub.store.unreadable = {hub.root + "/Games/Trivia/TriviaSettings.tbl"};
+    const auto lines = found();
+    ASSERT_EQ(lines.size(), 1U);
+    EXPECT_TRUE(lines[0].starts_with("Games\\Trivia\\TriviaSettings.tbl:0: the file can't be read"))
+        << lines[0];
+}
+
 TEST_F(TreeCheck, HoldsSettingsToWhatTheirFormsDeclare)
 {
     build(1);

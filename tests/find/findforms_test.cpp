@@ -327,6 +327,10 @@ TEST_F(FindForms, NoTextOfAFileThatANameLeadsOutOfItsFolderTo)
     write(R"(UserActions\Spells\SpellBook.tbl)",
           "tSpellBook = {\r\n[\"..\\..\\..\\..\\..\\secret\"] = \"x\",\r\n}");
     EXPECT_TRUE(hits("behind the wall").empty());
+    write(R"(Games\Trivia\TriviaQuestionFiles.tbl)",
+          "tTriviaQuestionFiles = {\r\n\tsDefaultQuestionFile = \"..\\..\\..\\wall\",\r\n}");
+    hub.store.files[hub.root + "/wall.lst"] = "Walls:Who stands behind the wall?*a troll";
+    EXPECT_TRUE(hits("a troll").empty());
 }
 
 TEST_F(FindForms, EachHitLeadsToAFormWithItsKey)

@@ -1,11 +1,13 @@
 #include "store/diskstore.h"
 #include "support/diskfolder.h"
 
+#include <algorithm>
 #include <gtest/gtest.h>
 
 #ifdef _WIN32
 #include <windows.h>
 #else
+#include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 #endif
@@ -304,6 +306,17 @@ TEST_F(Disk, AFileOfAnotherUserIsReplacedByOneOfOurs)
     EXPECT_TRUE(BoundUser::isOwnerOf(folder + "/a"));
 }
 
+TEST_F(Disk, AFileThatIsClosedToReadersIsNotRead)
+{
+    disk.write(folder + "/a", "secret");
+    ASSERT_EQ(chmod((folder + "/a").c_str(), 0), 0);
+    const BoundUser user(folder);
+    if (!user.isBound())
+        GTEST_SKIP() << "nothing is closed to root";
+    EXPECT_EQ(disk.read(folder + "/a"), std::nullopt);
+    EXPECT_EQ(disk.size(folder + "/a"), 6U);
+}
+
 TEST_F(Disk, AFileInAFolderThatTakesNoNewOneIsWrittenInPlace)
 {
     const BoundUser user(folder);
@@ -320,6 +333,19 @@ TEST_F(Disk, AFileInAFolderThatTakesNoNewOneIsWrittenInPlace)
 #endif
 
 #ifdef __linux__
+TEST_F(Disk, WhatIsNoFileIsWrittenToAndNotReplaced)
+{
+    const std::string pipe = folder + "/pipe";
+    ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
+    const int reader = open(pipe.c_str(), O_RDONLY | O_NONBLOCK);
+    disk.write(pipe, "bytes");
+    std::string got(9, ' ');
+    got.resize(static_cast<std::size_t>(std::max<ssize_t>(0, read(reader, got.data(), got.size()))));
+    close(reader);
+    EXPECT_EQ(got, "bytes");
+    EXPECT_TRUE(std::filesystem::is_fifo(pipe));
+}
+
 TEST_F(Disk, AFullDiskIsAFailure)
 {
     try {

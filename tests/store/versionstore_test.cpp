@@ -249,6 +249,13 @@ TEST_F(Versions, AreKeptOrNotWhicheverCallFails)
     EXPECT_EQ(keep("next"), 2U);
 }
 
+TEST_F(Versions, AnEntryThatIsGoneIsForgottenAlready)
+{
+    keep("kept");
+    versions.forget(7);
+    EXPECT_EQ(numbers(), std::vector<unsigned>{1});
+}
+
 TEST_F(Versions, SweepingDeletesBytesThatNoEntryTellsOf)
 {
     keep("kept");
