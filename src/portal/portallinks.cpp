@@ -197,7 +197,7 @@ void PortalLinks::ProcessLinkBuffer(Link link)
 
 void PortalLinks::handleMessages(Link link)
 {
-    while (!m_ended && bLinkBusy) {
+    while (!m_ended) {
         const auto message = at(link).buffer.takeMessage();
         if (!message)
             return;
