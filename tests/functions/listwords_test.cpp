@@ -179,6 +179,22 @@ TEST(ListFields, OfAnAnnouncementAreItsDayHourMinuteAndTheWholeNameOfItsPlace)
               (CellRow{{"Friday", "00:00", "PM"}}));
 }
 
+TEST(ListFields, OfAnAnnouncementAreChosenFromAllDaysHoursAndMinutes)
+{
+    const auto entries = announcements().dialog.entries;
+    ASSERT_EQ(entries.size(), 4U);
+    EXPECT_EQ(entries[0],
+              (Texts{"Sunday", "Monday", "Tuesday", "Wednesday", "Thursday", "Friday", "Saturday"}));
+    ASSERT_EQ(entries[1].size(), 24U);
+    EXPECT_EQ(entries[1][0], "00");
+    EXPECT_EQ(entries[1][9], "09");
+    EXPECT_EQ(entries[1][10], "10");
+    EXPECT_EQ(entries[1][23], "23");
+    ASSERT_EQ(entries[2].size(), 60U);
+    EXPECT_EQ(entries[2][59], "59");
+    EXPECT_EQ(entries[3], (Texts{"Main Chat", "Private Message"}));
+}
+
 TEST(ListFields, OfABotAreAllButItsFunction)
 {
     const RowListDeclaration& list = bots();
