@@ -30,6 +30,7 @@ Found faultsOf(const std::vector<Node>& nodes)
         expect(above.empty() || keys.count(above) > 0, "under no node: " + node.key);
         expect(!node.caption.empty(), "no caption: " + node.key);
         expect(test::isWorded(node.caption), "no words: " + node.caption);
+        expect(test::isWorded(node.dropDown), "no words: " + node.dropDown);
         expect(node.inTree || node.form, "neither in the tree nor a form: " + node.key);
         expect(keys.insert(node.key).second, "key twice: " + node.key);
     }

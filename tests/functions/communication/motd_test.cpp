@@ -43,6 +43,17 @@ TEST_F(Motd, AFreshBuildSendsNothingAndMakesAnEmptyTextForEach)
     EXPECT_EQ(values.size(), 10U);
 }
 
+TEST_F(Motd, HasARowForEachProfileAndABoldOneForAll)
+{
+    settings = "tMOTDSettings = {\r\n\t[0] = {\r\n\t\tbUse = 1,\r\n\t\tbInMain = 1,\r\n\t},\r\n"
+               "\ttAll = {\r\n\t\tbUse = 1,\r\n\t\tbInMain = 0,\r\n\t},\r\n}\r\n";
+    const auto rows = loadMotds(hub.files, hub.profiles);
+    ASSERT_EQ(rows.size(), 5U);
+    EXPECT_EQ(rows[0], (CellRow{{"Unregistered", "PM"}, false, false}));
+    EXPECT_EQ(rows[1], (CellRow{{"Master", "Main"}, true, false}));
+    EXPECT_EQ(rows[4], (CellRow{{"All", "PM"}, true, true}));
+}
+
 TEST_F(Motd, ARebuildKeepsTheProfilesAndSwitchesTheMessageForAllOff)
 {
     settings = golden("communication/MOTDSettings.save.tbl");
