@@ -207,6 +207,11 @@ TEST(ListFields, OfABotAreAllButItsFunction)
 TEST(ListFields, OfACalculationAreItsNumbersBehindItsSign)
 {
     const RowListDeclaration& list = numbersCalculationList();
+    EXPECT_EQ(list.columns, (Texts{"Type", "X Min", "X Max", "Y Min", "Y Max"}));
+    EXPECT_EQ(list.dialog.form, EditForm::FourFields);
+    EXPECT_EQ(list.dialog.editMode, 5) << "all four have to be filled";
+    EXPECT_EQ(list.dialog.labels, (Texts{"X Minimum", "X Maximum", "Y Minimum", "Y Maximum"}));
+    EXPECT_TRUE(list.asksAgain);
     const CellRow row{{"+", "1", "2", "3", "4"}};
     EXPECT_EQ(list.fieldsOf(row), (Texts{"1", "2", "3", "4"}));
     EXPECT_EQ(taken(list, {"5", "6", "7", "8"}, row), (CellRow{{"+", "5", "6", "7", "8"}}));

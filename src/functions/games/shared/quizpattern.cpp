@@ -34,9 +34,9 @@ constexpr QuizFlag quizFlags[] = {
 /// A game's default and range; the game's writer does not write a key without one.
 struct Range
 {
-    int defaultValue = 0;
-    int minimum = 0;
-    int maximum = 0;
+    int defaultValue;
+    int minimum;
+    int maximum;
 };
 
 struct QuizNumber
