@@ -185,6 +185,16 @@ TEST_F(Declarations, OfGridsHaveTheWordsOfTheirSentences)
     EXPECT_EQ(words["True False of"], Found{"frmSecurityRegistration"});
 }
 
+TEST_F(Declarations, AnExplanationThatBelongsToNoKeyIsFound)
+{
+    auto& own = std::get<OwnPart>(form("frmCommunicationPortal").parts.front());
+    own.explanations[0].key = "~sUsername";
+    own.explanations[1].file.clear();
+    const std::string portal = "frmCommunicationPortal: ";
+    EXPECT_EQ(faults(),
+              (Found{portal + "no key: ~sUsername", portal + "a key without its file: txtTextBox(1)"}));
+}
+
 TEST_F(Declarations, AFormOfNoNameOrOfHalfAPixelIsFound)
 {
     form("frmGamesTrivia").form.minimumSize = {150, 151};

@@ -14,6 +14,13 @@ bool isFormName(const std::string& name)
     return std::regex_match(name, shape);
 }
 
+/// A key of a settings file begins with the letter of what it holds: a flag, a number, a text.
+bool isKey(const std::string& key)
+{
+    static const std::regex shape("[bis][A-Z][A-Za-z]*");
+    return std::regex_match(key, shape);
+}
+
 bool isInPixels(const Twips& size)
 {
     constexpr int twipsOfAPixel = 15;
@@ -140,6 +147,7 @@ private:
         for (const ControlExplanation& each : own.explanations) {
             expect(isControlName(each.control), "no name of a control: " + each.control);
             expect(each.file.empty() == each.key.empty(), "a key without its file: " + each.control);
+            expect(each.key.empty() || isKey(each.key), "no key: " + each.key);
         }
     }
 
