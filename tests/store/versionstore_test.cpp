@@ -249,6 +249,31 @@ TEST_F(Versions, AreKeptOrNotWhicheverCallFails)
     EXPECT_EQ(keep("next"), 2U);
 }
 
+/// What lies in users' folders has to be read by every later version.
+TEST(VersionEntries, AreKeptInAFormatThatStays)
+{
+    VersionEntry entry;
+    entry.time = "2026-11-23T00:00:00Z";
+    entry.cause = {"Rebuild\nfrom 5%", Cause::Kind::Rebuild};
+    entry.files = {{"General\\a.tbl", "cbf2-5-0"}, {"General\\b.tbl", ""}};
+    const std::string text = "quillfen version 1\n"
+                             "time 2026-11-23T00:00:00Z\n"
+                             "kind rebuild\n"
+                             "cause Rebuild%0afrom 5%25\n"
+                             "had cbf2-5-0 General\\a.tbl\n"
+                             "hadNot General\\b.tbl\n"
+                             "end\n";
+    EXPECT_EQ(composedEntry(entry), text);
+    entry.cause.kind = Cause::Kind::Save;
+    EXPECT_NE(composedEntry(entry).find("\nkind save\n"), std::string::npos);
+    entry.cause.kind = Cause::Kind::Backup;
+    EXPECT_NE(composedEntry(entry).find("\nkind backup\n"), std::string::npos);
+    const auto parsed = parsedEntry(7, text);
+    ASSERT_TRUE(parsed);
+    EXPECT_EQ(parsed->cause.words, "Rebuild\nfrom 5%");
+    EXPECT_EQ(parsed->files.size(), 2U);
+}
+
 TEST_F(Versions, AnEntryThatIsGoneIsForgottenAlready)
 {
     keep("kept");
