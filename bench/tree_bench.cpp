@@ -194,32 +194,41 @@ std::string profilesOf(int count)
     return std::to_string(count) + " profiles";
 }
 
-void printBoth(const std::string& what, const Figures::Medians& medians, std::optional<double> limit)
+/// How many times as long as its yardstick some work may take.
+struct Limits
 {
-    printPair(what, &medians, limit);
+    std::optional<double> plain{};
+    std::optional<double> waited{};
+    std::optional<double> processor{};
+};
+
+void printEach(const std::string& what, const Figures::Medians& medians, const Limits& limits)
+{
+    printPair(what, &medians, limits.plain);
     const auto counter = [&medians](const char* name) { return medians.counters.at(name).value; };
     printRatio(what + " and waiting for the disk", milliseconds(medians.milliseconds),
-               milliseconds(counter("waitedYardstick")), counter("waitedRatio"), {});
+               milliseconds(counter("waitedYardstick")), counter("waitedRatio"), limits.waited);
     printRatio(what + ", processor time", milliseconds(counter("cpu")), milliseconds(counter("cpuYardstick")),
-               counter("cpuRatio"), limit);
+               counter("cpuRatio"), limits.processor);
 }
 
 void printTable(const Figures& figures)
 {
     for (const int count : profileCounts) {
         if (const auto* build = figures.of("firstBuild/" + std::to_string(count)))
-            printBoth("first build of the tree, " + profilesOf(count) + ", beside copying it", *build, 1.5);
+            printEach("first build of the tree, " + profilesOf(count) + ", beside copying it", *build,
+                      {.waited = 1.5, .processor = 1.5});
     }
     for (const int count : profileCounts) {
         for (const std::string which : {"unchanged", "replaced"}) {
             const auto* rebuild = figures.of("rebuild_" + which + '/' + std::to_string(count));
             if (!rebuild)
                 continue;
-            printBoth("rebuild, " + profilesOf(count) + " (" +
+            printEach("rebuild, " + profilesOf(count) + " (" +
                           number(rebuild->counters.at("files").value, 0) + " files, " +
                           number(rebuild->counters.at("KiB").value, 0) + " KiB, " + which +
                           "), beside writing the same bytes",
-                      *rebuild, count == 64 ? std::optional(3.0) : std::nullopt);
+                      *rebuild, {.plain = count == 64 ? std::optional(3.0) : std::nullopt});
         }
     }
     if (const auto* save = figures.of("saveForm"))
