@@ -207,6 +207,7 @@ TEST(FileFindings, SayWhatComesOfAFileThatIsNotThereOrIsOff)
     EXPECT_EQ(missingFile("A.tbl").words,
               "the file is missing, and the editor shows zeros and empty texts for "
               "it. Restore it and save its form.");
+    EXPECT_EQ(switchedOff("Hangman").line, 0U) << "it is of the whole file";
     EXPECT_EQ(switchedOff("Hangman").words, "Hangman is switched off, so that the hub script does nothing of "
                                             "this. Tick it in General ~ Switches.");
 }
