@@ -61,6 +61,13 @@ TEST_F(Archive, AFreshBuildOfHyperlinkWritesItsSettingsAndTheShiftedRing)
             sameBytes(hyperlink(name), golden(std::string("archive/Hyperlink") + name + ".build.tbl")));
 }
 
+TEST_F(Archive, ALinkOfTheWeekIsSavedWithItsAnnouncements)
+{
+    LinkOfTheWeek link = {"1", "Monday 09:05", {{{"Friday", "18:30", "Main"}}, {{"Sunday", "00:00", "PM"}}}};
+    saveLinkOfTheWeek(arcade(), link, hub.files);
+    EXPECT_TRUE(sameBytes(week, golden("archive/ArcadeItemOfTheWeek.save.tbl")));
+}
+
 TEST_F(Archive, ABuildWritesInTheOrderOfItsSteps)
 {
     build();
