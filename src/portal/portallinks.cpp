@@ -197,7 +197,7 @@ void PortalLinks::ProcessLinkBuffer(Link link)
 
 void PortalLinks::handleMessages(Link link)
 {
-    while (!m_ended) {
+    while (!m_ended && bLinkBusy) {
         const auto message = at(link).buffer.takeMessage();
         if (!message)
             return;

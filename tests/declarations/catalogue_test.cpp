@@ -102,6 +102,19 @@ std::vector<std::string> namesOf(const FormCatalogue& forms,
     return names;
 }
 
+/// The words of all grids, each with its form's name.
+std::vector<std::pair<std::string, GridWords>> gridsOf(const FormCatalogue& forms)
+{
+    std::vector<std::pair<std::string, GridWords>> grids;
+    for (const FormDeclaration& each : forms) {
+        for (const PartDeclaration& part : each.parts) {
+            if (const auto* grid = std::get_if<DeclaredGrid>(&part))
+                grids.emplace_back(each.form.name, grid->words);
+        }
+    }
+    return grids;
+}
+
 TEST_F(Declarations, OfTenFormsHaveNoDefaultsToRestore)
 {
     EXPECT_EQ(namesOf(forms, [](const FormDescription& form) { return !form.hasRestore; }),
@@ -156,12 +169,8 @@ TEST_F(Declarations, OfListsWhoseDialogsHaveAModeOfTheirOwn)
 TEST_F(Declarations, OfGridsHaveTheColumnsOfTheirCells)
 {
     std::map<std::vector<std::string>, std::size_t> columns;
-    for (const FormDeclaration& each : forms) {
-        for (const PartDeclaration& part : each.parts) {
-            if (const auto* grid = std::get_if<DeclaredGrid>(&part))
-                ++columns[grid->words.columns];
-        }
-    }
+    for (const auto& [form, words] : gridsOf(forms))
+        ++columns[words.columns];
     EXPECT_EQ(columns,
               (std::map<std::vector<std::string>, std::size_t>{
                   {{"Command", "By Profile", "On Profile", "Allow To"}, 1},
@@ -173,13 +182,8 @@ TEST_F(Declarations, OfGridsHaveTheColumnsOfTheirCells)
 TEST_F(Declarations, OfGridsHaveTheWordsOfTheirSentences)
 {
     std::map<std::string, std::vector<std::string>> words;
-    for (const FormDeclaration& each : forms) {
-        for (const PartDeclaration& part : each.parts) {
-            if (const auto* grid = std::get_if<DeclaredGrid>(&part))
-                words[grid->words.yes + ' ' + grid->words.no + ' ' + grid->words.targetLink].push_back(
-                    each.form.name);
-        }
-    }
+    for (const auto& [form, grid] : gridsOf(forms))
+        words[grid.yes + ' ' + grid.no + ' ' + grid.targetLink].push_back(form);
     ASSERT_EQ(words.size(), 2U);
     EXPECT_EQ(words["Yes No "].size(), 11U);
     EXPECT_EQ(words["True False of"], Found{"frmSecurityRegistration"});

@@ -150,7 +150,7 @@ TEST_F(FindForms, AnOptionAndTheControlThatIsChosen)
                       "Scoring Type:", "Hint Reduction"));
 }
 
-TEST_F(FindForms, TextsOfOwnPartsBelowWordsAndTheirControl)
+TEST_F(FindForms, TextsOfOwnPartsEachWithWordsAndAControl)
 {
     std::size_t texts = 0;
     for (const FormDeclaration& form : formCatalogue()) {

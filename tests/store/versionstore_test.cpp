@@ -203,15 +203,16 @@ TEST_F(Versions, WhatIsNoEntryIsSkippedAndTold)
     entryFile(3) = "quillfen version 1\n" + std::string(std::size_t{5} << 20U, 'x') + "\nend\n";
     disk.files["/data/v/entries/notes.txt"] = "mine";
     disk.files["/data/v/entries/4000000000"] = entryFile(1);
+    disk.files["/data/v/entries/4294967295"] = entryFile(1);
     disk.files["/data/v/entries/3999999999"] = entryFile(1);
     disk.files["/data/v/entries/0000000004"] = entryFile(1);
     disk.unreadable = {"/data/v/entries/0000000004"};
     const auto list = versions.entries();
     ASSERT_EQ(list.entries.size(), 2U);
     EXPECT_EQ(list.entries.front().number, 3'999'999'999U);
-    EXPECT_EQ(list.skipped,
-              (Names{"0000000002 isn't an entry", "0000000003 is too large for an entry",
-                     "0000000004 can't be read", "4000000000 isn't an entry", "notes.txt isn't an entry"}));
+    EXPECT_EQ(list.skipped, (Names{"0000000002 isn't an entry", "0000000003 is too large for an entry",
+                                   "0000000004 can't be read", "4000000000 isn't an entry",
+                                   "4294967295 isn't an entry", "notes.txt isn't an entry"}));
 }
 
 TEST_F(Versions, AreKeptBesideWhatIsNoEntry)
