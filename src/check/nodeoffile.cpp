@@ -38,6 +38,7 @@ public:
 private:
     /// Settings and lists aside.
     bool showsBesides(const auto& /*of those alone*/) const { return false; }
+    bool showsBesides(const DeclaredList& part) const { return liesIn(part.folder, m_file); }
     bool showsBesides(const DeclaredTexts& part) const { return liesIn(part.folder, m_file); }
     bool showsBesides(const DeclaredTicks& part) const { return part.ticks().file.path == m_file; }
     bool showsBesides(const DeclaredText& part) const { return part.path == m_file; }

@@ -47,9 +47,9 @@ std::vector<RowListDeclaration> listsOf(const PartDeclaration& part, const HubPr
     return std::visit(ListsOf{profiles}, part);
 }
 
-DeclaredList listPart(std::function<RowListDeclaration()> list, ListPartKind kind)
+DeclaredList listPart(std::function<RowListDeclaration()> list, ListPartKind kind, std::string folder)
 {
-    return {[list = std::move(list)](const HubProfiles&) { return list(); }, kind};
+    return {[list = std::move(list)](const HubProfiles&) { return list(); }, kind, std::move(folder)};
 }
 
 FormDeclaration settingsForm(const FormDescription& form, std::function<TableFile()> file)

@@ -101,6 +101,7 @@ struct DeclaredList
 {
     std::function<RowListDeclaration(const HubProfiles&)> list;
     ListPartKind kind = ListPartKind::Plain;
+    std::string folder{}; ///< a told path: where the files lie that its rows name
 };
 
 /// Lists side by side that are saved together.
@@ -206,7 +207,8 @@ std::vector<TableFile> settingsFilesOf(const PartDeclaration& part);
 std::vector<RowListDeclaration> listsOf(const PartDeclaration& part, const HubProfiles& profiles);
 
 /// A list that is the same at every hub.
-DeclaredList listPart(std::function<RowListDeclaration()> list, ListPartKind kind = ListPartKind::Plain);
+DeclaredList listPart(std::function<RowListDeclaration()> list, ListPartKind kind = ListPartKind::Plain,
+                      std::string folder = {});
 
 /// A form of one settings file.
 FormDeclaration settingsForm(const FormDescription& form, std::function<TableFile()> file);

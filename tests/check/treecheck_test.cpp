@@ -220,6 +220,7 @@ TEST_F(TreeCheck, KnowsTheNodeWhoseFormShowsAFile)
     EXPECT_EQ(node(R"(Games\Trivia\TriviaQuestionFiles.tbl)"), "Games~Trivia~Questions");
     EXPECT_EQ(node(R"(Games\Trivia\QuestionFiles\music.lst)"), "Games~Trivia~Questions");
     EXPECT_EQ(node(R"(Security\Rules\Ascii\-1.asc)"), "Security~Rules");
+    EXPECT_EQ(node(R"(UserActions\Ascii\Ascii\one.asc)"), "UserActions~Ascii");
     EXPECT_EQ(node(R"(UserActions\Spells\Spells\Frog.tbl)"), "UserActions~Spells~SpellBook");
     EXPECT_EQ(node(R"(UserActions\NickSpells\NickSpells\Frog.tbl)"), "UserActions~NickSpells~SpellBook");
     EXPECT_EQ(node(R"(TheArchive\Jukebox\JukeboxItemOfTheWeek.tbl)"), "Jukebox~LinkOfTheWeek");

@@ -83,7 +83,7 @@ FunctionDeclaration asciiFunction()
                        "Ascii",
                        {{{"frmUserActionsAscii", "User Actions ~ Ascii", {9000, 7500}},
                          {DeclaredSettings{asciiSettings},
-                          listPart(asciiPictures, ListPartKind::AsciiPictures)}}}}},
+                          listPart(asciiPictures, ListPartKind::AsciiPictures, std::string(asciiFolder))}}}}},
             .folders = {R"(UserActions\Ascii)", std::string(asciiFolder)},
             .build = {RebuiltSettings{asciiSettings},
                       EmptyTable{std::string(indexPath), std::string(indexTable)}}};
