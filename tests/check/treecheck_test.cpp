@@ -1,10 +1,8 @@
 #include "check/checkcommand.h"
 #include "check/nodeoffile.h"
 #include "check/treecheck.h"
-#include "declarations/rebuild.h"
-#include "functions/catalogue.h"
 #include "store/diskstore.h"
-#include "support/hub.h"
+#include "support/freshtree.h"
 
 #include <filesystem>
 #include <gtest/gtest.h>
@@ -25,15 +23,7 @@ protected:
         std::string& bytes = hub.store.files["/hub/cfg/Profiles.xml"];
         for (int profile = 0; profile < profiles; ++profile)
             bytes += "<Name>P" + std::to_string(profile) + "</Name>\r\n";
-        rebuild("5.2.0");
-    }
-
-    void rebuild(const std::string& version)
-    {
-        hub.profiles = {};
-        reconcileSettings(
-            {hub.files, folderCatalogue(), version, [](const RebuildQuestion&) { return true; }},
-            hub.profiles);
+        test::buildTree(hub);
     }
 
     /// Each finding with the first words of what is told of it.
@@ -87,7 +77,7 @@ TEST_P(TreeCheckOfProfiles, FindsNothingInAFreshTreeNorInARebuiltOne)
 {
     build(GetParam());
     EXPECT_EQ(found(), Lines{});
-    rebuild("5.3.0");
+    test::buildTree(hub, "5.3.0");
     EXPECT_EQ(found(), Lines{});
 }
 
@@ -254,8 +244,7 @@ TEST(SampleHub, HasNoFindingsOnceItsTreeIsBuilt)
     DiskStore disk;
     const SettingsFiles files(disk, SettingsPaths((folder / "scripts").string()));
     HubProfiles profiles;
-    reconcileSettings({files, folderCatalogue(), "5.2.0", [](const RebuildQuestion&) { return true; }},
-                      profiles);
+    test::buildTree(files, profiles);
     std::ostringstream out;
     EXPECT_EQ(runCheck(disk, "/elsewhere", {files.paths().settingsRoot()}, out, out), AllLoads);
     EXPECT_EQ(out.str(), "");

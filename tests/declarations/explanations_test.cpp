@@ -8,6 +8,7 @@
 #include <cctype>
 #include <gtest/gtest.h>
 #include <map>
+#include <set>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -77,6 +78,11 @@ private:
     std::vector<Explained> m_found{};
 };
 
+std::string groupOf(const Node& node)
+{
+    return node.key.substr(0, node.key.find('~'));
+}
+
 /// How many of each kind have no sentence, by the group of their form's node.
 using Unexplained = std::map<std::string, std::map<std::string, std::size_t>>;
 
@@ -88,7 +94,7 @@ Unexplained unexplainedOf(const std::vector<Node>& nodes, const HubProfiles& pro
             continue;
         for (const Explained& each : FormWalk(*node.form, profiles).take()) {
             if (each.sentence.empty())
-                ++all[node.key.substr(0, node.key.find('~'))][each.kind];
+                ++all[groupOf(node)][each.kind];
         }
     }
     return all;
@@ -222,6 +228,20 @@ TEST_F(Explanations, AreASentenceEach)
         found.insert(found.end(), faults.begin(), faults.end());
     }
     EXPECT_EQ(found, std::vector<std::string>());
+}
+
+TEST_F(Explanations, OfTheGridsOfAGroupDiffer)
+{
+    std::set<std::pair<std::string, std::string>> told;
+    for (const Node& node : functionNodes()) {
+        if (!node.form)
+            continue;
+        for (const Explained& each : FormWalk(*node.form, hub.profiles).take()) {
+            const bool isNew = each.kind != "grids" || told.emplace(groupOf(node), each.sentence).second;
+            EXPECT_TRUE(isNew) << node.key;
+        }
+    }
+    EXPECT_EQ(told.count({"Hyperlink", "Gives the profile the right clicks of this kind."}), 1U);
 }
 
 TEST_F(Explanations, OfListsThatOwnPartsMakeAreASentenceEach)

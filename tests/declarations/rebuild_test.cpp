@@ -2,7 +2,7 @@
 #include "declarations/rebuild.h"
 #include "functions/catalogue.h"
 #include "support/binaryprofiles.h"
-#include "support/hub.h"
+#include "support/freshtree.h"
 #include "support/lua.h"
 
 #include <algorithm>
@@ -378,11 +378,7 @@ TEST_F(Start, TheSavedCopyIsReadBelowTheHubsScriptsAndNotBelowTheProgramsFolder)
 {
     hub.store.folders.insert({"/hub/other", "/hub/other/Morvaleth's Quillfen"});
     const SettingsFiles files{hub.store, SettingsPaths("/hub/other")};
-    const auto start = [&] {
-        hub.profiles = {};
-        return reconcileSettings(
-            {files, folderCatalogue(), version, [](const RebuildQuestion&) { return true; }}, hub.profiles);
-    };
+    const auto start = [&] { return test::buildTree(files, hub.profiles, version); };
     setProfiles(1);
     EXPECT_EQ(start(), StartResult::Rebuilt);
     EXPECT_EQ(start(), StartResult::Rebuilt) << "its own copy is not the one that is read";
@@ -435,9 +431,7 @@ TEST_F(Start, AFailureAtAnyCallStopsThereAndNamesTheFile)
         fresh.store.files[hubFile] = "<Name>P0</Name>\r\n";
         fresh.store.failingCall = failing;
         try {
-            reconcileSettings(
-                {fresh.files, folderCatalogue(), version, [](const RebuildQuestion&) { return true; }},
-                fresh.profiles);
+            test::buildTree(fresh, version);
             FAIL() << "no error at call " << failing;
         } catch (const StoreError& error) {
             EXPECT_TRUE(hub.store.log[static_cast<std::size_t>(failing)].ends_with(" " + error.path()));

@@ -1,9 +1,8 @@
-#include "declarations/rebuild.h"
 #include "find/findforms.h"
 #include "functions/catalogue.h"
 #include "support/declarationfaults.h"
+#include "support/freshtree.h"
 #include "support/golden.h"
-#include "support/hub.h"
 
 #include <algorithm>
 #include <gtest/gtest.h>
@@ -19,9 +18,7 @@ protected:
     {
         hub.store.files["/hub/cfg/Profiles.xml"] =
             "<Name>Master</Name>\r\n<Name>Operator</Name>\r\n<Name>VIP</Name>\r\n";
-        reconcileSettings(
-            {hub.files, folderCatalogue(), "5.2.0", [](const RebuildQuestion&) { return true; }},
-            hub.profiles);
+        test::buildTree(hub);
     }
 
     std::vector<FindHit> hits(const std::string& typed) const

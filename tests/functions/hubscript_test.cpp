@@ -1,14 +1,13 @@
 // What the hub script sees: every file of the tree, loaded by Lua 5.1.
 #include "advice/notloading.h"
-#include "declarations/rebuild.h"
 #include "functions/archive/archive.h"
 #include "functions/catalogue.h"
 #include "functions/general/settings.h"
 #include "functions/general/switches.h"
 #include "lua/tablereader.h"
 #include "portal/portalsettings.h"
+#include "support/freshtree.h"
 #include "support/golden.h"
-#include "support/hub.h"
 #include "support/lua.h"
 #include "support/realluas/refusal.h"
 
@@ -24,8 +23,7 @@ TEST(HubScript, LoadsEveryTableOfAFreshTreeButThoseThatAreKnownNotTo)
 {
     test::Hub hub;
     hub.store.files["/hub/cfg/Profiles.xml"] = "<Name>Master</Name>\r\n<Name>Reg</Name>\r\n";
-    reconcileSettings({hub.files, folderCatalogue(), "5.2.0", [](const RebuildQuestion&) { return true; }},
-                      hub.profiles);
+    test::buildTree(hub);
     int loaded = 0;
     for (const auto& [path, bytes] : hub.store.files) {
         if (!path.ends_with(".tbl"))
@@ -65,8 +63,7 @@ TEST(HubScript, LoadsEveryTableOfASavedTreeButThoseThatAreKnownNotTo)
 {
     test::Hub hub;
     hub.store.files["/hub/cfg/Profiles.xml"] = "<Name>Master</Name>\r\n<Name>Reg</Name>\r\n";
-    reconcileSettings({hub.files, folderCatalogue(), "5.2.0", [](const RebuildQuestion&) { return true; }},
-                      hub.profiles);
+    test::buildTree(hub);
     hub.store.folders.insert(hub.root + "/Communication/Portal");
     saveWhatWontLoad(hub);
     std::map<std::string, std::string> failing;
@@ -91,15 +88,7 @@ protected:
         std::string& bytes = hub.store.files["/hub/cfg/Profiles.xml"];
         for (int profile = 0; profile < GetParam(); ++profile)
             bytes += "<Name>P" + std::to_string(profile) + "</Name>\r\n";
-        build("5.2.0");
-    }
-
-    void build(const std::string& version)
-    {
-        hub.profiles = {};
-        reconcileSettings(
-            {hub.files, folderCatalogue(), version, [](const RebuildQuestion&) { return true; }},
-            hub.profiles);
+        test::buildTree(hub);
     }
 
     /// Holds the reader to what both Luas say of each file.
@@ -127,7 +116,7 @@ INSTANTIATE_TEST_SUITE_P(Profiles, TreeOfAHub, testing::Values(1, 5, 64),
 TEST_P(TreeOfAHub, IsReadAsBothLuasReadIt)
 {
     expectTheSameOfEachFile();
-    build("5.3.0");
+    test::buildTree(hub, "5.3.0");
     expectTheSameOfEachFile();
 }
 

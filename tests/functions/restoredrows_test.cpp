@@ -1,7 +1,6 @@
 // The rows that RESTORE shows in lists.
-#include "declarations/rebuild.h"
 #include "functions/catalogue.h"
-#include "support/hub.h"
+#include "support/freshtree.h"
 
 #include <algorithm>
 #include <gtest/gtest.h>
@@ -31,9 +30,7 @@ protected:
     RestoredRows()
     {
         hub.store.files["/hub/cfg/Profiles.xml"] = "<Name>Master</Name>\r\n<Name>VIP</Name>\r\n";
-        reconcileSettings(
-            {hub.files, folderCatalogue(), "5.2.0", [](const RebuildQuestion&) { return true; }},
-            hub.profiles);
+        test::buildTree(hub);
     }
 
     /// The lists whose rows are restored so that this is true of them and of the rows of a fresh tree.

@@ -7,6 +7,7 @@
 #include "store/history.h"
 #include "support/diskfolder.h"
 #include "support/faultycalls.h"
+#include "support/freshtree.h"
 
 #include <algorithm>
 #include <random>
@@ -51,10 +52,7 @@ protected:
             hub.store.files["/hub/cfg/Profiles.xml"] += "<Name>P" + std::to_string(profile) + "</Name>\r\n";
         const std::string profiles = hub.store.files["/hub/cfg/Profiles.xml"];
         hub.store.log.clear();
-        hub.profiles = {};
-        reconcileSettings(
-            {hub.files, folderCatalogue(), "5.2.0", [](const RebuildQuestion&) { return true; }},
-            hub.profiles);
+        test::buildTree(hub);
         remember({"Rebuild", Cause::Kind::Rebuild});
         EXPECT_GT(saves.back().changes.size(), 10U);
     }

@@ -5,6 +5,7 @@
 #include "shell/kit/rowlist.h"
 #include "shell/kit/textedit.h"
 #include "support/formtest.h"
+#include "support/freshtree.h"
 #include "support/navigatornames.h"
 
 #include <QCheckBox>
@@ -36,10 +37,7 @@ protected:
             text += "<Name>Profile " + std::to_string(profile) + "</Name>\r\n";
         hub.store.files["/hub/cfg/Profiles.xml"] = text;
         hub.store.files.erase(hub.root + "/General/Globals/Version.tbl");
-        hub.profiles = {};
-        reconcileSettings(
-            {hub.files, folderCatalogue(), "5.2.0", [](const RebuildQuestion&) { return true; }},
-            hub.profiles);
+        test::buildTree(hub);
     }
 
     static bool isOfTheForm(const QWidget& widget)

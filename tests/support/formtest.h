@@ -1,12 +1,11 @@
 #pragma once
 
 #include "check/functionfacts.h"
-#include "declarations/rebuild.h"
 #include "functions/catalogue.h"
 #include "functions/ownparts.h"
 #include "shell/window/mainwindow.h"
 #include "support/boxes.h"
-#include "support/hub.h"
+#include "support/freshtree.h"
 
 #include <QAbstractItemView>
 #include <QAction>
@@ -37,9 +36,7 @@ protected:
     {
         hub.store.files["/hub/cfg/Profiles.xml"] =
             "<Name>Master</Name>\r\n<Name>Operator</Name>\r\n<Name>VIP</Name>\r\n";
-        reconcileSettings(
-            {hub.files, folderCatalogue(), "5.2.0", [](const RebuildQuestion&) { return true; }},
-            hub.profiles);
+        buildTree(hub);
     }
 
     /// The main window, made at the first call.

@@ -8,10 +8,7 @@ namespace {
 
 constexpr const char* anagramWordsPath = R"(Games\Anagrams\AnagramWords.lst)";
 
-setting::Field anagramQuiz(const std::string& key, const std::string& control)
-{
-    return quizSetting(QuizGame::Anagrams, key, control);
-}
+constexpr QuizPattern anagramQuiz{QuizGame::Anagrams};
 
 } // namespace
 

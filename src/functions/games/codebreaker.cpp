@@ -7,10 +7,7 @@ namespace {
 
 constexpr const char* allDigits = "0123456789";
 
-setting::Field codeBreakerQuiz(const std::string& key, const std::string& control)
-{
-    return quizSetting(QuizGame::CodeBreaker, key, control);
-}
+constexpr QuizPattern codeBreakerQuiz{QuizGame::CodeBreaker};
 
 } // namespace
 

@@ -5,10 +5,7 @@
 namespace quillfen {
 namespace {
 
-setting::Field guessTheNumberQuiz(const std::string& key, const std::string& control)
-{
-    return quizSetting(QuizGame::GuessTheNumber, key, control);
-}
+constexpr QuizPattern guessTheNumberQuiz{QuizGame::GuessTheNumber};
 
 /// This game's captions of the two counts of scores go the other way round from the other games'.
 setting::Field captioned(setting::Field field, const char* label)

@@ -8,10 +8,7 @@ namespace {
 
 constexpr const char* hangmanWordsPath = R"(Games\Hangman\HangmanWords.lst)";
 
-setting::Field hangmanQuiz(const std::string& key, const std::string& control)
-{
-    return quizSetting(QuizGame::Hangman, key, control);
-}
+constexpr QuizPattern hangmanQuiz{QuizGame::Hangman};
 
 /// A box that other games have is on this form too; the file has no such key.
 Setting idleBonusTime()

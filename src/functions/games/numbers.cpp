@@ -19,10 +19,7 @@ constexpr std::string_view calculationsExplained =
     "Sets the ranges of the two numbers from which questions are made on the fly, for each type of "
     "calculation.";
 
-setting::Field numbersQuiz(const std::string& key, const std::string& control)
-{
-    return quizSetting(QuizGame::Numbers, key, control);
-}
+constexpr QuizPattern numbersQuiz{QuizGame::Numbers};
 
 Setting questionCount()
 {

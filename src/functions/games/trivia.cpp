@@ -17,10 +17,7 @@ constexpr std::string_view questionFilesPath = R"(Games\Trivia\TriviaQuestionFil
 constexpr std::string_view questionFilesTable = "tTriviaQuestionFiles";
 constexpr std::string_view defaultKey = "sDefaultQuestionFile";
 
-setting::Field triviaQuiz(const std::string& key, const std::string& control)
-{
-    return quizSetting(QuizGame::Trivia, key, control);
-}
+constexpr QuizPattern triviaQuiz{QuizGame::Trivia};
 
 /// A group of the form's option buttons, which are counted through.
 Setting optionsFrom(int firstButton, const char* key, const char* label, int defaultValue,

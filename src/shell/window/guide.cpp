@@ -15,7 +15,7 @@ QString guidePage(const NavigatorTable& table, const QString& key)
     QString group = key;
     while (!table.parentKey(group).isEmpty())
         group = table.parentKey(group);
-    const QString section = isArchive(group) ? QStringLiteral("The Archive") : table.caption(group);
+    const QString section = isFunctionGroup(group) ? table.caption(group) : QStringLiteral("The Archive");
     return "sections/" + section.toLower().replace(' ', '-') + ".html";
 }
 

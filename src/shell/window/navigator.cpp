@@ -39,14 +39,6 @@ QTreeWidgetItem* node(const QString& key, const QString& caption, bool bold)
     return item;
 }
 
-/// The groups that "EXPAND" opens; deeper nodes and the archive stay as they are.
-bool isExpandedGroup(const QString& key)
-{
-    static const QStringList groups = {"General", "Communication", "CustomiseUser",
-                                       "Games",   "Security",      "UserActions"};
-    return groups.contains(key);
-}
-
 /// So many functions that were opened last are offered.
 constexpr qsizetype mostOpened = 12;
 
@@ -272,7 +264,7 @@ void Navigator::choose()
 void Navigator::expandGroups()
 {
     for (QTreeWidgetItemIterator item(m_tree); *item; ++item) {
-        if (isExpandedGroup(keyOf(**item)))
+        if (isFunctionGroup(keyOf(**item))) // deeper nodes and the archive stay as they are
             (*item)->setExpanded(true);
     }
 }

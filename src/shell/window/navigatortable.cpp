@@ -34,11 +34,11 @@ NavigatorTable::NavigatorTable(const std::vector<Node>& nodes)
     m_formKeys += withoutNode;
 }
 
-bool isArchive(const QString& group)
+bool isFunctionGroup(const QString& key)
 {
-    static const QStringList others = {"General", "Communication", "CustomiseUser",
+    static const QStringList groups = {"General", "Communication", "CustomiseUser",
                                        "Games",   "Security",      "UserActions"};
-    return !others.contains(group);
+    return groups.contains(key);
 }
 
 QString captionOfKey(const QString& key)

@@ -67,8 +67,8 @@ private:
     QHash<QString, QString> m_keys; ///< by the form's name
 };
 
-/// Whether a group is one of the archive's members, which are alike.
-bool isArchive(const QString& group);
+/// Whether a key is of one of the groups whose functions differ: not of an archive's member, and no node's.
+bool isFunctionGroup(const QString& key);
 
 /// "General~Settings" as it is shown: "General ~ Settings".
 QString captionOfKey(const QString& key);

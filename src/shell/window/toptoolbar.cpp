@@ -59,7 +59,7 @@ void TopToolbar::insertGroup(const NavigatorTable& table, const NavigatorRow& ro
     action->setMenu(menu);
     qobject_cast<QToolButton*>(widgetForAction(action))->setPopupMode(QToolButton::MenuButtonPopup);
     connect(menu, &QMenu::triggered, this, [this](QAction* entry) { emit formChosen(entry->objectName()); });
-    if (!isArchive(group)) // on its members' buttons only the arrow works
+    if (isFunctionGroup(group)) // on those of the archive's members only the arrow works
         connect(action, &QAction::triggered, this, [this, group] { walk(group); });
 }
 

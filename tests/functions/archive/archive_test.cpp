@@ -1,8 +1,6 @@
-#include "declarations/rebuild.h"
 #include "functions/archive/archive.h"
-#include "functions/catalogue.h"
+#include "support/freshtree.h"
 #include "support/golden.h"
-#include "support/hub.h"
 #include "support/lua.h"
 
 #include <gtest/gtest.h>
@@ -49,6 +47,16 @@ TEST_F(Archive, HasSixMembers)
         words += member.word + " ";
     EXPECT_EQ(words, "Bookshelf DVDRack Jukebox Songbook Arcade Hyperlink ");
     EXPECT_EQ(arcade().word, "Arcade");
+}
+
+TEST_F(Archive, NewItemsAreLinksInHyperlinkAlone)
+{
+    for (const ArchiveMember& member : archiveMembers()) {
+        const std::string items = member.word == "Hyperlink" ? "Links" : "Items";
+        const TableFile file = newItems(member);
+        EXPECT_EQ(std::get<setting::Field>(file.settings[0]).label, "Enable New " + items);
+        EXPECT_EQ(std::get<setting::Field>(file.settings[1]).label, "Max Number Of New " + items);
+    }
 }
 
 TEST_F(Archive, AFreshBuildOfHyperlinkWritesItsSettingsAndTheShiftedRing)
@@ -160,8 +168,7 @@ TEST_F(Archive, TheOtherMembersHaveNoDefaultFiles)
 {
     test::Hub fresh;
     fresh.store.files["/hub/cfg/Profiles.xml"] = "<Name>Master</Name>\r\n";
-    reconcileSettings({fresh.files, folderCatalogue(), "5.2.0", [](const RebuildQuestion&) { return true; }},
-                      fresh.profiles);
+    test::buildTree(fresh);
     int files = 0;
     for (const auto& [path, bytes] : fresh.store.files) {
         if (path.find("/TheArchive/") != std::string::npos) {

@@ -1,9 +1,7 @@
-#include "declarations/rebuild.h"
-#include "functions/catalogue.h"
 #include "functions/communication/hubemail.h"
 #include "functions/communication/whisper.h"
+#include "support/freshtree.h"
 #include "support/golden.h"
-#include "support/hub.h"
 #include "support/lua.h"
 
 #include <gtest/gtest.h>
@@ -39,8 +37,7 @@ TEST_F(Whisper, ARebuildKeepsTheValue)
 TEST(HubEmail, HasNeitherFolderNorFileAfterABuild)
 {
     test::Hub hub;
-    reconcileSettings({hub.files, folderCatalogue(), "5.2.0", [](const RebuildQuestion&) { return true; }},
-                      hub.profiles);
+    test::buildTree(hub);
     EXPECT_FALSE(hub.store.exists(hub.root + "/Communication/HubEmail"));
     EXPECT_TRUE(hub.has("Communication/Whisper/WhisperSettings.tbl"));
 }

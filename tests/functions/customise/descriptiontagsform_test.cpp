@@ -1,5 +1,5 @@
-#include "declarations/rebuild.h"
 #include "functions/customise/customiseformtest.h"
+#include "support/freshtree.h"
 
 namespace quillfen {
 namespace {
@@ -49,10 +49,8 @@ TEST_F(DescriptionTagsForm, ASaveLosesTheFlagWhichTheNextRebuildWritesAgain)
     save(form);
     EXPECT_TRUE(sameBytes(settings, golden("DescriptionTagSettings.save.tbl")));
     EXPECT_EQ(luaValues(settings).count("tDescriptionTagSettings.bNotifyOps"), 0U);
-    hub.profiles = HubProfiles();
     hub.store.files["/hub/cfg/Profiles.xml"] += "<Name>Reg</Name>\r\n";
-    reconcileSettings({hub.files, folderCatalogue(), "5.2.0", [](const RebuildQuestion&) { return true; }},
-                      hub.profiles);
+    test::buildTree(hub);
     EXPECT_TRUE(sameBytes(settings, golden("DescriptionTagSettings.rebuild.tbl")));
 }
 

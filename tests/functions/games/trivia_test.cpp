@@ -213,7 +213,7 @@ TEST(QuizPattern, EachGameHasItsOwnDefaultsAndRanges)
         for (int game = 0; game < 6; ++game) {
             if (*row.cells[game] == '\0')
                 continue;
-            const setting::Field field = quizSetting(static_cast<QuizGame>(game), row.key, "txtUpDown(3)");
+            const setting::Field field = QuizPattern{static_cast<QuizGame>(game)}(row.key, "txtUpDown(3)");
             const auto& number = std::get<setting::Number>(field.kind);
             EXPECT_EQ(std::to_string(number.defaultValue) + " (" + std::to_string(number.minimum) + "-" +
                           std::to_string(number.maximum) + ")",

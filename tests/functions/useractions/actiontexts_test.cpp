@@ -1,8 +1,6 @@
-#include "declarations/rebuild.h"
-#include "functions/catalogue.h"
 #include "functions/useractions/actiontexts.h"
+#include "support/freshtree.h"
 #include "support/golden.h"
-#include "support/hub.h"
 #include "support/lua.h"
 
 #include <gtest/gtest.h>
@@ -66,8 +64,7 @@ TEST_F(ActionTexts, AreBuiltWithTheTree)
 {
     test::Hub fresh;
     fresh.store.files["/hub/cfg/Profiles.xml"] = "<Name>Master</Name>\r\n";
-    reconcileSettings({fresh.files, folderCatalogue(), "5.2.0", [](const RebuildQuestion&) { return true; }},
-                      fresh.profiles);
+    test::buildTree(fresh);
     for (const auto& [path, name] : files)
         EXPECT_TRUE(fresh.has(path)) << path;
 }

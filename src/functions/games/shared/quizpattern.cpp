@@ -92,7 +92,7 @@ std::string captionOf(QuizGame game, const QuizNumber& quizNumber)
 
 } // namespace
 
-setting::Field quizSetting(QuizGame game, const std::string& key, const std::string& control)
+setting::Field QuizPattern::operator()(const std::string& key, const std::string& control) const
 {
     const auto* const found = std::find_if(std::begin(quizNumbers), std::end(quizNumbers),
                                            [&key](const QuizNumber& each) { return each.key == key; });

@@ -19,9 +19,15 @@ enum class QuizGame
     GuessTheNumber
 };
 
-/// A number of the pattern with the caption, default and range that it has in this game, in the control of
-/// that name. Numbers are changed by their arrows and not typed.
-setting::Field quizSetting(QuizGame game, const std::string& key, const std::string& control);
+/// The numbers of the pattern as they are in one game.
+struct QuizPattern
+{
+    QuizGame game;
+
+    /// The number of that key with this game's caption, default and range, in the control of that name. It is
+    /// changed by its arrows and not typed.
+    setting::Field operator()(const std::string& key, const std::string& control) const;
+};
 
 /// The six flags with which every game's settings start, in the check boxes 0 to 5 of that array, and the
 /// game's further settings behind them.
