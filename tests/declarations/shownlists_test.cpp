@@ -2,7 +2,9 @@
 #include "functions/catalogue.h"
 #include "support/hub.h"
 
+#include <functional>
 #include <gtest/gtest.h>
+#include <map>
 #include <ostream>
 #include <string>
 #include <vector>
@@ -40,20 +42,49 @@ std::string joined(const std::vector<std::string>& texts)
     return all;
 }
 
-std::vector<ShownList> declaredLists()
+void forEachList(const std::function<void(const std::string& form, const RowListDeclaration&)>& take)
 {
-    const test::Hub hub;
-    std::vector<ShownList> lists;
+    test::Hub hub;
+    hub.profiles.add("Master");
     for (const FormDeclaration& form : formCatalogue()) {
         for (const PartDeclaration& part : form.parts) {
-            for (const RowListDeclaration& list : listsOf(part, hub.profiles)) {
-                const RowDialog& dialog = list.dialog;
-                lists.push_back({form.form.name, list.list, list.label, joined(list.columns), dialog.form,
-                                 dialog.addTitle, dialog.editTitle, joined(dialog.labels)});
-            }
+            for (const RowListDeclaration& list : listsOf(part, hub.profiles))
+                take(form.form.name, list);
         }
     }
+}
+
+std::vector<ShownList> declaredLists()
+{
+    std::vector<ShownList> lists;
+    forEachList([&lists](const std::string& form, const RowListDeclaration& list) {
+        const RowDialog& dialog = list.dialog;
+        lists.push_back({form, list.list, list.label, joined(list.columns), dialog.form, dialog.addTitle,
+                         dialog.editTitle, joined(dialog.labels)});
+    });
     return lists;
+}
+
+/// What something of each list is, where it isn't empty, by the list's form and name.
+std::map<std::string, std::string>
+thoseWith(const std::function<std::string(const RowListDeclaration&)>& something)
+{
+    std::map<std::string, std::string> all;
+    forEachList([&](const std::string& form, const RowListDeclaration& list) {
+        const std::string found = something(list);
+        if (!found.empty())
+            all[form + ' ' + list.list] = found;
+    });
+    return all;
+}
+
+/// The numbers from 00 to that one.
+std::string twoDigitsTo(int last)
+{
+    std::string all;
+    for (int number = 0; number <= last; ++number)
+        all += (number > 0 ? " | " : "") + std::string(number < 10 ? "0" : "") + std::to_string(number);
+    return all;
 }
 
 std::vector<ShownList> toldLists()
@@ -191,6 +222,67 @@ TEST(ShownLists, AreThoseThatAreTold)
     ASSERT_EQ(declared.size(), told.size());
     for (std::size_t at = 0; at < told.size(); ++at)
         EXPECT_EQ(declared[at], told[at]);
+}
+
+using Told = std::map<std::string, std::string>;
+
+TEST(ShownLists, OfferTheirEntriesInTheirOrder)
+{
+    Told told = {
+        {"frmCustomiseUserCustomRightClick lvwCustomRightClicks",
+         "Unregistered | Master | Operators Only | All Profiles; Hub | Users | Hub & Users | Search; "},
+        {"frmSecurityClientCheckerSettings lvwClients", "True | False; "},
+        {"frmSecuritySearchSpy lvwFiles", "Disconnect | Warn | Notify Ops | Kick | Ban; "}};
+    for (const char* collection : {"Bookshelf", "DVDRack", "Jukebox", "Songbook", "Arcade", "Hyperlink"})
+        told["frm" + std::string(collection) + "Week lvwWeek"] =
+            "Sunday | Monday | Tuesday | Wednesday | Thursday | Friday | Saturday; " + twoDigitsTo(23) +
+            "; " + twoDigitsTo(59) + "; Main Chat | Private Message; ";
+    EXPECT_EQ(thoseWith([](const RowListDeclaration& list) {
+                  std::string all;
+                  for (const auto& entries : list.dialog.entries)
+                      all += joined(entries) + "; ";
+                  return all;
+              }),
+              told);
+}
+
+TEST(ShownLists, OfWhichFewHaveTicksHiddenColumnsOrValuesForANewRow)
+{
+    EXPECT_EQ(
+        thoseWith([](const RowListDeclaration& list) { return std::string(list.ticks ? "ticks" : ""); }),
+        (Told{{"frmCommunicationRotatingMainMessage lvwFiles", "ticks"},
+              {"frmCommunicationRotatingPrivateMessage lvwFiles", "ticks"},
+              {"frmCustomiseUserCustomRightClick lvwCustomRightClicks", "ticks"},
+              {"frmLanguageCommands lvwFiles", "ticks"},
+              {"frmLanguageMessages lvwFiles", "ticks"},
+              {"frmLanguageRightClick lvwFiles", "ticks"}}));
+    EXPECT_EQ(thoseWith([](const RowListDeclaration& list) {
+                  return list.hiddenColumns > 0 ? std::to_string(list.hiddenColumns) : std::string();
+              }),
+              (Told{{"frmSecurityProfileRuleRules lvwPermissions", "1"},
+                    {"frmUserActionsNickSpellsSpellBook lvwSpells", "2"},
+                    {"frmUserActionsSpellsSpellBook lvwSpells", "2"}}));
+    EXPECT_EQ(thoseWith([](const RowListDeclaration& list) { return joined(list.dialog.addValues); }),
+              (Told{{"frmSecuritySearchSpy lvwFiles", "Kick"}}));
+    EXPECT_EQ(
+        thoseWith([](const RowListDeclaration& list) { return std::string(list.selectsFirst ? "1" : ""); }),
+        (Told{{"frmGamesTriviaQuestions lvwQuestions", "1"}}));
+}
+
+TEST(ShownLists, OfWhichFewTellMoreThanTheirColumns)
+{
+    const std::string words = "Add new Word | Delete Word | Edit Word";
+    EXPECT_EQ(thoseWith([](const RowListDeclaration& list) { return joined(list.toolTips); }),
+              (Told{{"frmCustomiseUserAsciiIntro lvwAscii", "Add new user | Delete user | Edit user"},
+                    {"frmCustomiseUserAsciiIntro lvwFiles", "Add new file | Delete file | Edit file"},
+                    {"frmGamesAnagrams lvwWords", words},
+                    {"frmGamesHangman lvwWords", words},
+                    {"frmGamesNumbers lvwWords", words}}));
+    EXPECT_EQ(
+        thoseWith([](const RowListDeclaration& list) { return list.remark; }),
+        (Told{{"frmUserActionsSpellSettings lvwWards", "Allows IPs beginning with 0 (such as 0.3.6.0)"}}));
+    EXPECT_EQ(thoseWith([](const RowListDeclaration& list) { return list.movement; }),
+              (Told{{"frmCustomiseUserCustomRightClick lvwCustomRightClicks", "tlbListviewMovement"}}));
 }
 
 } // namespace

@@ -13,7 +13,7 @@ namespace {
 using test::answering;
 using test::sameBytes;
 
-struct Words
+struct ChangerWords
 {
     const char* key;
     const char* form;
@@ -26,7 +26,7 @@ struct Words
     const char* text;
 };
 
-class ChangerForms : public test::FormTest, public testing::WithParamInterface<Words>
+class ChangerForms : public test::FormTest, public testing::WithParamInterface<ChangerWords>
 {
 protected:
     EditorForm& openForm() { return open(words.key); }
@@ -55,19 +55,19 @@ protected:
         });
     }
 
-    const Words words = GetParam();
+    const ChangerWords words = GetParam();
     std::string& texts = hub.file(path("Topics.tbl"));
     std::string& settings = hub.file(path("Settings.tbl"));
 };
 
 INSTANTIATE_TEST_SUITE_P(
     Both, ChangerForms,
-    testing::Values(Words{"Communication~TopicChanger", "frmCommunicationTopicChanger",
-                          "Communication ~ TopicChanger", "TopicChanger", "lvwTopics", "tlbTopics", "Topics",
-                          "Topics", "Topic"},
-                    Words{"Communication~KickBarChanger", "frmCommunicationKickBarChanger",
-                          "Communication ~ KickBarChanger", "KickBarChanger", "lvwKickBars", "tlbKickBars",
-                          "KickBars", "KickBar Topics", "KickBar"}),
+    testing::Values(ChangerWords{"Communication~TopicChanger", "frmCommunicationTopicChanger",
+                                 "Communication ~ TopicChanger", "TopicChanger", "lvwTopics", "tlbTopics",
+                                 "Topics", "Topics", "Topic"},
+                    ChangerWords{"Communication~KickBarChanger", "frmCommunicationKickBarChanger",
+                                 "Communication ~ KickBarChanger", "KickBarChanger", "lvwKickBars",
+                                 "tlbKickBars", "KickBars", "KickBar Topics", "KickBar"}),
     [](const auto& each) { return std::string(each.param.name); });
 
 TEST_P(ChangerForms, ShowDelayAndTexts)

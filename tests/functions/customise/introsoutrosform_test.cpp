@@ -12,7 +12,7 @@ using test::SeenBox;
 using test::SeenDialog;
 
 /// The form of the lines for everybody, and that of the lines for named users.
-struct Words
+struct IntroWords
 {
     const char* key;
     const char* form;
@@ -23,22 +23,22 @@ struct Words
     const char* askedOutro;
 };
 
-const Words standard = {"CustomiseUser~IntroOutro~Standard",
-                        "frmCustomiseUserIntroOutro",
-                        "Customise User ~ Intros & Outros ~ Standard",
-                        "",
-                        "Standard",
-                        "frmGlobalEditOneFields",
-                        "Do you really want to delete this outro?"};
-const Words custom = {"CustomiseUser~IntroOutro~Custom",
-                      "frmCustomiseUserCustomIntroOutro",
-                      "Customise User ~ Intros & Outros ~ Custom",
-                      "Custom",
-                      "Custom",
-                      "frmGlobalEditTwoFields",
-                      "Do you really want to delete this Outro?"};
+const IntroWords standard = {"CustomiseUser~IntroOutro~Standard",
+                             "frmCustomiseUserIntroOutro",
+                             "Customise User ~ Intros & Outros ~ Standard",
+                             "",
+                             "Standard",
+                             "frmGlobalEditOneFields",
+                             "Do you really want to delete this outro?"};
+const IntroWords custom = {"CustomiseUser~IntroOutro~Custom",
+                           "frmCustomiseUserCustomIntroOutro",
+                           "Customise User ~ Intros & Outros ~ Custom",
+                           "Custom",
+                           "Custom",
+                           "frmGlobalEditTwoFields",
+                           "Do you really want to delete this Outro?"};
 
-class IntroOutroForms : public test::CustomiseForms, public testing::WithParamInterface<Words>
+class IntroOutroForms : public test::CustomiseForms, public testing::WithParamInterface<IntroWords>
 {
 protected:
     EditorForm& openForm() { return open(words.key); }
@@ -67,7 +67,7 @@ protected:
 
     QString row(const QString& line) const { return isNamed() ? "bob|" + line : line + "|"; }
 
-    const Words words = GetParam();
+    const IntroWords words = GetParam();
 };
 
 INSTANTIATE_TEST_SUITE_P(Both, IntroOutroForms, testing::Values(standard, custom),

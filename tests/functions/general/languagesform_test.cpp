@@ -16,7 +16,7 @@ namespace {
 using test::answering;
 using test::sameBytes;
 
-struct Words
+struct LanguageWords
 {
     const char* key;
     const char* form;
@@ -35,7 +35,7 @@ struct Words
     const char* label;
 };
 
-class LanguageForms : public test::FormTest, public testing::WithParamInterface<Words>
+class LanguageForms : public test::FormTest, public testing::WithParamInterface<LanguageWords>
 {
 protected:
     LanguageForms()
@@ -114,30 +114,30 @@ protected:
         return keys;
     }
 
-    const Words words = GetParam();
+    const LanguageWords words = GetParam();
     std::string& list = hub.file(words.list);
 };
 
 INSTANTIATE_TEST_SUITE_P(
     All, LanguageForms,
-    testing::Values(Words{"General~Commands", "frmLanguageCommands", "Language ~ Commands",
-                          "Language/Commands/CommandLanguages.tbl", "tCommandLanguages",
-                          "Language/Commands/Files/", "tScriptCommands", "Command ID", "Command",
-                          "Add New Command",
-                          "Enter name of new Command File:", " already exists as a Command Language File",
-                          "DEFAULT Command File cannot be deleted", "Edit Command", "Command"},
-                    Words{"General~RightClicks", "frmLanguageRightClick", "Language ~ RightClick",
-                          "Language/RightClick/RightClickLanguages.tbl", "tRightClickLanguages",
-                          "Language/RightClick/Files/", "tScriptRightClick", "RightClick ID", "RightClick",
-                          "Add New RightClick",
-                          "Enter name of new RightClick:", " already exists as a RightClick Language File",
-                          "DEFAULT RightClick cannot be deleted", "Edit RightClick", "RightClick"},
-                    Words{"General~Messages", "frmLanguageMessages", "Language ~ Messages",
-                          "Language/Messages/MessageLanguages.tbl", "tMessageLanguages",
-                          "Language/Messages/Files/", "tScriptMessages", "Message ID", "Message",
-                          "Add New Command",
-                          "Enter name of new Message File:", " already exists as a Message Language File",
-                          "DEFAULT Command File cannot be deleted", "Edit Message", "Message"}),
+    testing::Values(LanguageWords{"General~Commands", "frmLanguageCommands", "Language ~ Commands",
+                                  "Language/Commands/CommandLanguages.tbl", "tCommandLanguages",
+                                  "Language/Commands/Files/", "tScriptCommands", "Command ID", "Command",
+                                  "Add New Command", "Enter name of new Command File:",
+                                  " already exists as a Command Language File",
+                                  "DEFAULT Command File cannot be deleted", "Edit Command", "Command"},
+                    LanguageWords{"General~RightClicks", "frmLanguageRightClick", "Language ~ RightClick",
+                                  "Language/RightClick/RightClickLanguages.tbl", "tRightClickLanguages",
+                                  "Language/RightClick/Files/", "tScriptRightClick", "RightClick ID",
+                                  "RightClick", "Add New RightClick", "Enter name of new RightClick:",
+                                  " already exists as a RightClick Language File",
+                                  "DEFAULT RightClick cannot be deleted", "Edit RightClick", "RightClick"},
+                    LanguageWords{"General~Messages", "frmLanguageMessages", "Language ~ Messages",
+                                  "Language/Messages/MessageLanguages.tbl", "tMessageLanguages",
+                                  "Language/Messages/Files/", "tScriptMessages", "Message ID", "Message",
+                                  "Add New Command", "Enter name of new Message File:",
+                                  " already exists as a Message Language File",
+                                  "DEFAULT Command File cannot be deleted", "Edit Message", "Message"}),
     [](const auto& each) { return std::string(each.param.form); });
 
 TEST_P(LanguageForms, ShowTheLanguagesWithTheCurrentOneChecked)

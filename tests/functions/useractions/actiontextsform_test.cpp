@@ -145,7 +145,7 @@ TEST_F(ActionTextForms, ModernWordsAreSavedInFourTables)
     expectSaved("UserActions/Insults/InsultsModern.tbl", "useractions/InsultsModern.save.tbl");
 }
 
-struct Words
+struct ActionTextWords
 {
     const char* key;
     const char* list;
@@ -158,7 +158,7 @@ struct Words
 
 /// The words of each list, which were copied from one another: attacks and actions are called intros, and
 /// some modern words medieval.
-const Words allWords[] = {
+const ActionTextWords allWords[] = {
     {"UserActions~Insults~Standard", "Insults", "Insult", "Insult", "Delete Insult?", "Insult",
      "*** !username! Says 'People can't say that !victim! has absolutely nothing! After all, they have "
      "inferiority!'"},
@@ -184,7 +184,7 @@ const Words allWords[] = {
 
 TEST_F(ActionTextForms, AddingBearsTheListsOwnWords)
 {
-    for (const Words& words : allWords) {
+    for (const ActionTextWords& words : allWords) {
         auto& form = open(words.key);
         const std::string toolbar = std::string("tlb") + words.list;
         const auto dialogs =
@@ -200,7 +200,7 @@ TEST_F(ActionTextForms, AddingBearsTheListsOwnWords)
 TEST_F(ActionTextForms, DeletingAsksInTheListsOwnWordsAndNeverTakesTheLastRow)
 {
     hub.file("UserActions/Insults/InsultsMedieval.tbl") = golden("useractions/InsultsMedieval.save.tbl");
-    for (const Words& words : allWords) {
+    for (const ActionTextWords& words : allWords) {
         auto& form = open(words.key);
         const QString list = QStringLiteral("lvw") + words.list;
         const std::string toolbar = std::string("tlb") + words.list;
@@ -225,7 +225,7 @@ TEST_F(ActionTextForms, DeletingAsksInTheListsOwnWordsAndNeverTakesTheLastRow)
 
 TEST_F(ActionTextForms, ARestoreShowsTheFirstTextsAgain)
 {
-    for (const Words& words : allWords) {
+    for (const ActionTextWords& words : allWords) {
         auto& form = open(words.key);
         auto& rows = find<RowList>(form, QStringLiteral("lvw") + words.list);
         rows.setRows({{{"mine", "too"}}, {{"and", "mine"}}});

@@ -14,7 +14,7 @@ using test::golden;
 using test::sameBytes;
 using test::SeenDialog;
 
-const QStringList labels = {"Filename", "Display Name", "Right Click Menu"};
+const QStringList pictureLabels = {"Filename", "Display Name", "Right Click Menu"};
 
 class AsciiForm : public test::FormTest
 {
@@ -79,7 +79,7 @@ TEST_F(AsciiForm, ShowsItsFiles)
     EXPECT_EQ(find<QLabel>(form, "lblLabel(0)").text(), "Enabled Profiles");
     EXPECT_EQ(find<QLabel>(form, "lblLabel(1)").text(), "Enabled Right Clicks");
     for (int column = 0; column < 3; ++column)
-        EXPECT_EQ(pictures(form).model()->headerData(column, Qt::Horizontal), labels[column]);
+        EXPECT_EQ(pictures(form).model()->headerData(column, Qt::Horizontal), pictureLabels[column]);
     EXPECT_EQ(shown(pictures(form)), (QStringList{"owl|Old Owl|Birds", "cat|Cat|Beasts"}));
     EXPECT_FALSE(isDirty(form));
 }
@@ -138,7 +138,8 @@ TEST_F(AsciiForm, TheDialogAsksForThreeFields)
     auto& form = open("UserActions~Ascii");
     const auto dialogs =
         test::entering({{{}, "cmdCancel"}}, [&] { button(form, "NEW", "tlbFiles").trigger(); });
-    EXPECT_EQ(dialogs, (QList<SeenDialog>{{"frmGlobalEditThreeFields", "Add Ascii", labels, {"", "", ""}}}));
+    EXPECT_EQ(dialogs,
+              (QList<SeenDialog>{{"frmGlobalEditThreeFields", "Add Ascii", pictureLabels, {"", "", ""}}}));
 }
 
 TEST_F(AsciiForm, ANameThatLeavesTheFolderIsRefusedBeforeAnythingIsWritten)
