@@ -158,6 +158,7 @@ TEST_F(FindForms, TextsOfOwnPartsEachWithWordsAndAControl)
             for (const PlacedText& text : own->texts(hub.files, hub.profiles)) {
                 EXPECT_TRUE(!text.label.empty() && test::isWorded(text.label)) << text.label;
                 EXPECT_TRUE(test::isControlName(text.control)) << text.control;
+                EXPECT_GE(text.row, -1) << text.label;
                 ++texts;
             }
         }

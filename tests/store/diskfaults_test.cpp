@@ -205,6 +205,31 @@ TEST_F(InPlace, AFileIsReplacedInAFolderThatTakesNoNewOne)
     }
 }
 
+TEST_F(InPlace, WhatWasMadeBesideTheFileIsGoneBeforeItsRoomIsNeeded)
+{
+    class HeldFile : public test::FaultyCalls
+    {
+    public:
+        std::size_t filesAtOpen = 0;
+
+        Handle open(const std::string& path) override
+        {
+            const std::filesystem::directory_iterator folder(std::filesystem::path(path).parent_path());
+            filesAtOpen = static_cast<std::size_t>(std::distance(begin(folder), end(folder)));
+            return FaultyCalls::open(path);
+        }
+        void replace(const std::string&, const std::string&) override
+        {
+            throw std::system_error(EBUSY, std::generic_category());
+        }
+    };
+    HeldFile calls;
+    std::ofstream(file) << "old bytes";
+    DiskStore(calls).write(file, "new bytes");
+    EXPECT_EQ(folder.files(), (Files{{"file", "new bytes"}}));
+    EXPECT_EQ(calls.filesAtOpen, 1U);
+}
+
 TEST_F(InPlace, ANewFileIsToldToFail)
 {
     ClosedFolder calls;

@@ -155,7 +155,7 @@ public:
     }
 
     std::size_t hubCount() const override { return rows.size(); }
-    bool isChecked(std::size_t row) const override { return row < rows.size() && rows[row].checked; }
+    bool isChecked(std::size_t row) const override { return rows.at(row).checked; }
     void uncheck(std::size_t row) override { rows.at(row).checked = false; }
     bool isIgnored(std::string_view nick) const override { return ignored.count(nick) > 0; }
     void tellMissingFields() override { told.emplace_back("missing fields"); }
