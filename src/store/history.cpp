@@ -7,10 +7,12 @@
 namespace quillfen {
 namespace {
 
+using namespace std::string_view_literals;
+
 /// Whether a told path stays below the folder in which it is looked for.
 bool staysBelow(std::string_view told)
 {
-    if (told.find_first_of(std::string_view("/:\0", 3)) != std::string_view::npos)
+    if (told.find_first_of("/:\0"sv) != std::string_view::npos)
         return false;
     for (;;) {
         const auto end = std::min(told.find('\\'), told.size());

@@ -34,7 +34,7 @@ std::string fromOneLine(std::string_view line)
 {
     std::string text;
     for (std::size_t at = 0; at < line.size(); ++at) {
-        unsigned char byte = 0;
+        unsigned char byte{};
         const char* digits = line.data() + at + 1;
         const bool isEscaped = line[at] == escape && line.size() - at > 2 &&
                                std::from_chars(digits, digits + 2, byte, hex).ptr == digits + 2;

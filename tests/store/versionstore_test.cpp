@@ -90,6 +90,17 @@ TEST_F(Versions, BytesWhoseHashesAreEqualStayApart)
     EXPECT_EQ(blobs().size(), 2U);
 }
 
+TEST_F(Versions, BytesThatNobodyMayReadAreNotWrittenOver)
+{
+    keep("bytes");
+    const std::string there = "/data/v/bytes/" + blobName("bytes");
+    disk.unreadable = {there};
+    disk.files[there] = "another's";
+    keep("bytes");
+    EXPECT_EQ(disk.files[there], "another's");
+    EXPECT_EQ(versions.bytes(versions.entries().entries[0].files[0]), "bytes");
+}
+
 TEST_F(Versions, NewestComesFirst)
 {
     keep("a");
