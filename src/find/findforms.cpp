@@ -22,13 +22,6 @@ void addAll(Texts& texts, const std::vector<std::string>& others)
     texts.insert(texts.end(), others.begin(), others.end());
 }
 
-/// Without the empty ones.
-Texts withoutEmpty(Texts texts)
-{
-    std::erase_if(texts, [](std::string_view each) { return each.empty(); });
-    return texts;
-}
-
 /// A platform's path as the settings tell it; empty if they can't.
 std::string toldPath(const std::string& path, const std::string& root)
 {
@@ -62,7 +55,7 @@ Texts detailsOf(const setting::Field& field, const HubProfiles& profiles)
         details.emplace_back(flags->heading);
     const Texts entries = entriesOf(field, profiles);
     details.insert(details.end(), entries.begin(), entries.end());
-    return withoutEmpty(details);
+    return details;
 }
 
 Texts detailsOf(const RowListDeclaration& list)
@@ -74,7 +67,7 @@ Texts detailsOf(const RowListDeclaration& list)
     addAll(details, list.dialog.labels);
     for (const auto& entries : list.dialog.entries)
         addAll(details, entries);
-    return withoutEmpty(details);
+    return details;
 }
 
 Texts explanationsOf(const OwnPart& own, const std::string& control)
@@ -260,7 +253,7 @@ void FormWalk::take(const DeclaredTicks& declared)
     const TickList ticks = declared.ticks();
     const std::string& label = ticks.label.empty() ? ticks.caption : ticks.label;
     const auto entry = add(fileEntry(ticks.file.path), FindKind::Control, {{}, ticks.control}, label, {},
-                           withoutEmpty({ticks.caption, ticks.explanation}));
+                           {ticks.caption, ticks.explanation});
     std::size_t place = 0;
     for (const CellRow& row : loadOf(ticks.file)(m_files, m_profiles)) {
         const std::string& name = row.cells.front();
@@ -272,7 +265,7 @@ void FormWalk::take(const DeclaredTicks& declared)
 void FormWalk::take(const DeclaredText& text)
 {
     const auto entry = add(fileEntry(text.path), FindKind::Control, {{}, text.toolbar}, text.caption, {},
-                           withoutEmpty({text.explanation}));
+                           {text.explanation});
     takeLines(entry, {{}, text.toolbar}, m_files.ReadTextFile(text.path));
 }
 
@@ -284,7 +277,7 @@ void FormWalk::take(const DeclaredGrid& declared)
     Texts details = {declared.words.explanation};
     addAll(details, declared.words.columns);
     const auto entry = add(parentOf(reading.files()), FindKind::Control, {{}, declared.words.list},
-                           declared.words.columns.front(), {}, withoutEmpty(details));
+                           declared.words.columns.front(), {}, details);
     takeCells(entry, declared.words.list, grid, declared.words, cells);
 }
 

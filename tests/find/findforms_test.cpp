@@ -395,6 +395,99 @@ TEST_F(FindParts, OfSettingsAreTheirControlsAndRowsAndWhatIsIdle)
               Lines{"control lvwTexts -1: Texts /  / Tells of herds."});
 }
 
+TEST_F(FindParts, OfSettingsAreWhatIsToldBesideThem)
+{
+    setting::Field days = setting::number("iDays", "txtDays", "Days", 5, 1, 9);
+    std::get<setting::Number>(days.kind).details.unit = "gnu days";
+    setting::Field ticks = setting::profileFlags("tTicks", "lvwTicks", "Ticks");
+    std::get<setting::ProfileFlags>(ticks.kind).heading = "Heading";
+    const DeclaredSettings part = {[=] { return TableFile{"Herd.tbl", "tHerd", {days, ticks}}; }};
+    EXPECT_EQ(found(part, "gnu days"), Lines{"control txtDays -1: Days /  / gnu days"});
+    EXPECT_EQ(found(part, "heading"), Lines{"control lvwTicks -1: Ticks /  / Heading"});
+}
+
+RowListDeclaration listOfGnus(const std::vector<std::string>& names)
+{
+    RowListDeclaration list;
+    list.list = "lvwHerd";
+    list.columns = {"Gnu", "Age"};
+    list.load = [names](const SettingsFiles& files, const HubProfiles&) {
+        files.ReadTextFile("Herd.tbl");
+        std::vector<CellRow> rows;
+        for (const std::string& name : names)
+            rows.push_back({{name, ""}});
+        return rows;
+    };
+    return list;
+}
+
+TEST_F(FindParts, OfAListIsAllThatItTells)
+{
+    const DeclaredList part = listPart([] {
+        RowListDeclaration list = listOfGnus({});
+        list.label = "Herd";
+        list.explanation = "Explains.";
+        list.remark = "Remark";
+        list.toolTips = {"Tip"};
+        list.dialog.labels = {"Field"};
+        list.dialog.entries = {{"Yearling"}, {"Bull"}};
+        return list;
+    });
+    for (const char* told : {"Gnu", "Age", "Explains.", "Remark", "Tip", "Field", "Yearling", "Bull"})
+        EXPECT_EQ(found(part, told), Lines{"control lvwHerd -1: Herd /  / " + std::string(told)});
+}
+
+TEST_F(FindParts, OfAListAreAsManyRowsAsOneLoadOfTheEditorReads)
+{
+    std::vector<std::string> names(lineLimit + 1);
+    names[lineLimit - 1] = "last";
+    names[lineLimit] = "behind";
+    const DeclaredList part = listPart([names] { return listOfGnus(names); });
+    EXPECT_EQ(found(part, "last"), Lines{"row lvwHerd 4999: Gnu / last / "});
+    EXPECT_EQ(found(part, "behind"), Lines());
+}
+
+TEST_F(FindParts, OfAListStandBelowItsFileAloneThoughItReadsAFileOfTheHubToo)
+{
+    hub.file("Herd.tbl") = "";
+    hub.store.files["/hub/cfg/Herd.xml"] = "";
+    const auto ofOne = [this](const char* other) {
+        return found(listPart([other] {
+                         RowListDeclaration list = listOfGnus({"gnat"});
+                         list.load = [load = list.load, other](const SettingsFiles& files,
+                                                               const HubProfiles& profiles) {
+                             files.store().read(other);
+                             return load(files, profiles);
+                         };
+                         return list;
+                     }),
+                     "herd gnat");
+    };
+    const std::string row = "row lvwHerd 0: Gnu / gnat / Herd.tbl";
+    EXPECT_EQ(ofOne("/hub/cfg/Herd.xml"), Lines{row});
+    EXPECT_EQ(ofOne((hub.root + "/Other.tbl").c_str()), Lines()) << "which of the two it is, nobody knows";
+}
+
+TEST_F(FindParts, OfATextAreItsLines)
+{
+    hub.file("Herd.asc") = "one gnu\r\n \r\ntwo gnus";
+    EXPECT_EQ(found(DeclaredText{"tlbHerd", "Herd", "Herd.asc", "A text of gnus."}),
+              (Lines{"control tlbHerd -1: Herd /  / A text of gnus.", "row tlbHerd -1: Herd / one gnu / ",
+                     "row tlbHerd -1: Herd / two gnus / "}));
+}
+
+TEST_F(FindParts, OfAPartOfItsOwnAreItsSettingsAndLists)
+{
+    OwnPart own = {OwnPartKind::Rules};
+    own.files = [] {
+        return std::vector{
+            TableFile{"Herd.tbl", "tHerd", {setting::number("iGnus", "txtOne", "Number of gnus", 5, 1, 9)}}};
+    };
+    own.lists = [] { return std::vector{listOfGnus({"gnat"})}; };
+    EXPECT_EQ(found(own),
+              (Lines{"control lvwHerd -1: Gnu /  / ", "control txtOne -1: Number of gnus /  / "}));
+}
+
 GridSource gridOfGnus(const std::vector<PermissionCell>& cells)
 {
     GridSource grid;
@@ -417,6 +510,7 @@ TEST_F(FindParts, OfAGridWithoutTargetsAreItsRows)
                                   "row lvwPermissions 0: Feed gnu / Unregistered: Yes / ",
                                   "row lvwPermissions 1: Feed gnu / Gnus: No / ",
                                   "row lvwPermissions 2: Count gnu / Unregistered: No / "}));
+    EXPECT_EQ(found(grid, "allow to"), Lines{"control lvwPermissions -1: Command /  / Allow To"});
 }
 
 TEST_F(FindParts, OfAGridWithTargetsAreARowForEachCommandAndProfileAndItsCells)
