@@ -353,8 +353,7 @@ void Lexer::readDecimalEscape()
 void Lexer::readHexEscape()
 {
     if (!isHexDigit(ahead()) || !isHexDigit(ahead(1)))
-        fail(Fault::UnknownEscape);
-    m_at += 2;
+        fail(Fault::UnknownEscape); // else they are read as any others of the text
 }
 
 void Lexer::readUnicodeEscape()

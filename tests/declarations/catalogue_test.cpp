@@ -179,6 +179,42 @@ TEST_F(Declarations, OfGridsHaveTheColumnsOfTheirCells)
                   {{"Command", "Profile", "Setting"}, 7}}));
 }
 
+TEST_F(Declarations, OfGridsHaveTheNamesOfTheirControls)
+{
+    Found lists;
+    Found filters;
+    for (const auto& [form, words] : gridsOf(forms)) {
+        EXPECT_EQ(words.toolbar, "tlbListview") << form;
+        if (words.list != "lvwPermissions")
+            lists.push_back(form + ' ' + words.list);
+        if (words.commandFilter != "COMMAND" || words.commandFilterTip != "View By Command")
+            filters.push_back(form + ' ' + words.commandFilter + ' ' + words.commandFilterTip);
+    }
+    EXPECT_EQ(lists, Found{"frmSecurityRegistration lvwRegistrations"});
+    EXPECT_EQ(filters, Found{"frmHyperlinkRightClicks RIGHTCLICK View By Right Click"});
+}
+
+TEST_F(Declarations, OfGridsShowTheirRowsInFourWays)
+{
+    std::map<std::string, Found> ways;
+    for (const auto& [form, words] : gridsOf(forms)) {
+        const bool flags[] = {words.filters, words.namesTarget, words.namesCommandByProfile, words.targets,
+                              words.clickToggles};
+        std::string way;
+        for (const bool flag : flags)
+            way += flag ? '1' : '0';
+        ways[way].push_back(form);
+    }
+    EXPECT_EQ(ways, (std::map<std::string, Found>{
+                        {"10010", {"frmSecurityKickPermissions"}},
+                        {"01010", {"frmSecurityFlood", "frmSecurityRegistration"}},
+                        {"01110", {"frmCommunicationMute", "frmCommunicationTalk"}},
+                        {"10001",
+                         {"frmBookshelfPermissions", "frmDVDRackPermissions", "frmJukeboxPermissions",
+                          "frmSongbookPermissions", "frmArcadePermissions", "frmHyperlinkPermissions",
+                          "frmHyperlinkRightClicks"}}}));
+}
+
 TEST_F(Declarations, OfGridsHaveTheWordsOfTheirSentences)
 {
     std::map<std::string, std::vector<std::string>> words;

@@ -34,6 +34,7 @@ Setting castingProfiles()
     return setting::enabledProfiles().explained("Lets the ticked profiles cast these spells.");
 }
 
+/// The phrases, each of which ends in a bar.
 std::vector<std::string> pieces(const std::string& text)
 {
     std::vector<std::string> all;
@@ -42,7 +43,6 @@ std::vector<std::string> pieces(const std::string& text)
         all.push_back(text.substr(start, end - start));
         start = end + 1;
     }
-    all.push_back(text.substr(start));
     return all;
 }
 

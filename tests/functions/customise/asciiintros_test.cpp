@@ -22,6 +22,11 @@ TEST_F(AsciiIntros, AFreshBuildWritesDefaultsNoUsersAndAnEmptyIndex)
     EXPECT_TRUE(sameBytes(file("IntroOutro/AsciiIntroIndex.tbl"), "tAsciiIntroIndex = {\r\n}\r\n"));
 }
 
+TEST_F(AsciiIntros, AUsersEditDialogNamesTheUser)
+{
+    EXPECT_EQ(asciiIntroUsers().editTitleOf({{"Sam", "dragon"}}), "Edit Ascii Intro for Sam");
+}
+
 TEST_F(AsciiIntros, ARebuildKeepsValuesGivesANewProfileZeroAndLeavesUsersAndIndex)
 {
     settings = golden("AsciiIntroSettings.save.tbl");

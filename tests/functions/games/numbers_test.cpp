@@ -42,6 +42,23 @@ TEST_F(Numbers, EachCalculatorBoxIsExplainedByItsKeyAndNotByItsCaption)
     EXPECT_TRUE(sentences["Report Calculator"].starts_with("Switches the prevention of the calculator"));
 }
 
+TEST_F(Numbers, CalculationsHaveAListOfTheirOwn)
+{
+    using Words = std::vector<std::string>;
+    const RowListDeclaration& calculations = numbersCalculationList();
+    EXPECT_EQ(
+        (Words{calculations.list, calculations.toolbar, calculations.menu, calculations.dialog.editTitle}),
+        (Words{"lvwNumbers", "tlbNumbers", "mnuNumbersNumbers", "Edit Question"}));
+    EXPECT_EQ(calculations.toolTips, Words{"Edit question"});
+    EXPECT_EQ(calculations.columns, (Words{"Type", "X Min", "X Max", "Y Min", "Y Max"}));
+    EXPECT_EQ(calculations.dialog.labels, (Words{"X Minimum", "X Maximum", "Y Minimum", "Y Maximum"}));
+    CellRow row = {{"+", "1", "2", "3", "4"}};
+    EXPECT_EQ(calculations.fieldsOf(row), (Words{"1", "2", "3", "4"}));
+    calculations.take({"5", "6", "7", "8"}, row);
+    EXPECT_EQ(row.cells, (Words{"+", "5", "6", "7", "8"}));
+    EXPECT_TRUE(calculations.asksAgain);
+}
+
 TEST_F(Numbers, AFreshBuildWritesTheSettingsInItsOwnOrderWithOneBlankEach)
 {
     buildFunction(numbersFunction(), hub.files, hub.profiles);

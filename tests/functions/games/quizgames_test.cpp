@@ -50,6 +50,17 @@ INSTANTIATE_TEST_SUITE_P(
                                  guessTheNumberFunction, 18}),
     [](const auto& each) { return std::string(each.param.name); });
 
+TEST(GuessTheNumber, CallsItsCountsOfScoresTheOtherWayRound)
+{
+    std::map<std::string, std::string> labels;
+    for (const Setting& each : guessTheNumberSettings().settings) {
+        if (const auto* field = std::get_if<setting::Field>(&each))
+            labels[field->key] = field->label;
+    }
+    EXPECT_EQ(labels["iScores"], "Scores");
+    EXPECT_EQ(labels["iTopScores"], "End Of Game Scores");
+}
+
 TEST_P(QuizGames, AFreshBuildWritesTheSettingsInTheFormsOrder)
 {
     hub.store.folders.insert(hub.root + "/Games/" + game.folder);

@@ -140,6 +140,35 @@ TEST_F(Trivia, AQuestionFileThatDiffersInCaseAloneIsReadAndTheToldOneWritten)
     EXPECT_TRUE(hub.has("Games/Trivia/QuestionFiles/BIRDS.lst"));
 }
 
+TEST_F(Trivia, AQuestionIsEditedByItsThreePieces)
+{
+    const RowListDeclaration list = triviaQuestionLists().rows;
+    CellRow row = {{"Zoo:Big cat?", "lion"}};
+    EXPECT_EQ(list.fieldsOf(row), (std::vector<std::string>{"Zoo", "Big cat?", "lion"}));
+    list.take({"Sea", "Big fish?", "whale"}, row);
+    EXPECT_EQ(row.cells, (std::vector<std::string>{"Sea:Big fish?", "whale"}));
+}
+
+TEST_F(Trivia, FilesAreFoundByTheirNamesAndQuestionsBelowTheirFile)
+{
+    questionFiles = "tTriviaQuestionFiles = {\r\n\tsDefaultQuestionFile = \"zoo\",\r\n}\r\n";
+    hub.file("Games/Trivia/QuestionFiles/zoo.lst") = "Zoo:Big cat?*lion\r\n";
+    const std::string list = R"(Games\Trivia\TriviaQuestionFiles.tbl)";
+    std::vector<PlacedText> found;
+    for (const Node& node : triviaFunction().nodes) {
+        for (const PartDeclaration& part : node.form ? node.form->parts : std::vector<PartDeclaration>()) {
+            if (const auto* own = std::get_if<OwnPart>(&part))
+                found = own->texts(hub.files, hub.profiles);
+        }
+    }
+    ASSERT_EQ(found.size(), 3U);
+    EXPECT_EQ(found[0].text, "zoo");
+    EXPECT_EQ(found[1].file, list);
+    EXPECT_EQ(found[1].text, "zoo");
+    EXPECT_EQ(found[2].file, R"(Games\Trivia\QuestionFiles\zoo.lst)");
+    EXPECT_EQ(found[2].text, "Zoo:Big cat? | lion");
+}
+
 TEST_F(Trivia, ANewQuestionFileHasOneRowAndNoLineEndOfItsOwn)
 {
     createTriviaQuestions(hub.files, "new");

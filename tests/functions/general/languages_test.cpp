@@ -108,6 +108,8 @@ TEST(LanguageSets, HaveWordsOfTheirOwn)
         EXPECT_EQ((Words{set.keyColumn, set.textColumn, set.newTitle, set.newPrompt, set.duplicateTail,
                          set.deleteRefusal, set.editTitle, set.editLabel}),
                   told[at]);
+        EXPECT_EQ(languageLists(set).rows.dialog.labels,
+                  std::vector<std::string>{std::string(told[at].back())});
         const ListedFiles files = languageLists(set);
         EXPECT_EQ(files.names.list, "lvwFiles");
         EXPECT_EQ(files.names.toolbar, "tlbFiles");

@@ -73,6 +73,13 @@ TEST_F(Spells, PhrasesAreGatheredBehindThoseOfTheGatheringBefore)
     EXPECT_EQ(spells[0].cells, (std::vector<std::string>{"frog", "", "a|b|a|b|c|", "3"}));
 }
 
+TEST_F(Spells, HaveGatheredNothingAsTheyAreLoaded)
+{
+    hub.file("UserActions/Spells/SpellBook.tbl") = "tSpellBook = {\r\n\t[\"Frog\"] = \"croaks\",\r\n}\r\n";
+    EXPECT_EQ(spellList(spellBook()).load(hub.files, hub.profiles),
+              (std::vector<CellRow>{{{"Frog", "croaks", "", ""}}}));
+}
+
 TEST_F(Spells, NamesThatDifferOnlyInCaseShareTheFirstOfThem)
 {
     std::vector<CellRow> spells = {{{"Frog", "", "", ""}}, {{"FROG", "", "", ""}}};
