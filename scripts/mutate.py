@@ -33,17 +33,18 @@ BLANKED = re.compile(r'//[^\n]*|/\*.*?\*/|^#[^\n]*|(?<!\w)\'(?:\\.|[^\'\\\n])+\'
 
 
 def compiled_here(source):
-    """The source with blanks where it is Windows' alone, which no test here could notice."""
+    """The source with blanks where it is another platform's alone, which no test here could notice."""
     lines = []
-    elsewhere = []  # of each condition around the line whether its branch is Windows'
+    conditions = []  # those around the line, and whether it is behind their #else
     for line in source.splitlines(keepends=True):
         if line.startswith("#if"):
-            elsewhere.append(line.strip() == "#ifdef _WIN32")
+            conditions.append((line.strip(), False))
         elif line.startswith("#else"):
-            elsewhere[-1] = False
+            conditions[-1] = (conditions[-1][0], True)
         elif line.startswith("#endif"):
-            elsewhere.pop()
-        lines.append(re.sub(r"[^\r\n]", " ", line) if any(elsewhere) else line)
+            conditions.pop()
+        elsewhere = any(each in conditions for each in [("#ifdef _WIN32", False), ("#ifdef __linux__", True)])
+        lines.append(re.sub(r"[^\r\n]", " ", line) if elsewhere else line)
     return "".join(lines)
 
 

@@ -68,6 +68,24 @@ int descriptor(DiskCalls::Handle file)
     return static_cast<int>(file);
 }
 
+/// A folder, opened for as long as somebody waits for it.
+class OpenFolder
+{
+public:
+    explicit OpenFolder(const std::string& path)
+        : m_descriptor(quillfen::descriptor(opened(path, O_RDONLY | O_DIRECTORY)))
+    {
+    }
+    OpenFolder(const OpenFolder&) = delete;
+    OpenFolder& operator=(const OpenFolder&) = delete;
+    ~OpenFolder() { ::close(m_descriptor); }
+
+    int descriptor() const { return m_descriptor; }
+
+private:
+    int m_descriptor;
+};
+
 #endif
 
 } // namespace
@@ -277,23 +295,15 @@ void DiskCalls::removeFolder(const std::string& folder)
 
 void DiskCalls::syncFolder(const std::string& folder)
 {
-    const Handle file = opened(folder, O_RDONLY | O_DIRECTORY);
-    const bool done = fsync(descriptor(file)) == 0;
-    const int reason = errno;
-    ::close(descriptor(file));
-    errno = reason;
-    require(done);
+    const OpenFolder open(folder);
+    require(fsync(open.descriptor()) == 0);
 }
 
 void DiskCalls::syncDisk(const std::string& folder)
 {
 #ifdef __linux__
-    const Handle file = opened(folder, O_RDONLY | O_DIRECTORY);
-    const bool done = syncfs(descriptor(file)) == 0;
-    const int reason = errno;
-    ::close(descriptor(file));
-    errno = reason;
-    require(done);
+    const OpenFolder open(folder);
+    require(syncfs(open.descriptor()) == 0);
 #else
     static_cast<void>(folder);
     ::sync();

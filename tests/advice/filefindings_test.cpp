@@ -311,6 +311,26 @@ TEST(SettingAt, IsTheOneWhoseRowALineIsOrFollows)
     EXPECT_EQ(keyAt(bytes, 99), "iTopKickers");
 }
 
+TEST(SettingAt, OfANestedTableIsTheOneOfThatTable)
+{
+    const auto inNest = [](const char* control, const char* nest) {
+        setting::Field field = setting::flag("bTold", control, "Told", false);
+        field.nest = nest;
+        return field;
+    };
+    const TableFile file = {"A.tbl", "t", {inNest("chkOne", "tOne"), inNest("chkTwo", "tTwo")}};
+    const auto controlAt = [&file](std::size_t line) {
+        const Setting* setting = settingAt(file,
+                                           "t = {\r\n\tbTold = 1,\r\n\ttTwo = {\r\n\t\tbTold = 1,\r\n\t},\r\n"
+                                           "\ttOne = {\r\n\t\tbTold = 1,\r\n\t},\r\n}",
+                                           line);
+        return setting ? std::get<setting::Field>(*setting).control : "none";
+    };
+    EXPECT_EQ(controlAt(2), "none");
+    EXPECT_EQ(controlAt(4), "chkTwo");
+    EXPECT_EQ(controlAt(7), "chkOne");
+}
+
 TEST(UseFindings, NameAListOfProfilesOfWhomNoneIsTicked)
 {
     const TableFile file{

@@ -1,6 +1,7 @@
 #include "advice/notloading.h"
 #include "declarations/rebuild.h"
 #include "functions/catalogue.h"
+#include "store/history.h"
 #include "support/binaryprofiles.h"
 #include "support/freshtree.h"
 #include "support/lua.h"
@@ -418,6 +419,31 @@ TEST_F(Start, WithoutTheScriptsOwnFolderNothingIsTouched)
     }
     EXPECT_TRUE(asked.empty());
     EXPECT_TRUE(hub.store.log.empty());
+}
+
+TEST_F(Start, ARebuildIsKeptUnderItsReason)
+{
+    test::MemoryStore versionDisk;
+    versionDisk.folders = {"", "/data"};
+    VersionStore versions(versionDisk, "/data");
+    History history(hub.store, hub.root, versions);
+    setProfiles(1);
+    firstStart();
+    hub.files.store().keepVersionsIn(&history);
+    const auto reason = [&] {
+        EXPECT_EQ(run(), StartResult::Rebuilt);
+        for (const VersionEntry& entry : versions.entries().entries) { // the newest comes first
+            if (entry.cause.kind == Cause::Kind::Rebuild)
+                return entry.cause.words;
+        }
+        return std::string("nothing was kept");
+    };
+    setProfiles(2);
+    EXPECT_EQ(reason(), "Rebuild for more profiles");
+    hub.file("General/Globals/Version.tbl") = "tVersion = {\r\n\tsVersion = \"1.9\",\r\n}\r\n";
+    EXPECT_EQ(reason(), "Rebuild from 1.9");
+    hub.file("General/Globals/Version.tbl") = "";
+    EXPECT_EQ(reason(), "Rebuild");
 }
 
 TEST_F(Start, AFailureAtAnyCallStopsThereAndNamesTheFile)

@@ -342,6 +342,46 @@ TEST(LuaPlaces, AreTakenByUpToFiftyValuesOfATableThatWait)
     EXPECT_EQ(readAs(Version::Lua51, nested(61, 1)).fault, Fault::TooDeep);
 }
 
+std::string repeated(const std::string& text, int times)
+{
+    std::string all;
+    for (int time = 0; time < times; ++time)
+        all += text;
+    return all;
+}
+
+TEST(LuaPlaces, AreOneForEachFurtherValueOfAnAssignmentAndFreeBehindIt)
+{
+    const std::string most = "t = 1" + repeated(",1", 180) + "\n";
+    EXPECT_STREQ(name(readAs(Version::Lua51, most + most).verdict), "loads");
+    EXPECT_EQ(readAs(Version::Lua51, "t = 1" + repeated(",1", 181)).fault, Fault::TooDeep);
+}
+
+TEST(LuaPlaces, AreTwoForAMinusAndFreeBehindIt)
+{
+    EXPECT_STREQ(name(readAs(Version::Lua51, "t = " + repeated("- ", 90) + "1").verdict), "loads");
+    EXPECT_EQ(readAs(Version::Lua51, "t = " + repeated("- ", 91) + "1").fault, Fault::TooDeep);
+    EXPECT_STREQ(name(readAs(Version::Lua51, "t = {" + repeated("[-1] = -1,", 100) + "}").verdict), "loads");
+}
+
+TEST(LuaPlaces, OfATableAreFreeBehindIt)
+{
+    EXPECT_STREQ(name(readAs(Version::Lua51, "t = {" + repeated("a = {},", 100) + "}").verdict), "loads");
+}
+
+TEST(LuaValues, AreCountedWithTheNamesInFrontOfThemAndEndAtAQuarterOfAMillion)
+{
+    EXPECT_STREQ(name(readAs(Version::Lua51, "t = {" + repeated("1,", 249'999) + "}").verdict), "loads");
+    EXPECT_EQ(readAs(Version::Lua51, "t = {" + repeated("1,", 250'000) + "}").fault, Fault::TooLong);
+    EXPECT_STREQ(name(readAs(Version::Lua51, "t = {" + repeated("a=1,", 124'999) + "}").verdict), "loads");
+    EXPECT_EQ(readAs(Version::Lua51, "t = {" + repeated("a=1,", 125'000) + "}").fault, Fault::TooLong);
+}
+
+TEST(LuaFiles, HaveALineInFrontThatIsCountedAndNotRead)
+{
+    EXPECT_EQ(readAs(Version::Lua51, "#!lua {\nt = nil nil").line, 2U);
+}
+
 TEST(LuaFaults, AreToldEachAndWithWhatToDo)
 {
     const std::regex shape("[a-z][a-z '.8UTF-]+\\. [A-Z][a-z ,']+\\.");

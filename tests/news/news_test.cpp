@@ -243,6 +243,13 @@ TEST_F(News, AnErrorStatusForTheCounterIsNoCounter)
     EXPECT_TRUE(nothingWritten());
 }
 
+TEST_F(News, ACounterMayStandBehindBlanksAndLineEnds)
+{
+    server = {{"counter.txt", {"\r\n 1|\t1"}}, {"1.txt", {"d|s|h|t"}}};
+    fetch();
+    EXPECT_EQ(asked, (Strings{"counter.txt", "1.txt"}));
+}
+
 TEST_F(News, ACounterMayEndInALineEndOrFurtherFields)
 {
     server = {{"counter.txt", {"1|1\r\n"}}, {"1.txt", {"d|s|h|t"}}};
@@ -318,6 +325,21 @@ TEST_F(News, WhatComesTooLateIsLeftToTheNextStart)
     EXPECT_TRUE(fetch());
     EXPECT_EQ(asked.back(), "2.txt");
     EXPECT_TRUE(sameBytes(settings, "tNewsSettings = { \r\n\tiLastID = 1,\r\n}\r\n"));
+}
+
+TEST_F(News, TextOfALimitsSizeIsTheLastOfAStart)
+{
+    const std::string fields = "d|s|h|";
+    const std::size_t limit = std::size_t{16} << 20U;
+    for (const std::size_t size : {limit - 1, limit}) {
+        server = {{"counter.txt", {"1|2"}},
+                  {"1.txt", {fields + std::string(size - fields.size(), 'x')}},
+                  {"2.txt", {"d|s|h|t"}}};
+        settings.clear();
+        asked.clear();
+        fetch();
+        EXPECT_EQ(asked.back(), size < limit ? "2.txt" : "1.txt");
+    }
 }
 
 TEST_F(News, OneStartTakesNoMoreTextThanItsLimit)

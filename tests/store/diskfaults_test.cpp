@@ -126,6 +126,7 @@ TEST_P(DiskFaults, AtAnyCallOfACommitLeaveEachFileOldOrNew)
                 EXPECT_TRUE(GetParam().dies || !place.disk.exists(place.at("folder")));
             }
             EXPECT_TRUE(place.calls.closedEachOnce());
+            EXPECT_FALSE(place.calls.replacedByOpenOne());
             reached = place.calls.wasReached();
         }
     }
@@ -228,6 +229,22 @@ TEST_F(InPlace, WhatWasMadeBesideTheFileIsGoneBeforeItsRoomIsNeeded)
     DiskStore(calls).write(file, "new bytes");
     EXPECT_EQ(folder.files(), (Files{{"file", "new bytes"}}));
     EXPECT_EQ(calls.filesAtOpen, 1U);
+}
+
+TEST_F(InPlace, AFailureOfTheCloseIsTold)
+{
+    class FullAtTheClose : public ClosedFolder
+    {
+    public:
+        void close(Handle handle) override
+        {
+            ClosedFolder::close(handle);
+            throw std::system_error(ENOSPC, std::generic_category());
+        }
+    };
+    FullAtTheClose calls;
+    std::ofstream(file) << "old bytes";
+    EXPECT_THROW(DiskStore(calls).write(file, "new bytes"), StoreError);
 }
 
 TEST_F(InPlace, ANewFileIsToldToFail)

@@ -346,6 +346,33 @@ TEST_F(Disk, WhatIsNoFileIsWrittenToAndNotReplaced)
     EXPECT_TRUE(std::filesystem::is_fifo(pipe));
 }
 
+TEST_F(Disk, TellsFilesFromFoldersFromDevicesAndWhatCannotBeToldFromNone)
+{
+    using Kind = FileFacts::Kind;
+    DiskCalls calls;
+    disk.write(folder + "/file", "x");
+    EXPECT_EQ(calls.facts(folder + "/file").kind, Kind::File);
+    EXPECT_EQ(calls.facts(folder).kind, Kind::Folder);
+    EXPECT_EQ(calls.facts("/dev/null").kind, Kind::Other);
+    EXPECT_EQ(calls.facts(folder + "/none").kind, Kind::None);
+    EXPECT_THROW(calls.facts(folder + "/file/none"), std::system_error);
+}
+
+TEST_F(Disk, LeavesNoFolderOpenThatItWaitedFor)
+{
+    const auto opened = [] {
+        const std::filesystem::directory_iterator all("/proc/self/fd");
+        return std::distance(begin(all), end(all));
+    };
+    DiskCalls calls;
+    const auto before = opened();
+    calls.syncFolder(folder);
+    calls.syncDisk(folder);
+    EXPECT_EQ(opened(), before);
+    EXPECT_THROW(calls.syncFolder(folder + "/none"), std::system_error);
+    EXPECT_THROW(calls.syncDisk(folder + "/none"), std::system_error);
+}
+
 TEST_F(Disk, AFullDiskIsAFailure)
 {
     try {

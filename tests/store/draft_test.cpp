@@ -248,6 +248,7 @@ TEST_F(DraftWithVersions, ARebuildIsOneEntry)
     ASSERT_EQ(entries().size(), 1U);
     EXPECT_EQ(entries()[0].cause, (Cause{"Rebuild from 5.1.9", Cause::Kind::Rebuild}));
     EXPECT_EQ(entries()[0].files.size(), 1U);
+    EXPECT_EQ(told, Names{""});
 }
 
 } // namespace

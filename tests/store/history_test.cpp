@@ -118,6 +118,19 @@ TEST_F(EarlierVersions, AFolderThatIsGoneIsMadeOnceForAllOfItsFiles)
     EXPECT_EQ(changes[2].path, "/hub/a/two");
 }
 
+TEST_F(EarlierVersions, AFolderThatIsGoneIsMadeBehindThatAboveIt)
+{
+    disk.folders.insert({"/hub/b", "/hub/b/c"});
+    disk.files["/hub/b/c/one"] = "1";
+    store.remove("/hub/b/c/one");
+    disk.folders.erase("/hub/b");
+    disk.folders.erase("/hub/b/c");
+    std::vector<std::string> paths;
+    for (const StoreChange& change : history.bringBack(history.entries().entries.at(0).files).changes)
+        paths.push_back(change.path);
+    EXPECT_EQ(paths, (std::vector<std::string>{"/hub/b", "/hub/b/c", "/hub/b/c/one"}));
+}
+
 TEST_F(EarlierVersions, WhatLiesElsewhereIsNotKept)
 {
     disk.folders.insert("/elsewhere");

@@ -176,6 +176,15 @@ TEST_F(Versions, AnotherProgramsEntriesCountToo)
     EXPECT_EQ(numbers(), (std::vector<unsigned>{3, 1}));
 }
 
+TEST_F(Versions, AnotherProgramsEntriesGoWhenTheyAreTheOldest)
+{
+    VersionStore another(disk, "/data/v");
+    another.keep({"another's"}, {{"a", "b"}});
+    for (int at = 0; at < 200; ++at)
+        keep(std::to_string(at));
+    EXPECT_FALSE(disk.exists("/data/v/entries/0000000001"));
+}
+
 TEST_F(Versions, ACutEntryShowsWhatItHas)
 {
     versions.keep({"a save"}, {{"a", "1"}, {"b", "2"}, {"c", "3"}});
@@ -224,6 +233,8 @@ TEST_F(Versions, WhatIsNoEntryIsSkippedAndTold)
     EXPECT_EQ(list.skipped, (Names{"0000000002 isn't an entry", "0000000003 is too large for an entry",
                                    "0000000004 can't be read", "4000000000 isn't an entry",
                                    "4294967295 isn't an entry", "notes.txt isn't an entry"}));
+    disk.files.erase("/data/v/entries/notes.txt");
+    EXPECT_EQ(versions.entries().skipped.size(), 5U);
 }
 
 TEST_F(Versions, AreKeptBesideWhatIsNoEntry)

@@ -21,6 +21,7 @@ public:
 
     bool wasReached() const { return failingCall >= 0 && count > failingCall; }
     bool closedEachOnce() const { return m_open.empty() && !m_closedAnother; }
+    bool replacedByOpenOne() const { return m_replacedByOpenOne; }
 
     std::string followed(const std::string& path) override
     {
@@ -74,6 +75,7 @@ public:
     }
     void replace(const std::string& aside, const std::string& target) override
     {
+        m_replacedByOpenOne = m_replacedByOpenOne || !m_open.empty();
         calling([&] { DiskCalls::replace(aside, target); });
     }
     void remove(const std::string& file) override
@@ -115,6 +117,7 @@ private:
 
     std::set<Handle> m_open;
     bool m_closedAnother = false;
+    bool m_replacedByOpenOne = false;
 };
 
 } // namespace quillfen::test
