@@ -95,7 +95,7 @@ private:
         std::vector<DiffLine> lines;
         int line = m_fromSize;
         int diagonal = m_fromSize - m_toSize;
-        for (; differences >= 0; --differences) {
+        for (;; --differences) {
             const int from = start(differences, diagonal);
             while (line > from)
                 lines.push_back({LineKind::Same, m_from[--line]});

@@ -100,6 +100,7 @@ TEST(FileFindings, TellOfTextsWhoseEndsTheNextLoadTakesAway)
 TEST(FileFindings, TellOfATextBehindWhichBlanksStand)
 {
     EXPECT_EQ(found("t = {\r\n\tsText = \" a\", \t\r\n}\r\n"), at(2, ends));
+    EXPECT_EQ(found("t = {\r\n\tsText = \" a\" \r\n}\r\n"), at(2, ends));
 }
 
 TEST(FileFindings, TellOfRowsWhoseBracketsTheNextLoadTakesAway)
@@ -309,6 +310,13 @@ TEST(SettingAt, IsTheOneWhoseRowALineIsOrFollows)
     EXPECT_EQ(keyAt(bytes, 2), "iKicksMakeBan");
     EXPECT_EQ(keyAt(bytes, 4), "iTopKickers");
     EXPECT_EQ(keyAt(bytes, 99), "iTopKickers");
+}
+
+TEST(UseFindings, NameNoListWithATickThoughTheFileBeginsWithIt)
+{
+    const TableFile file{
+        "A.tbl", "t", {setting::profileFlags("tEnabledProfiles", "lvw", "Enabled Profiles")}};
+    EXPECT_TRUE(useFindings(file, "tEnabledProfiles = {\r\n\t[0] = 1,\r\n\t[1] = 0,\r\n}\r\n").empty());
 }
 
 TEST(SettingAt, OfANestedTableIsTheOneOfThatTable)

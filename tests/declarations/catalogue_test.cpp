@@ -179,6 +179,109 @@ TEST_F(Declarations, OfGridsHaveTheColumnsOfTheirCells)
                   {{"Command", "Profile", "Setting"}, 7}}));
 }
 
+/// The controls of the fields that something is true of, each with its form's name.
+std::vector<std::string> fieldsThat(const FormCatalogue& forms,
+                                    const std::function<bool(const setting::Field&)>& isTrue)
+{
+    std::vector<std::string> controls;
+    for (const FormDeclaration& each : forms) {
+        for (const PartDeclaration& part : each.parts) {
+            for (const TableFile& file : settingsFilesOf(part)) {
+                for (const Setting& setting : file.settings) {
+                    const auto* const field = std::get_if<setting::Field>(&setting);
+                    if (field && isTrue(*field))
+                        controls.push_back(each.form.name + ' ' + field->control);
+                }
+            }
+        }
+    }
+    return controls;
+}
+
+TEST_F(Declarations, OfFewNumbersDifferFromTheOthers)
+{
+    const auto numbersThat = [this](const std::function<bool(const setting::NumberDetails&)>& isTrue) {
+        return fieldsThat(forms, [&isTrue](const setting::Field& field) {
+            const auto* const number = std::get_if<setting::Number>(&field.kind);
+            return number && isTrue(number->details);
+        });
+    };
+    EXPECT_EQ(numbersThat([](const auto& details) { return details.step != 1; }),
+              (Found{"frmGamesSlotMachine txtUpDown(0)", "frmGamesSlotMachine txtUpDown(2)"}));
+    EXPECT_EQ(numbersThat([](const auto& details) { return std::string_view(details.unit) == "Days"; }),
+              (Found{"frmSecurityProfileRuleSettings txtUpDown", "frmSecurityUserLogSettings txtUpDown(0)"}));
+    EXPECT_EQ(numbersThat([](const auto& details) { return details.clockTime; }),
+              (Found{"frmSecurityKickSettings txtUpDown(5)", "frmSecurityUserLogSettings txtUpDown(1)"}));
+    EXPECT_EQ(numbersThat([](const auto& details) { return details.savedAsTyped; }),
+              (Found{"frmSecurityKickSettings txtUpDown(0)", "frmSecurityKickSettings txtUpDown(1)",
+                     "frmSecurityKickSettings txtUpDown(2)", "frmSecurityKickSettings txtUpDown(3)",
+                     "frmSecurityKickSettings txtUpDown(4)", "frmSecurityKickSettings txtUpDown(5)",
+                     "frmSecurityKickSettings txtUpDown(6)", "frmSecurityMainBlock txtUpDown",
+                     "frmSecurityProfileRuleSettings txtUpDown"}));
+    const Found byArrows = numbersThat([](const auto& details) { return details.onlyArrows; });
+    EXPECT_EQ(byArrows.size(), 62U);
+    for (const std::string& control : byArrows)
+        EXPECT_TRUE(control.starts_with("frmGames")) << control;
+}
+
+TEST_F(Declarations, OfFewFlagsAreOffByDefault)
+{
+    const Found off = fieldsThat(forms, [](const setting::Field& field) {
+        const auto* const flag = std::get_if<setting::Flag>(&field.kind);
+        return flag && !flag->defaultValue && !field.explanation.starts_with("Lets only operators") &&
+               !field.explanation.starts_with("Starts the game only");
+    });
+    EXPECT_EQ(off,
+              (Found{"frmGeneralGeneral chkCheckBox(1)", "frmGeneralBots chkNotifyOps",
+                     "frmCommunicationClock chkCheckBox(0)", "frmSecurityKickSettings chkCheckBox(2)",
+                     "frmSecurityProfileRuleSettings chkCheckBox", "frmUserActionsJokes chkManualControl",
+                     "frmUserActionsLimericks chkManualControl", "frmUserActionsProverbs chkManualControl",
+                     "frmUserActionsQuotations chkManualControl"}));
+    EXPECT_EQ(fieldsThat(forms,
+                         [](const setting::Field& field) {
+                             const auto* const flag = std::get_if<setting::Flag>(&field.kind);
+                             return flag && flag->details.tickedAboveZero;
+                         }),
+              Found{"frmSecurityPrivateHub chkCheckBox"});
+}
+
+TEST_F(Declarations, OfTwoListsOfTicksStayAsTheyAreInARestore)
+{
+    std::map<bool, Found> restored;
+    for (const FormDeclaration& each : forms) {
+        for (const PartDeclaration& part : each.parts) {
+            if (const auto* ticks = std::get_if<DeclaredTicks>(&part))
+                restored[ticks->ticks().restoreTicks].push_back(each.form.name);
+        }
+    }
+    EXPECT_EQ(restored[true], (Found{"frmGeneralSwitches", "frmGeneralRightClicks"}));
+    EXPECT_EQ(restored[false], (Found{"frmCommunicationAutoCorrect", "frmSecurityAntiAdvertiseSettings"}));
+}
+
+TEST_F(Declarations, OfOneFileAloneASaveMakesTheFolder)
+{
+    Found tables;
+    for (const FormDeclaration& each : forms) {
+        for (const PartDeclaration& part : each.parts) {
+            for (const TableFile& file : settingsFilesOf(part)) {
+                if (file.makesFolder)
+                    tables.push_back(file.table);
+            }
+        }
+    }
+    EXPECT_EQ(tables, Found{"tHubEmailSettings"});
+}
+
+TEST_F(Declarations, OfTwoNodesStandNowhereInTheTree)
+{
+    Found keys;
+    for (const Node& node : functionNodes()) {
+        if (!node.inTree)
+            keys.push_back(node.key);
+    }
+    EXPECT_EQ(keys, (Found{"Communication~HubEmail", "Communication~Whisper"}));
+}
+
 TEST_F(Declarations, OfGridsHaveTheNamesOfTheirControls)
 {
     Found lists;

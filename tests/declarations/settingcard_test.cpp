@@ -68,6 +68,15 @@ TEST(Cards, TellNoDefaultThatRestoreLeavesAlone)
     EXPECT_EQ(cardOf(setting::notRestored(setting::flag("b", "c", "l", false))).defaultValue, std::nullopt);
 }
 
+TEST(Cards, TellNoLimitOfATextWithoutOneAndNoProfileWhereThereIsNone)
+{
+    EXPECT_EQ(cardOf(setting::text("s", "c", "l", "x")).range, "");
+    const DeclaredSettings part{[] {
+        return TableFile{R"(A\B.tbl)", "t", {setting::profileKey("i", "c", "l")}};
+    }};
+    EXPECT_EQ(cardsOf(part, HubProfiles()).at(0).defaultValue, std::nullopt);
+}
+
 TEST(Cards, TellNothingAsNothing)
 {
     EXPECT_EQ(

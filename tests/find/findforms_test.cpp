@@ -141,6 +141,20 @@ TEST_F(FindForms, AnActingProfileOfTheMassMessageInItsFirstRow)
                       "By Profile", "Operator"));
 }
 
+TEST_F(FindForms, WhatStandsInTheFirstRow)
+{
+    EXPECT_TRUE(finds("massmessage unregistered", {"Communication~MassMessage", "lvwPermissions", 0},
+                      "By Profile", "Unregistered"));
+    EXPECT_TRUE(finds("motd unregistered", {"Communication~MOTD", "lvwMOTD", 0}, "Profile Active",
+                      "Unregistered | PM"));
+    EXPECT_TRUE(finds("rules unregistered", {"Security~Rules", "lvwRules", 0}, "Profiles", "Unregistered"));
+    EXPECT_TRUE(finds("ascii 0.asc", {"Games~Hangman"}, R"(Games\Hangman\Ascii\0.asc)", ""));
+    hub.store.folders.insert(hub.root + "/Communication/Portal");
+    write(R"(Communication\Portal\PortalSettings.tbl)",
+          test::golden("portal/PortalSettings.save.tbl").c_str());
+    EXPECT_TRUE(finds("portal bridge", {"Communication~Portal", "txtTextBox(0)", 0}, "Username", "bridge"));
+}
+
 TEST_F(FindForms, AnOptionAndTheControlThatIsChosen)
 {
     EXPECT_TRUE(finds("trivia hint reduction", {"Games~Trivia~Settings", "optOption(4)"},
@@ -445,6 +459,44 @@ TEST_F(FindParts, OfAListAreAsManyRowsAsOneLoadOfTheEditorReads)
     const DeclaredList part = listPart([names] { return listOfGnus(names); });
     EXPECT_EQ(found(part, "last"), Lines{"row lvwHerd 4999: Gnu / last / "});
     EXPECT_EQ(found(part, "behind"), Lines());
+}
+
+TEST_F(FindParts, OfARowOfFewerCellsThanColumnsAreThoseThatItHas)
+{
+    const DeclaredList part = listPart([] {
+        RowListDeclaration list = listOfGnus({});
+        list.load = [](const SettingsFiles&, const HubProfiles&) {
+            return std::vector<CellRow>{{{"first"}}, {{"second", "old", "hidden"}}};
+        };
+        return list;
+    });
+    EXPECT_EQ(found(part, "first"), Lines{"row lvwHerd 0: Gnu / first / "});
+    EXPECT_EQ(found(part, "second"), Lines{"row lvwHerd 1: Gnu / second | old / "});
+}
+
+TEST_F(FindParts, OfTicksAreTheirRowsFromTheFirstOn)
+{
+    hub.file("Herd.tbl") = "tHerd = {\r\n\tbFeed = 1,\r\n\tbCount = 0,\r\n}\r\n";
+    const DeclaredTicks ticks = {[] {
+        return TickList{.control = "lvwHerd",
+                        .caption = "Herd",
+                        .file = {.path = "Herd.tbl", .table = "tHerd", .form = ListFile::Form::Flags}};
+    }};
+    EXPECT_EQ(found(ticks, "feed"), Lines{"row lvwHerd 0: Herd / Feed: on / "});
+    EXPECT_EQ(found(ticks, "count"), Lines{"row lvwHerd 1: Herd / Count: off / "});
+}
+
+TEST_F(FindParts, OfATextAreAsManyLinesAsOneLoadOfTheEditorReads)
+{
+    OwnPart own = {OwnPartKind::Rules};
+    own.texts = [](const SettingsFiles&, const HubProfiles&) {
+        std::string text;
+        for (std::size_t line = 1; line < lineLimit; ++line)
+            text += "x\n";
+        return std::vector<PlacedText>{{"", "txtHerd", -1, "Herd", text + "last\nbehind"}};
+    };
+    EXPECT_EQ(found(own, "last"), Lines{"row txtHerd -1: Herd / last / "});
+    EXPECT_EQ(found(own, "behind"), Lines());
 }
 
 TEST_F(FindParts, OfAListStandBelowItsFileAloneThoughItReadsAFileOfTheHubToo)

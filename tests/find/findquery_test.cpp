@@ -62,6 +62,21 @@ TEST(NearPlace, OneLetterMayBeWrongMissingOddOrSwapped)
         EXPECT_FALSE(isNear("delay", text)) << text;
 }
 
+TEST(NearPlace, IsAsLongAsWhatStandsThere)
+{
+    EXPECT_EQ(nearPlace("kiks", "kicks"), (FindMark{0, 4}));
+    EXPECT_EQ(nearPlace("kikc", "kick"), (FindMark{0, 4})) << "swapped, at the text's end";
+    EXPECT_EQ(nearPlace("kixcks", "kicks"), (FindMark{0, 6}));
+    EXPECT_EQ(nearPlace("abe", "abxe"), (FindMark{0, 3})) << "and nothing behind it is looked at";
+}
+
+TEST(NearPlace, IsNotInsideAWordOfDigitsAndLetters)
+{
+    EXPECT_EQ(nearPlace("1kikcs", "kicks"), std::nullopt);
+    EXPECT_EQ(nearPlace("9kikcs", "kicks"), std::nullopt);
+    EXPECT_EQ(nearPlace("-kikcs", "kicks"), (FindMark{1, 5}));
+}
+
 TEST(NearPlace, IsTheBeginningOfAWord)
 {
     EXPECT_TRUE(isNear("kikc", "no kicking"));

@@ -377,6 +377,31 @@ TEST(LuaValues, AreCountedWithTheNamesInFrontOfThemAndEndAtAQuarterOfAMillion)
     EXPECT_EQ(readAs(Version::Lua51, "t = {" + repeated("a=1,", 125'000) + "}").fault, Fault::TooLong);
 }
 
+TEST(LuaPlaces, AreTakenByTheFirstValueBehindFiftyAgain)
+{
+    EXPECT_STREQ(name(readAs(Version::Lua51, nested(43, 51)).verdict), "loads");
+    EXPECT_EQ(readAs(Version::Lua51, nested(44, 51)).fault, Fault::TooDeep);
+}
+
+TEST(LuaWords, AreMadeOfAllLettersDigitsAndTheLowLine)
+{
+    EXPECT_STREQ(name(readAs(Version::Lua51, "a = 1 z = 1 A = 1 Z = 1 _ = 1 b0 = 1 b9 = 1").verdict),
+                 "loads");
+    EXPECT_STREQ(name(readAs(Version::Lua51, "t = {0xa, 0xf, 0xA, 0xF, 0x0, 0x9}").verdict), "loads");
+    EXPECT_EQ(readAs(Version::Lua51, "t = 0xg").fault, Fault::NotANumber);
+}
+
+TEST(LuaTexts, MayHaveADigitBehindAnEscapeOfThreeAndNothingAtAllBetweenLongBrackets)
+{
+    EXPECT_STREQ(name(readAs(Version::Lua51, "t = \"\\2551\"").verdict), "loads");
+    EXPECT_STREQ(name(readAs(Version::Lua51, "t = [[]] u = [==[]==]").verdict), "loads");
+}
+
+TEST(LuaFiles, OfALineInFrontAloneHoldNothing)
+{
+    EXPECT_STREQ(name(readAs(Version::Lua51, "#!lua}").verdict), "loads");
+}
+
 TEST(LuaFiles, HaveALineInFrontThatIsCountedAndNotRead)
 {
     EXPECT_EQ(readAs(Version::Lua51, "#!lua {\nt = nil nil").line, 2U);

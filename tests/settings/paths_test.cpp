@@ -51,6 +51,7 @@ TEST(Paths, ThePlatformsRootIsAbsolute)
 TEST(Paths, TheHubFolderIsCutBehindTheLastSeparator)
 {
     EXPECT_EQ(hubPaths.inHubFolder(R"(cfg\Profiles.xml)"), "/hub/cfg/Profiles.xml");
+    EXPECT_EQ(SettingsPaths("scripts").inHubFolder(R"(cfg\Profiles.xml)"), "cfg/Profiles.xml");
 }
 
 TEST(Paths, ANameInTheCodePageIsUtf8OnTheDisk)

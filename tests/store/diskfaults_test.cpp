@@ -197,7 +197,7 @@ protected:
 
 TEST_F(InPlace, AFileIsReplacedInAFolderThatTakesNoNewOne)
 {
-    for (const std::size_t size : {1U, 4000U}) {
+    for (const std::size_t size : {0U, 1U, 4000U}) {
         ClosedFolder calls;
         std::ofstream(file) << "old bytes";
         DiskStore disk(calls);

@@ -176,6 +176,18 @@ TEST_F(Disk, SweepsUpItsOwnAsideFilesAndNothingElse)
               (std::vector<std::string>{".hidden", ".quillfen-1", "a/notes.aside", "quillfen-1.aside"}));
 }
 
+TEST_F(Disk, SweepsAsDeepAsTheTreeOfAHubGoes)
+{
+    std::string inner = folder;
+    for (int depth = 1; depth <= 5; ++depth) {
+        inner += "/f";
+        disk.makeFolder(inner);
+        std::ofstream(inner + "/.quillfen-1-2.aside") << depth;
+    }
+    disk.sweep(folder);
+    EXPECT_EQ(place.files(), (std::map<std::string, std::string>{{"f/f/f/f/f/.quillfen-1-2.aside", "5"}}));
+}
+
 #ifndef _WIN32
 TEST_F(Disk, SweepsWhereLinksLeadAndComesBackFromARing)
 {
@@ -355,6 +367,7 @@ TEST_F(Disk, TellsFilesFromFoldersFromDevicesAndWhatCannotBeToldFromNone)
     EXPECT_EQ(calls.facts(folder).kind, Kind::Folder);
     EXPECT_EQ(calls.facts("/dev/null").kind, Kind::Other);
     EXPECT_EQ(calls.facts(folder + "/none").kind, Kind::None);
+    EXPECT_THROW(calls.removeFolder(folder), std::system_error) << "which holds a file";
     EXPECT_THROW(calls.facts(folder + "/file/none"), std::system_error);
 }
 

@@ -118,6 +118,29 @@ TEST_F(EarlierVersions, AFolderThatIsGoneIsMadeOnceForAllOfItsFiles)
     EXPECT_EQ(changes[2].path, "/hub/a/two");
 }
 
+TEST_F(EarlierVersions, EachFolderThatIsGoneIsMade)
+{
+    disk.folders.insert({"/hub/b", "/hub/c"});
+    disk.files["/hub/b/one"] = "1";
+    disk.files["/hub/c/one"] = "1";
+    {
+        Draft draft(store, {"a save"});
+        store.remove("/hub/b/one");
+        store.remove("/hub/c/one");
+        draft.commit();
+    }
+    disk.folders.erase("/hub/b");
+    disk.folders.erase("/hub/c");
+    EXPECT_EQ(history.bringBack(history.entries().entries.at(0).files).changes.size(), 4U);
+}
+
+TEST_F(EarlierVersions, AFileOfAShortNameIsKept)
+{
+    disk.files["/hub/x"] = "1";
+    store.remove("/hub/x");
+    EXPECT_EQ(history.entries().entries.at(0).files.at(0).told, "x");
+}
+
 TEST_F(EarlierVersions, AFolderThatIsGoneIsMadeBehindThatAboveIt)
 {
     disk.folders.insert({"/hub/b", "/hub/b/c"});

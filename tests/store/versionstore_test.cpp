@@ -133,11 +133,13 @@ TEST_F(Versions, RebuildsAndBackupsStayTwiceAsLong)
 
 TEST_F(Versions, SixtyFourMebibytesOfSavesStay)
 {
-    const std::size_t size = std::size_t{20} << 20U;
+    const std::size_t size = std::size_t{16} << 20U;
     for (const char each : {'a', 'b', 'c', 'd'})
         keep(std::string(size, each));
-    EXPECT_EQ(numbers(), (std::vector<unsigned>{4, 3, 2}));
-    EXPECT_EQ(blobs().size(), 3U);
+    EXPECT_EQ(numbers(), (std::vector<unsigned>{4, 3, 2, 1}));
+    keep("one byte more is too much");
+    EXPECT_EQ(numbers(), (std::vector<unsigned>{5, 4, 3, 2}));
+    EXPECT_EQ(blobs().size(), 4U);
 }
 
 TEST_F(Versions, EqualBytesCountOnce)

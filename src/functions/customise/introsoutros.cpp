@@ -64,9 +64,9 @@ std::vector<CellRow> customOutros()
 /// What differs between the lines for everybody and those for named users.
 struct Family
 {
-    std::string word;   ///< in the names of files and tables
-    std::string label;  ///< in the labels of the lists
-    bool named = false; ///< each line has its user
+    std::string word;  ///< in the names of files and tables
+    std::string label; ///< in the labels of the lists
+    bool named;        ///< each line has its user
     std::vector<CellRow> (*intros)();
     std::vector<CellRow> (*outros)();
     std::string askedOutro; ///< how the question before an outro goes calls it

@@ -59,6 +59,15 @@ TEST_F(Archive, NewItemsAreLinksInHyperlinkAlone)
     }
 }
 
+TEST_F(Archive, AnAnnouncementsTimeIsTwoDigitsTheSignBetweenAndTwoMore)
+{
+    const auto fields = [](const char* time) { return announcements().fieldsOf({{"Sunday", time, "PM"}}); };
+    using Fields = std::vector<std::string>;
+    EXPECT_EQ(fields("18:07"), (Fields{"Sunday", "18", "07", "Private Message"}));
+    EXPECT_EQ(fields("18:0"), (Fields{"Sunday", "18", "0", "Private Message"}));
+    EXPECT_EQ(fields("18:075"), (Fields{"Sunday", "18", "07", "Private Message"}));
+}
+
 TEST_F(Archive, AFreshBuildOfHyperlinkWritesItsSettingsAndTheShiftedRing)
 {
     build();

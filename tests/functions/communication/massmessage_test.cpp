@@ -50,6 +50,15 @@ TEST_F(MassMessages, ARebuildAfterASaveDropsTheQuotesAndPutsTheOperatorBackWithZ
     EXPECT_EQ(values.at("tMassMessageSettings.2.All"), "1");
 }
 
+TEST_F(MassMessages, AreOneCommandToEachTargetFromEachProfile)
+{
+    const auto cells = loadMassMessage(hub.files, hub.profiles).cells;
+    ASSERT_EQ(cells.size(), 4U * (4U + massMessageTargets().size()));
+    EXPECT_EQ(cells.front().by, 0U);
+    for (const PermissionCell& cell : cells)
+        EXPECT_EQ(cell.command, 0U);
+}
+
 TEST_F(MassMessages, ARebuildKeepsAnOperatorThatIsThere)
 {
     hub.profiles = {};

@@ -115,6 +115,9 @@ TEST_F(CustomRightClicks, TheKeyOfAProfileThatIsGoneStaysABareNumber)
     const auto read = loadFrom(text);
     EXPECT_EQ(read.at(0).cells, (std::vector<std::string>{"x", "7", "Hub"}));
     EXPECT_TRUE(sameBytes(saved(read), text));
+    const auto last = static_cast<int>(hub.profiles.count()) - 2; // the key of the first row is -1
+    EXPECT_EQ(loadFrom(oneRow("1", std::to_string(last))).at(0).cells[1], hub.profiles.names().back());
+    EXPECT_EQ(loadFrom(oneRow("1", std::to_string(last + 1))).at(0).cells[1], std::to_string(last + 1));
 }
 
 TEST_F(CustomRightClicks, AnyOtherProfileShowsAsItStandsAndStaysQuoted)

@@ -62,6 +62,16 @@ TEST_F(DescriptionTags, AMissingTagGetsItsNameInARebuildWhicheverTableStandsBehi
     }
 }
 
+TEST_F(DescriptionTags, TagsAreKeptAndFilledInWhicheverKeysTheTableInFrontHas)
+{
+    settings = "tDescriptionTagSettings = {\r\n\ttEnabledProfiles = {\r\n\t\t[1] = 0,\r\n\t},\r\n"
+               "\ttProfiles = {\r\n\t\t[0] = \"[Boss]\",\r\n\t},\r\n}\r\n";
+    build();
+    EXPECT_NE(settings.find("\ttProfiles = {\r\n\t\t[-1] = \"[Unregistered]\",\r\n\t\t[0] = \"[Boss]\",\r\n"
+                            "\t\t[1] = \"[Operator]\",\r\n"),
+              std::string::npos);
+}
+
 TEST_F(DescriptionTags, ARebuildOfAnEmptyTableOfTagsWritesTheNames)
 {
     settings = "tDescriptionTagSettings = {\r\n\tbNotifyOps = 1,\r\n\ttProfiles = {\r\n\t},\r\n"

@@ -131,6 +131,17 @@ TEST_F(Numbers, AListOfOneRowIsSavedWithoutAnAsterisk)
     EXPECT_EQ(list, "A:one\r\n");
 }
 
+TEST_F(Numbers, AListOfNoRowIsSavedEmpty)
+{
+    EXPECT_EQ(composedWords(WordLine::Question, {}), "");
+}
+
+TEST_F(Numbers, ACalculationThatEndsInACommaHasAnEmptyNumberBehindIt)
+{
+    EXPECT_EQ(calculationRow("+", "1,2,3,").cells, (std::vector<std::string>{"+", "1", "2", "3", ""}));
+    EXPECT_EQ(calculationRow("+", "1,2,3,4,5").cells, (std::vector<std::string>{"+", "1", "2", "3", "4"}));
+}
+
 TEST_F(Numbers, ACalculationIsRefusedForLettersInItsFirstNumberAlone)
 {
     const RowListDeclaration& declared = numbersCalculationList();

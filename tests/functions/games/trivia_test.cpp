@@ -122,6 +122,13 @@ TEST_F(Trivia, TheDefaultIsNotRepeatedAmongTheRows)
                                {"tTriviaQuestionFiles.sDefaultQuestionFile", "music"}}));
 }
 
+TEST_F(Trivia, FilesWhoseNamesDifferInCaseAloneKeepTheirOrder)
+{
+    questionFiles =
+        "tTriviaQuestionFiles = {\r\n\tsDefaultQuestionFile = \"b\",\r\n\t\"A\",\r\n\t\"a\",\r\n}\r\n";
+    EXPECT_EQ(loadTriviaQuestionFiles(hub.files).names, (std::vector<std::string>{"A", "a", "b"}));
+}
+
 TEST_F(Trivia, QuestionsAreRowsOfTwoPieces)
 {
     const std::vector<CellRow> rows = {{{"Misc:Who?", "me"}}, {{"Zoo:What=?", "a lion"}}};

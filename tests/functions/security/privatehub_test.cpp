@@ -34,6 +34,18 @@ TEST_F(PrivateHub, AHubWritesFiveLinesForEachProfile)
     EXPECT_EQ(luaValues(settings).size(), 5U * 64 + 3);
 }
 
+TEST_F(PrivateHub, RegBeforePmIsTickedByAnyNumberAboveZero)
+{
+    const auto shown = [this](const std::string& stored) {
+        const TableIndex index("tPrivateHubSettings = {\r\n\tbRegBeforePM = " + stored + ",\r\n}\r\n");
+        return loaded(privateHubSettings(), index, hub.profiles).at("bRegBeforePM");
+    };
+    EXPECT_EQ(shown("1"), "1");
+    EXPECT_EQ(shown("7"), "1");
+    EXPECT_EQ(shown("0"), "0");
+    EXPECT_EQ(shown("-1"), "0");
+}
+
 TEST_F(PrivateHub, TheHubScriptSeesItsValues)
 {
     const auto values = luaValues(golden("PrivateHub.save.tbl"));
