@@ -174,6 +174,12 @@ TEST_F(TreeCheck, EndsWithTwoWhereThereIsNoTree)
     EXPECT_EQ(check({"/a", "/b"}), (Answer{"", "One settings folder at a time, please.\n", 2}));
 }
 
+TEST_F(TreeCheck, TakesNoSecondFolderThoughTheFirstHasATree)
+{
+    build(1);
+    EXPECT_EQ(check({hub.root, "/b"}), (Answer{"", "One settings folder at a time, please.\n", 2}));
+}
+
 TEST_F(TreeCheck, TellsWhereAGridHasMoreLinesThanItsReadersLookAt)
 {
     build(70);

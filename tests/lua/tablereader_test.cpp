@@ -377,6 +377,20 @@ TEST(LuaValues, AreCountedWithTheNamesInFrontOfThemAndEndAtAQuarterOfAMillion)
     EXPECT_EQ(readAs(Version::Lua51, "t = {" + repeated("a=1,", 125'000) + "}").fault, Fault::TooLong);
 }
 
+TEST(LuaPlaces, AreTakenByNoValueThatHasItsKey)
+{
+    const auto tables = [](const std::string& row, int levels) {
+        return readAs(Version::Lua51, "t = " + repeated("{" + row + ",", levels) +
+                                          std::string(static_cast<std::size_t>(levels), '}'));
+    };
+    for (const char* row : {"a = 1", "[1] = 1"}) {
+        EXPECT_STREQ(name(tables(row, 90).verdict), "loads") << row;
+        EXPECT_EQ(tables(row, 91).fault, Fault::TooDeep) << row;
+    }
+    EXPECT_STREQ(name(tables("word", 60).verdict), "loads");
+    EXPECT_EQ(tables("word", 61).fault, Fault::TooDeep);
+}
+
 TEST(LuaPlaces, AreTakenByTheFirstValueBehindFiftyAgain)
 {
     EXPECT_STREQ(name(readAs(Version::Lua51, nested(43, 51)).verdict), "loads");

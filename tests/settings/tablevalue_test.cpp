@@ -35,6 +35,13 @@ TEST(TableValue, HoldsFurtherEqualsSigns)
     EXPECT_EQ(valueIn("t = {\r\n\tsText = \"a=b=c\",\r\n}", "sText"), "a=b=c");
 }
 
+TEST(TableLine, OfAMissingKeyIsNone)
+{
+    const TableIndex index("t = {\r\n\ta = 1,\r\n}\r\n");
+    EXPECT_EQ(index.line("a", "t"), 2U);
+    EXPECT_EQ(index.line("b", "t"), 0U);
+}
+
 TEST(TableValue, AnEmptyTextReadsLikeAMissingKey)
 {
     EXPECT_EQ(valueIn("t = {\r\n\tsBorder = \"\",\r\n}", "sBorder"), "");

@@ -189,13 +189,15 @@ TEST(FileNames, ThatNoToldPathCanHoldAreKnownApart)
 TEST(RealFiles, AreThoseOfTheToldNameAndElseThoseThatDifferInCaseAlone)
 {
     test::Hub hub{"A"};
-    for (const char* name : {"A/NEWS.ASC", "A/one.asc", "A/One.asc", "A/TWO.ASC", "A/two.ASC", "A/rules.txt"})
+    for (const char* name :
+         {"A/NEWS.ASC", "A/one.asc", "A/One.asc", "A/TWO.ASC", "A/Two.ASC", "A/two.ASC", "A/rules.txt"})
         hub.file(name) = "x";
     EXPECT_EQ(hub.files.realFile("A\\one.asc"), "A\\one.asc");
     EXPECT_EQ(hub.files.realFile("A\\NEWS.asc"), "A\\NEWS.ASC");
     EXPECT_EQ(hub.files.realFile("A\\news.asc"), "A\\NEWS.ASC");
     EXPECT_EQ(hub.files.realFile("A\\two.asc"), "A\\two.ASC"); // the extension differs before the name
     EXPECT_EQ(hub.files.realFile("A\\TWO.asc"), "A\\TWO.ASC");
+    EXPECT_EQ(hub.files.realFile("A\\Two.asc"), "A\\Two.ASC");
     EXPECT_EQ(hub.files.realFile("A\\rules.asc"), "A\\rules.asc"); // there is none
     EXPECT_EQ(hub.files.realFile("No\\news.asc"), "No\\news.asc");
     EXPECT_EQ(hub.files.realFile("news.asc"), "news.asc");

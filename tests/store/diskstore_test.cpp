@@ -221,6 +221,20 @@ TEST_F(Disk, AFileKeepsItsModeAndOwner)
     EXPECT_EQ(status.st_gid, isRoot ? 4321U : getegid());
 }
 
+TEST_F(Disk, AFileOfAnotherGroupKeepsItAndItsOwner)
+{
+    if (geteuid() != 0)
+        GTEST_SKIP() << "only root gives a file to any group";
+    const std::string file = folder + "/a";
+    disk.write(file, "x");
+    ASSERT_EQ(chown(file.c_str(), static_cast<uid_t>(-1), 4321), 0);
+    disk.write(file, "y");
+    struct stat status = {};
+    ASSERT_EQ(stat(file.c_str(), &status), 0);
+    EXPECT_EQ(status.st_uid, 0U);
+    EXPECT_EQ(status.st_gid, 4321U);
+}
+
 TEST_F(Disk, ANewFileHasTheUsualRightsAndAPrivateOneItsOwnersAlone)
 {
     const mode_t before = umask(022);
@@ -252,6 +266,17 @@ TEST_F(Disk, ALinkIsFollowedAndNotReplaced)
     EXPECT_TRUE(std::filesystem::is_symlink(folder + "/linkToLink"));
     EXPECT_EQ(disk.read(folder + "/far/target"), "new");
     EXPECT_EQ(disk.read(folder + "/far/none"), "made");
+}
+
+TEST_F(Disk, FortyLinksAreFollowedAndNoMore)
+{
+    const auto link = [this](int number) { return folder + "/link" + std::to_string(number); };
+    std::filesystem::create_symlink("target", link(1));
+    for (int number = 2; number <= 41; ++number)
+        std::filesystem::create_symlink("link" + std::to_string(number - 1), link(number));
+    disk.write(link(40), "x");
+    EXPECT_EQ(disk.read(folder + "/target"), "x");
+    EXPECT_THROW(disk.write(link(41), "y"), StoreError);
 }
 
 TEST_F(Disk, ARingOfLinksIsAFailure)

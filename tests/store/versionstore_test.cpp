@@ -135,7 +135,7 @@ TEST_F(Versions, SixtyFourMebibytesOfSavesStay)
 {
     const std::size_t size = std::size_t{16} << 20U;
     for (const char each : {'a', 'b', 'c', 'd'})
-        keep(std::string(size, each));
+        versions.keep({"a save"}, {{"a", std::string(size, each)}, {"new", {}}});
     EXPECT_EQ(numbers(), (std::vector<unsigned>{4, 3, 2, 1}));
     keep("one byte more is too much");
     EXPECT_EQ(numbers(), (std::vector<unsigned>{5, 4, 3, 2}));
@@ -216,6 +216,13 @@ TEST_F(Versions, LinesThatMakeNoSenseAreToldAndTheOthersShown)
     ASSERT_EQ(list.entries.size(), 1U);
     EXPECT_EQ(list.entries[0].files.size(), 1U);
     EXPECT_EQ(list.entries[0].fault, "3 of its lines can't be read");
+}
+
+TEST_F(Versions, ALineThatMakesNoSenseIsToldThoughItIsTheOnlyOne)
+{
+    keep("a");
+    entryFile(1).insert(entryFile(1).find("had "), "nonsense\n");
+    EXPECT_EQ(VersionStore(disk, "/data/v").entries().entries.at(0).fault, "1 of its lines can't be read");
 }
 
 TEST_F(Versions, WhatIsNoEntryIsSkippedAndTold)
