@@ -43,7 +43,6 @@ std::string_view trimSpace(std::string_view text)
 std::optional<ArticleNumber> leadingArticle(std::string_view text)
 {
     constexpr double largest = 9007199254740992.0; // 2 to the 53rd
-    text = trimBlanks(text);
     if (text.starts_with('+'))
         text.remove_prefix(1);
     double number = 0;

@@ -192,6 +192,14 @@ TEST_F(News, TheLastNumberIsReadAsAnyNumberIs)
     }
 }
 
+TEST_F(News, BlanksBeforeTheLastNumberDontCount)
+{
+    settings = "tNewsSettings = { \r\n\tiLastID = \"  7\",\r\n}\r\n";
+    server = {{"counter.txt", {"1|8"}}, {"8.txt", {"d|s|h|t"}}};
+    fetch();
+    EXPECT_EQ(asked, (Strings{"counter.txt", "8.txt"}));
+}
+
 TEST_F(News, ALastNumberThatIsNoneCountsAsZero)
 {
     for (const char* last : {"", "none", "info", "nan"}) {

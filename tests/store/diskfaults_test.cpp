@@ -245,6 +245,9 @@ TEST_F(InPlace, AFailureOfTheCloseIsTold)
     FullAtTheClose calls;
     std::ofstream(file) << "old bytes";
     EXPECT_THROW(DiskStore(calls).write(file, "new bytes"), StoreError);
+    if (hasLinks) {
+        EXPECT_THROW(DiskStore(calls).write("/dev/null", "bytes"), StoreError) << "of a device as well";
+    }
 }
 
 TEST_F(InPlace, ANewFileIsToldToFail)
