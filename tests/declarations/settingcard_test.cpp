@@ -71,6 +71,7 @@ TEST(Cards, TellNoDefaultThatRestoreLeavesAlone)
 TEST(Cards, TellNoLimitOfATextWithoutOneAndNoProfileWhereThereIsNone)
 {
     EXPECT_EQ(cardOf(setting::text("s", "c", "l", "x")).range, "");
+    EXPECT_EQ(cardOf(setting::text("s", "c", "l", "x", 1)).range, "up to 1 characters");
     const DeclaredSettings part{[] {
         return TableFile{R"(A\B.tbl)", "t", {setting::profileKey("i", "c", "l")}};
     }};

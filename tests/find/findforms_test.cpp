@@ -148,11 +148,14 @@ TEST_F(FindForms, WhatStandsInTheFirstRow)
     EXPECT_TRUE(finds("motd unregistered", {"Communication~MOTD", "lvwMOTD", 0}, "Profile Active",
                       "Unregistered | PM"));
     EXPECT_TRUE(finds("rules unregistered", {"Security~Rules", "lvwRules", 0}, "Profiles", "Unregistered"));
-    EXPECT_TRUE(finds("ascii 0.asc", {"Games~Hangman"}, R"(Games\Hangman\Ascii\0.asc)", ""));
+    for (const std::string stage : {"0", "13"})
+        EXPECT_TRUE(finds("ascii " + stage + ".asc", {"Games~Hangman"},
+                          R"(Games\Hangman\Ascii\)" + stage + ".asc", ""));
     hub.store.folders.insert(hub.root + "/Communication/Portal");
     write(R"(Communication\Portal\PortalSettings.tbl)",
           test::golden("portal/PortalSettings.save.tbl").c_str());
     EXPECT_TRUE(finds("portal bridge", {"Communication~Portal", "txtTextBox(0)", 0}, "Username", "bridge"));
+    EXPECT_TRUE(finds("portal spam", {"Communication~Portal", "lvwNicks", 0}, "Nicks To Ignore", "spam"));
 }
 
 TEST_F(FindForms, AnOptionAndTheControlThatIsChosen)

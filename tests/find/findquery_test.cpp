@@ -77,6 +77,12 @@ TEST(NearPlace, IsNotInsideAWordOfDigitsAndLetters)
     EXPECT_EQ(nearPlace("-kikcs", "kicks"), (FindMark{1, 5}));
 }
 
+TEST(NearPlace, OfANumberIsNone)
+{
+    for (const char* number : {"0000", "9999", "0990"})
+        EXPECT_EQ(nearPlace("00 99 000 999 099", number), std::nullopt) << number;
+}
+
 TEST(NearPlace, IsTheBeginningOfAWord)
 {
     EXPECT_TRUE(isNear("kikc", "no kicking"));

@@ -131,6 +131,19 @@ TEST_F(PortalFile, IgnoresTheSystemsOwnBotsByDefault)
               (Strings{"quiz", "Quizbot", "quizzer", "Zorro", "\x95Quillfen\x95"}));
 }
 
+TEST_F(PortalFile, BotsAreSortedWithoutRegardToCase)
+{
+    bots = "tBots = {\r\n";
+    for (const auto function : botFunctions())
+        bots += "\t" + botTable(function) + " = {\r\n\t\tsName = \"" +
+                (function == "Main"     ? "Zz"
+                 : function == "Trivia" ? "zA"
+                 : function == "Rules"  ? "A1"
+                                        : "a0") +
+                "\",\r\n\t},\r\n";
+    EXPECT_EQ(defaultIgnoreNicks(hub.files), (Strings{"a0", "A1", "zA", "Zz"}));
+}
+
 TEST_F(PortalFile, MissingBotsGiveOneEmptyNick)
 {
     EXPECT_EQ(defaultIgnoreNicks(hub.files), Strings{""});

@@ -177,6 +177,33 @@ TEST_F(DiskFaults, AFailureBeforeAnyFileTookItsPlaceIsTheFirstFilesOwn)
     EXPECT_EQ(place.folder.files(), before);
 }
 
+TEST_F(DiskFaults, AMadeFolderGoesAgainUntilAnotherChangeIsCarriedOut)
+{
+    class UnreplacedFile : public test::FaultyCalls
+    {
+    public:
+        void replace(const std::string&, const std::string&) override
+        {
+            throw std::system_error(EIO, std::generic_category());
+        }
+    };
+    using Kind = StoreChange::Kind;
+    test::DiskFolder place;
+    UnreplacedFile calls;
+    DiskStore disk(calls);
+    const std::string folder = place.path() + "/folder";
+    EXPECT_THROW(disk.commit({{Kind::MakeFolder, folder}, {Kind::Write, folder + "/inner", "x"}}),
+                 StoreError);
+    EXPECT_FALSE(disk.exists(folder));
+    const std::string removed = place.path() + "/removed";
+    std::ofstream(removed) << "x";
+    EXPECT_THROW(disk.commit({{Kind::MakeFolder, folder},
+                              {Kind::Remove, removed},
+                              {Kind::Write, place.path() + "/other", "x"}}),
+                 StoreError);
+    EXPECT_TRUE(disk.exists(folder)) << "the removal was told as done, and so is what came before it";
+}
+
 /// A folder whose files can't be replaced: each write goes over the old bytes.
 class InPlace : public DiskFaults
 {
