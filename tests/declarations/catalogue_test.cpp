@@ -283,6 +283,120 @@ TEST_F(Declarations, OfTwoNodesStandNowhereInTheTree)
     EXPECT_EQ(keys, (Found{"Communication~HubEmail", "Communication~Whisper"}));
 }
 
+TEST_F(Declarations, OfFormsAreCalledByTheirKeysButForThese)
+{
+    std::map<std::string, std::string> others = {
+        {"General~Commands", "Language ~ Commands"},
+        {"General~Messages", "Language ~ Messages"},
+        {"General~RightClicks", "Language ~ RightClick"},
+        {"General~EnabledRightClicks", "General ~ Right Clicks"},
+        {"CustomiseUser~CustomRightClick", "CustomiseUser ~ Custom Right Click"},
+        {"CustomiseUser~IntroOutro~Standard", "Customise User ~ Intros & Outros ~ Standard"},
+        {"CustomiseUser~IntroOutro~Custom", "Customise User ~ Intros & Outros ~ Custom"},
+        {"CustomiseUser~IntroOutro~Ascii", "Customise User ~ Intros & Outros ~ Ascii"},
+        {"Games~ScoreClearers", "Games ~ Score Clearers"},
+        {"Games~ThreeCardMonty", "Games ~ Three Card Monty"},
+        {"Security~AntiAdvertise~Settings", "Security ~ AntiAdvertise ~  Settings"},
+        {"Security~AntiAdvertise~Addresses", "Security ~ AntiAdvertise"},
+        {"Security~Flooder", "Security ~ Flood"},
+        {"Security~PtokaXSettings", "Security~ PtokaXSettings"},
+        {"Security~PrivateHub", "Security~ PrivateHub"},
+        {"UserActions~Ascii", "User Actions ~ Ascii"},
+        {"UserActions~Jokes", "User Actions ~ Jokes"},
+        {"UserActions~Limericks", "User Actions ~ Limericks"},
+        {"UserActions~Proverbs", "User Actions ~ Proverbs"},
+        {"UserActions~Quotations", "User Actions ~ Quotations"},
+        {"UserActions~NickSpells~SpellBook", "UserActions ~ Nick Spells ~ SpellBook"},
+        {"Hyperlink~RightClicks", "Hyperlink ~ Right Clicks"}};
+    for (const std::string member : {"Bookshelf", "DVDRack", "Jukebox", "Songbook", "Arcade", "Hyperlink"}) {
+        others[member + "~LinkOfTheWeek"] = member + " ~ Link Of The Week";
+        others[member + "~NewLinks"] = member + (member == "Hyperlink" ? " ~ New Links" : " ~ New Items");
+    }
+    for (const Node& node : functionNodes()) {
+        if (!node.form)
+            continue;
+        std::string spaced;
+        for (const char each : node.key)
+            spaced += each == '~' ? std::string(" ~ ") : std::string(1, each);
+        const auto other = others.extract(node.key);
+        EXPECT_EQ(node.form->form.caption, other ? other.mapped() : spaced) << node.key;
+    }
+    EXPECT_TRUE(others.empty()) << others.begin()->first;
+}
+
+TEST_F(Declarations, OfAnagramsAloneAskOtherwiseBeforeARestore)
+{
+    for (const FormDeclaration& each : forms) {
+        const bool isAnagrams = each.form.name == "frmGamesAnagrams";
+        EXPECT_EQ(each.form.restoreTitle, isAnagrams ? "Restore Defaults?" : "Restore defaults?");
+        EXPECT_EQ(each.form.restoreText, isAnagrams ? "Restore Quillfen defaults?" : "Restore to defaults?");
+    }
+}
+
+TEST_F(Declarations, OfGridsHaveTheirCommandsInTheirOrder)
+{
+    std::map<Found, Found> grids;
+    for (const FormDeclaration& each : forms) {
+        for (const PartDeclaration& part : each.parts) {
+            if (const auto* grid = std::get_if<DeclaredGrid>(&part)) {
+                const auto commands = grid->grid().commands;
+                grids[Found(commands.begin(), commands.end())].push_back(each.form.name);
+            }
+        }
+    }
+    EXPECT_EQ(grids,
+              (std::map<Found, Found>{
+                  {{"Mute"}, {"frmCommunicationMute"}},
+                  {{"Talk"}, {"frmCommunicationTalk"}},
+                  {{"Flood"}, {"frmSecurityFlood"}},
+                  {{"Drop", "Warn", "Kick", "TimeBan", "Ban", "Unban"}, {"frmSecurityKickPermissions"}},
+                  {{"Add Registration", "Delete Registration", "Get Password", "Change Password"},
+                   {"frmSecurityRegistration"}},
+                  {{"Clear", "Delete", "Modify", "NewItems", "Submit"},
+                   {"frmBookshelfPermissions", "frmDVDRackPermissions", "frmJukeboxPermissions",
+                    "frmSongbookPermissions", "frmArcadePermissions", "frmHyperlinkPermissions"}},
+                  {{"Category", "Item", "Pending", "Voting"}, {"frmHyperlinkRightClicks"}}}));
+}
+
+TEST_F(Declarations, OfListsOfTicksAndTextsHaveTheirLabels)
+{
+    Found labels;
+    for (const FormDeclaration& each : forms) {
+        for (const PartDeclaration& part : each.parts) {
+            if (const auto* declared = std::get_if<DeclaredTicks>(&part)) {
+                const TickList ticks = declared->ticks();
+                labels.push_back(ticks.control + ": " + ticks.caption + '/' + ticks.label);
+            }
+            if (const auto* text = std::get_if<DeclaredText>(&part))
+                labels.push_back(text->toolbar + ": " + text->caption);
+        }
+    }
+    EXPECT_EQ(labels,
+              (Found{"lvwSwitches: Functions/", "lvwSwitches: Functions/",
+                     "lvwFilters: Filtered Actions/Filtered Actions", "lvwBlockedActions: /Blocked Actions",
+                     "tlbCheckBox: Ascii Kick", "tlbListview: Cleaner Text"}));
+}
+
+TEST_F(Declarations, OfProfileListsWithMoreThanOneAWordEach)
+{
+    std::map<std::string, std::string> labels;
+    for (const char* name : {"frmCustomiseUserIntroOutro", "frmCustomiseUserCustomIntroOutro",
+                             "frmSecurityProfileRuleSettings"}) {
+        for (const TableFile& file : settingsFilesOf(form(name).parts.front())) {
+            for (const Setting& setting : file.settings) {
+                const auto* const field = std::get_if<setting::Field>(&setting);
+                if (field && std::holds_alternative<setting::ProfileFlags>(field->kind))
+                    labels[field->label] = field->control;
+            }
+        }
+    }
+    EXPECT_EQ(labels,
+              (std::map<std::string, std::string>{{"Custom Enabled Profiles", "lvwEnabledProfiles"},
+                                                  {"Enabled Get Profiles", "lvwEnabledGetProfiles"},
+                                                  {"Enabled Set Profiles", "lvwEnabledSetProfiles"},
+                                                  {"Standard Enabled Profiles", "lvwEnabledProfiles"}}));
+}
+
 TEST_F(Declarations, OfGridsHaveTheNamesOfTheirControls)
 {
     Found lists;

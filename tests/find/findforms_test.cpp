@@ -155,6 +155,8 @@ TEST_F(FindForms, WhatStandsInTheFirstRow)
     write(R"(Communication\Portal\PortalSettings.tbl)",
           test::golden("portal/PortalSettings.save.tbl").c_str());
     EXPECT_TRUE(finds("portal bridge", {"Communication~Portal", "txtTextBox(0)", 0}, "Username", "bridge"));
+    EXPECT_TRUE(finds("portal one.hub", {"Communication~Portal", "lvwHubs", 0}, "Hub Settings",
+                      "one.hub:411 | 5001"));
     EXPECT_TRUE(finds("portal spam", {"Communication~Portal", "lvwNicks", 0}, "Nicks To Ignore", "spam"));
 }
 
@@ -475,6 +477,31 @@ TEST_F(FindParts, OfARowOfFewerCellsThanColumnsAreThoseThatItHas)
     });
     EXPECT_EQ(found(part, "first"), Lines{"row lvwHerd 0: Gnu / first / "});
     EXPECT_EQ(found(part, "second"), Lines{"row lvwHerd 1: Gnu / second | old / "});
+}
+
+TEST_F(FindParts, OfAListWithTicksTellThem)
+{
+    const DeclaredList part = listPart([] {
+        RowListDeclaration list = listOfGnus({});
+        list.ticks = true;
+        list.load = [](const SettingsFiles&, const HubProfiles&) {
+            return std::vector<CellRow>{{{"first"}, true}, {{"second"}}};
+        };
+        return list;
+    });
+    EXPECT_EQ(found(part, "first"), Lines{"row lvwHerd 0: Gnu / first: on / "});
+    EXPECT_EQ(found(part, "second"), Lines{"row lvwHerd 1: Gnu / second: off / "});
+}
+
+TEST_F(FindParts, OfSeveralWordsAreTheDetailsThatHoldThem)
+{
+    const DeclaredList part = listPart([] {
+        RowListDeclaration list = listOfGnus({});
+        list.remark = "Remark";
+        list.toolTips = {"Tip"};
+        return list;
+    });
+    EXPECT_EQ(found(part, "tip remark"), Lines{"control lvwHerd -1: Gnu /  / Tip, Remark"});
 }
 
 TEST_F(FindParts, OfTicksAreTheirRowsFromTheFirstOn)

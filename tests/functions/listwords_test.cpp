@@ -1,6 +1,7 @@
 #include "declarations/listdeclaration.h"
 #include "functions/archive/archive.h"
 #include "functions/communication/autocorrect.h"
+#include "functions/communication/rotatingmessages.h"
 #include "functions/communication/welcomeinfo.h"
 #include "functions/customise/asciiintros.h"
 #include "functions/customise/customrightclick.h"
@@ -65,6 +66,14 @@ TEST(ListWords, OfADeletionAreTheFunctionsOwn)
     expectDeletion(phraseList(), "Delete Spell Phrase?", "Do you really want to delete this Spell Phrase?",
                    "There must be a minimum of one Spell Phrase");
     expectDeletion(scoreClearers(), "Delete Exempt User?", "Do you really want to delete this User?", "");
+    expectDeletion(rotatingFiles(rotatingMainMessages()), "Delete File?",
+                   "Do you really want to delete this File?", "");
+    expectDeletion(asciiIntroFiles(), "Delete Ascii Intro?", "Do you really want to delete this Ascii Intro?",
+                   "");
+    expectDeletion(insults(), "Delete Insult?", "Do you really want to delete this Insult?",
+                   "There must be a minimum of one Insult");
+    expectDeletion(spellList(spellBook()), "Delete Spell?", "Do you really want to delete this Spell?",
+                   "There must be a minimum of one Spell");
     expectDeletion(spellWards(), "Delete Warded User?", "Do you really want to delete this Warded User?", "");
 }
 

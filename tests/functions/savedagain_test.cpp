@@ -10,6 +10,7 @@
 #include "functions/customise/introsoutros.h"
 #include "functions/security/profilerules.h"
 #include "functions/security/spies.h"
+#include "functions/useractions/actiontexts.h"
 #include "functions/useractions/ascii.h"
 #include "store/asidefile.h"
 #include "support/freshtree.h"
@@ -86,6 +87,10 @@ std::vector<SavedFile> savedFiles()
         {"security/ProfileRules.save.tbl", "Security/ProfileRules/ProfileRules.tbl", again(profileRules())},
         {"security/SearchSpyFiles.save.tbl", "Security/SearchSpy/SearchSpyFiles.tbl",
          again(forbiddenFiles())},
+        {"useractions/InsultsMedieval.save.tbl", "UserActions/Insults/InsultsMedieval.tbl",
+         again(medievalInsults())},
+        {"useractions/InsultsModern.save.tbl", "UserActions/Insults/InsultsModern.tbl",
+         again(modernInsults())},
         {"useractions/AsciiIndex.save.tbl", "UserActions/Ascii/AsciiIndex.tbl", again(asciiPictures())},
         {"archive/ArcadeEnableDelete.save.tbl", "TheArchive/Arcade/ArcadeEnableDelete.tbl",
          again(archivePermissions(archiveMembers()[4]))},

@@ -14,7 +14,7 @@ TEST(FileNames, ThatNoFileCanBearAreFaulty)
         EXPECT_NE(fileNameFault(name), "") << name;
     EXPECT_NE(fileNameFault(std::string(300, 'x')), "");
     for (const char* name :
-         {"a", "TriviaQuestions", "my words 2", "caf\xE9", "a.b", "control", ".hidden", "it's"})
+         {"a", "TriviaQuestions", "my words 2", "caf\xE9", "a.b", "control", ".hidden", "it's", "a~1"})
         EXPECT_EQ(fileNameFault(name), "") << name;
 }
 

@@ -173,6 +173,7 @@ TEST_F(EarlierVersions, APathThatWouldLeaveTheTreeIsRefused)
         file.told = told;
         const auto result = history.bringBack({file, {told, ""}});
         EXPECT_TRUE(result.changes.empty()) << told;
+        EXPECT_EQ(result.refused.at(0), told + ": it would leave the settings folder");
         EXPECT_EQ(result.refused.size(), 2U) << told;
         EXPECT_EQ(history.todaysBytes(file), std::nullopt) << told;
     }

@@ -255,6 +255,22 @@ TEST_F(Archive, AWordThatIsNoDayShowsAnEmptyDayAndEndsNothing)
               (std::vector<CellRow>{{{"", "10:00", "PM"}}, {{"Monday", "18:00", "PM"}}}));
 }
 
+TEST_F(Archive, ALinkOfTheWeekIsOnForAOneAndElseOff)
+{
+    for (const std::string stored : {"1", "0", "", "yes"}) {
+        week = "tArcadeItemOfTheWeek = {\r\n\tbEnabled = " + stored + ",\r\n}\r\n";
+        EXPECT_EQ(loadLinkOfTheWeek(arcade(), hub.files).enabled, stored == "1" ? "1" : "0") << stored;
+    }
+}
+
+TEST_F(Archive, ARebuildFillsInWhereAnAnnouncementGoes)
+{
+    hyperlink("ItemOfTheWeek") =
+        "tHyperlinkItemOfTheWeek = {\r\n\t[1] = {\r\n\t\tsTime = \"MON 10:00\",\r\n\t},\r\n}\r\n";
+    build();
+    EXPECT_EQ(luaValues(hyperlink("ItemOfTheWeek")).at("tHyperlinkItemOfTheWeek.1.bInMain"), "0");
+}
+
 TEST_F(Archive, HoursAndMinutesHaveTwoDigits)
 {
     EXPECT_EQ(hours().size(), 24U);

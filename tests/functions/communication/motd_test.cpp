@@ -68,11 +68,11 @@ TEST_F(Motd, ARebuildKeepsTheProfilesAndSwitchesTheMessageForAllOff)
 TEST_F(Motd, ARebuildTakesTheMessageForAllFromAFileOfAnotherNameWhereThereIsOne)
 {
     hub.file("Communication/MOTD/MassMessageSettings.tbl") =
-        "tX = {\r\n\ttAll = {\r\n\t\tbUse = 1,\r\n\t\tbInMain = 0,\r\n\t},\r\n}\r\n";
+        "tX = {\r\n\ttAll = {\r\n\t\tbUse = 1,\r\n\t\tbInMain = 1,\r\n\t},\r\n}\r\n";
     settings = golden("communication/MOTDSettings.save.tbl");
     buildFunction(motdFunction(), hub.files, hub.profiles);
     EXPECT_EQ(luaValues(settings).at("tMOTDSettings.tAll.bUse"), "1");
-    EXPECT_EQ(luaValues(settings).at("tMOTDSettings.tAll.bInMain"), "0");
+    EXPECT_EQ(luaValues(settings).at("tMOTDSettings.tAll.bInMain"), "1");
 }
 
 TEST_F(Motd, ANewProfileJoinsWithZerosAndATextOfItsOwn)
