@@ -40,6 +40,17 @@ TEST_F(General, ARebuildKeepsWhatTheFormSavedButForAnEmptiedBorder)
                           "\tbFlatRC = 1,\r\n\tbUnregRCEnable = 0,\r\n}\r\n"));
 }
 
+TEST_F(General, OfferNinePrefixes)
+{
+    std::vector<std::string> prefixes;
+    for (const Setting& each : generalSettings().settings) {
+        const auto* const field = std::get_if<setting::Field>(&each);
+        if (field && field->key == "sPrefix")
+            prefixes = std::get<setting::Entry>(field->kind).entries;
+    }
+    EXPECT_EQ(prefixes, (std::vector<std::string>{"+", "-", "!", "#", "$", "\xA3", "?", "~", "="}));
+}
+
 TEST_F(General, AFreshBuildOfTheSwitchesHasAllOnButTwo)
 {
     buildFunction(switchesFunction(), hub.files, hub.profiles);

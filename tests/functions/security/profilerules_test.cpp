@@ -79,6 +79,18 @@ TEST_F(ProfileRules, AMessageIsShownUpToAnEqualsSignAndKeptWholeByARebuild)
     EXPECT_NE(named("s").find("\t\tsMinShare = \"a=b\",\r\n"), std::string::npos);
 }
 
+TEST_F(ProfileRules, WhatWasNeverSetIsSavedAsARuleOfZero)
+{
+    const RowListGroup group = profileRules();
+    std::vector<std::vector<CellRow>> rows;
+    for (const RowListDeclaration& list : group.lists)
+        rows.push_back(list.load(hub.files, hub.profiles));
+    group.save(hub.files, rows);
+    const auto values = luaValues(named("s"));
+    for (const char* rule : {"iMinShare", "iMaxShare", "iMinSlots", "iMaxSlots", "iMaxHubs"})
+        EXPECT_EQ(values.at(std::string("tProfileRules.-1.") + rule), "0") << rule;
+}
+
 TEST_F(ProfileRules, TheUnitOfAShareGoesByItsDigits)
 {
     const std::vector<std::pair<const char*, const char*>> shares = {
