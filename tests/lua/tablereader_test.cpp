@@ -213,6 +213,7 @@ TEST_P(LuaVersions, AreNotAskedWhatAProgramDoes)
                                 "t = ...",
                                 "t = {1 < 2}",
                                 "t = {a and b}",
+                                "t = 1 == 2",
                                 "local t = {}",
                                 "if a then t = {} end",
                                 "for i = 1, 2 do end",
