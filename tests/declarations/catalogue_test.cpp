@@ -102,17 +102,31 @@ std::vector<std::string> namesOf(const FormCatalogue& forms,
     return names;
 }
 
-/// The words of all grids, each with its form's name.
-std::vector<std::pair<std::string, GridWords>> gridsOf(const FormCatalogue& forms)
+/// The parts of a kind, each with its form's name.
+template <typename Part>
+std::vector<std::pair<std::string, Part>> partsOf(const FormCatalogue& forms)
 {
-    std::vector<std::pair<std::string, GridWords>> grids;
+    std::vector<std::pair<std::string, Part>> parts;
     for (const FormDeclaration& each : forms) {
         for (const PartDeclaration& part : each.parts) {
-            if (const auto* grid = std::get_if<DeclaredGrid>(&part))
-                grids.emplace_back(each.form.name, grid->words);
+            if (const auto* found = std::get_if<Part>(&part))
+                parts.emplace_back(each.form.name, *found);
         }
     }
-    return grids;
+    return parts;
+}
+
+/// The settings files of all forms, each with its form's name.
+std::vector<std::pair<std::string, TableFile>> filesOf(const FormCatalogue& forms)
+{
+    std::vector<std::pair<std::string, TableFile>> files;
+    for (const FormDeclaration& each : forms) {
+        for (const PartDeclaration& part : each.parts) {
+            for (TableFile& file : settingsFilesOf(part))
+                files.emplace_back(each.form.name, std::move(file));
+        }
+    }
+    return files;
 }
 
 TEST_F(Declarations, OfTenFormsHaveNoDefaultsToRestore)
@@ -169,8 +183,8 @@ TEST_F(Declarations, OfListsWhoseDialogsHaveAModeOfTheirOwn)
 TEST_F(Declarations, OfGridsHaveTheColumnsOfTheirCells)
 {
     std::map<std::vector<std::string>, std::size_t> columns;
-    for (const auto& [form, words] : gridsOf(forms))
-        ++columns[words.columns];
+    for (const auto& [form, grid] : partsOf<DeclaredGrid>(forms))
+        ++columns[grid.words.columns];
     EXPECT_EQ(columns,
               (std::map<std::vector<std::string>, std::size_t>{
                   {{"Command", "By Profile", "On Profile", "Allow To"}, 1},
@@ -184,15 +198,11 @@ std::vector<std::string> fieldsThat(const FormCatalogue& forms,
                                     const std::function<bool(const setting::Field&)>& isTrue)
 {
     std::vector<std::string> controls;
-    for (const FormDeclaration& each : forms) {
-        for (const PartDeclaration& part : each.parts) {
-            for (const TableFile& file : settingsFilesOf(part)) {
-                for (const Setting& setting : file.settings) {
-                    const auto* const field = std::get_if<setting::Field>(&setting);
-                    if (field && isTrue(*field))
-                        controls.push_back(each.form.name + ' ' + field->control);
-                }
-            }
+    for (const auto& [form, file] : filesOf(forms)) {
+        for (const Setting& setting : file.settings) {
+            const auto* const field = std::get_if<setting::Field>(&setting);
+            if (field && isTrue(*field))
+                controls.push_back(form + ' ' + field->control);
         }
     }
     return controls;
@@ -249,12 +259,8 @@ TEST_F(Declarations, OfFewFlagsAreOffByDefault)
 TEST_F(Declarations, OfTwoListsOfTicksStayAsTheyAreInARestore)
 {
     std::map<bool, Found> restored;
-    for (const FormDeclaration& each : forms) {
-        for (const PartDeclaration& part : each.parts) {
-            if (const auto* ticks = std::get_if<DeclaredTicks>(&part))
-                restored[ticks->ticks().restoreTicks].push_back(each.form.name);
-        }
-    }
+    for (const auto& [form, part] : partsOf<DeclaredTicks>(forms))
+        restored[part.ticks().restoreTicks].push_back(form);
     EXPECT_EQ(restored[true], (Found{"frmGeneralSwitches", "frmGeneralRightClicks"}));
     EXPECT_EQ(restored[false], (Found{"frmCommunicationAutoCorrect", "frmSecurityAntiAdvertiseSettings"}));
 }
@@ -262,13 +268,9 @@ TEST_F(Declarations, OfTwoListsOfTicksStayAsTheyAreInARestore)
 TEST_F(Declarations, OfOneFileAloneASaveMakesTheFolder)
 {
     Found tables;
-    for (const FormDeclaration& each : forms) {
-        for (const PartDeclaration& part : each.parts) {
-            for (const TableFile& file : settingsFilesOf(part)) {
-                if (file.makesFolder)
-                    tables.push_back(file.table);
-            }
-        }
+    for (const auto& [form, file] : filesOf(forms)) {
+        if (file.makesFolder)
+            tables.push_back(file.table);
     }
     EXPECT_EQ(tables, Found{"tHubEmailSettings"});
 }
@@ -336,13 +338,9 @@ TEST_F(Declarations, OfAnagramsAloneAskOtherwiseBeforeARestore)
 TEST_F(Declarations, OfGridsHaveTheirCommandsInTheirOrder)
 {
     std::map<Found, Found> grids;
-    for (const FormDeclaration& each : forms) {
-        for (const PartDeclaration& part : each.parts) {
-            if (const auto* grid = std::get_if<DeclaredGrid>(&part)) {
-                const auto commands = grid->grid().commands;
-                grids[Found(commands.begin(), commands.end())].push_back(each.form.name);
-            }
-        }
+    for (const auto& [form, part] : partsOf<DeclaredGrid>(forms)) {
+        const auto commands = part.grid().commands;
+        grids[Found(commands.begin(), commands.end())].push_back(form);
     }
     EXPECT_EQ(grids,
               (std::map<Found, Found>{
@@ -361,16 +359,12 @@ TEST_F(Declarations, OfGridsHaveTheirCommandsInTheirOrder)
 TEST_F(Declarations, OfListsOfTicksAndTextsHaveTheirLabels)
 {
     Found labels;
-    for (const FormDeclaration& each : forms) {
-        for (const PartDeclaration& part : each.parts) {
-            if (const auto* declared = std::get_if<DeclaredTicks>(&part)) {
-                const TickList ticks = declared->ticks();
-                labels.push_back(ticks.control + ": " + ticks.caption + '/' + ticks.label);
-            }
-            if (const auto* text = std::get_if<DeclaredText>(&part))
-                labels.push_back(text->toolbar + ": " + text->caption);
-        }
+    for (const auto& [form, part] : partsOf<DeclaredTicks>(forms)) {
+        const TickList ticks = part.ticks();
+        labels.push_back(ticks.control + ": " + ticks.caption + '/' + ticks.label);
     }
+    for (const auto& [form, text] : partsOf<DeclaredText>(forms))
+        labels.push_back(text.toolbar + ": " + text.caption);
     EXPECT_EQ(labels,
               (Found{"lvwSwitches: Functions/", "lvwSwitches: Functions/",
                      "lvwFilters: Filtered Actions/Filtered Actions", "lvwBlockedActions: /Blocked Actions",
@@ -401,7 +395,8 @@ TEST_F(Declarations, OfGridsHaveTheNamesOfTheirControls)
 {
     Found lists;
     Found filters;
-    for (const auto& [form, words] : gridsOf(forms)) {
+    for (const auto& [form, grid] : partsOf<DeclaredGrid>(forms)) {
+        const GridWords& words = grid.words;
         EXPECT_EQ(words.toolbar, "tlbListview") << form;
         if (words.list != "lvwPermissions")
             lists.push_back(form + ' ' + words.list);
@@ -415,7 +410,8 @@ TEST_F(Declarations, OfGridsHaveTheNamesOfTheirControls)
 TEST_F(Declarations, OfGridsShowTheirRowsInFourWays)
 {
     std::map<std::string, Found> ways;
-    for (const auto& [form, words] : gridsOf(forms)) {
+    for (const auto& [form, grid] : partsOf<DeclaredGrid>(forms)) {
+        const GridWords& words = grid.words;
         const bool flags[] = {words.filters, words.namesTarget, words.namesCommandByProfile, words.targets,
                               words.clickToggles};
         std::string way;
@@ -436,8 +432,8 @@ TEST_F(Declarations, OfGridsShowTheirRowsInFourWays)
 TEST_F(Declarations, OfGridsHaveTheWordsOfTheirSentences)
 {
     std::map<std::string, std::vector<std::string>> words;
-    for (const auto& [form, grid] : gridsOf(forms))
-        words[grid.yes + ' ' + grid.no + ' ' + grid.targetLink].push_back(form);
+    for (const auto& [form, grid] : partsOf<DeclaredGrid>(forms))
+        words[grid.words.yes + ' ' + grid.words.no + ' ' + grid.words.targetLink].push_back(form);
     ASSERT_EQ(words.size(), 2U);
     EXPECT_EQ(words["Yes No "].size(), 11U);
     EXPECT_EQ(words["True False of"], Found{"frmSecurityRegistration"});
